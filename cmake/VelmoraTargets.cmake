@@ -1,0 +1,55 @@
+# Targets in the words a reviewer needs: a name, its files, and whom it may know.
+include_guard()
+
+function(_velmora_common target)
+    target_link_libraries(${target} PRIVATE velmora_options)
+    target_link_libraries(${target} PRIVATE QCoro6::Core)
+    target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
+endfunction()
+
+# velmora_library(<name> SOURCES <files> [DEPENDS <targets whose types its headers show>]
+#                 [USES <targets that only its sources know>])
+function(velmora_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;USES" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_DEPENDS} PRIVATE ${ARG_USES})
+    _velmora_common(${name})
+endfunction()
+
+# velmora_qml_module(<name> URI <uri> [QML <files>] [SINGLETONS <files>] [SOURCES <files>] [RESOURCES <files>]
+#                    [IMPORTS <uris>] [DEPENDS <targets>] [USES <targets>])
+function(velmora_qml_module name)
+    cmake_parse_arguments(ARG "" "URI" "QML;SINGLETONS;SOURCES;RESOURCES;IMPORTS;DEPENDS;USES" ${ARGN})
+    set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    add_library(${name} STATIC)
+    qt_add_qml_module(${name}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        IMPORTS ${ARG_IMPORTS}
+        QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
+        RESOURCES ${ARG_RESOURCES}
+        SOURCES ${ARG_SOURCES})
+    # The full ahead-of-time compiler of Qt 6.4 turns a failed type lookup into an endless loop; bytecode does not.
+    set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
+    target_link_libraries(${name} PUBLIC Qt6::Qml ${ARG_DEPENDS} PRIVATE ${ARG_USES})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    _velmora_common(${name})
+    if(TARGET ${name}plugin)
+        target_link_libraries(${name}plugin PRIVATE velmora_options)
+        target_compile_options(${name}plugin PRIVATE -Wno-error)
+    endif()
+endfunction()
+
+# velmora_test(<name> SOURCES <files> DEPENDS <targets>): one GoogleTest program, one ctest entry.
+function(velmora_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_definitions(${name} PRIVATE VELMORA_CASES="${CMAKE_SOURCE_DIR}/tests/cases")
+    _velmora_common(${name})
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS unit
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LANG=C;LC_ALL=C;TZ=Europe/Paris")
+endfunction()

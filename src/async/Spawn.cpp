@@ -1,0 +1,31 @@
+#include "async/Spawn.h"
+
+#include "async/WhileAlive.h"
+#include "model/Failure.h"
+
+#include <QtGlobal>
+
+namespace {
+
+QCoro::Task<> runToItsEnd(QCoro::Task<> task)
+{
+    try {
+        co_await task;
+    } catch (const Cancelled &) { // NOLINT(bugprone-empty-catch): called off, and nobody reports that
+    } catch (const OwnerGone &) { // NOLINT(bugprone-empty-catch): nobody is left to tell
+    } catch (const std::exception &stray) {
+#ifndef QT_NO_DEBUG
+        qWarning("A background task ended with a failure that nobody handles: %s", stray.what());
+#else
+        Q_UNUSED(stray)
+#endif
+    }
+}
+
+} // namespace
+
+void spawn(QCoro::Task<> task)
+{
+    // A QCoro task runs on when its handle is dropped; the coroutine above owns the task until it ends.
+    runToItsEnd(std::move(task));
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/JSONValue.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+using ADFAttributes = QMap<QString, JSONValue>;
+
+/// An inline mark of a document: strong, link and so on.
+struct ADFMark {
+    QString type;
+    std::optional<ADFAttributes> attrs;
+
+    bool operator==(const ADFMark &) const = default;
+};
+
+/// One node of a document in the Atlassian Document Format, kept as it arrived: the kind is text, so that kinds unknown
+/// to the program survive a round trip. Absent and empty are different states in every optional field.
+struct ADFNode {
+    QString type;
+    /// The text of a text node.
+    std::optional<QString> text;
+    std::optional<QList<ADFNode>> content;
+    std::optional<QList<ADFMark>> marks;
+    std::optional<ADFAttributes> attrs;
+    /// The document's version, on the root only.
+    std::optional<int> version;
+
+    bool operator==(const ADFNode &other) const;
+};
+
+size_t qHash(const ADFMark &mark, size_t seed = 0);
+size_t qHash(const ADFNode &node, size_t seed = 0);

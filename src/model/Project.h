@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/IssueType.h"
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+/// A project of the site.
+struct Project {
+    Q_GADGET
+    Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
+    Q_PROPERTY(QString key MEMBER key CONSTANT FINAL)
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(bool isServiceDesk MEMBER isServiceDesk CONSTANT FINAL)
+
+public:
+    QString id;
+    /// What stands before the dash of an issue's key.
+    QString key;
+    QString name;
+    std::optional<QUrl> avatarURL;
+    /// The types that can be created in it; empty until the project's detail was fetched.
+    QList<IssueType> issueTypes;
+    /// A service project, whose comments can be internal.
+    bool isServiceDesk = false;
+
+    bool operator==(const Project &) const = default;
+};
+
+size_t qHash(const Project &project, size_t seed = 0);

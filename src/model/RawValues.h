@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/Enums.h"
+
+#include <QLatin1StringView>
+#include <QStringView>
+
+#include <optional>
+#include <span>
+
+/// One row of an enumeration's table of stored texts.
+template <typename E>
+struct RawValue {
+    E value;
+    QLatin1StringView text;
+};
+
+/// The stored texts of an enumeration, in the order of its cases. Defined for `ProjectView`, `ActivityRange`,
+/// `Ordering`, `Grouping`, `LayoutMode`, `AppearanceMode`, `RowDensity` and `AccentChoice`.
+template <typename E>
+std::span<const RawValue<E>> rawValues();
+
+/// The text that stands for a case in the preferences.
+template <typename E>
+QString rawValue(E value)
+{
+    for (const auto &row : rawValues<E>()) {
+        if (row.value == value)
+            return row.text;
+    }
+    return {};
+}
+
+/// The case of a stored text; nothing for a text that no case has.
+template <typename E>
+std::optional<E> fromRawValue(QStringView text)
+{
+    for (const auto &row : rawValues<E>()) {
+        if (row.text == text)
+            return row.value;
+    }
+    return std::nullopt;
+}
