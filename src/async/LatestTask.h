@@ -13,7 +13,8 @@
 /// The newest request wins. Each `start` calls off the task before it; only the newest task's outcome is delivered, and
 /// none once this object is gone or `cancel` was called. Used by every search that is tied to a text being typed.
 template <typename T>
-class LatestTask {
+class LatestTask
+{
 public:
     using Outcome = std::expected<T, Failure>;
     using Operation = std::function<QCoro::Task<T>(std::stop_token)>;
@@ -46,7 +47,8 @@ public:
     bool isRunning() const { return m_run && m_run->isCurrent; }
 
 private:
-    struct Run {
+    struct Run
+    {
         std::stop_source stop;
         bool isCurrent = true;
     };

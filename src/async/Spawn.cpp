@@ -11,7 +11,8 @@ QCoro::Task<> runToItsEnd(QCoro::Task<> task)
 {
     try {
         co_await task;
-    } catch (const Cancelled &) { // NOLINT(bugprone-empty-catch): called off, and nobody reports that
+    } catch (
+        const Cancelled &) { // NOLINT(bugprone-empty-catch): called off, and nobody reports that
     } catch (const OwnerGone &) { // NOLINT(bugprone-empty-catch): nobody is left to tell
     } catch (const std::exception &stray) {
 #ifndef QT_NO_DEBUG

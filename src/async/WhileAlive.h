@@ -8,7 +8,8 @@
 
 /// Thrown into a coroutine whose owner was destroyed while it waited, so that it unwinds without touching the owner.
 /// Deliberately no `Failure`: a handler for failures must not run without its owner.
-class OwnerGone final : public std::exception {
+class OwnerGone final : public std::exception
+{
 public:
     const char *what() const noexcept override { return "the owner of the task is gone"; }
 };

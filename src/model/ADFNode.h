@@ -11,7 +11,8 @@
 using ADFAttributes = QMap<QString, JSONValue>;
 
 /// An inline mark of a document: strong, link and so on.
-struct ADFMark {
+struct ADFMark
+{
     QString type;
     std::optional<ADFAttributes> attrs;
 
@@ -20,7 +21,8 @@ struct ADFMark {
 
 /// One node of a document in the Atlassian Document Format, kept as it arrived: the kind is text, so that kinds unknown
 /// to the program survive a round trip. Absent and empty are different states in every optional field.
-struct ADFNode {
+struct ADFNode
+{
     QString type;
     /// The text of a text node.
     std::optional<QString> text;

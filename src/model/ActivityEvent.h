@@ -9,21 +9,25 @@
 #include <variant>
 
 /// One change of one issue, as the issue's history reports it.
-struct ActivityEvent {
+struct ActivityEvent
+{
     /// The status changed; names as the history spells them.
-    struct StatusChanged {
+    struct StatusChanged
+    {
         std::optional<QString> from;
         QString to;
 
         bool operator==(const StatusChanged &) const = default;
     };
     /// The assignee changed; `to` is a display name, absent when the issue was unassigned.
-    struct AssigneeChanged {
+    struct AssigneeChanged
+    {
         std::optional<QString> to;
 
         bool operator==(const AssigneeChanged &) const = default;
     };
-    struct Created {
+    struct Created
+    {
         bool operator==(const Created &) const = default;
     };
     using Kind = std::variant<StatusChanged, AssigneeChanged, Created>;

@@ -6,7 +6,8 @@
 #include <QString>
 
 /// One week or month of recap, counted relative to now.
-struct ActivityPeriod {
+struct ActivityPeriod
+{
     Q_GADGET
     Q_PROPERTY(Model::ActivityRange range MEMBER range CONSTANT FINAL)
     Q_PROPERTY(int offset MEMBER offset CONSTANT FINAL)

@@ -9,7 +9,8 @@
 #include <optional>
 
 /// A file attached to an issue.
-struct Attachment {
+struct Attachment
+{
     QString id;
     /// The name as uploaded.
     QString filename;

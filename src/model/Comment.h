@@ -10,7 +10,8 @@
 #include <optional>
 
 /// A comment of an issue.
-struct Comment {
+struct Comment
+{
     QString id;
     std::optional<JiraUser> author;
     std::optional<ADFNode> body;

@@ -6,7 +6,8 @@
 #include <optional>
 
 /// Which columns a row of the list shows. Key, status and summary placement are the list's own affair.
-struct DisplayProperties {
+struct DisplayProperties
+{
     Q_GADGET
     Q_PROPERTY(bool key MEMBER key CONSTANT FINAL)
     Q_PROPERTY(bool priority MEMBER priority CONSTANT FINAL)

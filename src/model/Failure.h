@@ -5,7 +5,8 @@
 #include <exception>
 
 /// The base of everything that an operation can fail with. Its text is French and fit to be shown as it stands.
-class Failure : public std::exception {
+class Failure : public std::exception
+{
 public:
     explicit Failure(QString message) : m_message(std::move(message)), m_utf8(m_message.toUtf8()) {}
 
@@ -19,7 +20,8 @@ private:
 };
 
 /// The operation was called off. Nobody ever reports it.
-class Cancelled final : public Failure {
+class Cancelled final : public Failure
+{
 public:
     Cancelled() : Failure(QString()) {}
 };

@@ -18,7 +18,8 @@
 #include <optional>
 
 /// A light reference to an issue, for parents and sub-tasks.
-struct IssueRef {
+struct IssueRef
+{
     QString id;
     QString key;
     QString summary;
@@ -29,7 +30,8 @@ struct IssueRef {
 };
 
 /// The central record.
-struct Issue {
+struct Issue
+{
     Q_GADGET
     Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
     Q_PROPERTY(QString key MEMBER key CONSTANT FINAL)
@@ -86,7 +88,10 @@ public:
     QString parentSummary() const { return parent ? parent->summary : QString(); }
 
     /// The level that lists sort and group by; an issue without a priority counts as `None`.
-    PriorityLevel priorityLevel() const { return priority ? priority->level() : PriorityLevel::None; }
+    PriorityLevel priorityLevel() const
+    {
+        return priority ? priority->level() : PriorityLevel::None;
+    }
     /// What follows the last dash of the key, as a number; 0 if there is none.
     qint64 number() const;
     /// "feature/", the key, and the slug of the summary.

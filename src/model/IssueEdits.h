@@ -11,24 +11,30 @@
 #include <variant>
 
 /// One edit of one field of an issue. An absent payload clears the field.
-struct IssueFieldUpdate {
-    struct Summary {
+struct IssueFieldUpdate
+{
+    struct Summary
+    {
         QString text;
         bool operator==(const Summary &) const = default;
     };
-    struct Description {
+    struct Description
+    {
         std::optional<ADFNode> document;
         bool operator==(const Description &) const = default;
     };
-    struct Priority {
+    struct Priority
+    {
         IssuePriority priority;
         bool operator==(const Priority &) const = default;
     };
-    struct Labels {
+    struct Labels
+    {
         QStringList labels;
         bool operator==(const Labels &) const = default;
     };
-    struct DueDate {
+    struct DueDate
+    {
         std::optional<QDate> day;
         bool operator==(const DueDate &) const = default;
     };
@@ -39,7 +45,8 @@ struct IssueFieldUpdate {
 };
 
 /// What the create screen hands over.
-struct IssueDraft {
+struct IssueDraft
+{
     QString projectKey;
     std::optional<QString> issueTypeID;
     QString summary;

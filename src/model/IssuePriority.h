@@ -10,7 +10,8 @@ PriorityLevel priorityLevelFromName(const QString &jiraName);
 QString displayName(PriorityLevel level);
 
 /// A priority of the site. The level is derived from the name at creation.
-class IssuePriority {
+class IssuePriority
+{
     Q_GADGET
     Q_PROPERTY(QString id READ id CONSTANT FINAL)
     Q_PROPERTY(QString name READ name CONSTANT FINAL)

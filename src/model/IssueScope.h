@@ -8,26 +8,32 @@
 #include <variant>
 
 /// Which list of issues is being looked at; also the key of the scope cache.
-class IssueScope {
+class IssueScope
+{
     Q_GADGET
 
 public:
-    struct MyIssues {
+    struct MyIssues
+    {
         bool operator==(const MyIssues &) const = default;
     };
-    struct Recent {
+    struct Recent
+    {
         bool operator==(const Recent &) const = default;
     };
-    struct Reported {
+    struct Reported
+    {
         bool operator==(const Reported &) const = default;
     };
-    struct InProject {
+    struct InProject
+    {
         QString key;
         ProjectView view = ProjectView::All;
 
         bool operator==(const InProject &) const = default;
     };
-    struct Activity {
+    struct Activity
+    {
         ActivityPeriod period;
 
         bool operator==(const Activity &) const = default;

@@ -19,7 +19,8 @@
 /// All that the application asks of a back end. Every asynchronous operation may fail with a `Failure` whose text is fit
 /// to be shown; results come back on the thread of the call. A requested stop makes an operation fail with `Cancelled`
 /// as soon as it can. Two operations are synchronous, never fail and never touch the network: `siteName`, `browseURL`.
-class IssueService {
+class IssueService
+{
 public:
     IssueService() = default;
     virtual ~IssueService() = default;

@@ -8,7 +8,8 @@
 #include <optional>
 
 /// One workflow status, as a value that crosses projects. Fixed at creation: made by the constructor or by `guessed`.
-class IssueStatus {
+class IssueStatus
+{
     Q_GADGET
     Q_PROPERTY(QString id READ id CONSTANT FINAL)
     Q_PROPERTY(QString name READ name CONSTANT FINAL)
@@ -50,7 +51,8 @@ private:
 size_t qHash(const IssueStatus &status, size_t seed = 0);
 
 /// One move that the workflow offers for an issue.
-struct WorkflowTransition {
+struct WorkflowTransition
+{
     /// What the service wants back to perform it.
     QString id;
     /// The transition's own name, which need not be the target's.

@@ -5,7 +5,8 @@
 #include <QString>
 
 /// A type of issue.
-struct IssueType {
+struct IssueType
+{
     Q_GADGET
     Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)

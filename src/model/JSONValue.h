@@ -9,16 +9,18 @@
 #include <variant>
 
 /// Any JSON value. Numbers are doubles, as in JSON itself.
-class JSONValue {
+class JSONValue
+{
 public:
     using Array = QList<JSONValue>;
     using Object = QMap<QString, JSONValue>;
-    struct Null {
+    struct Null
+    {
         bool operator==(const Null &) const = default;
     };
 
     JSONValue() = default;
-    JSONValue(const char16_t *text) : m_value(QString(text)) {}
+    JSONValue(const char16_t *text) : m_value(QString::fromUtf16(text)) {}
     JSONValue(QString text) : m_value(std::move(text)) {}
     JSONValue(double number) : m_value(number) {}
     JSONValue(int number) : m_value(double(number)) {}

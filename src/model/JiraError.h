@@ -5,30 +5,36 @@
 #include <variant>
 
 /// The failures of the road to Jira.
-class JiraError final : public Failure {
+class JiraError final : public Failure
+{
 public:
     /// The server answered with an error status; `message` is what it said, empty when it said nothing.
-    struct Http {
+    struct Http
+    {
         int status = 0;
         QString message;
         bool operator==(const Http &) const = default;
     };
     /// The answer could not be read; the text names the place.
-    struct Decoding {
+    struct Decoding
+    {
         QString detail;
         bool operator==(const Decoding &) const = default;
     };
     /// The workflow offers no way to the status of this name. Raised by the store, not by a service.
-    struct TransitionUnavailable {
+    struct TransitionUnavailable
+    {
         QString statusName;
         bool operator==(const TransitionUnavailable &) const = default;
     };
     /// The answer is not one that the interface allows.
-    struct InvalidResponse {
+    struct InvalidResponse
+    {
         bool operator==(const InvalidResponse &) const = default;
     };
     /// The address is not one of a site.
-    struct InvalidSite {
+    struct InvalidSite
+    {
         bool operator==(const InvalidSite &) const = default;
     };
     using Case = std::variant<Http, Decoding, TransitionUnavailable, InvalidResponse, InvalidSite>;

@@ -7,7 +7,8 @@
 #include <optional>
 
 /// A person.
-struct JiraUser {
+struct JiraUser
+{
     Q_GADGET
     Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)

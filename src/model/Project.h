@@ -9,7 +9,8 @@
 #include <optional>
 
 /// A project of the site.
-struct Project {
+struct Project
+{
     Q_GADGET
     Q_PROPERTY(QString id MEMBER id CONSTANT FINAL)
     Q_PROPERTY(QString key MEMBER key CONSTANT FINAL)

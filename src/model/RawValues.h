@@ -10,7 +10,8 @@
 
 /// One row of an enumeration's table of stored texts.
 template <typename E>
-struct RawValue {
+struct RawValue
+{
     E value;
     QLatin1StringView text;
 };

@@ -6,7 +6,8 @@
 /// An immutable value, shared by every list that shows it: copying costs one reference count, and two holders of the
 /// same value compare equal without looking inside. Never null. To change a value, copy it out, edit and share anew.
 template <typename T>
-class Shared {
+class Shared
+{
 public:
     Shared() : Shared(T{}) {}
     Shared(T value) : m_value(std::make_shared<const T>(std::move(value))) {}

@@ -6,12 +6,15 @@
 
 /// Where the user is in time: the language and week of their locale, and their time zone. Everything that computes days
 /// or prints dates takes one, so that results depend on their arguments alone.
-struct UserCalendar {
+struct UserCalendar
+{
     QLocale locale;
     QTimeZone zone;
 
     /// The system's language and zone. A system that names no language ("C") speaks French, as the program does.
     static UserCalendar system();
+    /// The locale to use on a system of the given one: itself, or that of France for a system without a language.
+    static QLocale localeFor(const QLocale &systemLocale);
 
     /// The calendar day of an instant, in the user's zone.
     QDate day(const QDateTime &instant) const;
@@ -20,7 +23,8 @@ struct UserCalendar {
 };
 
 /// A stretch of time in UTC, closed at its start and open at its end.
-struct DateInterval {
+struct DateInterval
+{
     QDateTime start;
     QDateTime end;
 

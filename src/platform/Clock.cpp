@@ -8,7 +8,8 @@
 
 namespace {
 
-class EventLoopTimer final : public Clock::Timer {
+class EventLoopTimer final : public Clock::Timer
+{
 public:
     EventLoopTimer(std::chrono::milliseconds interval, bool isSingleShot,
                    std::function<void()> callback)
@@ -24,7 +25,8 @@ private:
 };
 
 /// Suspends until the clock or the stop token wakes it; whichever comes first.
-class Sleep {
+class Sleep
+{
 public:
     Sleep(Clock &clock, std::chrono::milliseconds duration, std::stop_token stop)
         : m_clock(clock), m_duration(duration), m_stop(std::move(stop))

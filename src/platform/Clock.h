@@ -9,10 +9,12 @@
 #include <stop_token>
 
 /// Time, as it comes in from outside: tests turn it by hand. UI thread only.
-class Clock {
+class Clock
+{
 public:
     /// A pending call; destroying it calls it off.
-    class Timer {
+    class Timer
+    {
     public:
         Timer() = default;
         virtual ~Timer() = default;
@@ -40,7 +42,8 @@ public:
 };
 
 /// The machine's own clock.
-class SystemClock final : public Clock {
+class SystemClock final : public Clock
+{
 public:
     QDateTime now() const override;
     TimerHandle after(std::chrono::milliseconds delay, std::function<void()> callback) override;

@@ -2,15 +2,18 @@
 
 #include <QTimeZone>
 
-struct ManualClock::Entry {
+struct ManualClock::Entry
+{
     QDateTime due;
     std::chrono::milliseconds period;
     std::function<void()> callback;
 };
 
-class ManualClock::Handle final : public Clock::Timer {
+class ManualClock::Handle final : public Clock::Timer
+{
 public:
-    Handle(ManualClock &clock, std::weak_ptr<Entry> entry) : m_clock(clock), m_entry(std::move(entry))
+    Handle(ManualClock &clock, std::weak_ptr<Entry> entry)
+        : m_clock(clock), m_entry(std::move(entry))
     {
     }
     ~Handle() override
@@ -44,7 +47,8 @@ Clock::TimerHandle ManualClock::add(std::chrono::milliseconds delay,
                                     std::chrono::milliseconds period,
                                     std::function<void()> callback)
 {
-    auto entry = std::make_shared<Entry>(m_now.addMSecs(delay.count()), period, std::move(callback));
+    auto entry =
+        std::make_shared<Entry>(m_now.addMSecs(delay.count()), period, std::move(callback));
     m_timers.push_back(entry);
     return std::make_unique<Handle>(*this, entry);
 }
@@ -53,7 +57,8 @@ void ManualClock::advance(std::chrono::milliseconds duration)
 {
     const QDateTime end = m_now.addMSecs(duration.count());
     while (!m_timers.empty()) {
-        const auto next = std::ranges::min_element(m_timers, {}, [](const auto &e) { return e->due; });
+        const auto next =
+            std::ranges::min_element(m_timers, {}, [](const auto &e) { return e->due; });
         if ((*next)->due > end)
             break;
         // Kept alive over the call: the callback may destroy its own handle.

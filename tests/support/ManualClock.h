@@ -5,7 +5,8 @@
 #include <list>
 
 /// A clock that stands still until a test turns it.
-class ManualClock final : public Clock {
+class ManualClock final : public Clock
+{
 public:
     explicit ManualClock(QDateTime now) : m_now(std::move(now)) {}
     /// Stands at 29 October 2026, 14:32 in Paris, a Thursday.

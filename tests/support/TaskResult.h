@@ -10,7 +10,8 @@
 
 /// Follows a task from outside a coroutine: whether it has ended, and with what.
 template <typename T>
-class TaskResult {
+class TaskResult
+{
 public:
     explicit TaskResult(QCoro::Task<T> task) { spawn(follow(std::move(task), m_state)); }
 
@@ -25,7 +26,8 @@ public:
     }
 
 private:
-    struct State {
+    struct State
+    {
         std::optional<T> value;
         std::exception_ptr failure;
     };
@@ -43,7 +45,8 @@ private:
 };
 
 template <>
-class TaskResult<void> {
+class TaskResult<void>
+{
 public:
     explicit TaskResult(QCoro::Task<> task) { spawn(follow(std::move(task), m_state)); }
 
@@ -57,7 +60,8 @@ public:
     }
 
 private:
-    struct State {
+    struct State
+    {
         bool isDone = false;
         std::exception_ptr failure;
     };

@@ -1,0 +1,16 @@
+#include "model/LocalizedComparator.h"
+
+#include "model/UserCalendar.h"
+
+#include <optional>
+
+LocalizedComparator::LocalizedComparator(const QLocale &locale)
+    : m_collator(UserCalendar::localeFor(locale))
+{
+    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
+}
+
+int localizedCompare(const QString &a, const QString &b, const QLocale &locale)
+{
+    return LocalizedComparator(locale).compare(a, b);
+}

@@ -1,0 +1,113 @@
+#include "model/TextFolding.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isCombiningMark(QChar c)
+{
+    const char16_t code = c.unicode();
+    return (code >= 0x0300 && code <= 0x036F) || (code >= 0x1AB0 && code <= 0x1AFF) ||
+           (code >= 0x1DC0 && code <= 0x1DFF) || (code >= 0x20D0 && code <= 0x20FF);
+}
+
+QString foldedByDecomposition(QStringView text)
+{
+    QString result = text.toString().normalized(QString::NormalizationForm_D);
+    result.removeIf(isCombiningMark);
+    // Composed again, for the scripts whose marks and syllables are no diacritics.
+    return result.toCaseFolded().normalized(QString::NormalizationForm_C);
+}
+
+/// Up to here, which covers French and all other Western languages, folding is a look-up for most characters.
+constexpr char16_t tableEnd = 0x0180;
+
+/// The fold of each character that folds to one character; 0 for the others.
+using FoldTable = std::array<char16_t, tableEnd>;
+
+FoldTable makeFoldTable()
+{
+    FoldTable table{};
+    for (char16_t code = 0; code < tableEnd; ++code) {
+        const QChar character(code);
+        const QString fold = foldedByDecomposition(QStringView(&character, 1));
+        table[code] = fold.size() == 1 ? fold[0].unicode() : u'\0';
+    }
+    return table;
+}
+
+/// The dashes, quotes and dots of typeset text, which fold to themselves.
+bool isTypographicSign(char16_t code)
+{
+    return code >= 0x2010 && code <= 0x2027;
+}
+
+/// The fold of a character by itself, or 0 where it takes the long way.
+char16_t quickFold(char16_t code)
+{
+    static const FoldTable table = makeFoldTable();
+    if (code < tableEnd)
+        return table[code];
+    return isTypographicSign(code) ? code : u'\0';
+}
+
+bool isAsciiAlphanumeric(char32_t scalar)
+{
+    return (scalar >= U'a' && scalar <= U'z') || (scalar >= U'A' && scalar <= U'Z') ||
+           (scalar >= U'0' && scalar <= U'9');
+}
+
+QString withoutTrailingDashes(QString text)
+{
+    while (text.endsWith(u'-'))
+        text.chop(1);
+    return text;
+}
+
+QString withDashesForOtherSigns(const QString &text)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (isAsciiAlphanumeric(c.unicode()))
+            result += c;
+        else if (!result.isEmpty() && !result.endsWith(u'-'))
+            result += u'-';
+    }
+    return withoutTrailingDashes(result);
+}
+
+} // namespace
+
+QString folded(QStringView text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    QChar *out = result.data();
+    for (const QChar c : text) {
+        const char16_t fold = quickFold(c.unicode());
+        if (fold == u'\0')
+            return foldedByDecomposition(text);
+        *out++ = fold;
+    }
+    return result;
+}
+
+bool localizedContains(QStringView haystack, QStringView needle)
+{
+    return !needle.isEmpty() && folded(haystack).contains(folded(needle));
+}
+
+QString slugified(QStringView text)
+{
+    constexpr qsizetype longest = 48;
+    return withoutTrailingDashes(withDashesForOtherSigns(folded(text)).left(longest));
+}
+
+int stableHash(QStringView text)
+{
+    quint64 hash = 5381;
+    for (const char32_t scalar : text.toUcs4())
+        hash = hash * 33 + scalar;
+    return int(hash % 2147483647);
+}
