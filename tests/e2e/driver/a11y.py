@@ -1,0 +1,230 @@
+"""What a program says of itself over AT-SPI: its tree of accessible objects, read and worked over D-Bus."""
+import re
+
+import gi
+gi.require_version("Gio", "2.0")
+gi.require_version("GLib", "2.0")
+from gi.repository import Gio, GLib  # noqa: E402
+
+from .waiting import DriverError
+
+
+STATES = ("invalid active armed busy checked collapsed defunct editable enabled expandable expanded focusable "
+          "focused has-tooltip horizontal iconified modal multi-line multiselectable opaque pressed resizable "
+          "selectable selected sensitive showing single-line stale transient vertical visible "
+          "manages-descendants indeterminate required truncated animated invalid-entry supports-autocompletion "
+          "selectable-text is-default visited checkable has-popup read-only").split()
+PROPERTIES = "org.freedesktop.DBus.Properties"
+_A = "org.a11y.atspi."
+
+
+class Node:
+    """An accessible object, with what it said at the moment of the dump."""
+
+    def __init__(self, a11y, bus, path, parent=None, depth=0):
+        self.a11y, self.bus, self.path, self.parent, self.depth = a11y, bus, path, parent, depth
+        self.children = []
+        self.role = self.name = self.description = ""
+        self.text = self.value = None
+        self.states, self.interfaces, self.actions, self.rect = frozenset(), (), (), None
+
+    def _call(self, iface, method, args=None, reply=None):
+        return self.a11y.call(self.bus, self.path, _A + iface, method, args, reply)
+
+    def refresh(self):
+        """Reads the node's own values again; its children stay as they are."""
+        self.a11y.read([self])
+        return self
+
+    # what it is
+    @property
+    def showing(self):
+        return "showing" in self.states
+
+    def walk(self):
+        yield self
+        for c in self.children:
+            yield from c.walk()
+
+    def line(self):
+        p = [self.role, repr(self.name)]
+        if self.description:
+            p.append("desc=%r" % self.description)
+        if self.text:
+            p.append("text=%r" % self.text)
+        if self.value is not None:
+            p.append("value=%g" % self.value)
+        if self.actions:
+            p.append("actions=" + "/".join(self.actions))
+        keep = self.states - {"enabled", "sensitive", "visible", "showing", "opaque"}
+        if keep:
+            p.append("[" + ",".join(sorted(keep)) + "]")
+        if self.states and not self.states & {"enabled", "sensitive"}:
+            p.append("(disabled)")
+        if self.states and "showing" not in self.states:
+            p.append("(hidden)")
+        return "  " * self.depth + " ".join(p)
+
+    def dump(self, rects=False):
+        return "\n".join(n.line() + (" %s" % (n.rect,) if rects else "") for n in self.walk())
+
+    def all(self, role=None, name=None, text=None, description=None, states=(), showing=None, where=None, by_place=False):
+        """Nodes below (and with) this one; role, name, text and description are regular expressions, searched.
+
+        by_place sorts by place on screen, top to bottom then left to right: a list's rows need not stand in order in the tree.
+        """
+        def ok(n):
+            return ((role is None or re.search(role, n.role)) and (name is None or re.search(name, n.name))
+                    and (text is None or re.search(text, n.text or ""))
+                    and (description is None or re.search(description, n.description))
+                    and set(states) <= n.states and (showing is None or n.showing == showing)
+                    and (where is None or where(n)))
+        got = [n for n in self.walk() if ok(n)]
+        return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1]) if by_place else got
+
+    def find(self, **kw):
+        got = self.all(**kw)
+        if not got:
+            raise DriverError("no node with %s" % kw)
+        return got[0]
+
+    # what it can do
+    @property
+    def centre(self):
+        x, y, w, h = self.rect
+        return x + w // 2, y + h // 2
+
+    def act(self, name):
+        """Invokes the accessible action of that name (any case)."""
+        names = [a.lower() for a in self.actions]
+        if name.lower() not in names:
+            raise DriverError("%s has no action %r, only %s" % (self.line().strip(), name, self.actions))
+        return self._call("Action", "DoAction", GLib.Variant("(i)", (names.index(name.lower()),)))[0]
+
+    def press(self):
+        for a in ("press", "toggle", "showmenu"):
+            if a in [x.lower() for x in self.actions]:
+                return self.act(a)
+        raise DriverError("%s cannot be pressed: %s" % (self.line().strip(), self.actions))
+
+    def grab_focus(self):
+        return self._call("Component", "GrabFocus")[0]
+
+    def set_text(self, text):
+        return self._call("EditableText", "SetTextContents", GLib.Variant("(s)", (text,)))[0]
+
+    def set_value(self, v):
+        self.a11y.call(self.bus, self.path, PROPERTIES, "Set",
+                       GLib.Variant("(ssv)", (_A + "Value", "CurrentValue", GLib.Variant("d", v))), None)
+
+    def click(self, button=1, count=1, mods=(), at=None):
+        self.a11y.session.click(at or self.centre, button, count, mods)
+
+    def hover(self):
+        self.a11y.session.move(*self.centre)
+
+    def __repr__(self):
+        return "<Node %s>" % self.line().strip()
+
+
+class A11y:
+    def __init__(self, session, timeout_ms=5000):
+        self.session, self.timeout = session, timeout_ms
+        bus = session.dbus()
+        addr = bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, 10000, None).unpack()[0]
+        self.conn = Gio.DBusConnection.new_for_address_sync(
+            addr, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+
+    def call(self, bus, path, iface, method, args=None, reply=None):
+        try:
+            return self.conn.call_sync(bus, path, iface, method, args, reply, Gio.DBusCallFlags.NONE, self.timeout, None).unpack()
+        except GLib.Error as e:
+            raise DriverError("at-spi %s.%s on %s: %s" % (iface, method, path, e.message))
+
+    def applications(self):
+        kids = self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root", _A + "Accessible", "GetChildren")[0]
+        return [(b, p) for b, p in kids]
+
+    def pid_of(self, bus):
+        return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                         "GetConnectionUnixProcessID", GLib.Variant("(s)", (bus,)))[0]
+
+    def batch(self, calls):
+        """Sends all calls (bus, path, interface, method, args) at once; their answers in order, None where one failed."""
+        out, left = [None] * len(calls), len(calls)
+        ctx = GLib.MainContext.new()
+        ctx.push_thread_default()
+
+        def done(conn, res, i):
+            nonlocal left
+            left -= 1
+            try:
+                out[i] = conn.call_finish(res).unpack()
+            except GLib.Error:
+                pass
+        try:
+            for i, (bus, path, iface, method, args) in enumerate(calls):
+                self.conn.call(bus, path, iface, method, args, None, Gio.DBusCallFlags.NONE, self.timeout, None, done, i)
+            while left:
+                ctx.iteration(True)
+        finally:
+            ctx.pop_thread_default()
+        return out
+
+    def read(self, nodes):
+        """Fills the values of many nodes in two rounds of calls, and returns their children's addresses."""
+        def prop(iface, name):
+            return PROPERTIES, "Get", GLib.Variant("(ss)", (_A + iface, name))
+        acc = _A + "Accessible"
+        first = [(acc, "GetRoleName", None), prop("Accessible", "Name"), prop("Accessible", "Description"),
+                 (acc, "GetState", None), (acc, "GetInterfaces", None), (acc, "GetChildren", None)]
+        got = self.batch([(n.bus, n.path) + c for n in nodes for c in first])
+        kids, second, to = [], [], []
+        for k, n in enumerate(nodes):
+            role, name, desc, state, ifaces, children = got[k * 6:k * 6 + 6]
+            n.role, n.name, n.description = (v[0] if v else "" for v in (role, name, desc))
+            bits = sum(w << (32 * i) for i, w in enumerate(state[0])) if state else 0
+            n.states = frozenset(s for i, s in enumerate(STATES) if bits >> i & 1)
+            n.interfaces = tuple(i.rsplit(".", 1)[-1] for i in ifaces[0]) if ifaces else ()
+            n.text = n.value = n.rect = None
+            n.actions = ()
+            kids.append([c for c in children[0] if not c[1].endswith("/null")] if children else [])
+            for iface, call in (("Text", (_A + "Text", "GetText", GLib.Variant("(ii)", (0, -1)))),
+                                ("Value", prop("Value", "CurrentValue")), ("Action", (_A + "Action", "GetActions", None)),
+                                ("Component", (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,))))):
+                if iface in n.interfaces:
+                    second.append((n.bus, n.path) + call)
+                    to.append((n, iface))
+        for (n, iface), v in zip(to, self.batch(second)):
+            if v is None:
+                continue
+            if iface == "Text":
+                n.text = v[0].replace("\u2029", "\n")
+            elif iface == "Value":
+                n.value = v[0]
+            elif iface == "Action":
+                n.actions = tuple(a[0] for a in v[0])
+            else:
+                n.rect = tuple(v[0])
+        return kids
+
+    def tree(self, bus, path, max_nodes=5000, showing_only=False):
+        root = Node(self, bus, path)
+        level, count = [root], 1
+        while level:
+            below = []
+            for n, kids in zip(level, self.read(level)):
+                if showing_only and n.depth > 1 and not n.showing:
+                    n.parent.children.remove(n)
+                    continue
+                for b, p in kids:
+                    if count >= max_nodes:
+                        break
+                    count += 1
+                    c = Node(self, b, p, n, n.depth + 1)
+                    n.children.append(c)
+                    below.append(c)
+            level = below
+        if not root.role:
+            raise DriverError("the accessibility tree cannot be read")
+        return root

@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Prepares the fonts of assets/fonts, which are compiled into the program.
+
+usage: make-fonts.py <folder with the Inter OTF files> <folder with the JetBrains Mono TTF files> <output folder>
+
+Each font is cut down to the alphabets and signs that an issue tracker's texts use (a missing character comes from the
+system's fonts) and to the features that are always on. Hinting is dropped: the program draws unhinted. Needs fontTools. On Debian the sources are the packages fonts-inter and
+fonts-jetbrains-mono; the fonts in the repository were made from versions 4.0~beta7 and 2.242 of them.
+"""
+import importlib.util
+import os
+import sys
+
+from fontTools import subset
+from fontTools.ttLib import TTFont
+
+# Latin, combining marks, Greek, Cyrillic; then punctuation, currencies, arrows, mathematics and signs.
+CHARACTERS = [
+    (0x20, 0x24F), (0x2B0, 0x36F), (0x370, 0x52F), (0x1E00, 0x1EFF), (0x2000, 0x20CF), (0x2100, 0x22FF),
+    (0x2300, 0x23FF), (0x2460, 0x24FF), (0x2500, 0x27BF), (0x2900, 0x297F), (0x2B00, 0x2BFF), (0xFB00, 0xFB06),
+]
+EVERYTHING = [code for first, last in CHARACTERS for code in range(first, last + 1)]
+FEATURES = ["kern", "mark", "mkmk", "ccmp", "locl", "calt", "liga"]
+
+# Name of the source and the characters that stay.
+INTER = [
+    ("Inter-Regular", EVERYTHING), ("Inter-Medium", EVERYTHING), ("Inter-SemiBold", EVERYTHING),
+    ("Inter-Bold", EVERYTHING), ("InterDisplay-SemiBold", EVERYTHING), ("InterDisplay-Bold", EVERYTHING),
+    # Only the exclamation mark of the urgent priority is this heavy.
+    ("Inter-Black", [ord("!")]),
+]
+TABULAR = ["Inter-Regular", "Inter-Medium", "Inter-SemiBold"]
+MONO = ["JetBrainsMono-Regular"]
+
+
+def tabular():
+    path = os.path.join(os.path.dirname(os.path.abspath(__file__)), "tabular-font.py")
+    spec = importlib.util.spec_from_file_location("tabular_font", path)
+    module = importlib.util.module_from_spec(spec)
+    spec.loader.exec_module(module)
+    return module
+
+
+def cut(font, characters, features):
+    options = subset.Options()
+    options.layout_features = features
+    options.hinting = False
+    options.notdef_outline = True
+    options.name_IDs = ["*"]
+    cutter = subset.Subsetter(options)
+    cutter.populate(unicodes=characters)
+    cutter.subset(font)
+
+
+def write(font, folder, name):
+    # The same input gives the same bytes, so that a build can be repeated.
+    font.recalcTimestamp = False
+    font.save(os.path.join(folder, name))
+
+
+def main(inter, mono, out):
+    os.makedirs(out, exist_ok=True)
+    make_tabular = tabular().make_tabular
+    for name, characters in INTER:
+        font = TTFont(os.path.join(inter, name + ".otf"))
+        cut(font, characters, FEATURES)
+        write(font, out, name + ".otf")
+    for name in TABULAR:
+        font = TTFont(os.path.join(inter, name + ".otf"))
+        make_tabular(font)
+        cut(font, EVERYTHING, FEATURES)
+        write(font, out, name.replace("Inter", "InterTabular") + ".otf")
+    for name in MONO:
+        font = TTFont(os.path.join(mono, name + ".ttf"))
+        # Code is shown as it was written: no ligatures that draw "!=" as one sign.
+        cut(font, EVERYTHING, [feature for feature in FEATURES if feature not in ("calt", "liga")])
+        write(font, out, name + ".ttf")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 4:
+        sys.exit(__doc__)
+    main(*sys.argv[1:])
