@@ -1,0 +1,78 @@
+pragma Singleton
+import QtQuick
+
+/// Lengths in logical pixels: radii, spacing and the heights of controls.
+QtObject {
+    // Radii
+    readonly property int radiusCheckBox: 4
+    readonly property int radiusKeyCap: 5
+    /// Small icon buttons and the workspace square.
+    readonly property int radiusSquare: 6
+    /// List rows, group headers, option rows, fields, tooltips.
+    readonly property int radiusRow: 8
+    readonly property int radiusPanel: 10
+    readonly property int radiusCard: 11
+    /// Menus, bubbles, form cards, tiles.
+    readonly property int radiusBubble: 12
+    /// Popovers and board columns.
+    readonly property int radiusPopover: 14
+    /// Sidebar, inspector, breadcrumb.
+    readonly property int radiusPane: 18
+    readonly property int radiusToast: 20
+    /// Composer and sheets.
+    readonly property int radiusSheet: 22
+    readonly property int radiusPalette: 24
+    readonly property int radiusOnboarding: 32
+
+    // Spacing
+    readonly property int gapTiny: 4
+    readonly property int gapSmall: 6
+    /// Between controls.
+    readonly property int gap: 8
+    readonly property int gapMedium: 10
+    readonly property int gapLarge: 14
+    /// Between the sections of a page.
+    readonly property int gapSection: 18
+    readonly property int pageMargin: 24
+
+    // Heights of controls
+    readonly property int toolbarHeight: 56
+    /// Where the centres of title, capsules and workspace row lie.
+    readonly property int toolbarCentre: 28
+    /// Toolbar capsules, round buttons, search fields.
+    readonly property int capsuleHeight: 32
+    /// A cell inside a capsule, 28 high.
+    readonly property int capsuleCellWidth: 34
+    readonly property int groupHeaderHeight: 36
+    readonly property int groupHeaderCompactHeight: 30
+    readonly property int rowHeight: 38
+    readonly property int rowCompactHeight: 31
+    readonly property int smallButton: 22
+    readonly property int sidebarRowHeight: 30
+    readonly property int optionRowHeight: 32
+    readonly property int optionSearchHeight: 38
+    readonly property int menuRowHeight: 26
+    readonly property int propertyChipHeight: 28
+    readonly property int buttonHeight: 30
+    readonly property int largeButtonHeight: 40
+    readonly property int filterChipHeight: 26
+    readonly property int fieldHeight: 28
+    readonly property int chipHeight: 19
+    readonly property int keyCapHeight: 18
+    readonly property int toastMaxWidth: 460
+    readonly property int tooltipHeight: 26
+
+    // The main window
+    readonly property int paneMargin: 8
+    readonly property int sidebarMinWidth: 210
+    readonly property int sidebarWidth: 240
+    readonly property int sidebarMaxWidth: 320
+    readonly property int inspectorMinWidth: 380
+    readonly property int inspectorWidth: 500
+    readonly property int inspectorMaxWidth: 780
+    /// Toasts above the window's edge, alone and above the selection bar.
+    readonly property int toastBottom: 24
+    readonly property int toastBottomAboveBar: 84
+    readonly property int scrollThumbWidth: 6
+    readonly property int scrollFade: 16
+}

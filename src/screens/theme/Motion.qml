@@ -1,0 +1,48 @@
+pragma Singleton
+import QtQuick
+
+/// How things move. Animate with `easing.type: Easing.BezierSpline`, one of the curves and the duration that stands with
+/// it. With `reduced`, moves end at once and fades stay as short fades; the composition root writes it.
+QtObject {
+    /// The desktop asks for less motion.
+    property bool reduced: false
+
+    /// Damping 0.85: every visible change of state.
+    readonly property list<real> spring: [0.24, 0.21, 0.14, 1.16, 1, 1]
+    /// Damping 0.7, a slight overshoot: toasts and the selection bar coming in.
+    readonly property list<real> softSpring: [0.30, 0.35, 0.11, 1.28, 1, 1]
+    /// Damping 1, no overshoot: toasts going out.
+    readonly property list<real> firmSpring: [0.22, 0.20, 0.12, 1.04, 1, 1]
+
+    // Durations in milliseconds
+    /// Changes of state, group folding, filter bar, board moves, optimistic edits; with `spring`.
+    readonly property int stateDuration: reduced ? 0 : 570
+    /// The palette; with `spring`.
+    readonly property int paletteDuration: reduced ? 0 : 250
+    /// Scrolling to the focused row, a targeted column, the mention list; with `spring`.
+    readonly property int scrollDuration: reduced ? 0 : 205
+    /// A card under the pointer, the drop overlay; with `spring`.
+    readonly property int cardDuration: reduced ? 0 : 170
+    /// The selection bar coming in; with `softSpring`.
+    readonly property int selectionBarDuration: reduced ? 0 : 395
+    /// A toast coming in, with `softSpring`, and going out, with `firmSpring`.
+    readonly property int toastInDuration: reduced ? 0 : 565
+    readonly property int toastOutDuration: reduced ? 0 : 610
+    /// A pressed glass button shrinking to `pressScale`.
+    readonly property int pressDuration: reduced ? 0 : 100
+    readonly property real pressScale: reduced ? 1 : 0.97
+    /// A popover coming in from `popoverScale`.
+    readonly property int popoverDuration: 140
+    readonly property real popoverScale: reduced ? 1 : 0.97
+    readonly property real paletteScale: reduced ? 1 : 0.98
+    /// Hover fills leaving (they appear at once), and every fade that stands for a move.
+    readonly property int fadeDuration: 120
+
+    // Scroll bars and tooltips
+    readonly property int scrollBarLinger: 800
+    readonly property int scrollBarFade: 200
+    readonly property int tooltipDelay: 600
+    /// One direction of the skeleton's pulse, down to `skeletonLow`.
+    readonly property int skeletonDuration: 900
+    readonly property real skeletonLow: 0.55
+}

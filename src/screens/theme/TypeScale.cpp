@@ -1,0 +1,106 @@
+#include "screens/theme/TypeScale.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <array>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Family { Text, Display, Code };
+
+struct Style
+{
+    Family family;
+    qreal size;
+    qreal line;
+    QFont::Weight weight;
+    qreal tracking;
+};
+
+// In the order of the roles.
+constexpr std::array<Style, 14> styles{{
+    {Family::Display, 28, 34, QFont::Bold, -0.3},
+    {Family::Display, 22, 28, QFont::DemiBold, -0.05},
+    {Family::Display, 20, 25, QFont::Bold, -0.2},
+    {Family::Display, 17, 22, QFont::DemiBold, -0.1},
+    {Family::Text, 17, 22, QFont::Normal, -0.15},
+    {Family::Text, 15, 19, QFont::DemiBold, -0.1},
+    {Family::Text, 14, 19, QFont::Normal, 0},
+    {Family::Text, 13, 18, QFont::Normal, -0.04},
+    {Family::Text, 12, 16, QFont::Normal, 0},
+    {Family::Text, 11.5, 14, QFont::Medium, 0},
+    {Family::Text, 11, 14, QFont::Normal, 0},
+    {Family::Text, 10.5, 14, QFont::Medium, 0},
+    {Family::Text, 10, 13, QFont::Normal, 0},
+    {Family::Code, 12, 18, QFont::Normal, 0},
+}};
+
+QStringList families(Family family, bool tabular)
+{
+    if (family == Family::Code)
+        return {u"JetBrains Mono"_s, u"DejaVu Sans Mono"_s, u"monospace"_s};
+    if (tabular)
+        return {u"Inter Tabular"_s, u"Inter"_s, u"sans-serif"_s};
+    if (family == Family::Display)
+        return {u"Inter Display"_s, u"Inter"_s, u"sans-serif"_s};
+    return {u"Inter"_s, u"sans-serif"_s};
+}
+
+// A font's size in pixels is a whole number in Qt; half pixels exist only as points of the screen's density.
+void setSize(QFont &font, qreal pixels)
+{
+    if (pixels == std::floor(pixels)) {
+        font.setPixelSize(static_cast<int>(pixels));
+        return;
+    }
+    const auto *screen = QGuiApplication::primaryScreen();
+    const qreal dotsPerInch = screen ? std::round(screen->logicalDotsPerInchY()) : 96.0;
+    font.setPointSizeF(pixels * 72.0 / dotsPerInch);
+}
+
+QFont makeFont(const QStringList &names, qreal pixels, QFont::Weight weight)
+{
+    QFont font;
+    font.setFamilies(names);
+    setSize(font, pixels);
+    font.setWeight(weight);
+    // Hinted widths jump by a pixel from size to size.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QFont makeFont(TypeScale::Role role, int weight, bool tabular)
+{
+    const auto &style = styles[role];
+    const auto given =
+        weight == TypeScale::roleWeight ? style.weight : static_cast<QFont::Weight>(weight);
+    QFont font = makeFont(families(style.family, tabular), style.size, given);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.tracking);
+    return font;
+}
+
+} // namespace
+
+QFont TypeScale::font(Role role, int weight, bool tabular) const
+{
+    return makeFont(role, weight, tabular);
+}
+
+qreal TypeScale::lineHeight(Role role) const
+{
+    return styles[role].line;
+}
+
+QFont TypeScale::fontOf(Role role)
+{
+    return makeFont(role, roleWeight, false);
+}
+
+QFont TypeScale::textFont(qreal pixels, QFont::Weight weight)
+{
+    return makeFont(families(Family::Text, false), pixels, weight);
+}
