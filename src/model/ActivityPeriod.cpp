@@ -1,6 +1,6 @@
 #include "model/ActivityPeriod.h"
 
-#include "model/DateLabels.h"
+#include "model/DateParts.h"
 
 #include <QHashFunctions>
 

@@ -1,122 +1,6 @@
 #include "model/DateLabels.h"
 
-#include <QStringList>
-
-#include <optional>
-#include <vector>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A piece of a date pattern: the letter of its field, or a null letter and a literal text.
-struct Piece
-{
-    QChar field;
-    QString literal;
-};
-
-/// What to print of a date, by the letters of a pattern ("dM", "dMy"), and how to write the month.
-struct Style
-{
-    QStringView fields;
-    QLocale::FormatType month;
-};
-
-bool isFieldLetter(QChar c)
-{
-    return c == u'd' || c == u'M' || c == u'y';
-}
-
-void appendLiteral(std::vector<Piece> &pieces, QStringView text)
-{
-    if (pieces.empty() || !pieces.back().field.isNull())
-        pieces.push_back({});
-    pieces.back().literal += text;
-}
-
-qsizetype runLength(QStringView text)
-{
-    qsizetype length = 1;
-    while (length < text.size() && text[length] == text[0])
-        ++length;
-    return length;
-}
-
-/// The length of a quoted literal with both its quotes.
-qsizetype quotedLength(QStringView text)
-{
-    const qsizetype end = text.indexOf(u'\'', 1);
-    return end < 0 ? text.size() : end + 1;
-}
-
-std::vector<Piece> parsed(QStringView pattern)
-{
-    std::vector<Piece> pieces;
-    while (!pattern.isEmpty()) {
-        const QChar head = pattern.front();
-        qsizetype length = 1;
-        if (head == u'\'') {
-            length = quotedLength(pattern);
-            appendLiteral(pieces, pattern.first(length).sliced(1).chopped(length > 1 ? 1 : 0));
-        } else if (isFieldLetter(head)) {
-            length = runLength(pattern);
-            // From three letters on it is the name of the weekday.
-            const bool isWeekday = head == u'd' && length > 2;
-            pieces.push_back({isWeekday ? QChar(u'E') : head, {}});
-        } else {
-            appendLiteral(pieces, pattern.first(1));
-        }
-        pattern = pattern.sliced(length);
-    }
-    return pieces;
-}
-
-/// The pieces from the first to the last wanted field. A field between them that is not wanted goes, with what follows
-/// it; signs at the pattern's end stay when they belong to a wanted field, as in "d日".
-std::vector<Piece> selected(const std::vector<Piece> &pieces, QStringView fields)
-{
-    std::vector<Piece> result;
-    bool isWanted = false;
-    for (const Piece &piece : pieces) {
-        if (!piece.field.isNull())
-            isWanted = fields.contains(piece.field);
-        if (isWanted)
-            result.push_back(piece);
-    }
-    const bool endsWithPattern = isWanted;
-    if (!endsWithPattern && !result.empty() && result.back().field.isNull())
-        result.pop_back();
-    return result;
-}
-
-QString printed(QChar field, const QDate &day, const Style &style, const QLocale &locale)
-{
-    if (field == u'd')
-        return locale.toString(day, u"d");
-    if (field == u'y')
-        return locale.toString(day, u"yyyy");
-    return style.fields.contains(u'd') ? locale.monthName(day.month(), style.month)
-                                       : locale.standaloneMonthName(day.month(), style.month);
-}
-
-QString printed(const QDate &day, const Style &style, const QLocale &locale)
-{
-    if (!day.isValid())
-        return {};
-    QString text;
-    for (const Piece &piece :
-         selected(parsed(locale.dateFormat(QLocale::LongFormat)), style.fields))
-        text += piece.field.isNull() ? piece.literal : printed(piece.field, day, style, locale);
-    return text.trimmed();
-}
-
-QString capitalized(const QString &word, const QLocale &locale)
-{
-    return locale.toUpper(word.left(1)) + locale.toLower(word.mid(1));
-}
-
-} // namespace
 
 QString compactRelative(const QDateTime &date, const QDateTime &now, const UserCalendar &calendar)
 {
@@ -151,30 +35,10 @@ QString dueLabel(const QDate &day, const QDateTime &now, const UserCalendar &cal
     }
 }
 
-QString dayAndShortMonth(const QDate &day, const QLocale &locale)
+QString weekdayDayMonthAndTime(const QDateTime &date, const UserCalendar &calendar)
 {
-    return printed(day, {u"dM", QLocale::ShortFormat}, locale);
-}
-
-QString dayAndMonth(const QDate &day, const QLocale &locale)
-{
-    return printed(day, {u"dM", QLocale::LongFormat}, locale);
-}
-
-QString dayShortMonthAndYear(const QDate &day, const QLocale &locale)
-{
-    return printed(day, {u"dMy", QLocale::ShortFormat}, locale);
-}
-
-QString monthAndYear(const QDate &day, const QLocale &locale)
-{
-    return printed(day, {u"My", QLocale::LongFormat}, locale);
-}
-
-QString capitalizedWords(const QString &text, const QLocale &locale)
-{
-    QStringList words = text.split(u' ');
-    for (QString &word : words)
-        word = capitalized(word, locale);
-    return words.join(u' ');
+    const QLocale &locale = calendar.locale;
+    const QString time = locale.toString(date.toTimeZone(calendar.zone).time(), QLocale::ShortFormat);
+    const QString joint = locale.language() == QLocale::French ? u" à "_s : u", "_s;
+    return weekdayDayAndMonth(calendar.day(date), locale) + joint + time;
 }

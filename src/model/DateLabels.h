@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DateParts.h"
 #include "model/UserCalendar.h"
 
 #include <QDate>
@@ -13,16 +14,5 @@ QString compactRelative(const QDateTime &date, const QDateTime &now, const UserC
 /// "Aujourd'hui", "Demain" or "Hier", otherwise the day and the short month.
 QString dueLabel(const QDate &day, const QDateTime &now, const UserCalendar &calendar);
 
-/// Parts of a date in the order and with the signs of the locale's own long date. An invalid date gives an empty text.
-
-/// "31 oct." in French, "Oct 31" in American English.
-QString dayAndShortMonth(const QDate &day, const QLocale &locale);
-/// "31 octobre".
-QString dayAndMonth(const QDate &day, const QLocale &locale);
-/// "31 oct. 2026".
-QString dayShortMonthAndYear(const QDate &day, const QLocale &locale);
-/// "octobre 2026"; the month's name in the form that stands alone.
-QString monthAndYear(const QDate &day, const QLocale &locale);
-
-/// Each word with an upper-case first letter and the others in lower case.
-QString capitalizedWords(const QString &text, const QLocale &locale);
+/// "samedi 31 octobre à 14:32": the weekday, the day, the month and the time in full, in the user's zone.
+QString weekdayDayMonthAndTime(const QDateTime &date, const UserCalendar &calendar);

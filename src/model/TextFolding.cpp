@@ -13,12 +13,28 @@ bool isCombiningMark(QChar c)
            (code >= 0x1DC0 && code <= 0x1DFF) || (code >= 0x20D0 && code <= 0x20FF);
 }
 
+/// "ß" and the ligatures "ﬀ" to "ﬆ", whose folded case has more than one letter.
+bool isSeveralLetters(QChar c)
+{
+    const char16_t code = c.unicode();
+    return code == 0x00DF || (code >= 0xFB00 && code <= 0xFB06);
+}
+
+QString caseFolded(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (const QChar c : text.toCaseFolded())
+        result += isSeveralLetters(c) ? QString(c).toUpper().toLower() : QString(c);
+    return result;
+}
+
 QString foldedByDecomposition(QStringView text)
 {
     QString result = text.toString().normalized(QString::NormalizationForm_D);
     result.removeIf(isCombiningMark);
     // Composed again, for the scripts whose marks and syllables are no diacritics.
-    return result.toCaseFolded().normalized(QString::NormalizationForm_C);
+    return caseFolded(result).normalized(QString::NormalizationForm_C);
 }
 
 /// Up to here, which covers French and all other Western languages, folding is a look-up for most characters.
