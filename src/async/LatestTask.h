@@ -8,7 +8,9 @@
 #include <expected>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stop_token>
+#include <utility>
 
 /// The newest request wins. Each `start` calls off the task before it; only the newest task's outcome is delivered, and
 /// none once this object is gone or `cancel` was called. Used by every search that is tied to a text being typed.
@@ -62,6 +64,9 @@ private:
             run->isCurrent = false;
         } catch (const Failure &failure) {
             outcome.emplace(std::unexpected(failure));
+        } catch (...) {
+            run->isCurrent = false;
+            throw;
         }
         if (!run->isCurrent)
             co_return;

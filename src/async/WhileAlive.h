@@ -5,6 +5,8 @@
 #include <QPointer>
 
 #include <exception>
+#include <optional>
+#include <type_traits>
 
 /// Thrown into a coroutine whose owner was destroyed while it waited, so that it unwinds without touching the owner.
 /// Deliberately no `Failure`: a handler for failures must not run without its owner.

@@ -5,8 +5,7 @@
 #include <QHash>
 #include <QLatin1StringView>
 
-#include <array>
-#include <initializer_list>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -15,28 +14,32 @@ namespace {
 struct LevelWords
 {
     PriorityLevel level;
-    std::initializer_list<QLatin1StringView> words;
+    std::vector<QLatin1StringView> words;
 };
 
 /// In the order of the tests: "highest" contains "high" and "lowest" contains "low", so the extremes come first.
-const std::array levelWords{
-    LevelWords{PriorityLevel::Urgent,
-               {"highest"_L1, "blocker"_L1, "critical"_L1, "urgent"_L1, "critique"_L1,
-                "bloquant"_L1, "plus haute"_L1, "p0"_L1}},
-    LevelWords{PriorityLevel::Low,
-               {"lowest"_L1, "trivial"_L1, "plus basse"_L1, "low"_L1, "minor"_L1, "basse"_L1,
-                "faible"_L1, "mineur"_L1, "p3"_L1, "p4"_L1}},
-    LevelWords{PriorityLevel::High,
-               {"high"_L1, "major"_L1, "haute"_L1, "elevee"_L1, "majeur"_L1, "p1"_L1}},
-    LevelWords{PriorityLevel::Medium, {"medium"_L1, "normal"_L1, "moyenne"_L1, "p2"_L1}},
-};
+const std::vector<LevelWords> &levelWords()
+{
+    static const std::vector<LevelWords> table{
+        LevelWords{PriorityLevel::Urgent,
+                   {"highest"_L1, "blocker"_L1, "critical"_L1, "urgent"_L1, "critique"_L1,
+                    "bloquant"_L1, "plus haute"_L1, "p0"_L1}},
+        LevelWords{PriorityLevel::Low,
+                   {"lowest"_L1, "trivial"_L1, "plus basse"_L1, "low"_L1, "minor"_L1, "basse"_L1,
+                    "faible"_L1, "mineur"_L1, "p3"_L1, "p4"_L1}},
+        LevelWords{PriorityLevel::High,
+                   {"high"_L1, "major"_L1, "haute"_L1, "elevee"_L1, "majeur"_L1, "p1"_L1}},
+        LevelWords{PriorityLevel::Medium, {"medium"_L1, "normal"_L1, "moyenne"_L1, "p2"_L1}},
+    };
+    return table;
+}
 
 } // namespace
 
 PriorityLevel priorityLevelFromName(const QString &jiraName)
 {
     const QString name = folded(jiraName);
-    for (const LevelWords &row : levelWords) {
+    for (const LevelWords &row : levelWords()) {
         if (std::ranges::any_of(row.words, [&](auto word) { return name.contains(word); }))
             return row.level;
     }
