@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Desktop.h"
+
+#include <memory>
+
+/// The desktop as macOS gives it. UI thread only, after the application object was made.
+class DesktopMac final : public Desktop
+{
+    Q_OBJECT
+
+public:
+    explicit DesktopMac(QObject *parent = nullptr);
+    ~DesktopMac() override;
+
+    bool isApplicationActive() const override;
+    bool prefersDark() const override;
+    bool prefersReducedMotion() const override;
+    void open(const QUrl &address) override;
+    void copyText(const QString &text) override;
+
+private:
+    class Observers;
+    std::unique_ptr<Observers> m_observers;
+};

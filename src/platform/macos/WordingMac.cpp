@@ -1,0 +1,6 @@
+#include "platform/Wording.h"
+
+QString Wording::localized(const QString &macText)
+{
+    return macText;
+}
