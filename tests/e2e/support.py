@@ -1,0 +1,142 @@
+"""What the tests in a window share: a desktop with the program in it, and the words in which the tests speak of it."""
+import datetime
+import os
+import re
+import unittest
+
+from driver import Session, wait_until
+
+ISSUE = re.compile(r"^([A-Z]+-\d+), ")
+HEADER = re.compile(r"^(.+), \d+ tickets?(, replié)?$")
+# Tall enough for every list of the demo to stand in the window whole.
+SCREEN = (1500, 1500)
+WINDOW = (1320, 1440)
+
+
+class Run:
+    """What the whole run was started with."""
+
+    def set(self, program, renderer, results):
+        self.program, self.renderer, self.results = os.path.abspath(program), renderer, os.path.abspath(results)
+
+
+RUN = Run()
+
+
+def write_preferences(session, **values):
+    """Lays preferences into the session's home, as an earlier run of the program would have left them."""
+    folder = os.path.join(session.env["XDG_CONFIG_HOME"], "Velmora")
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, "Velmora.ini"), "w") as file:
+        file.write("[General]\n" + "".join("%s=%s\n" % pair for pair in values.items()))
+
+
+class Velmora:
+    """The running program, seen from outside."""
+
+    def __init__(self, session, program, size=WINDOW):
+        self.session = session
+        self.app = session.launch([program], name="velmora")
+        self.started = datetime.datetime.now(datetime.timezone.utc)
+        self.app.wait_window("Velmora")
+        if size:
+            self.app.move_window(0, 0, size=size)
+        self.app.wait_tree()
+
+    # what it shows
+    def title(self):
+        """The heading over the list."""
+        return self.app.find(role="heading").name
+
+    def listed(self):
+        """[(title of the group, [keys])] from top to bottom."""
+        groups = []
+        for node in self.app.all(by_place=True):
+            issue, header = ISSUE.match(node.name), HEADER.match(node.name)
+            if issue and node.role == "list item":
+                groups[-1][1].append(issue.group(1))
+            elif header and node.role == "push button":
+                groups.append((header.group(1), []))
+        return groups
+
+    def keys(self):
+        return [key for _, keys in self.listed() for key in keys]
+
+    def focused_key(self):
+        """The key of the row with the focus, if any."""
+        focused = [node for node in self.app.all(role="list item", name=ISSUE.pattern, states=("focused",))]
+        return ISSUE.match(focused[0].name).group(1) if focused else None
+
+    def row(self, key):
+        return self.app.find(role="list item", name="^%s, " % key)
+
+    def header(self, title):
+        return self.app.find(role="push button", name="^%s, \\d+ ticket" % title)
+
+    def scope(self, name):
+        """A row of the sidebar."""
+        return self.app.find(role="list item", name="^%s(,|$)" % name)
+
+    def search_field(self):
+        return self.app.find(role="text", name="Filtrer")
+
+    # what is waited for
+    def wait_listed(self, expected, what):
+        """Waits until exactly these groups are listed."""
+        seen = []
+
+        def look():
+            seen[:] = self.listed()
+            return seen == expected
+        try:
+            wait_until(look, 8, 0.1)
+        except Exception:
+            raise AssertionError("%s: expected %s, saw %s" % (what, expected, seen)) from None
+
+    def wait_focus(self, key):
+        seen = []
+
+        def look():
+            seen[:] = [self.focused_key()]
+            return seen[0] == key
+        try:
+            wait_until(look, 5, 0.05)
+        except Exception:
+            raise AssertionError("expected the focus on %s, saw it on %s" % (key, seen[0])) from None
+
+
+class WindowCase(unittest.TestCase):
+    """A test with a desktop of its own; fails if the program has written anything, and keeps what it saw if it fails."""
+
+    def setUp(self):
+        self.session = Session(size=SCREEN, renderer=RUN.renderer)
+        self.addCleanup(self.session.stop)
+        self.programs = []
+
+    def tearDown(self):
+        if not self._outcome.success:
+            self._keep_what_was_seen()
+        for velmora in self.programs:
+            self.assertEqual(velmora.app.log(), "", "the program wrote something")
+
+    def open(self, size=WINDOW):
+        """Starts the program on whatever profile the session has."""
+        self.programs.append(Velmora(self.session, RUN.program, size))
+        return self.programs[-1]
+
+    def open_demo(self, size=WINDOW, **preferences):
+        """Starts the program on the demo, and waits for its first list."""
+        write_preferences(self.session, demoMode="true", **preferences)
+        velmora = self.open(size)
+        velmora.app.find(role="list item", name=ISSUE.pattern, timeout=15)
+        return velmora
+
+    def _keep_what_was_seen(self):
+        folder = os.path.join(RUN.results, RUN.renderer, self.id())
+        os.makedirs(folder, exist_ok=True)
+        self.session.screenshot(os.path.join(folder, "screen.png"))
+        for number, velmora in enumerate(self.programs):
+            with open(os.path.join(folder, "program%d.txt" % number), "w") as file:
+                file.write(velmora.app.log() + "\n")
+                if velmora.app.running:
+                    file.write(velmora.app.dump(showing_only=False))

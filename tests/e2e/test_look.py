@@ -1,0 +1,21 @@
+"""Light and dark, and what the window looks like where a glance can tell."""
+from support import WindowCase
+
+
+class Appearance(WindowCase):
+    def luminance_of_the_list(self, velmora):
+        """Of the empty place under the list's last row, from 0 to 255."""
+        window = velmora.app.window("Velmora")
+        self.session.settle()
+        red, green, blue = self.session.pixel(window.x + window.width - 60, window.y + window.height - 60)
+        return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+    def test_a_stored_dark_appearance_makes_the_window_dark(self):
+        self.assertLess(self.luminance_of_the_list(self.open_demo(appearance="dark")), 60)
+
+    def test_a_stored_light_appearance_makes_the_window_light(self):
+        self.assertGreater(self.luminance_of_the_list(self.open_demo(appearance="light")), 220)
+
+    def test_an_appearance_that_nobody_knows_is_that_of_the_system(self):
+        unknown = self.luminance_of_the_list(self.open_demo(appearance="mauve"))
+        self.assertTrue(unknown < 60 or unknown > 220, unknown)
