@@ -5,6 +5,8 @@
 /// The enumerations that records and screens share, in a namespace so that QML can name them (`Model.PriorityLevel.High`).
 namespace Model {
 Q_NAMESPACE
+// Several enumerations have a `Priority` or a `Backlog`; only the scoped names are told to QML.
+Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
 /// The coarse class of a status; ordered by its value, which is also the board's left-to-right order.
 enum class StatusCategory { Backlog = 0, Todo = 1, InProgress = 2, Done = 3, Cancelled = 4 };
