@@ -11,6 +11,7 @@ HEADER = re.compile(r"^(.+), \d+ tickets?(, replié)?$")
 # Tall enough for every list of the demo to stand in the window whole.
 SCREEN = (1500, 1500)
 WINDOW = (1320, 1440)
+SIDEBAR = 240
 
 
 class Run:
@@ -46,7 +47,10 @@ class Velmora:
     # what it shows
     def title(self):
         """The heading over the list."""
-        return self.app.find(role="heading").name
+        return self.app.find(role="heading", where=self.is_beside_the_sidebar).name
+
+    def is_beside_the_sidebar(self, node):
+        return node.rect[0] > self.app.window("Velmora").x + SIDEBAR
 
     def listed(self):
         """[(title of the group, [keys])] from top to bottom."""

@@ -31,6 +31,24 @@ class Scopes(WindowCase):
                     velmora.wait_listed(expected, row)
                     self.assertEqual(velmora.title(), title)
 
+    def test_the_sidebar_is_walked_by_keyboard_once_it_has_the_focus(self):
+        velmora = self.open_demo()
+        for _ in range(20):
+            focused = velmora.app.focused()
+            if focused and focused.name.startswith("Mes tickets"):
+                break
+            self.session.key("Tab")
+        walk = [("Récemment consultés", demo_lists.recent()), ("Créés par moi", demo_lists.reported()),
+                ("Cette semaine", demo_lists.recap(velmora.started, 0)),
+                ("Semaine dernière", demo_lists.recap(velmora.started, -1)), ("App mobile", demo_lists.project("MOB")),
+                ("App mobile · Sprint actif", demo_lists.sprint("MOB"))]
+        for title, expected in walk:
+            self.session.key("Down")
+            velmora.wait_listed(expected, title)
+            self.assertEqual(velmora.title(), title)
+        self.session.key("Up")
+        velmora.wait_listed(demo_lists.project("MOB"), "App mobile")
+
     def test_the_views_of_a_project_stand_only_under_the_project_in_sight(self):
         velmora = self.open_demo()
         velmora.scope("App mobile").click()
