@@ -1,0 +1,136 @@
+#include "demo/DemoService.h"
+
+#include "async/WhileAlive.h"
+#include "demo/DemoEdits.h"
+#include "demo/DemoQueries.h"
+#include "model/Failure.h"
+#include "model/JiraError.h"
+#include "model/TextFolding.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString &host()
+{
+    static const QString name = u"orvantis.atlassian.net"_s;
+    return name;
+}
+
+} // namespace
+
+DemoService::DemoService(Clock &clock, UserCalendar calendar, DemoSources sources)
+    : m_clock(clock),
+      m_calendar(std::move(calendar)),
+      m_sources(std::move(sources)),
+      m_site(DemoSite::from(DemoSeed::make(m_clock.now(), m_calendar, m_sources.newID)))
+{
+}
+
+QCoro::Task<> DemoService::pause(std::stop_token stop)
+{
+    constexpr int shortest = 80;
+    constexpr int spread = 140;
+    const std::chrono::milliseconds latency(shortest + m_sources.draw(spread));
+    try {
+        co_await whileAlive(this, m_clock.sleep(latency, std::move(stop)));
+    } catch (const OwnerGone &) {
+        // To the caller, whose session is over, this is a call that was called off.
+        throw Cancelled();
+    }
+}
+
+QString DemoService::siteName() const
+{
+    return host();
+}
+
+QCoro::Task<JiraUser> DemoService::currentUser(std::stop_token)
+{
+    co_return DemoSeed::me();
+}
+
+QCoro::Task<QList<Project>> DemoService::projects(std::stop_token stop)
+{
+    co_await pause(std::move(stop));
+    co_return DemoSeed::projects();
+}
+
+QCoro::Task<Project> DemoService::project(QString key, std::stop_token)
+{
+    const auto found = std::ranges::find(DemoSeed::projects(), key, &Project::key);
+    if (found == DemoSeed::projects().end())
+        throw JiraError(JiraError::Http{404, {}});
+    co_return *found;
+}
+
+QCoro::Task<QList<IssueStatus>> DemoService::statuses(QString, std::stop_token)
+{
+    co_return DemoSeed::statuses();
+}
+
+QCoro::Task<QList<IssuePriority>> DemoService::priorities(std::stop_token)
+{
+    co_return DemoSeed::priorities();
+}
+
+QCoro::Task<QList<JiraUser>> DemoService::assignableUsers(QString, std::stop_token)
+{
+    co_return DemoSeed::users();
+}
+
+QCoro::Task<IssueList> DemoService::issues(IssueScope scope, std::stop_token stop)
+{
+    co_await pause(std::move(stop));
+    co_return DemoQueries::issues(m_site, scope, m_clock.now(), m_calendar);
+}
+
+QCoro::Task<IssueList> DemoService::search(QString text, std::stop_token stop)
+{
+    co_await pause(std::move(stop));
+    co_return DemoQueries::search(m_site, text);
+}
+
+QCoro::Task<Issue> DemoService::issue(QString key, std::stop_token stop)
+{
+    co_await pause(std::move(stop));
+    Issue details = DemoQueries::details(m_site, key);
+    DemoEdits::opened(m_site, key);
+    co_return details;
+}
+
+QCoro::Task<QList<Comment>> DemoService::comments(QString key, std::stop_token)
+{
+    co_return m_site.threads.value(key);
+}
+
+QCoro::Task<QList<WorkflowTransition>> DemoService::transitions(QString key, std::stop_token)
+{
+    co_return DemoQueries::transitions(m_site, key);
+}
+
+QCoro::Task<QList<JiraUser>> DemoService::searchUsers(QString query, std::stop_token)
+{
+    QList<JiraUser> found = DemoSeed::users();
+    found.append(DemoSeed::customer());
+    found.removeIf([&](const JiraUser &user) { return !localizedContains(user.name, query); });
+    co_return found;
+}
+
+QCoro::Task<QUrl> DemoService::download(Attachment attachment, std::stop_token)
+{
+    if (!attachment.contentURL || !attachment.contentURL->isLocalFile())
+        throw JiraError(JiraError::InvalidResponse{});
+    co_return *attachment.contentURL;
+}
+
+std::optional<QUrl> DemoService::browseURL(const QString &key) const
+{
+    QUrl address;
+    address.setScheme(u"https"_s);
+    address.setHost(host());
+    address.setPath(u"/browse/"_s + key);
+    return address;
+}

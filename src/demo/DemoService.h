@@ -1,0 +1,68 @@
+#pragma once
+
+#include "demo/DemoSite.h"
+#include "demo/DemoSources.h"
+#include "model/IssueService.h"
+#include "platform/Clock.h"
+
+#include <QObject>
+
+/// A back end in memory: made-up data behind the common contract, with no network and no account. Nothing of what the
+/// user changes outlives the object.
+///
+/// UI thread only. Most operations first wait 80 to 220 ms, as a server would; what follows the wait runs whole, so the
+/// event loop lets one operation at a time at the data. A stop during the wait, or the end of the object, makes the
+/// operation fail with `Cancelled` and changes nothing. The only other failures: an unknown project, an unknown issue
+/// in `issue` and `update` (`JiraError` 404), an attachment without a local file (`JiraError::InvalidResponse`), and a
+/// file that cannot be copied.
+class DemoService final : public QObject, public IssueService
+{
+    Q_OBJECT
+
+public:
+    /// Starts from the seed, as of now. The clock outlives the service.
+    DemoService(Clock &clock, UserCalendar calendar, DemoSources sources = DemoSources::system());
+
+    /// A made-up host.
+    QString siteName() const override;
+    QCoro::Task<JiraUser> currentUser(std::stop_token stop = {}) override;
+    QCoro::Task<QList<Project>> projects(std::stop_token stop = {}) override;
+    QCoro::Task<Project> project(QString key, std::stop_token stop = {}) override;
+    QCoro::Task<QList<IssueStatus>> statuses(QString projectKey,
+                                             std::stop_token stop = {}) override;
+    QCoro::Task<QList<IssuePriority>> priorities(std::stop_token stop = {}) override;
+    QCoro::Task<QList<JiraUser>> assignableUsers(QString projectKey,
+                                                 std::stop_token stop = {}) override;
+    QCoro::Task<IssueList> issues(IssueScope scope, std::stop_token stop = {}) override;
+    QCoro::Task<IssueList> search(QString text, std::stop_token stop = {}) override;
+    /// The only operation that changes what `IssueScope::recent` lists.
+    QCoro::Task<Issue> issue(QString key, std::stop_token stop = {}) override;
+    QCoro::Task<QList<Comment>> comments(QString key, std::stop_token stop = {}) override;
+    QCoro::Task<QList<WorkflowTransition>> transitions(QString key,
+                                                       std::stop_token stop = {}) override;
+    QCoro::Task<> perform(WorkflowTransition transition, QString key,
+                          std::stop_token stop = {}) override;
+    QCoro::Task<> update(QString key, IssueFieldUpdate update, std::stop_token stop = {}) override;
+    QCoro::Task<> assign(QString key, std::optional<JiraUser> user,
+                         std::stop_token stop = {}) override;
+    QCoro::Task<Comment> addComment(QString key, ADFNode body, bool isInternal,
+                                    std::stop_token stop = {}) override;
+    QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) override;
+    /// Also finds the service project's customer, who is not assignable.
+    QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) override;
+    /// Copies the files one by one. When one fails nothing is attached, though earlier copies stay on disk.
+    QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
+                                                     std::stop_token stop = {}) override;
+    QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
+    QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) override;
+    std::optional<QUrl> browseURL(const QString &key) const override;
+
+private:
+    QCoro::Task<> pause(std::stop_token stop);
+    Attachment stored(const QUrl &file) const;
+
+    Clock &m_clock;
+    UserCalendar m_calendar;
+    DemoSources m_sources;
+    DemoSite m_site;
+};
