@@ -6,6 +6,7 @@ gi.require_version("Gio", "2.0")
 gi.require_version("GLib", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
+from .bus import connected_to
 from .waiting import DriverError
 
 
@@ -68,10 +69,12 @@ class Node:
     def dump(self, rects=False):
         return "\n".join(n.line() + (" %s" % (n.rect,) if rects else "") for n in self.walk())
 
-    def all(self, role=None, name=None, text=None, description=None, states=(), showing=None, where=None, by_place=False):
+    def all(self, role=None, name=None, text=None, description=None, states=(), showing=None, where=None,
+            by_place=False):
         """Nodes below (and with) this one; role, name, text and description are regular expressions, searched.
 
-        by_place sorts by place on screen, top to bottom then left to right: a list's rows need not stand in order in the tree.
+        by_place sorts by place on screen, top to bottom then left to right: a list's rows need not stand in order in
+        the tree.
         """
         def ok(n):
             return ((role is None or re.search(role, n.role)) and (name is None or re.search(name, n.name))
@@ -131,26 +134,26 @@ class A11y:
     def __init__(self, session, timeout_ms=5000):
         self.session, self.timeout = session, timeout_ms
         bus = session.dbus()
-        addr = bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, 10000, None).unpack()[0]
-        self.conn = Gio.DBusConnection.new_for_address_sync(
-            addr, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        answer = bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, 10000, None)
+        self.conn = connected_to(answer.unpack()[0])
 
     def call(self, bus, path, iface, method, args=None, reply=None):
         try:
-            return self.conn.call_sync(bus, path, iface, method, args, reply, Gio.DBusCallFlags.NONE, self.timeout, None).unpack()
+            answer = self.conn.call_sync(bus, path, iface, method, args, reply, Gio.DBusCallFlags.NONE, self.timeout, None)
+            return answer.unpack()
         except GLib.Error as e:
             raise DriverError("at-spi %s.%s on %s: %s" % (iface, method, path, e.message))
 
     def applications(self):
-        kids = self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root", _A + "Accessible", "GetChildren")[0]
-        return [(b, p) for b, p in kids]
+        root = "/org/a11y/atspi/accessible/root"
+        return [(b, p) for b, p in self.call("org.a11y.atspi.Registry", root, _A + "Accessible", "GetChildren")[0]]
 
     def pid_of(self, bus):
         return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                          "GetConnectionUnixProcessID", GLib.Variant("(s)", (bus,)))[0]
 
     def batch(self, calls):
-        """Sends all calls (bus, path, interface, method, args) at once; their answers in order, None where one failed."""
+        """Sends all calls (bus, path, interface, method, args) at once; their answers in order, None for a failed one."""
         out, left = [None] * len(calls), len(calls)
         ctx = GLib.MainContext.new()
         ctx.push_thread_default()
@@ -164,7 +167,8 @@ class A11y:
                 pass
         try:
             for i, (bus, path, iface, method, args) in enumerate(calls):
-                self.conn.call(bus, path, iface, method, args, None, Gio.DBusCallFlags.NONE, self.timeout, None, done, i)
+                self.conn.call(bus, path, iface, method, args, None, Gio.DBusCallFlags.NONE, self.timeout, None, done,
+                               i)
             while left:
                 ctx.iteration(True)
         finally:
@@ -190,7 +194,8 @@ class A11y:
             n.actions = ()
             kids.append([c for c in children[0] if not c[1].endswith("/null")] if children else [])
             for iface, call in (("Text", (_A + "Text", "GetText", GLib.Variant("(ii)", (0, -1)))),
-                                ("Value", prop("Value", "CurrentValue")), ("Action", (_A + "Action", "GetActions", None)),
+                                ("Value", prop("Value", "CurrentValue")),
+                                ("Action", (_A + "Action", "GetActions", None)),
                                 ("Component", (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,))))):
                 if iface in n.interfaces:
                     second.append((n.bus, n.path) + call)

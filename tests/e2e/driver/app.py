@@ -74,7 +74,8 @@ class App:
 
     def raise_window(self, title=None):
         w = self.window(title)
-        subprocess.run(["xdotool", "windowactivate", "--sync", str(w.id)], env=self.session.env, timeout=10, check=False)
+        subprocess.run(["xdotool", "windowactivate", "--sync", str(w.id)], env=self.session.env, timeout=10,
+                       check=False)
         return w
 
     def move_window(self, x, y, title=None, size=None):

@@ -8,12 +8,12 @@ import time
 import uuid
 
 import gi
-gi.require_version("Gio", "2.0")
 gi.require_version("GLib", "2.0")
-from gi.repository import Gio, GLib  # noqa: E402
+from gi.repository import GLib  # noqa: E402
 
 from .a11y import A11y, Node
 from .app import App
+from .bus import connected_to
 from .keys import MODIFIERS, keysyms
 from .process import die_with_parent, marked, read_line
 from .tray import TrayHost, TrayItem
@@ -25,7 +25,9 @@ _BUS_CONF = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configu
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig><type>session</type><keep_umask/><listen>unix:path=%s</listen><auth>EXTERNAL</auth>
 <servicedir>%s</servicedir>
-<policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
+<policy context="default">
+<allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
+</policy>
 </busconfig>
 """
 _OPENBOX = """<?xml version="1.0"?><openbox_config xmlns="http://openbox.org/3.4/rc">
@@ -120,7 +122,8 @@ class Session:
         with open(conf, "w") as f:
             f.write(_BUS_CONF % (addr_path, sdir))
         r, w = os.pipe()
-        self._spawn(["dbus-daemon", "--config-file=" + conf, "--nofork", "--nopidfile", "--print-address=%d" % w], pass_fds=(w,))
+        self._spawn(["dbus-daemon", "--config-file=" + conf, "--nofork", "--nopidfile", "--print-address=%d" % w],
+                    pass_fds=(w,))
         os.close(w)
         read_line(r, 10, "dbus-daemon")
         os.close(r)
@@ -143,24 +146,21 @@ class Session:
             self.tray_host = TrayHost(self.env["DBUS_SESSION_BUS_ADDRESS"])
 
     def _has_name(self, name):
-        return self.dbus().call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "NameHasOwner",
-                                     GLib.Variant("(s)", (name,)), None, 0, 5000, None).unpack()[0]
+        bus = "org.freedesktop.DBus"
+        return self.dbus().call_sync(bus, "/org/freedesktop/DBus", bus, "NameHasOwner", GLib.Variant("(s)", (name,)),
+                                     None, 0, 5000, None).unpack()[0]
 
     def _wait_name(self, name):
         wait_until(lambda: self._has_name(name), 15, 0.02, name)
 
     def dbus(self):
         if self._bus is None:
-            self._bus = Gio.DBusConnection.new_for_address_sync(
-                self.env["DBUS_SESSION_BUS_ADDRESS"],
-                Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-            self._bus.set_exit_on_close(False)
+            self._bus = connected_to(self.env["DBUS_SESSION_BUS_ADDRESS"])
         return self._bus
 
     def a11y(self):
         if self._a11y is None:
             self._a11y = A11y(self)
-            self._a11y.conn.set_exit_on_close(False)
         return self._a11y
 
     # programs
@@ -173,7 +173,8 @@ class Session:
 
     def run(self, argv, timeout=30, **kw):
         """Runs a tool inside the session: the CompletedProcess with text output."""
-        return subprocess.run(argv, env=self.env, timeout=timeout, text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, **kw)
+        return subprocess.run(argv, env=self.env, timeout=timeout, text=True, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, **kw)
 
     # input
     def key(self, *combos, delay=0.03):
@@ -188,7 +189,7 @@ class Session:
         self.x.type_text(text, delay_ms / 1000)
 
     def xdotool(self, *args, timeout=30):
-        """Runs xdotool in the session. Its `type` loses accented characters in Qt programs below a delay of about 100 ms."""
+        """Runs xdotool in the session. Its `type` loses accented characters in Qt programs: use type()."""
         return subprocess.run(["xdotool", *args], env=dict(self.env, LC_ALL="C.UTF-8"), timeout=timeout, text=True,
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT).stdout
 
@@ -264,11 +265,12 @@ class Session:
         return False
 
     def clipboard(self, selection="clipboard"):
-        p = subprocess.run(["xclip", "-o", "-selection", selection], env=self.env, timeout=5, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        p = subprocess.run(["xclip", "-o", "-selection", selection], env=self.env, timeout=5, stdout=subprocess.PIPE,
+                           stderr=subprocess.DEVNULL)
         return p.stdout.decode("utf-8", "replace") if p.returncode == 0 else None
 
     def set_clipboard(self, data, mime=None):
-        """Puts text on the clipboard, or bytes of a type: set_clipboard(png, "image/png"), set_clipboard("file:///a", "text/uri-list")."""
+        """Puts text on the clipboard, or bytes of a media type: set_clipboard(png, "image/png")."""
         subprocess.run(["xclip", "-i", "-selection", "clipboard"] + (["-t", mime] if mime else []),
                        input=data if isinstance(data, bytes) else data.encode(), env=self.env, timeout=5,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
@@ -359,6 +361,7 @@ class Session:
 
 def _generated():
     try:
-        return {l.split(".")[0].strip().lower() for l in subprocess.run(["locale", "-a"], stdout=subprocess.PIPE, text=True).stdout.split("\n")}
+        listed = subprocess.run(["locale", "-a"], stdout=subprocess.PIPE, text=True).stdout
+        return {line.split(".")[0].strip().lower() for line in listed.split("\n")}
     except OSError:
         return set()

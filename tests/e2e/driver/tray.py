@@ -7,8 +7,9 @@ gi.require_version("Gio", "2.0")
 gi.require_version("GLib", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
-from .waiting import DriverError
 from .a11y import PROPERTIES
+from .bus import connected_to
+from .waiting import DriverError
 
 
 _SNW_XML = """<node><interface name="org.kde.StatusNotifierWatcher">
@@ -36,15 +37,14 @@ class TrayHost:
     def _run(self):
         ctx = GLib.MainContext.new()
         ctx.push_thread_default()
-        self.conn = Gio.DBusConnection.new_for_address_sync(
-            self._address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        self.conn.set_exit_on_close(False)
+        self.conn = connected_to(self._address)
         info = Gio.DBusNodeInfo.new_for_xml(_SNW_XML).interfaces[0]
         self.conn.register_object("/StatusNotifierWatcher", info, self._method, self._prop, None)
         self.conn.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
                             GLib.Variant("(su)", ("org.kde.StatusNotifierWatcher", 4)), None, 0, 5000, None)
-        self.conn.signal_subscribe("org.freedesktop.DBus", "org.freedesktop.DBus", "NameOwnerChanged", "/org/freedesktop/DBus",
-                                   None, Gio.DBusSignalFlags.NONE, self._owner)
+        bus = "org.freedesktop.DBus"
+        self.conn.signal_subscribe(bus, bus, "NameOwnerChanged", "/org/freedesktop/DBus", None, Gio.DBusSignalFlags.NONE,
+                                   self._owner)
         self._loop = GLib.MainLoop.new(ctx, False)
         self._ready.set()
         self._loop.run()
@@ -89,7 +89,7 @@ class TrayItem:
         self._call(self.path, "org.kde.StatusNotifierItem", "Activate", GLib.Variant("(ii)", (0, 0)))
 
     def menu(self):
-        """Entries in order: dicts with id, label, enabled, visible, type, icon (PNG bytes or None), shortcut, toggle, children."""
+        """Entries in order: dicts with id, label, enabled, visible, type, icon (PNG or None), shortcut, toggle, children."""
         m = self.props().get("Menu")
         if not m or m == "/NO_DBUSMENU":
             return []

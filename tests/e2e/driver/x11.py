@@ -111,8 +111,9 @@ class Window:
         return (self.x, self.y, self.width, self.height)
 
     def __repr__(self):
-        return "<Window 0x%x %r pid=%s %dx%d+%d+%d%s%s>" % (self.id, self.title, self.pid, self.width, self.height, self.x, self.y,
-                                                          " override" if self.override else "", " " + "/".join(self.kinds) if self.kinds else "")
+        kinds = "".join(" " + kind for kind in (["override"] if self.override else []) + self.kinds)
+        return "<Window 0x%x %r pid=%s %dx%d+%d+%d%s>" % (self.id, self.title, self.pid, *self.rect[2:], *self.rect[:2],
+                                                          kinds)
 
 
 class XDisplay:
@@ -189,8 +190,8 @@ class XDisplay:
                     title = self.prop(win, "_NET_WM_NAME") or self.prop(win, "WM_NAME") or b""
                     kinds = [k for k in ("NORMAL", "DIALOG", "POPUP_MENU", "DROPDOWN_MENU", "TOOLTIP", "UTILITY", "DND")
                              if self.atom("_NET_WM_WINDOW_TYPE_" + k) in (self.prop(win, "_NET_WM_WINDOW_TYPE") or [])]
-                    out.append(Window(id=win, pid=wpid[0], title=title.decode("utf-8", "replace") if isinstance(title, bytes) else "",
-                                      x=x.value, y=y.value, width=a.width, height=a.height,
+                    title = title.decode("utf-8", "replace") if isinstance(title, bytes) else ""
+                    out.append(Window(id=win, pid=wpid[0], title=title, x=x.value, y=y.value, width=a.width, height=a.height,
                                       override=bool(a.override_redirect), kinds=kinds))
                 return
             if depth < 3:
@@ -269,7 +270,8 @@ class XDisplay:
         """Types any text. Characters that the layout lacks are put on spare keys first, all at once, since a program
         that reads the keyboard map late would lose characters if the map changed between two key presses."""
         codes = {"\n": 0xff0d, "\t": 0xff09, "\b": 0xff08, "\x1b": 0xff1b}
-        syms = [codes.get(c) or (ord(c) if 0x20 <= ord(c) < 0x7f or 0xa0 <= ord(c) < 0x100 else 0x1000000 | ord(c)) for c in text]
+        syms = [codes.get(c) or (ord(c) if 0x20 <= ord(c) < 0x7f or 0xa0 <= ord(c) < 0x100 else 0x1000000 | ord(c))
+                for c in text]
         at = 0
         shift = self.keycode("Shift_L")
         while at < len(syms):
