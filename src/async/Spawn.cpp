@@ -11,9 +11,10 @@ QCoro::Task<> runToItsEnd(QCoro::Task<> task)
 {
     try {
         co_await task;
-    } catch (
-        const Cancelled &) { // NOLINT(bugprone-empty-catch): called off, and nobody reports that
-    } catch (const OwnerGone &) { // NOLINT(bugprone-empty-catch): nobody is left to tell
+        // NOLINTBEGIN(bugprone-empty-catch): called off, or nobody is left to tell
+    } catch (const Cancelled &) {
+    } catch (const OwnerGone &) {
+        // NOLINTEND(bugprone-empty-catch)
     } catch (const std::exception &stray) {
 #ifndef QT_NO_DEBUG
         qWarning("A background task ended with a failure that nobody handles: %s", stray.what());

@@ -38,7 +38,8 @@ QString dueLabel(const QDate &day, const QDateTime &now, const UserCalendar &cal
 QString weekdayDayMonthAndTime(const QDateTime &date, const UserCalendar &calendar)
 {
     const QLocale &locale = calendar.locale;
-    const QString time = locale.toString(date.toTimeZone(calendar.zone).time(), QLocale::ShortFormat);
+    const QString time =
+        locale.toString(date.toTimeZone(calendar.zone).time(), QLocale::ShortFormat);
     const QString joint = locale.language() == QLocale::French ? u" à "_s : u", "_s;
     return weekdayDayAndMonth(calendar.day(date), locale) + joint + time;
 }
