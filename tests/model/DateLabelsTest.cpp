@@ -80,4 +80,12 @@ TEST(DueLabel, TodayEndsAtTheUsersMidnight)
               u"Aujourd'hui"_s);
 }
 
+TEST(WeekdayDayMonthAndTime, IsInTheUsersZoneAndLanguage)
+{
+    const QDateTime instant({2026, 10, 29}, {13, 32}, QTimeZone::utc());
+    EXPECT_EQ(weekdayDayMonthAndTime(instant, Samples::paris()), u"jeudi 29 octobre à 14:32"_s);
+    EXPECT_EQ(weekdayDayMonthAndTime(instant, Samples::newYork()),
+              u"Thursday, October 29, 9:32 AM"_s);
+}
+
 } // namespace
