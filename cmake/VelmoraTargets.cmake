@@ -33,7 +33,11 @@ function(velmora_qml_module name)
     # The full ahead-of-time compiler of Qt 6.4 turns a failed type lookup into an endless loop; bytecode does not.
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
     target_link_libraries(${name} PUBLIC Qt6::Qml ${ARG_DEPENDS} PRIVATE ${ARG_USES})
-    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    # The generated registration names headers without their folders.
+    foreach(source ${ARG_SOURCES})
+        cmake_path(GET source PARENT_PATH folder)
+        target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    endforeach()
     _velmora_common(${name})
     if(TARGET ${name}plugin)
         target_link_libraries(${name}plugin PRIVATE velmora_options)
