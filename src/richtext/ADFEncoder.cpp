@@ -1,0 +1,151 @@
+#include "richtext/ADFCoding.h"
+#include "richtext/ValidText.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+/// Appends JSON to a buffer.
+class Writer
+{
+public:
+    void write(const ADFNode &node)
+    {
+        m_json += "{\"type\":";
+        write(node.type);
+        member("text", node.text);
+        member("content", node.content);
+        member("marks", node.marks);
+        member("attrs", node.attrs);
+        member("version", node.version);
+        m_json += '}';
+    }
+
+    void write(const ADFMark &mark)
+    {
+        m_json += "{\"type\":";
+        write(mark.type);
+        member("attrs", mark.attrs);
+        m_json += '}';
+    }
+
+    void write(const JSONValue &value)
+    {
+        if (const auto *flag = value.asBool())
+            m_json += *flag ? "true" : "false";
+        else if (const auto *number = value.asNumber())
+            write(*number);
+        else if (const auto *text = value.asString())
+            write(*text);
+        else if (const auto *array = value.asArray())
+            write(*array);
+        else if (const auto *object = value.asObject())
+            write(*object);
+        else
+            m_json += "null";
+    }
+
+    QByteArray json() && { return std::move(m_json); }
+
+private:
+    template <typename T>
+    void member(const char *name, const std::optional<T> &value)
+    {
+        if (!value)
+            return;
+        m_json.append(",\"").append(name).append("\":");
+        write(*value);
+    }
+
+    template <typename T>
+    void write(const QList<T> &items)
+    {
+        m_json += '[';
+        for (const T &item : items) {
+            separate('[');
+            write(item);
+        }
+        m_json += ']';
+    }
+
+    void write(const ADFAttributes &object)
+    {
+        m_json += '{';
+        for (auto entry = object.cbegin(); entry != object.cend(); ++entry) {
+            separate('{');
+            write(entry.key());
+            m_json += ':';
+            write(entry.value());
+        }
+        m_json += '}';
+    }
+
+    void write(int number) { m_json += QByteArray::number(number); }
+
+    void write(double number)
+    {
+        // Every whole double below this bound is an exact 64-bit integer.
+        constexpr double exactBound = 9e18;
+        if (!std::isfinite(number))
+            m_json += "null";
+        else if (number == std::trunc(number) && std::abs(number) < exactBound)
+            m_json += QByteArray::number(qint64(number));
+        else
+            m_json += QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
+    }
+
+    void write(const QString &text)
+    {
+        m_json += '"';
+        for (const char byte : validUTF8(text))
+            escaped(byte);
+        m_json += '"';
+    }
+
+    void escaped(char byte)
+    {
+        constexpr std::string_view named = "\"\\\b\f\n\r\t";
+        constexpr std::string_view letters = "\"\\bfnrt";
+        if (const auto found = named.find(byte); found != std::string_view::npos)
+            m_json.append('\\').append(letters[found]);
+        else if (uchar(byte) < 0x20)
+            m_json.append("\\u00").append(QByteArray(1, byte).toHex());
+        else
+            m_json += byte;
+    }
+
+    void separate(char opening)
+    {
+        if (!m_json.endsWith(opening))
+            m_json += ',';
+    }
+
+    QByteArray m_json;
+};
+
+template <typename T>
+QByteArray encoded(const T &value)
+{
+    Writer writer;
+    writer.write(value);
+    return std::move(writer).json();
+}
+
+} // namespace
+
+QByteArray ADFCoding::encode(const ADFNode &node)
+{
+    return encoded(node);
+}
+
+QByteArray ADFCoding::encode(const JSONValue &value)
+{
+    return encoded(value);
+}
+
+JSONValue ADFCoding::jsonValueFrom(const ADFNode &node)
+{
+    return decodeValue(encode(node)).value_or(JSONValue());
+}

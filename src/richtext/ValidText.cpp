@@ -1,0 +1,31 @@
+#include "richtext/ValidText.h"
+
+#include <QString>
+
+namespace {
+
+bool isHalf(QStringView text, qsizetype at)
+{
+    const bool followsHigh = at > 0 && text[at - 1].isHighSurrogate();
+    const bool precedesLow = at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    return (text[at].isHighSurrogate() && !precedesLow) ||
+           (text[at].isLowSurrogate() && !followsHigh);
+}
+
+QString repaired(QStringView text)
+{
+    QString result = text.toString();
+    for (qsizetype i = 0; i < result.size(); ++i) {
+        if (isHalf(text, i))
+            result[i] = QChar::ReplacementCharacter;
+    }
+    return result;
+}
+
+} // namespace
+
+QByteArray validUTF8(QStringView text)
+{
+    // Qt writes a question mark for half a pair, which would read as the user's own.
+    return text.isValidUtf16() ? text.toUtf8() : repaired(text).toUtf8();
+}

@@ -1,0 +1,52 @@
+#include "richtext/markdown/BlockKinds.h"
+
+#include "richtext/markdown/BlankLine.h"
+#include "richtext/markdown/CodeFence.h"
+#include "richtext/markdown/Heading.h"
+#include "richtext/markdown/List.h"
+#include "richtext/markdown/Paragraph.h"
+#include "richtext/markdown/Quote.h"
+#include "richtext/markdown/Rule.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Markdown {
+
+namespace {
+
+/// One kind of block: which line begins it, and how it is read from there.
+struct BlockKind
+{
+    bool (*begins)(const Line &line);
+    QList<ADFNode> (*read)(LineCursor &lines, const BlockContext &context);
+};
+
+/// In order of precedence, which is part of the grammar: "- - -" is a list, "---" a rule.
+constexpr std::array kinds{
+    BlockKind{CodeFence::begins, CodeFence::read}, BlockKind{BlankLine::begins, BlankLine::read},
+    BlockKind{Heading::begins, Heading::read},     BlockKind{Rule::begins, Rule::read},
+    BlockKind{Quote::begins, Quote::read},         BlockKind{List::begins, List::read},
+};
+
+} // namespace
+
+bool beginsBlock(const Line &line)
+{
+    return std::ranges::any_of(kinds, [&](const BlockKind &kind) { return kind.begins(line); });
+}
+
+QList<ADFNode> parseBlocks(std::span<const QStringView> lines, const BlockContext &context)
+{
+    LineCursor cursor(lines);
+    QList<ADFNode> blocks;
+    while (!cursor.atEnd()) {
+        const auto kind = std::ranges::find_if(
+            kinds, [&](const BlockKind &each) { return each.begins(cursor.line()); });
+        blocks +=
+            kind == kinds.end() ? Paragraph::read(cursor, context) : kind->read(cursor, context);
+    }
+    return blocks;
+}
+
+} // namespace Markdown

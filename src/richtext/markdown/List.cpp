@@ -1,0 +1,77 @@
+#include "richtext/markdown/List.h"
+
+#include "richtext/ADFNodes.h"
+#include "richtext/markdown/InlineNodes.h"
+#include "richtext/markdown/ListLine.h"
+#include "richtext/markdown/TaskList.h"
+
+using namespace Qt::StringLiterals;
+
+namespace Markdown {
+
+namespace {
+
+using ListLines = std::span<const ListLine>;
+
+/// List items know no check box, so a task there shows its own.
+ADFNode listItem(const ListLine &line)
+{
+    QString text = line.text.toString();
+    if (line.isTask)
+        text.prepend(line.checked ? u"☑ "_s : u"☐ "_s);
+    return ADF::container(u"listItem", {ADF::container(u"paragraph", inlineNodes(text))});
+}
+
+ADFNode emptyList(const ListLine &first)
+{
+    ADFNode list = ADF::container(first.ordered ? u"orderedList" : u"bulletList", {});
+    if (first.ordered && first.number != 1)
+        list.attrs = ADFAttributes{{u"order"_s, first.number}};
+    return list;
+}
+
+/// Makes the list at the front of `lines`, with those nested in it, and takes its lines away. It ends before a smaller
+/// indent, and before another kind of marker at its own.
+ADFNode buildList(ListLines &lines, int depth)
+{
+    const ListLine &first = lines.front();
+    ADFNode list = emptyList(first);
+    while (!lines.empty() && lines.front().indent >= first.indent) {
+        const ListLine &line = lines.front();
+        if (line.indent > first.indent && depth < ADFMarkdown::maximumListDepth) {
+            list.content->last().content->append(buildList(lines, depth + 1));
+            continue;
+        }
+        if (line.ordered != first.ordered)
+            break;
+        list.content->append(listItem(line));
+        lines = lines.subspan(1);
+    }
+    return list;
+}
+
+} // namespace
+
+bool List::begins(const Line &line)
+{
+    return parseListLine(line.whole).has_value();
+}
+
+QList<ADFNode> List::read(LineCursor &lines, const BlockContext &context)
+{
+    std::vector<ListLine> taken;
+    while (!lines.atEnd()) {
+        const auto line = parseListLine(lines.line().whole);
+        if (!line)
+            break;
+        taken.push_back(*line);
+        lines.take();
+    }
+    QList<ADFNode> lists;
+    for (ListLines rest(taken); !rest.empty();)
+        lists.append(rest.front().beginsTaskList() ? TaskList::build(rest, context)
+                                                   : buildList(rest, 1));
+    return lists;
+}
+
+} // namespace Markdown

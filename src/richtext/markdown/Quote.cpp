@@ -1,0 +1,40 @@
+#include "richtext/markdown/Quote.h"
+
+#include "richtext/ADFNodes.h"
+#include "richtext/markdown/BlockKinds.h"
+
+namespace {
+
+bool isAdmitted(const ADFNode &block)
+{
+    return block.type == u"paragraph" || block.type == u"bulletList" ||
+           block.type == u"orderedList" || block.type == u"codeBlock";
+}
+
+/// What stands behind the ">" and the one space that may follow it.
+QStringView unquoted(QStringView line)
+{
+    line = line.sliced(1);
+    return line.startsWith(u' ') ? line.sliced(1) : line;
+}
+
+} // namespace
+
+bool Markdown::Quote::begins(const Line &line)
+{
+    return line.trimmed.startsWith(u'>');
+}
+
+QList<ADFNode> Markdown::Quote::read(LineCursor &lines, const BlockContext &context)
+{
+    std::vector<QStringView> inner;
+    while (!lines.atEnd() && begins(lines.line()))
+        inner.push_back(unquoted(lines.take().trimmed));
+    if (context.insideQuote)
+        return {};
+    QList<ADFNode> blocks = parseBlocks(inner, BlockContext{context.localID, true});
+    blocks.removeIf([](const ADFNode &block) { return !isAdmitted(block); });
+    if (blocks.isEmpty())
+        return {};
+    return {ADF::container(u"blockquote", std::move(blocks))};
+}

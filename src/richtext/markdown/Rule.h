@@ -1,0 +1,12 @@
+#pragma once
+
+#include "richtext/markdown/BlockContext.h"
+#include "richtext/markdown/LineCursor.h"
+
+/// Exactly "---", "***" or "___".
+namespace Markdown::Rule {
+
+bool begins(const Line &line);
+QList<ADFNode> read(LineCursor &lines, const BlockContext &context);
+
+} // namespace Markdown::Rule

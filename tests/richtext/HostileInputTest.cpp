@@ -1,0 +1,199 @@
+#include "richtext/ADFCoding.h"
+#include "richtext/ADFMarkdown.h"
+#include "richtext/ADFMentions.h"
+#include "richtext/ADFNodes.h"
+#include "richtext/ADFQueries.h"
+
+#include <ctime>
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Work = std::function<void(const QString &)>;
+
+/// Processor time of this thread, which does not count what other programs do.
+double processorSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
+}
+
+double seconds(const Work &work, const QString &text)
+{
+    double best = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < 2; ++i) {
+        const double start = processorSeconds();
+        work(text);
+        best = std::min(best, processorSeconds() - start);
+    }
+    return best;
+}
+
+/// Four times the text takes four times the time in linear work, sixteen times in quadratic work; the bound stands
+/// between the two. A measurement that caches or the allocator spoiled is made again.
+void expectLinear(const Work &work, const std::function<QString(qsizetype)> &textOf, qsizetype size)
+{
+    constexpr double bound = 8;
+    constexpr double measurable = 0.0005;
+    double ratio = 0;
+    for (int attempt = 0; attempt < 4; ++attempt) {
+        const double once = seconds(work, textOf(size));
+        ratio = seconds(work, textOf(4 * size)) / std::max(once, measurable);
+        if (ratio < bound)
+            return;
+    }
+    ADD_FAILURE() << "four times the text takes " << ratio << " times as long";
+}
+
+void parse(const QString &text)
+{
+    ADFMarkdown::document(text);
+}
+
+QString repeated(const QString &unit, qsizetype size)
+{
+    return unit.repeated(size / unit.size());
+}
+
+class HostileLine : public testing::TestWithParam<QString>
+{
+};
+
+TEST_P(HostileLine, TakesLinearTime)
+{
+    expectLinear(
+        parse, [](qsizetype size) { return u"a "_s + repeated(GetParam(), size); }, 60'000);
+}
+
+TEST_P(HostileLine, TakesLinearTimeAtTheStartOfALine)
+{
+    expectLinear(parse, [](qsizetype size) { return repeated(GetParam(), size); }, 60'000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Markdown, HostileLine,
+                         testing::Values(u"*"_s, u"_"_s, u"**"_s, u"***"_s, u"["_s, u"]"_s, u">"_s,
+                                         u"> "_s, u"`"_s, u"~"_s, u"~~"_s, u"<"_s, u"!["_s, u"]("_s,
+                                         u"[]("_s, u"*a_"_s, u"_a*"_s, u"*a **"_s, u"**a *a "_s,
+                                         u"a**b"_s, u"a*_"_s, u"[a](b"_s, u"[a](<b"_s, u"[a](("_s,
+                                         u"[a](b \""_s, u"[a](b)"_s, u"[[a](b)]"_s, u"`a``"_s,
+                                         u"`\\"_s, u"<a "_s, u"<a b=\""_s, u"</a "_s, u"<!--"_s,
+                                         u"<?"_s, u"<!A "_s, u"<![CDATA["_s, u"<a:"_s, u"a@b"_s,
+                                         u"&"_s, u"&amp"_s, u"&amp;"_s, u"\\"_s, u"\\~"_s, u"~ "_s,
+                                         u"~~a"_s, u"a~~*"_s, u"{"_s, u"\r"_s, u"#"_s, u"- "_s,
+                                         u"-"_s, u"1. "_s, u"9"_s, u" "_s, u"\t"_s, u"é*"_s,
+                                         u"🚀_"_s, u"*[**["_s, u"mot "_s));
+
+class HostileLines : public testing::TestWithParam<QString>
+{
+};
+
+TEST_P(HostileLines, TakeLinearTime)
+{
+    expectLinear(parse, [](qsizetype size) { return repeated(GetParam() + u'\n', size); }, 50'000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Markdown, HostileLines,
+                         testing::Values(u""_s, u"a"_s, u"> "_s, u"> a"_s, u"> > > >"_s, u"- a"_s,
+                                         u"- [x] a"_s, u"- a\n1. b"_s, u"- a\n  - b\n    - c"_s,
+                                         u"# a"_s, u"```"_s, u"---"_s, u"*a* `b` [c](d)"_s,
+                                         u"[a]: b"_s, u"<div>"_s, u"a\n\nb"_s, u"\r"_s));
+
+TEST(HostileInput, GrowingIndentationTakesLinearTime)
+{
+    const auto stairs = [](qsizetype size) {
+        QString text;
+        for (int indent = 0; text.size() < size; ++indent)
+            text += QString(indent, u' ') + u"- a\n"_s;
+        return text;
+    };
+    expectLinear(parse, stairs, 100'000);
+}
+
+TEST(HostileInput, SawtoothIndentationTakesLinearTime)
+{
+    const auto teeth = [](qsizetype size) {
+        QString text;
+        for (int line = 0; text.size() < size; ++line)
+            text += QString((line * 37) % 150, u' ') + (line % 3 ? u"- a\n"_s : u"1. a\n"_s);
+        return text;
+    };
+    expectLinear(parse, teeth, 100'000);
+}
+
+TEST(HostileInput, GrowingBacktickRunsTakeLinearTime)
+{
+    const auto runs = [](qsizetype size) {
+        QString text;
+        for (int length = 1; text.size() < size; ++length)
+            text += QString(length, u'`') + u"a"_s;
+        return text;
+    };
+    expectLinear(parse, runs, 100'000);
+}
+
+TEST(HostileInput, DeeplyNestedLinksTakeLinearTime)
+{
+    const auto links = [](qsizetype size) {
+        return repeated(u"["_s, size / 4) + repeated(u"](a)"_s, size);
+    };
+    expectLinear(parse, links, 50'000);
+}
+
+TEST(HostileInput, DeeplyNestedImagesAndEmphasisDoNotOverflow)
+{
+    for (const QString &opening : {u"!["_s, u"*a "_s, u"**a "_s, u"[a "_s}) {
+        const QString closing =
+            opening.startsWith(u'*') ? opening.trimmed().chopped(2) + u" b*"_s : u"](c)"_s;
+        EXPECT_FALSE(
+            ADFMarkdown::inlineNodes(opening.repeated(50'000) + u"mot"_s + closing.repeated(50'000))
+                .isEmpty());
+    }
+}
+
+TEST(HostileInput, NestedQuotesDoNotOverflow)
+{
+    EXPECT_TRUE(ADFMarkdown::document(QString(1'000'000, u'>')).content->isEmpty());
+    EXPECT_TRUE(ADFMarkdown::document(u"> "_s.repeated(500'000)).content->isEmpty());
+}
+
+TEST(HostileInput, DeepestDocumentOfMarkdownReadsBack)
+{
+    QString text = u"a\n"_s;
+    for (int indent = 0; indent < 2000; ++indent)
+        text += QString(indent, u' ') + u"- a\n"_s;
+    const ADFNode document = ADFMarkdown::document(text);
+    EXPECT_EQ(ADFCoding::decodeNode(ADFCoding::encode(document)).value(), document);
+    EXPECT_NE(ADFCoding::jsonValueFrom(document), JSONValue());
+}
+
+TEST(HostileInput, MentionsTakeLinearTime)
+{
+    JiraUser user;
+    user.name = u"Ann"_s;
+    const Work link = [&](const QString &text) {
+        ADF::linkingMentions(ADF::container(u"p", {ADF::text(text)}), {user});
+    };
+    for (const QString &unit : {u"@"_s, u"@Ann "_s, u"@Ann"_s, u"@Anna "_s, u"a"_s})
+        expectLinear(link, [&](qsizetype size) { return repeated(unit, size); }, 50'000);
+}
+
+TEST(HostileInput, PlainTextTakesLinearTime)
+{
+    const Work read = [](const QString &text) { ADF::plainText(ADFMarkdown::document(text)); };
+    expectLinear(read, [](qsizetype size) { return repeated(u"*a* b\n- c\n"_s, size); }, 50'000);
+}
+
+TEST(HostileInput, CodingTakesLinearTime)
+{
+    const Work code = [](const QString &text) {
+        ADFCoding::decodeNode(ADFCoding::encode(ADF::document({ADF::text(text)}))).value();
+    };
+    for (const QString &unit : {u"a"_s, u"\""_s, u"é"_s, u"\u0001"_s})
+        expectLinear(code, [&](qsizetype size) { return repeated(unit, size); }, 100'000);
+}
+
+} // namespace
