@@ -1,0 +1,76 @@
+#include "state/IssueDerivationSearch.h"
+
+#include "model/TextFolding.h"
+
+#include <cstring>
+
+namespace {
+
+/// Stands behind each text. Never part of UTF-8, so no needle can reach over the end of a text.
+constexpr char endOfText = '\xff';
+
+QString assigneeName(const Issue &issue)
+{
+    return issue.assignee ? issue.assignee->name : QString();
+}
+
+void appendText(QByteArray &texts, const QString &text)
+{
+    texts += folded(text).toUtf8();
+    texts += endOfText;
+}
+
+} // namespace
+
+QByteArray SearchTexts::needle(const QString &filterText)
+{
+    return folded(filterText.trimmed()).toUtf8();
+}
+
+bool SearchTexts::sameTexts(const Issue &a, const Issue &b)
+{
+    return a.key == b.key && a.summary == b.summary && a.labels == b.labels &&
+           assigneeName(a) == assigneeName(b);
+}
+
+void SearchTexts::reserve(qsizetype issues, qsizetype bytes)
+{
+    m_ends.reserve(issues);
+    m_texts.reserve(bytes);
+}
+
+void SearchTexts::append(const Issue &issue)
+{
+    appendText(m_texts, issue.key);
+    appendText(m_texts, issue.summary);
+    for (const auto &label : issue.labels)
+        appendText(m_texts, label);
+    appendText(m_texts, assigneeName(issue));
+    m_ends.push_back(m_texts.size());
+}
+
+void SearchTexts::append(const SearchTexts &other, qsizetype row)
+{
+    const auto start = row == 0 ? 0 : other.m_ends[row - 1];
+    m_texts.append(other.m_texts.constData() + start, other.m_ends[row] - start);
+    m_ends.push_back(m_texts.size());
+}
+
+std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
+{
+    std::vector<quint8> hits(m_ends.size(), needle.isEmpty() ? 1 : 0);
+    if (needle.isEmpty())
+        return hits;
+    const char *const begin = m_texts.constData();
+    const char *const end = begin + m_texts.size();
+    const char *at = begin;
+    std::size_t row = 0;
+    while (
+        (at = static_cast<const char *>(memmem(at, end - at, needle.constData(), needle.size())))) {
+        while (m_ends[row] <= at - begin)
+            ++row;
+        hits[row] = 1;
+        at = begin + m_ends[row];
+    }
+    return hits;
+}
