@@ -1,6 +1,7 @@
 pragma Singleton
 import QtQuick
 import Velmora.Model
+import Velmora.Theme
 
 /// Colours by role. The composition root writes `dark` and `accentChoice`; everything else follows.
 QtObject {
@@ -85,7 +86,7 @@ QtObject {
     /// Links, mentions, text buttons.
     readonly property color accentText: dark ? IdentityPalette.accentTextOnDark(accentChoice)
                                              : IdentityPalette.accentTextOnLight(accentChoice)
-    readonly property color onAccent: "#FFFFFF"
+    readonly property color textOnAccent: "#FFFFFF"
     /// A finished status: the accent, on purpose.
     readonly property color done: accent
 

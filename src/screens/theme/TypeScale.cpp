@@ -1,5 +1,6 @@
 #include "screens/theme/TypeScale.h"
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -93,6 +94,12 @@ QFont TypeScale::font(Role role, int weight, bool tabular) const
 qreal TypeScale::lineHeight(Role role) const
 {
     return styles[role].line;
+}
+
+qreal TypeScale::halfLeading(Role role) const
+{
+    // Qt Quick gives a line the whole number of pixels above its font's height.
+    return (styles[role].line - std::ceil(QFontMetricsF(fontOf(role)).height())) / 2;
 }
 
 QFont TypeScale::fontOf(Role role)

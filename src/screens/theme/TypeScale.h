@@ -40,6 +40,9 @@ public:
     /// The distance of two lines, in logical pixels.
     Q_INVOKABLE qreal lineHeight(TypeScale::Role role) const;
 
+    /// What a line's text leaves free above and below it in its line height, in logical pixels.
+    Q_INVOKABLE qreal halfLeading(TypeScale::Role role) const;
+
     /// The font of a role as it stands in the scale, for C++.
     static QFont fontOf(Role role);
     /// A font of the text family at a size in logical pixels, which may be fractional.

@@ -1,0 +1,35 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// What lies under a button's label: nothing, glass or the accent, with the fills of hover and press over it.
+Rectangle {
+    id: surface
+
+    required property real corner
+    property bool floating: false
+    property bool prominent: false
+    property bool hovered: false
+    property bool pressed: false
+
+    radius: corner
+    color: prominent ? Theme.accentFill : floating ? Theme.glass : "transparent"
+
+    GlassFrame {
+        anchors.fill: parent
+        visible: surface.floating || surface.prominent
+        dark: Theme.dark
+        accent: Theme.accent
+        radius: surface.corner
+        shadow: surface.prominent ? "prominent" : "capsule"
+        hairline: surface.prominent ? "transparent" : Theme.hairline
+        edgeLight: surface.prominent ? "#47FFFFFF" : Theme.edgeLight
+    }
+
+    HoverFill {
+        radius: surface.corner
+        shown: surface.hovered
+        fill: surface.prominent ? (surface.pressed ? "#1F000000" : "#14FFFFFF")
+            : surface.pressed ? Theme.ink(0.12) : Theme.ink(surface.floating ? 0.05 : 0.08)
+    }
+}

@@ -1,0 +1,10 @@
+import QtQuick
+import Velmora.Theme
+
+/// Glass with round ends, for toolbar groups, chips and badges. Children are laid in it by their anchors.
+GlassPanel {
+    implicitHeight: Metrics.capsuleHeight
+    radius: height / 2
+    shadow: "capsule"
+    color: Theme.glass
+}

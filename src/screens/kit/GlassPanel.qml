@@ -1,0 +1,27 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// A floating surface: fill, hairline, light upper edge and shadow. Panes take `shadow: "pane"`, popovers "popover" with
+/// `Theme.elevatedGlass`, sheets "sheet" with `Theme.elevated`, toasts and bars "bar" with `Theme.glassStrong`.
+Rectangle {
+    id: panel
+
+    property string shadow: "pane"
+    property alias hairline: frame.hairline
+    property alias edgeLight: frame.edgeLight
+
+    color: Theme.pane
+    radius: Metrics.radiusPane
+
+    GlassFrame {
+        id: frame
+
+        anchors.fill: parent
+        radius: panel.radius
+        dark: Theme.dark
+        hairline: Theme.hairline
+        edgeLight: Theme.edgeLight
+        shadow: panel.shadow
+    }
+}

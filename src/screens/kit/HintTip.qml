@@ -1,0 +1,18 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+
+/// The hint of the item it is declared in. It is made when first wanted, shows after a moment, and at once when another
+/// hint was just shown.
+Loader {
+    id: hint
+
+    property bool shown: false
+    property string text
+
+    active: shown && text.length > 0
+
+    sourceComponent: HintBubble {
+        owner: hint.parent
+        text: hint.text
+    }
+}

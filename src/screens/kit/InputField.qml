@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Theme
+
+/// A text field of one line. `name` is what screen readers call it; the placeholder is what it shows while empty.
+T.TextField {
+    id: field
+
+    required property string name
+    property real corner: Metrics.radiusRow
+    property bool glass: false
+    property int role: TypeScale.Body
+
+    implicitWidth: 190
+    implicitHeight: Metrics.fieldHeight
+    leftPadding: 10
+    rightPadding: 10
+    topPadding: 0
+    bottomPadding: 0
+    verticalAlignment: TextInput.AlignVCenter
+    font: TypeScale.font(role)
+    color: enabled ? Theme.text1 : Theme.text4
+    selectionColor: Theme.textSelection
+    selectedTextColor: Theme.text1
+    selectByMouse: true
+    hoverEnabled: true
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+
+    cursorDelegate: TextCaret {
+        shown: field.activeFocus && field.selectionStart === field.selectionEnd
+    }
+
+    background: FieldSurface {
+        corner: field.corner
+        glass: field.glass
+        focused: field.activeFocus
+    }
+
+    AppText {
+        x: field.leftPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height
+        verticalAlignment: Text.AlignVCenter
+        visible: field.length === 0 && field.preeditText.length === 0
+        text: field.placeholderText
+        role: field.role
+        color: Theme.text3
+        Accessible.ignored: true
+    }
+}

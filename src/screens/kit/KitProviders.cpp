@@ -1,0 +1,15 @@
+#include "screens/kit/KitProviders.h"
+
+#include "screens/kit/providers/IconProvider.h"
+#include "screens/kit/providers/SymbolProvider.h"
+
+#include <QQmlEngine>
+
+using namespace Qt::StringLiterals;
+
+void registerKitProviders(QQmlEngine &engine)
+{
+    // The engine takes each of them over.
+    engine.addImageProvider(u"symbol"_s, std::make_unique<SymbolProvider>().release());
+    engine.addImageProvider(u"icon"_s, std::make_unique<IconProvider>().release());
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+class QQmlEngine;
+
+/// Gives an engine the image providers on which the kit's components draw: symbol and icon. Call it once per engine,
+/// before the first file is loaded.
+void registerKitProviders(QQmlEngine &engine);

@@ -1,0 +1,15 @@
+import QtQuick
+import Velmora.Model
+import Velmora.Theme
+import Velmora.Kit
+
+/// The bars of a priority (`Model.PriorityLevel`). `tint` colours bars and dashes, not the urgent one.
+DrawnIcon {
+    required property int level
+    property real size: 14
+    property color tint: level === Model.PriorityLevel.None ? Theme.neutral : Theme.text1
+
+    side: size
+    source: Pictures.priority(level, size, tint)
+    Accessible.name: Pictures.priorityName(level)
+}

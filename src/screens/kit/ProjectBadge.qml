@@ -1,0 +1,13 @@
+import QtQuick
+import Velmora.Model
+import Velmora.Kit
+
+/// The coloured square with a project's letter.
+DrawnIcon {
+    required property project project
+    property real size: 16
+
+    side: size
+    source: Pictures.project(project, size)
+    Accessible.name: project.name
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// The sign of waiting: eight blades that turn a step at a time, only while they are seen.
+Image {
+    id: spinner
+
+    property real size: 14
+    property color color: Theme.text2
+
+    width: size
+    height: size
+    sourceSize.width: Math.ceil(size)
+    sourceSize.height: Math.ceil(size)
+    source: Pictures.spinner(size, color)
+    Accessible.role: Accessible.Animation
+    Accessible.name: "Chargement…"
+
+    Timer {
+        running: spinner.visible && spinner.Window.visibility !== Window.Hidden
+        interval: 100
+        repeat: true
+        onTriggered: spinner.rotation = (spinner.rotation + 45) % 360
+    }
+}

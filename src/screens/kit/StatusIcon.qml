@@ -1,0 +1,14 @@
+import QtQuick
+import Velmora.Model
+import Velmora.Theme
+import Velmora.Kit
+
+/// The disc of a status, which fills as work advances.
+DrawnIcon {
+    required property issueStatus status
+    property real size: 14
+
+    side: size
+    source: Pictures.status(status, size, Theme.done)
+    Accessible.name: status.displayName
+}

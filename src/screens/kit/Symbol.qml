@@ -1,0 +1,33 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// A symbol by its name in assets/symbols.tsv. `size` is the font size it stands beside: its square is 1.15 times that.
+/// `weight` is regular, medium, semibold, bold or heavy. It says nothing to screen readers unless `meaning` is given.
+Item {
+    id: symbol
+
+    required property string name
+    property real size: 13
+    property string weight: "regular"
+    property color color: Theme.text1
+    property string meaning
+    readonly property int side: Pictures.symbolSide(size)
+    readonly property int border: Pictures.symbolBorder(side)
+
+    implicitWidth: side
+    implicitHeight: side
+    Accessible.role: Accessible.Graphic
+    Accessible.name: meaning
+    Accessible.ignored: meaning.length === 0
+
+    Image {
+        anchors.centerIn: parent
+        width: symbol.side + 2 * symbol.border
+        height: width
+        sourceSize.width: width
+        sourceSize.height: height
+        source: symbol.name.length > 0
+                ? Pictures.symbol(symbol.name, symbol.size, symbol.weight, symbol.color) : ""
+    }
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import Velmora.Theme
+
+/// The caret of a text field, 1.5 wide in the accent, blinking at the desktop's pace.
+Rectangle {
+    id: caret
+
+    required property bool shown
+
+    implicitWidth: 1.5
+    radius: 0.75
+    color: Theme.accent
+    visible: shown && blink.lit
+
+    Timer {
+        id: blink
+
+        property bool lit: true
+
+        running: caret.shown && interval > 0
+        interval: Application.styleHints.cursorFlashTime / 2
+        repeat: true
+        onTriggered: lit = !lit
+        onRunningChanged: lit = true
+    }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import Velmora.Model
+import Velmora.Kit
+
+/// The symbol of an issue type at font size `size`, in a square of `size` + 2. Its name is its hint.
+Item {
+    id: icon
+
+    required property issueType type
+    property real size: 11
+    readonly property int border: Pictures.symbolBorder(Pictures.symbolSide(size))
+
+    implicitWidth: size + 2
+    implicitHeight: size + 2
+    Accessible.role: Accessible.Graphic
+    Accessible.name: type.name
+
+    // Large ones are wider than their square.
+    DrawnIcon {
+        anchors.centerIn: parent
+        side: icon.size + 2 + 2 * icon.border
+        source: Pictures.type(icon.type, icon.size)
+        Accessible.ignored: true
+    }
+
+    HoverHandler {
+        id: pointer
+    }
+
+    HintTip {
+        shown: pointer.hovered
+        text: icon.type.name
+    }
+}

@@ -1,0 +1,12 @@
+import QtQuick
+
+/// A square picture of an image provider, drawn for the device pixels it covers. `side` is in logical pixels.
+Image {
+    required property real side
+
+    width: side
+    height: side
+    sourceSize.width: Math.ceil(side)
+    sourceSize.height: Math.ceil(side)
+    Accessible.role: Accessible.Graphic
+}

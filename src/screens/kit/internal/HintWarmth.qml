@@ -1,0 +1,9 @@
+pragma Singleton
+import QtQuick
+
+/// Remembers for a moment that a hint was shown, so that the next one need not wait.
+Timer {
+    readonly property bool warm: running
+
+    interval: 500
+}

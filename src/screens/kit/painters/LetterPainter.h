@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+class QPainter;
+
+/// How large and heavy letters on a badge are; the size is in logical pixels.
+struct LetterStyle
+{
+    qreal pixels = 0;
+    QFont::Weight weight = QFont::Normal;
+};
+
+/// Draws white letters as outlines, centred by their capital height in the square from (0, 0) to (size, size).
+void paintLetters(QPainter &painter, const QString &letters, const LetterStyle &style, qreal size);
