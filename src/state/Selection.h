@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+
+#include <optional>
+
+/// Where the user is, for all layouts at once. Issues are meant by their keys.
+struct Selection
+{
+    /// The issue with the keyboard's focus.
+    std::optional<QString> focusedKey;
+    /// The multi-selection.
+    QSet<QString> checked;
+    /// The issue open in the side inspector.
+    std::optional<QString> inspectorKey;
+
+    bool operator==(const Selection &) const = default;
+};
