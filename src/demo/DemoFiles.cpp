@@ -26,9 +26,10 @@ QString reason(const QFileInfo &source)
     return u"l'écriture a échoué."_s;
 }
 
-[[noreturn]] void failToCopy(const QFileInfo &source)
+[[noreturn]] void failToCopy(const QUrl &file)
 {
-    throw Failure(u"Impossible de copier « "_s + source.fileName() + u" » : "_s + reason(source));
+    throw Failure(u"Impossible de copier « "_s + file.fileName() + u" » : "_s +
+                  reason(QFileInfo(file.toLocalFile())));
 }
 
 /// The media type that the extension declares; a name without one is never guessed at.
@@ -54,8 +55,8 @@ QUrl store(const QUrl &file, const QString &folder, const QString &id)
     const QFileInfo source(file.toLocalFile());
     const QDir target(folder + u'/' + id);
     const QString copy = target.filePath(source.fileName());
-    if (!target.mkpath(u"."_s) || !QFile::copy(source.filePath(), copy))
-        failToCopy(source);
+    if (!source.isFile() || !target.mkpath(u"."_s) || !QFile::copy(source.filePath(), copy))
+        failToCopy(file);
     return QUrl::fromLocalFile(copy);
 }
 
