@@ -1,0 +1,203 @@
+#include "state/models/IssueListModel.h"
+
+#include "model/DateLabels.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<int> headerRows(const QList<IssueListRow> &rows)
+{
+    std::vector<int> headers;
+    for (int row = 0; row < int(rows.size()); ++row) {
+        if (rows[row].header())
+            headers.push_back(row);
+    }
+    return headers;
+}
+
+} // namespace
+
+IssueListModel::IssueListModel(UserCalendar calendar, QDateTime now, QObject *parent)
+    : KeyedListModel(parent), m_calendar(std::move(calendar)), m_now(std::move(now))
+{
+}
+
+void IssueListModel::setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed)
+{
+    auto rows = issueListRows(groups, collapsed);
+    m_headerRows = headerRows(rows);
+    update(std::move(rows));
+    ++m_revision;
+    Q_EMIT updated();
+}
+
+void IssueListModel::setFocusedKey(const QString &key)
+{
+    moveMark(m_focusedKey, key, IsFocusedRole);
+}
+
+void IssueListModel::setOpenKey(const QString &key)
+{
+    moveMark(m_openKey, key, IsOpenRole);
+}
+
+void IssueListModel::moveMark(QString &mark, const QString &key, Role role)
+{
+    if (mark == key)
+        return;
+    const auto before = rowOf(std::exchange(mark, key));
+    const auto after = rowOf(key);
+    for (const auto row : {before, after}) {
+        if (row)
+            notifyChanged({*row}, {role});
+    }
+}
+
+void IssueListModel::setCheckedKeys(const QSet<QString> &keys)
+{
+    const auto before = std::exchange(m_checkedKeys, keys);
+    std::vector<int> rows;
+    const auto collect = [&rows, this](const QSet<QString> &some, const QSet<QString> &others) {
+        for (const auto &key : some) {
+            if (const auto row = others.contains(key) ? std::nullopt : rowOf(key))
+                rows.push_back(*row);
+        }
+    };
+    collect(before, keys);
+    collect(keys, before);
+    std::sort(rows.begin(), rows.end());
+    notifyChanged(rows, {IsCheckedRole});
+}
+
+void IssueListModel::setNow(const QDateTime &now)
+{
+    if (m_now == now)
+        return;
+    m_now = now;
+    if (!rows().isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                           {UpdatedTextRole, DueTextRole, IsOverdueRole});
+}
+
+int IssueListModel::headerRowOf(int row) const
+{
+    const auto after = std::upper_bound(m_headerRows.begin(), m_headerRows.end(), row);
+    return row >= rowCount() || after == m_headerRows.begin() ? -1 : *std::prev(after);
+}
+
+int IssueListModel::headerRowAfter(int row) const
+{
+    const auto after = std::upper_bound(m_headerRows.begin(), m_headerRows.end(), row);
+    return after == m_headerRows.end() ? -1 : *after;
+}
+
+IssueListHeader IssueListModel::headerAt(int row) const
+{
+    const auto *header = row >= 0 && row < rowCount() ? rows()[row].header() : nullptr;
+    return header ? *header : IssueListHeader();
+}
+
+int IssueListModel::rowOfKey(const QString &key) const
+{
+    const auto row = rowOf(key);
+    return row && rows()[*row].issue() ? *row : -1;
+}
+
+QString IssueListModel::keyAt(int row) const
+{
+    return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key : QString();
+}
+
+QVariant IssueListModel::data(const QModelIndex &index, int role) const
+{
+    Q_ASSERT(checkIndex(index, CheckIndexOption::IndexIsValid));
+    const auto &row = rows()[index.row()];
+    if (role == KeyRole)
+        return row.key;
+    return row.issue() ? issueRoleData(*row.issue(), role) : groupData(*row.header(), role);
+}
+
+QVariant IssueListModel::issueRoleData(const Issue &issue, int role) const
+{
+    switch (role) {
+    case KindRole:
+        return QVariant::fromValue(IssueListEnums::RowKind::Issue);
+    case Qt::DisplayRole:
+        return issue.summary;
+    case IssueRole:
+        return QVariant::fromValue(issue);
+    case HeaderRole:
+        return QVariant::fromValue(IssueListHeader());
+    case IsFocusedRole:
+        return issue.key == m_focusedKey;
+    case IsCheckedRole:
+        return m_checkedKeys.contains(issue.key);
+    case IsOpenRole:
+        return issue.key == m_openKey;
+    case UpdatedTextRole:
+        return compactRelative(issue.updated, m_now, m_calendar);
+    case DueTextRole:
+        return issue.dueDate ? dueLabel(*issue.dueDate, m_now, m_calendar) : QString();
+    case IsOverdueRole:
+        return isOverdue(issue);
+    case DueTooltipRole:
+        return issue.dueDate ? dueTooltip(*issue.dueDate) : QString();
+    case AccessibleNameRole:
+        return accessibleSentence(issue);
+    }
+    return {};
+}
+
+QVariant IssueListModel::groupData(const IssueListHeader &header, int role) const
+{
+    switch (role) {
+    case KindRole:
+        return QVariant::fromValue(IssueListEnums::RowKind::Header);
+    case Qt::DisplayRole:
+        return header.title;
+    case IssueRole:
+        return QVariant::fromValue(Issue());
+    case HeaderRole:
+        return QVariant::fromValue(header);
+    case AccessibleNameRole:
+        return header.accessibleName();
+    case IsFocusedRole:
+    case IsCheckedRole:
+    case IsOpenRole:
+    case IsOverdueRole:
+        return false;
+    case UpdatedTextRole:
+    case DueTextRole:
+    case DueTooltipRole:
+        return QString();
+    }
+    return {};
+}
+
+QString IssueListModel::dueTooltip(const QDate &day) const
+{
+    return u"Échéance : "_s + dayMonthAndYear(day, m_calendar.locale);
+}
+
+bool IssueListModel::isOverdue(const Issue &issue) const
+{
+    return issue.dueDate && *issue.dueDate < m_calendar.day(m_now) &&
+           !isClosed(issue.status.category());
+}
+
+QHash<int, QByteArray> IssueListModel::roleNames() const
+{
+    return {{KindRole, "kind"},
+            {KeyRole, "key"},
+            {IssueRole, "issue"},
+            {HeaderRole, "header"},
+            {IsFocusedRole, "isFocused"},
+            {IsCheckedRole, "isChecked"},
+            {IsOpenRole, "isOpen"},
+            {UpdatedTextRole, "updatedText"},
+            {DueTextRole, "dueText"},
+            {IsOverdueRole, "isOverdue"},
+            {DueTooltipRole, "dueTooltip"},
+            {AccessibleNameRole, "accessibleName"}};
+}

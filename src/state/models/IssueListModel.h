@@ -1,0 +1,92 @@
+#pragma once
+
+#include "model/UserCalendar.h"
+#include "state/models/IssueListRow.h"
+#include "state/models/KeyedListModel.h"
+
+#include <QSet>
+#include <QtQml/qqmlregistration.h>
+
+/// The list layout as one flat list: each group's header, then its issues unless the group is collapsed. What depends on
+/// the view alone (focus, check marks, the open issue, the time) changes without touching the rows.
+class IssueListModel : public KeyedListModel<IssueListRow>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the store")
+    /// Grows with each new list of rows; read by bindings that call the functions on rows below.
+    Q_PROPERTY(int revision READ revision NOTIFY updated FINAL)
+
+public:
+    enum Role {
+        /// `IssueListEnums.RowKind`.
+        KindRole = Qt::UserRole,
+        /// The issue's key; for a header "h:" and the group's id.
+        KeyRole,
+        /// The record; an empty one for a header.
+        IssueRole,
+        /// The header; an empty one for an issue.
+        HeaderRole,
+        IsFocusedRole,
+        IsCheckedRole,
+        /// The issue stands open in the inspector.
+        IsOpenRole,
+        /// How long ago the issue was updated.
+        UpdatedTextRole,
+        /// "Demain" or the like; empty without a due date.
+        DueTextRole,
+        /// The due date has passed and the issue is not closed.
+        IsOverdueRole,
+        /// "Échéance : " and the due date in full; empty without one.
+        DueTooltipRole,
+        /// A whole sentence.
+        AccessibleNameRole
+    };
+    Q_ENUM(Role)
+
+    /// `now` is the time that relative dates are told from until `setNow`.
+    IssueListModel(UserCalendar calendar, QDateTime now, QObject *parent = nullptr);
+
+    int revision() const { return m_revision; }
+    void setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
+    /// An empty key focuses nothing. Touches the row that loses and the row that takes the focus.
+    void setFocusedKey(const QString &key);
+    void setCheckedKeys(const QSet<QString> &keys);
+    /// An empty key opens nothing.
+    void setOpenKey(const QString &key);
+    /// Tells relative dates anew.
+    void setNow(const QDateTime &now);
+
+    /// The row of the header that the row belongs to, which is the row itself for a header; -1 outside the list.
+    Q_INVOKABLE int headerRowOf(int row) const;
+    /// The row of the next header below the row; -1 if there is none.
+    Q_INVOKABLE int headerRowAfter(int row) const;
+    /// The header in a row; an empty one if there is none.
+    Q_INVOKABLE IssueListHeader headerAt(int row) const;
+    /// The row of an issue; -1 if it is not shown.
+    Q_INVOKABLE int rowOfKey(const QString &key) const;
+    /// The key of the issue in a row; empty for a header and outside the list.
+    Q_INVOKABLE QString keyAt(int row) const;
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void updated();
+
+private:
+    QVariant issueRoleData(const Issue &issue, int role) const;
+    QVariant groupData(const IssueListHeader &header, int role) const;
+    QString dueTooltip(const QDate &day) const;
+    bool isOverdue(const Issue &issue) const;
+    void moveMark(QString &mark, const QString &key, Role role);
+
+    UserCalendar m_calendar;
+    QDateTime m_now;
+    QString m_focusedKey;
+    QSet<QString> m_checkedKeys;
+    QString m_openKey;
+    /// Ascending.
+    std::vector<int> m_headerRows;
+    int m_revision = 0;
+};

@@ -1,0 +1,33 @@
+#include "state/models/KeyIndex.h"
+
+#include <QHash>
+
+#include <bit>
+
+KeyIndex::KeyIndex(std::vector<QStringView> keys)
+    : m_keys(std::move(keys)), m_slots(std::bit_ceil(m_keys.size() * 2 + 2), 0)
+{
+    for (std::size_t row = 0; row < m_keys.size(); ++row) {
+        auto &slot = m_slots[slotOf(m_keys[row])];
+        if (slot == 0)
+            slot = quint32(row + 1);
+    }
+}
+
+std::optional<int> KeyIndex::find(QStringView key) const
+{
+    if (m_slots.empty())
+        return std::nullopt;
+    const auto entry = m_slots[slotOf(key)];
+    return entry == 0 ? std::nullopt : std::optional(int(entry - 1));
+}
+
+/// The slot that holds the key, or the free one where it would stand.
+std::size_t KeyIndex::slotOf(QStringView key) const
+{
+    const auto mask = m_slots.size() - 1;
+    auto slot = qHash(key) & mask;
+    while (m_slots[slot] != 0 && m_keys[m_slots[slot] - 1] != key)
+        slot = (slot + 1) & mask;
+    return slot;
+}

@@ -1,0 +1,223 @@
+#include "state/models/RowDiff.h"
+
+#include "state/models/KeyIndex.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+constexpr int absent = -1;
+
+/// Rows that stand in both lists side by side.
+struct KeptRun
+{
+    int before = 0;
+    int after = 0;
+    int count = 0;
+};
+
+/// For each row of `after` its row in `before`, or `absent`; each row of `before` is given once.
+std::vector<int> earlierRows(const std::vector<QStringView> &before,
+                             const std::vector<QStringView> &after)
+{
+    const KeyIndex index(before);
+    std::vector<bool> isGiven(before.size(), false);
+    std::vector<int> rows;
+    rows.reserve(after.size());
+    for (const auto key : after) {
+        const int row = index.find(key).value_or(absent);
+        const bool isFree = row != absent && !isGiven[row];
+        rows.push_back(isFree ? row : absent);
+        if (isFree)
+            isGiven[row] = true;
+    }
+    return rows;
+}
+
+/// The positions of a longest increasing subsequence of the values that are not `absent`.
+std::vector<int> longestIncreasing(const std::vector<int> &values)
+{
+    std::vector<int> ends;
+    std::vector<int> previous(values.size(), absent);
+    for (int at = 0; at < int(values.size()); ++at) {
+        if (values[at] == absent)
+            continue;
+        const auto isSmaller = [&values](int position, int value) {
+            return values[position] < value;
+        };
+        const auto place = std::lower_bound(ends.begin(), ends.end(), values[at], isSmaller);
+        previous[at] = place == ends.begin() ? absent : *std::prev(place);
+        if (place == ends.end())
+            ends.push_back(at);
+        else
+            *place = at;
+    }
+    std::vector<int> chosen(ends.size());
+    int at = ends.empty() ? absent : ends.back();
+    for (auto slot = chosen.rbegin(); slot != chosen.rend(); ++slot, at = previous[at])
+        *slot = at;
+    return chosen;
+}
+
+/// The runs of rows for which `isInRange` holds.
+template <typename Predicate>
+std::vector<RowRange> rangesWhere(int count, Predicate isInRange)
+{
+    std::vector<RowRange> ranges;
+    for (int row = 0; row < count; ++row) {
+        if (!isInRange(row))
+            continue;
+        if (!ranges.empty() && ranges.back().first + ranges.back().count == row)
+            ++ranges.back().count;
+        else
+            ranges.push_back({row, 1});
+    }
+    return ranges;
+}
+
+std::vector<RowRange> removedRanges(int countBefore, const std::vector<int> &earlier)
+{
+    std::vector<bool> stays(countBefore, false);
+    for (const int row : earlier) {
+        if (row != absent)
+            stays[row] = true;
+    }
+    auto ranges = rangesWhere(countBefore, [&stays](int row) { return !stays[row]; });
+    std::reverse(ranges.begin(), ranges.end());
+    return ranges;
+}
+
+/// The kept rows in new order, each as its position among the kept rows in old order.
+std::vector<int> permutation(const std::vector<int> &earlier)
+{
+    std::vector<int> kept;
+    std::copy_if(earlier.begin(), earlier.end(), std::back_inserter(kept),
+                 [](int row) { return row != absent; });
+    auto sorted = kept;
+    std::sort(sorted.begin(), sorted.end());
+    for (auto &row : kept)
+        row = int(std::lower_bound(sorted.begin(), sorted.end(), row) - sorted.begin());
+    return kept;
+}
+
+/// The stretches of the new order that leave their place: rows out of the longest increasing subsequence that were
+/// neighbours before and still are.
+std::vector<RowRange> movingRanges(const std::vector<int> &order)
+{
+    std::vector<bool> moves(order.size(), true);
+    for (const int position : longestIncreasing(order))
+        moves[position] = false;
+    std::vector<RowRange> ranges;
+    for (int at = 0; at < int(order.size()); ++at) {
+        if (!moves[at])
+            continue;
+        const bool goesOn = !ranges.empty() && ranges.back().first + ranges.back().count == at &&
+                            order[at] == order[at - 1] + 1;
+        if (goesOn)
+            ++ranges.back().count;
+        else
+            ranges.push_back({at, 1});
+    }
+    return ranges;
+}
+
+/// Carries out one move on a list of numbers.
+void applyMove(std::vector<int> &list, const RowMove &move)
+{
+    const auto begin = list.begin();
+    if (move.to < move.first)
+        std::rotate(begin + move.to, begin + move.first, begin + move.first + move.count);
+    else
+        std::rotate(begin + move.first, begin + move.first + move.count,
+                    begin + move.to + move.count);
+}
+
+/// Moves each stretch behind the row that precedes it in the new order, from the top down.
+std::vector<RowMove> movesFor(const std::vector<int> &order, const std::vector<RowRange> &ranges)
+{
+    std::vector<int> list(order.size());
+    std::iota(list.begin(), list.end(), 0);
+    std::vector<RowMove> moves;
+    for (const auto &range : ranges) {
+        const auto rowOf = [&list](int value) {
+            return int(std::find(list.begin(), list.end(), value) - list.begin());
+        };
+        const int from = rowOf(order[range.first]);
+        const int behind = range.first == 0 ? 0 : rowOf(order[range.first - 1]) + 1;
+        const RowMove move{from, range.count, behind > from ? behind - range.count : behind};
+        if (move.to == move.first)
+            continue;
+        applyMove(list, move);
+        moves.push_back(move);
+    }
+    return moves;
+}
+
+/// The rows that keep their order, as runs that stand side by side in both lists.
+std::vector<KeptRun> keptRuns(const std::vector<int> &earlier)
+{
+    std::vector<KeptRun> runs;
+    for (const int after : longestIncreasing(earlier)) {
+        const int before = earlier[after];
+        const bool goesOn = !runs.empty() && runs.back().after + runs.back().count == after &&
+                            runs.back().before + runs.back().count == before;
+        if (goesOn)
+            ++runs.back().count;
+        else
+            runs.push_back({before, after, 1});
+    }
+    return runs;
+}
+
+/// The longest runs, in their order: as many as the bound on steps allows.
+std::vector<KeptRun> longestRuns(std::vector<KeptRun> runs)
+{
+    constexpr std::size_t most = maxRowDiffSteps / 2 - 1;
+    if (runs.size() <= most)
+        return runs;
+    const auto isLonger = [](const KeptRun &a, const KeptRun &b) { return a.count > b.count; };
+    std::nth_element(runs.begin(), runs.begin() + most, runs.end(), isLonger);
+    runs.resize(most);
+    std::sort(runs.begin(), runs.end(),
+              [](const KeptRun &a, const KeptRun &b) { return a.after < b.after; });
+    return runs;
+}
+
+/// Replaces whatever stands between the longest kept runs.
+RowDiff coarseDiff(int countBefore, const std::vector<int> &earlier)
+{
+    RowDiff diff;
+    auto runs = longestRuns(keptRuns(earlier));
+    runs.push_back({countBefore, int(earlier.size()), 0});
+    int before = 0;
+    int after = 0;
+    for (const auto &run : runs) {
+        if (run.before > before)
+            diff.removals.push_back({before, run.before - before});
+        if (run.after > after)
+            diff.insertions.push_back({after, run.after - after});
+        before = run.before + run.count;
+        after = run.after + run.count;
+    }
+    std::reverse(diff.removals.begin(), diff.removals.end());
+    return diff;
+}
+
+} // namespace
+
+RowDiff rowDiff(const std::vector<QStringView> &before, const std::vector<QStringView> &after)
+{
+    const auto earlier = earlierRows(before, after);
+    RowDiff diff;
+    diff.removals = removedRanges(int(before.size()), earlier);
+    diff.insertions =
+        rangesWhere(int(after.size()), [&earlier](int row) { return earlier[row] == absent; });
+    const auto order = permutation(earlier);
+    const auto moving = movingRanges(order);
+    if (diff.removals.size() + diff.insertions.size() + moving.size() >
+        std::size_t(maxRowDiffSteps))
+        return coarseDiff(int(before.size()), earlier);
+    diff.moves = movesFor(order, moving);
+    return diff;
+}
