@@ -155,6 +155,11 @@ QString dayShortMonthAndYear(const QDate &day, const QLocale &locale)
     return printed(day, {u"dMy", QLocale::ShortFormat}, locale);
 }
 
+QString dayMonthAndYear(const QDate &day, const QLocale &locale)
+{
+    return printed(day, {u"dMy", QLocale::LongFormat}, locale);
+}
+
 QString monthAndYear(const QDate &day, const QLocale &locale)
 {
     return printed(day, {u"My", QLocale::LongFormat}, locale);

@@ -14,6 +14,8 @@ QString dayAndMonth(const QDate &day, const QLocale &locale);
 QString weekdayDayAndMonth(const QDate &day, const QLocale &locale);
 /// "31 oct. 2026".
 QString dayShortMonthAndYear(const QDate &day, const QLocale &locale);
+/// "31 octobre 2026".
+QString dayMonthAndYear(const QDate &day, const QLocale &locale);
 /// "octobre 2026"; the month's name in the form that stands alone.
 QString monthAndYear(const QDate &day, const QLocale &locale);
 
