@@ -1,15 +1,60 @@
 #pragma once
 
+#include "state/Batched.h"
+
+#include <type_traits>
 #include <utility>
 
-/// The one way to write an observed field: compare, store, notify, in that order, and nothing at all when the values are
-/// equal. Gives whether the field changed.
+/// A field whose changes an object tells of. There is one way to write it: compare, store, mark what is made from it,
+/// notify, in that order, and nothing at all when the values are equal.
 template <typename Owner, typename T>
-bool setObserved(Owner *owner, T &field, T value, void (Owner::*notify)())
+class Observed
 {
-    if (field == value)
-        return false;
-    field = std::move(value);
-    (owner->*notify)();
-    return true;
-}
+public:
+    using Notify = void (Owner::*)();
+
+    /// `stale` names what the owner, a `Batched`, makes from this field.
+    Observed(Owner *owner, Notify notify, unsigned stale = 0, T value = {})
+        : m_owner(owner), m_notify(notify), m_stale(stale), m_value(std::move(value))
+    {
+    }
+    Observed(const Observed &) = delete;
+    Observed &operator=(const Observed &) = delete;
+
+    const T &operator*() const { return m_value; }
+    const T *operator->() const { return &m_value; }
+
+    /// Gives whether the field changed.
+    bool set(T value)
+    {
+        if (m_value == value)
+            return false;
+        m_value = std::move(value);
+        const Batched::Batch batch(*m_owner);
+        m_owner->markStale(m_stale);
+        (m_owner->*m_notify)();
+        return true;
+    }
+    /// For maps: the entry of the key becomes `entry`.
+    template <typename Key, typename Entry>
+    bool insert(const Key &key, Entry &&entry)
+    {
+        T changed = m_value;
+        changed.insert(key, std::forward<Entry>(entry));
+        return set(std::move(changed));
+    }
+    /// For maps and sets: takes the key's entry out.
+    template <typename Key>
+    bool remove(const Key &key)
+    {
+        T changed = m_value;
+        changed.remove(key);
+        return set(std::move(changed));
+    }
+
+private:
+    Owner *m_owner;
+    Notify m_notify;
+    unsigned m_stale;
+    T m_value;
+};

@@ -1,0 +1,13 @@
+#include "state/AppStore.h"
+
+AppStore::AppStore(AppStoreContext context, QObject *parent)
+    : AppStoreFields(parent), m_context(std::move(context))
+{
+    const Batch batch(*this);
+    markStale(List | Sidebar);
+    readPreferences();
+    refreshAppearance();
+    connect(&m_context.desktop, &Desktop::appearanceChanged, this, &AppStore::refreshAppearance);
+}
+
+AppStore::~AppStore() = default;

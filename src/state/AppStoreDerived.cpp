@@ -1,0 +1,89 @@
+#include "state/AppStore.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto Minute = 60s;
+
+QString countText(qsizetype issues)
+{
+    return issues == 1 ? u"1 ticket"_s : u"%1 tickets"_s.arg(issues);
+}
+
+} // namespace
+
+const IssueDerivation &AppStore::derivation() const
+{
+    if (stale() & List)
+        m_derivation.setInputs(derivationInputs());
+    return m_derivation;
+}
+
+IssueDerivationInputs AppStore::derivationInputs() const
+{
+    return {.issues = *m_issues,
+            .scope = *m_scope,
+            .filters = *m_filters,
+            .filterText = *m_filterText,
+            .ordering = *m_ordering,
+            .grouping = *m_grouping,
+            .layout = *m_layout,
+            .showCompleted = *m_showCompleted,
+            .collapsedGroups = *m_collapsedGroups,
+            .me = *m_me,
+            .projects = *m_projects,
+            .projectDetails = *m_projectDetails,
+            .projectStatuses = *m_projectStatuses,
+            .locale = m_context.calendar.locale};
+}
+
+void AppStore::flush(unsigned what)
+{
+    if (what & List) {
+        m_derivation.setInputs(derivationInputs());
+        m_issueList.setGroups(groups(), *m_collapsedGroups);
+    }
+    if (what & Marks)
+        feedMarks();
+    if (what & Sidebar)
+        feedSidebar();
+    if (what & ToastRows)
+        m_toastModel.setToasts(*m_toasts);
+    if (what & Time)
+        m_issueList.setNow(*m_now);
+    if (what & (List | Captions | Time))
+        refreshCaptions();
+}
+
+void AppStore::feedMarks()
+{
+    m_issueList.setFocusedKey(m_focusedKey->value_or(QString()));
+    m_issueList.setCheckedKeys(*m_checked);
+    m_issueList.setOpenKey(m_inspectorKey->value_or(QString()));
+}
+
+void AppStore::feedSidebar()
+{
+    m_sidebar.setInputs({.projects = *m_projects,
+                         .favoriteProjects = *m_favoriteProjects,
+                         .scope = *m_scope,
+                         .myOpenIssues = myOpenCount(),
+                         .hasLoadError = m_loadError->has_value()});
+}
+
+void AppStore::refreshCaptions()
+{
+    const int count = int(visibleIssues().size());
+    m_visibleCount.set(count);
+    m_scopeTitle.set(::scopeTitle(m_derivation.inputs(), *m_now, m_context.calendar));
+    m_subtitle.set(countText(count) + (*m_isLoading ? u" · synchronisation…"_s : QString()));
+}
+
+void AppStore::startMinutes()
+{
+    const auto tick = [this] { m_now.set(m_context.clock.now()); };
+    tick();
+    m_minuteTimer = m_context.clock.every(Minute, tick);
+}

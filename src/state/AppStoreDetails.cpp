@@ -1,0 +1,81 @@
+#include "async/WhileAlive.h"
+#include "state/AppStore.h"
+#include "state/IssueUpkeep.h"
+
+namespace {
+
+/// The list with the full record in its issue's place.
+IssueList withFullRecord(IssueList issues, const Issue &issue)
+{
+    const auto row = std::ranges::find_if(std::as_const(issues),
+                                          [&](const auto &i) { return i->key == issue.key; });
+    if (row != issues.cend())
+        issues[std::distance(issues.cbegin(), row)] = withActivityOf(issue, **row);
+    return issues;
+}
+
+} // namespace
+
+QCoro::Task<> AppStore::loadDetails(QString key)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return;
+    std::stop_source stop;
+    auto issueTask = settled(service, service->issue(key));
+    auto commentsTask = settled(service, service->comments(key, stop.get_token()));
+    const auto issue = co_await whileAlive(this, std::move(issueTask));
+    if (!issue) {
+        stop.request_stop();
+        co_await whileAlive(this, std::move(commentsTask));
+        takeDetailsFailure(key, issue.error());
+        co_return;
+    }
+    takeDetails(key, *issue);
+    const auto comments = co_await whileAlive(this, std::move(commentsTask));
+    // An entry of some kind in any case, so that the screen can end its wait.
+    m_comments.insert(key, comments.value_or(m_comments->value(key)));
+    co_await whileAlive(this, loadProjectMeta(issue->projectKey));
+    const auto transitions = co_await whileAlive(this, settled(service, service->transitions(key)));
+    if (transitions)
+        m_transitions.insert(key, *transitions);
+}
+
+void AppStore::takeDetails(const QString &key, const Issue &issue)
+{
+    const Batch batch(*this);
+    m_details.insert(key, issue);
+    m_detailErrors.remove(key);
+    m_issues.set(withFullRecord(*m_issues, issue));
+}
+
+void AppStore::takeDetailsFailure(const QString &key, const TaskFailure &failure)
+{
+    if (!failure.isCancellation && !m_details->contains(key))
+        m_detailErrors.insert(key, failure.message);
+}
+
+QCoro::Task<> AppStore::loadProjectMeta(QString key)
+{
+    const auto service = *m_service;
+    if (!service || m_loadedMeta.contains(key))
+        co_return;
+    // Before anything is fetched, so that a second caller does not fetch again.
+    m_loadedMeta.insert(key);
+    auto statusesTask = settled(service, service->statuses(key));
+    auto usersTask = settled(service, service->assignableUsers(key));
+    auto projectTask = settled(service, service->project(key));
+    if (const auto statuses = co_await whileAlive(this, std::move(statusesTask)))
+        m_projectStatuses.insert(key, *statuses);
+    if (const auto users = co_await whileAlive(this, std::move(usersTask)))
+        takeAssignables(key, *users);
+    if (const auto project = co_await whileAlive(this, std::move(projectTask)))
+        m_projectDetails.insert(key, *project);
+}
+
+void AppStore::takeAssignables(const QString &key, const QList<JiraUser> &users)
+{
+    for (const JiraUser &user : users)
+        m_knownUsers.insert(user.id, user);
+    m_assignables.insert(key, users);
+}

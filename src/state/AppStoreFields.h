@@ -1,0 +1,200 @@
+#pragma once
+
+#include "model/Comment.h"
+#include "model/IssueScope.h"
+#include "model/IssueService.h"
+#include "state/IssueFilters.h"
+#include "state/Observed.h"
+#include "state/Toast.h"
+
+#include <QObject>
+#include <QSet>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+/// The fields of the store that live as long as a session or the process: how screens read them and learn of changes.
+/// `AppStore` is the only writer. A field that may be absent is an optional in C++; in QML it reads as empty, and where
+/// empty has a meaning of its own a `has…` property stands beside it.
+class AppStoreFields : public QObject, public Batched
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+
+    // Session
+    Q_PROPERTY(AppStoreFields::Phase phase READ phase NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool isDemo READ isDemo NOTIFY isDemoChanged FINAL)
+    Q_PROPERTY(bool hasMe READ hasMe NOTIFY meChanged FINAL)
+    Q_PROPERTY(JiraUser me READ meOrEmpty NOTIFY meChanged FINAL)
+    Q_PROPERTY(QList<Project> projects READ projects NOTIFY projectsChanged FINAL)
+    Q_PROPERTY(QList<IssuePriority> priorities READ priorities NOTIFY prioritiesChanged FINAL)
+    Q_PROPERTY(QString siteName READ siteName NOTIFY serviceChanged FINAL)
+    Q_PROPERTY(QString siteShortName READ siteShortName NOTIFY serviceChanged FINAL)
+    // Loading
+    Q_PROPERTY(IssueScope scope READ scope NOTIFY scopeChanged FINAL)
+    Q_PROPERTY(IssueScope sidebarSelection READ sidebarSelection NOTIFY scopeChanged FINAL)
+    Q_PROPERTY(IssueList issues READ issues NOTIFY issuesChanged FINAL)
+    Q_PROPERTY(bool hasIssues READ hasIssues NOTIFY issuesChanged FINAL)
+    Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
+    Q_PROPERTY(bool hasLoadError READ hasLoadError NOTIFY loadErrorChanged FINAL)
+    Q_PROPERTY(QString loadError READ loadErrorOrEmpty NOTIFY loadErrorChanged FINAL)
+    Q_PROPERTY(AppStoreFields::IssueMap details READ details NOTIFY detailsChanged FINAL)
+    Q_PROPERTY(
+        AppStoreFields::TextMap detailErrors READ detailErrors NOTIFY detailErrorsChanged FINAL)
+    Q_PROPERTY(AppStoreFields::CommentMap comments READ comments NOTIFY commentsChanged FINAL)
+    Q_PROPERTY(
+        AppStoreFields::TransitionMap transitions READ transitions NOTIFY transitionsChanged FINAL)
+    Q_PROPERTY(AppStoreFields::StatusMap projectStatuses READ projectStatuses NOTIFY
+                   projectStatusesChanged FINAL)
+    Q_PROPERTY(AppStoreFields::UserMap assignables READ assignables NOTIFY assignablesChanged FINAL)
+    Q_PROPERTY(AppStoreFields::ProjectMap projectDetails READ projectDetails NOTIFY
+                   projectDetailsChanged FINAL)
+    Q_PROPERTY(IssueList myOpenIssues READ myOpenIssues NOTIFY myOpenIssuesChanged FINAL)
+    Q_PROPERTY(int myOpenCount READ myOpenCount NOTIFY myOpenIssuesChanged FINAL)
+    // Selection and search
+    Q_PROPERTY(QString focusedKey READ focusedKeyOrEmpty NOTIFY focusedKeyChanged FINAL)
+    Q_PROPERTY(QSet<QString> checked READ checked NOTIFY checkedChanged FINAL)
+    Q_PROPERTY(QString inspectorKey READ inspectorKeyOrEmpty NOTIFY inspectorKeyChanged FINAL)
+    Q_PROPERTY(
+        QSet<QString> collapsedGroups READ collapsedGroups NOTIFY collapsedGroupsChanged FINAL)
+    Q_PROPERTY(
+        QString filterText READ filterText WRITE setFilterText NOTIFY filterTextChanged FINAL)
+    Q_PROPERTY(IssueFilters filters READ filters NOTIFY filtersChanged FINAL)
+    Q_PROPERTY(bool hasFilters READ hasFilters NOTIFY filtersChanged FINAL)
+
+public:
+    enum class Phase { Launching, SignedOut, Ready };
+    Q_ENUM(Phase)
+
+    /// By issue key.
+    using IssueMap = QHash<QString, SharedIssue>;
+    using TextMap = QHash<QString, QString>;
+    using CommentMap = QHash<QString, QList<Comment>>;
+    using TransitionMap = QHash<QString, QList<WorkflowTransition>>;
+    /// By project key.
+    using StatusMap = QHash<QString, QList<IssueStatus>>;
+    using UserMap = QHash<QString, QList<JiraUser>>;
+    using ProjectMap = QHash<QString, Project>;
+
+    Phase phase() const { return *m_phase; }
+    bool isDemo() const { return *m_isDemo; }
+    const std::optional<JiraUser> &me() const { return *m_me; }
+    const QList<Project> &projects() const { return *m_projects; }
+    const QList<IssuePriority> &priorities() const { return *m_priorities; }
+    /// The service's name of the site; empty without a service.
+    QString siteName() const;
+    /// The same without the suffix that all Jira Cloud sites share.
+    QString siteShortName() const;
+
+    const IssueScope &scope() const { return *m_scope; }
+    /// The scope as rows of the sidebar bear it: a recap without the switch for the team.
+    IssueScope sidebarSelection() const;
+    const IssueList &issues() const { return *m_issues; }
+    bool isLoading() const { return *m_isLoading; }
+    const std::optional<QString> &loadError() const { return *m_loadError; }
+    /// The records of opened issues, and why one could not be fetched.
+    const IssueMap &details() const { return *m_details; }
+    const TextMap &detailErrors() const { return *m_detailErrors; }
+    const CommentMap &comments() const { return *m_comments; }
+    const TransitionMap &transitions() const { return *m_transitions; }
+    const StatusMap &projectStatuses() const { return *m_projectStatuses; }
+    const UserMap &assignables() const { return *m_assignables; }
+    const ProjectMap &projectDetails() const { return *m_projectDetails; }
+    /// The user's open issues, the most urgent first.
+    const IssueList &myOpenIssues() const { return *m_myOpenIssues; }
+    int myOpenCount() const { return int(m_myOpenIssues->size()); }
+
+    const std::optional<QString> &focusedKey() const { return *m_focusedKey; }
+    void setFocusedKey(const std::optional<QString> &key) { m_focusedKey.set(key); }
+    const QSet<QString> &checked() const { return *m_checked; }
+    void setChecked(const QSet<QString> &keys) { m_checked.set(keys); }
+    const std::optional<QString> &inspectorKey() const { return *m_inspectorKey; }
+    void setInspectorKey(const std::optional<QString> &key) { m_inspectorKey.set(key); }
+    const QSet<QString> &collapsedGroups() const { return *m_collapsedGroups; }
+    const QString &filterText() const { return *m_filterText; }
+    void setFilterText(const QString &text) { m_filterText.set(text); }
+    const IssueFilters &filters() const { return *m_filters; }
+    void setFilters(const IssueFilters &filters) { m_filters.set(filters); }
+
+    /// Those now shown, oldest first.
+    const QList<Toast> &toasts() const { return *m_toasts; }
+
+Q_SIGNALS:
+    void phaseChanged();
+    void serviceChanged();
+    void isDemoChanged();
+    void meChanged();
+    void projectsChanged();
+    void prioritiesChanged();
+    void scopeChanged();
+    void issuesChanged();
+    void isLoadingChanged();
+    void loadErrorChanged();
+    void detailsChanged();
+    void detailErrorsChanged();
+    void commentsChanged();
+    void transitionsChanged();
+    void projectStatusesChanged();
+    void assignablesChanged();
+    void projectDetailsChanged();
+    void myOpenIssuesChanged();
+    void focusedKeyChanged();
+    void checkedChanged();
+    void inspectorKeyChanged();
+    void collapsedGroupsChanged();
+    void filterTextChanged();
+    void filtersChanged();
+    void toastsChanged();
+
+protected:
+    template <typename T>
+    using Field = Observed<AppStoreFields, T>;
+    using This = AppStoreFields;
+    /// What is made from the fields; flags.
+    enum Shown : unsigned {
+        List = 1,
+        Marks = 2,
+        Sidebar = 4,
+        Captions = 8,
+        ToastRows = 16,
+        Time = 32
+    };
+
+    using QObject::QObject;
+
+    Field<Phase> m_phase{this, &This::phaseChanged};
+    Field<std::shared_ptr<IssueService>> m_service{this, &This::serviceChanged};
+    Field<bool> m_isDemo{this, &This::isDemoChanged};
+    Field<std::optional<JiraUser>> m_me{this, &This::meChanged, List};
+    Field<QList<Project>> m_projects{this, &This::projectsChanged, List | Sidebar};
+    Field<QList<IssuePriority>> m_priorities{this, &This::prioritiesChanged};
+    Field<IssueScope> m_scope{this, &This::scopeChanged, List | Sidebar};
+    Field<IssueList> m_issues{this, &This::issuesChanged, List};
+    Field<bool> m_isLoading{this, &This::isLoadingChanged, Captions};
+    Field<std::optional<QString>> m_loadError{this, &This::loadErrorChanged, Sidebar};
+    Field<IssueMap> m_details{this, &This::detailsChanged};
+    Field<TextMap> m_detailErrors{this, &This::detailErrorsChanged};
+    Field<CommentMap> m_comments{this, &This::commentsChanged};
+    Field<TransitionMap> m_transitions{this, &This::transitionsChanged};
+    Field<StatusMap> m_projectStatuses{this, &This::projectStatusesChanged, List};
+    Field<UserMap> m_assignables{this, &This::assignablesChanged};
+    Field<ProjectMap> m_projectDetails{this, &This::projectDetailsChanged, List};
+    Field<IssueList> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
+    Field<std::optional<QString>> m_focusedKey{this, &This::focusedKeyChanged, Marks};
+    Field<QSet<QString>> m_checked{this, &This::checkedChanged, Marks};
+    Field<std::optional<QString>> m_inspectorKey{this, &This::inspectorKeyChanged, Marks};
+    Field<QSet<QString>> m_collapsedGroups{this, &This::collapsedGroupsChanged, List};
+    Field<QString> m_filterText{this, &This::filterTextChanged, List};
+    Field<IssueFilters> m_filters{this, &This::filtersChanged, List};
+    Field<QList<Toast>> m_toasts{this, &This::toastsChanged, ToastRows};
+
+private:
+    bool hasMe() const { return m_me->has_value(); }
+    JiraUser meOrEmpty() const { return m_me->value_or(JiraUser()); }
+    bool hasIssues() const { return !m_issues->isEmpty(); }
+    bool hasLoadError() const { return m_loadError->has_value(); }
+    QString loadErrorOrEmpty() const { return m_loadError->value_or(QString()); }
+    QString focusedKeyOrEmpty() const { return m_focusedKey->value_or(QString()); }
+    QString inspectorKeyOrEmpty() const { return m_inspectorKey->value_or(QString()); }
+    bool hasFilters() const { return !m_filters->isEmpty(); }
+};

@@ -1,0 +1,157 @@
+#include "async/Spawn.h"
+#include "async/WhileAlive.h"
+#include "state/AppStore.h"
+#include "state/IssueUpkeep.h"
+
+namespace {
+
+/// How many projects of one list get their metadata fetched, so that a list across many does not flood the service.
+constexpr qsizetype MetaPerReload = 8;
+
+std::optional<SharedIssue> withKey(const IssueList &issues, const QString &key)
+{
+    const auto found =
+        std::ranges::find_if(issues, [&](const auto &issue) { return issue->key == key; });
+    return found == issues.end() ? std::nullopt : std::optional(*found);
+}
+
+QSet<QString> keysOf(const IssueList &issues)
+{
+    QSet<QString> keys;
+    for (const auto &issue : issues)
+        keys.insert(issue->key);
+    return keys;
+}
+
+QStringList someProjectKeys(const IssueList &issues)
+{
+    QStringList keys;
+    for (const auto &issue : issues) {
+        if (keys.size() == MetaPerReload)
+            break;
+        if (!keys.contains(issue->projectKey))
+            keys += issue->projectKey;
+    }
+    return keys;
+}
+
+} // namespace
+
+void AppStore::select(const IssueScope &scope)
+{
+    if (scope == *m_scope)
+        return;
+    const Batch batch(*this);
+    m_scope.set(scope);
+    m_issues.set(m_scopeCache.value(scope));
+    m_focusedKey.set(std::nullopt);
+    m_checked.set({});
+    m_loadError.set(std::nullopt);
+    refresh();
+}
+
+void AppStore::setSidebarSelection(const std::optional<IssueScope> &scope)
+{
+    if (!scope)
+        return;
+    const ActivityPeriod *row = scope->asActivity();
+    if (!row)
+        return select(*scope);
+    ActivityPeriod period = *row;
+    period.teamWide = *m_activityTeamWide;
+    select(IssueScope::activity(period));
+}
+
+void AppStore::refresh()
+{
+    spawn(reload());
+}
+
+QCoro::Task<> AppStore::reload()
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return;
+    const int generation = ++m_generation;
+    const IssueScope scope = *m_scope;
+    m_isLoading.set(true);
+    const auto outcome = co_await whileAlive(this, settled(service, service->issues(scope)));
+    if (generation != m_generation)
+        co_return;
+    takeReloaded(scope, outcome);
+    startProjectMeta();
+    if (const auto *project = scope.asProject())
+        co_await whileAlive(this, loadProjectMeta(project->key));
+}
+
+void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &outcome)
+{
+    const Batch batch(*this);
+    if (outcome) {
+        m_issues.set(*outcome);
+        m_scopeCache.insert(scope, *outcome);
+        mergeIntoDetails(*outcome);
+        m_checked.set(QSet(*m_checked).intersect(keysOf(*outcome)));
+        m_loadError.set(std::nullopt);
+    } else if (!outcome.error().isCancellation) {
+        m_loadError.set(outcome.error().message);
+    }
+    m_isLoading.set(false);
+}
+
+void AppStore::startProjectMeta()
+{
+    for (const QString &key : someProjectKeys(*m_issues))
+        spawn(loadProjectMeta(key));
+}
+
+void AppStore::mergeIntoDetails(const IssueList &fresh)
+{
+    IssueMap details = *m_details;
+    for (const auto &issue : fresh) {
+        const auto known = details.constFind(issue->key);
+        if (known != details.constEnd())
+            details.insert(issue->key, mergedIntoDetails(*issue, **known));
+    }
+    m_details.set(std::move(details));
+}
+
+QCoro::Task<> AppStore::refreshMyIssues()
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return;
+    const IssueScope scope = IssueScope::myIssues();
+    const auto mine = co_await whileAlive(this, settled(service, service->issues(scope)));
+    if (!mine)
+        co_return;
+    m_scopeCache.insert(scope, *mine);
+    m_myOpenIssues.set(openIssues(*mine));
+}
+
+QCoro::Task<IssueList> AppStore::searchRemote(QString text, std::stop_token stop)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return IssueList();
+    const auto found = co_await whileAlive(this, settled(service, service->search(text, stop)));
+    co_return found.value_or(IssueList());
+}
+
+std::optional<SharedIssue> AppStore::issue(const QString &key) const
+{
+    const auto opened = m_details->constFind(key);
+    if (opened != m_details->constEnd())
+        return *opened;
+    const auto listed = withKey(*m_issues, key);
+    return listed ? listed : withKey(*m_myOpenIssues, key);
+}
+
+std::optional<Project> AppStore::project(const QString &key) const
+{
+    const auto detailed = m_projectDetails->constFind(key);
+    if (detailed != m_projectDetails->constEnd())
+        return *detailed;
+    const auto listed = std::ranges::find(*m_projects, key, &Project::key);
+    return listed == m_projects->end() ? std::nullopt : std::optional(*listed);
+}

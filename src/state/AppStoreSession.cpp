@@ -1,0 +1,138 @@
+#include "async/Spawn.h"
+#include "async/WhileAlive.h"
+#include "state/AppStore.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const auto DemoModeKey = u"demoMode"_s;
+constexpr auto RefreshPeriod = 120s;
+
+} // namespace
+
+QCoro::Task<> AppStore::bootstrap()
+{
+    if (std::exchange(m_didBootstrap, true))
+        co_return;
+    if (m_context.preferences.flag(DemoModeKey).value_or(false))
+        co_await whileAlive(this, activate(m_context.makeDemo(), SessionKind::Demo, std::nullopt));
+    else
+        m_phase.set(Phase::SignedOut);
+}
+
+QCoro::Task<> AppStore::startDemo()
+{
+    m_context.preferences.setFlag(DemoModeKey, true);
+    resetData();
+    co_await whileAlive(this, activate(m_context.makeDemo(), SessionKind::Demo, std::nullopt));
+}
+
+void AppStore::openDemo()
+{
+    spawn(startDemo());
+}
+
+void AppStore::signOut()
+{
+    const Batch batch(*this);
+    m_context.preferences.setFlag(DemoModeKey, false);
+    resetData();
+    m_service.set(nullptr);
+    m_isDemo.set(false);
+    m_me.set(std::nullopt);
+    m_refreshTimer.reset();
+    m_minuteTimer.reset();
+    m_phase.set(Phase::SignedOut);
+}
+
+void AppStore::resetData()
+{
+    const Batch batch(*this);
+    ++m_generation;
+    m_projects.set({});
+    m_priorities.set({});
+    m_issues.set({});
+    m_details.set({});
+    m_detailErrors.set({});
+    m_comments.set({});
+    m_transitions.set({});
+    m_projectStatuses.set({});
+    m_assignables.set({});
+    m_projectDetails.set({});
+    m_myOpenIssues.set({});
+    m_scopeCache.clear();
+    m_loadedMeta.clear();
+    m_focusedKey.set(std::nullopt);
+    m_checked.set({});
+    m_inspectorKey.set(std::nullopt);
+    m_filters.set({});
+    m_filterText.set({});
+    m_scope.set(IssueScope::myIssues());
+    m_loadError.set(std::nullopt);
+    m_isLoading.set(false);
+}
+
+/// Nothing that fails here ends the session: the list area says what went wrong, and each refresh tries again.
+QCoro::Task<> AppStore::activate(std::shared_ptr<IssueService> service, SessionKind kind,
+                                 std::optional<JiraUser> knownUser)
+{
+    open(service, kind);
+    try {
+        co_await whileAlive(this, fetchAccount(service, knownUser));
+        co_await whileAlive(this, fetchSite(service));
+    } catch (const Failure &failure) {
+        m_loadError.set(failure.message());
+    }
+    co_await whileAlive(this, reload());
+    co_await whileAlive(this, refreshMyIssues());
+    startAutoRefresh();
+}
+
+void AppStore::open(std::shared_ptr<IssueService> service, SessionKind kind)
+{
+    const Batch batch(*this);
+    m_service.set(std::move(service));
+    m_isDemo.set(kind == SessionKind::Demo);
+    m_phase.set(Phase::Ready);
+    startMinutes();
+}
+
+QCoro::Task<> AppStore::fetchAccount(std::shared_ptr<IssueService> service,
+                                     std::optional<JiraUser> knownUser)
+{
+    if (!knownUser)
+        knownUser = co_await whileAlive(this, service->currentUser());
+    m_me.set(knownUser);
+}
+
+QCoro::Task<> AppStore::fetchSite(std::shared_ptr<IssueService> service)
+{
+    std::stop_source stop;
+    auto projectsTask = settled(service, service->projects());
+    auto prioritiesTask = settled(service, service->priorities(stop.get_token()));
+    const auto projects = co_await whileAlive(this, std::move(projectsTask));
+    if (!projects) {
+        stop.request_stop();
+        co_await whileAlive(this, std::move(prioritiesTask));
+        throw Failure(projects.error().message);
+    }
+    m_projects.set(*projects);
+    const auto priorities = co_await whileAlive(this, std::move(prioritiesTask));
+    m_priorities.set(priorities.value_or(QList<IssuePriority>()));
+}
+
+void AppStore::startAutoRefresh()
+{
+    m_refreshTimer = m_context.clock.every(RefreshPeriod, [this] { spawn(refreshInBackground()); });
+}
+
+/// A program in the background makes no requests at all.
+QCoro::Task<> AppStore::refreshInBackground()
+{
+    if (*m_phase != Phase::Ready || !m_context.desktop.isApplicationActive())
+        co_return;
+    co_await whileAlive(this, reload());
+    co_await whileAlive(this, refreshMyIssues());
+}

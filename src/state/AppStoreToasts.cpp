@@ -1,0 +1,28 @@
+#include "state/AppStore.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::chrono::milliseconds ErrorStay = 5000ms;
+constexpr std::chrono::milliseconds NoticeStay = 2400ms;
+
+} // namespace
+
+void AppStore::toast(const QString &message, const QString &symbol, ToastKind kind)
+{
+    const QUuid id = QUuid::createUuid();
+    m_toasts.set(*m_toasts + QList{Toast{id, message, symbol, kind}});
+    const auto stay = kind == ToastKind::Error ? ErrorStay : NoticeStay;
+    m_toastTimers[id] = m_context.clock.after(stay, [this, id] { dismissToast(id); });
+}
+
+void AppStore::dismissToast(const QUuid &id)
+{
+    // By value: the argument may belong to the toast or to the timer that goes here.
+    const QUuid gone = id;
+    m_toastTimers.erase(gone);
+    QList<Toast> left = *m_toasts;
+    left.removeIf([&](const Toast &toast) { return toast.id == gone; });
+    m_toasts.set(left);
+}
