@@ -174,7 +174,7 @@ ADFDecoder::Result<ADFAttributes> ADFDecoder::object(const Element &element)
         auto read = value(member);
         if (!read)
             return std::unexpected(std::move(read.error()));
-        result.insert(toText(name), std::move(*read));
+        result.insert(toText(name), *read);
     }
     return result;
 }

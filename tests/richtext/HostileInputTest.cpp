@@ -4,7 +4,9 @@
 #include "richtext/ADFNodes.h"
 #include "richtext/ADFQueries.h"
 
+#include <algorithm>
 #include <ctime>
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -66,12 +68,12 @@ class HostileLine : public testing::TestWithParam<QString>
 TEST_P(HostileLine, TakesLinearTime)
 {
     expectLinear(
-        parse, [](qsizetype size) { return u"a "_s + repeated(GetParam(), size); }, 60'000);
+        parse, [](qsizetype size) { return u"a "_s + repeated(GetParam(), size); }, 25'000);
 }
 
 TEST_P(HostileLine, TakesLinearTimeAtTheStartOfALine)
 {
-    expectLinear(parse, [](qsizetype size) { return repeated(GetParam(), size); }, 60'000);
+    expectLinear(parse, [](qsizetype size) { return repeated(GetParam(), size); }, 25'000);
 }
 
 INSTANTIATE_TEST_SUITE_P(Markdown, HostileLine,
@@ -93,7 +95,7 @@ class HostileLines : public testing::TestWithParam<QString>
 
 TEST_P(HostileLines, TakeLinearTime)
 {
-    expectLinear(parse, [](qsizetype size) { return repeated(GetParam() + u'\n', size); }, 50'000);
+    expectLinear(parse, [](qsizetype size) { return repeated(GetParam() + u'\n', size); }, 20'000);
 }
 
 INSTANTIATE_TEST_SUITE_P(Markdown, HostileLines,
@@ -101,6 +103,22 @@ INSTANTIATE_TEST_SUITE_P(Markdown, HostileLines,
                                          u"- [x] a"_s, u"- a\n1. b"_s, u"- a\n  - b\n    - c"_s,
                                          u"# a"_s, u"```"_s, u"---"_s, u"*a* `b` [c](d)"_s,
                                          u"[a]: b"_s, u"<div>"_s, u"a\n\nb"_s, u"\r"_s));
+
+void countPairs(const QString &text)
+{
+    qsizetype pairs = 0;
+    for (const QChar one : text)
+        pairs += std::ranges::count(text, one);
+    ASSERT_EQ(pairs, text.size() * text.size());
+}
+
+TEST(HostileInput, MeterNoticesQuadraticWork)
+{
+    EXPECT_NONFATAL_FAILURE(
+        expectLinear(
+            countPairs, [](qsizetype size) { return QString(size, u'a'); }, 4'000),
+        "as long");
+}
 
 TEST(HostileInput, GrowingIndentationTakesLinearTime)
 {
@@ -110,7 +128,7 @@ TEST(HostileInput, GrowingIndentationTakesLinearTime)
             text += QString(indent, u' ') + u"- a\n"_s;
         return text;
     };
-    expectLinear(parse, stairs, 100'000);
+    expectLinear(parse, stairs, 50'000);
 }
 
 TEST(HostileInput, SawtoothIndentationTakesLinearTime)
@@ -121,7 +139,7 @@ TEST(HostileInput, SawtoothIndentationTakesLinearTime)
             text += QString((line * 37) % 150, u' ') + (line % 3 ? u"- a\n"_s : u"1. a\n"_s);
         return text;
     };
-    expectLinear(parse, teeth, 100'000);
+    expectLinear(parse, teeth, 50'000);
 }
 
 TEST(HostileInput, GrowingBacktickRunsTakeLinearTime)
@@ -132,7 +150,7 @@ TEST(HostileInput, GrowingBacktickRunsTakeLinearTime)
             text += QString(length, u'`') + u"a"_s;
         return text;
     };
-    expectLinear(parse, runs, 100'000);
+    expectLinear(parse, runs, 50'000);
 }
 
 TEST(HostileInput, DeeplyNestedLinksTakeLinearTime)
@@ -140,7 +158,7 @@ TEST(HostileInput, DeeplyNestedLinksTakeLinearTime)
     const auto links = [](qsizetype size) {
         return repeated(u"["_s, size / 4) + repeated(u"](a)"_s, size);
     };
-    expectLinear(parse, links, 50'000);
+    expectLinear(parse, links, 25'000);
 }
 
 TEST(HostileInput, DeeplyNestedImagesAndEmphasisDoNotOverflow)
@@ -178,13 +196,13 @@ TEST(HostileInput, MentionsTakeLinearTime)
         ADF::linkingMentions(ADF::container(u"p", {ADF::text(text)}), {user});
     };
     for (const QString &unit : {u"@"_s, u"@Ann "_s, u"@Ann"_s, u"@Anna "_s, u"a"_s})
-        expectLinear(link, [&](qsizetype size) { return repeated(unit, size); }, 50'000);
+        expectLinear(link, [&](qsizetype size) { return repeated(unit, size); }, 20'000);
 }
 
 TEST(HostileInput, PlainTextTakesLinearTime)
 {
     const Work read = [](const QString &text) { ADF::plainText(ADFMarkdown::document(text)); };
-    expectLinear(read, [](qsizetype size) { return repeated(u"*a* b\n- c\n"_s, size); }, 50'000);
+    expectLinear(read, [](qsizetype size) { return repeated(u"*a* b\n- c\n"_s, size); }, 20'000);
 }
 
 TEST(HostileInput, CodingTakesLinearTime)
@@ -193,7 +211,7 @@ TEST(HostileInput, CodingTakesLinearTime)
         ADFCoding::decodeNode(ADFCoding::encode(ADF::document({ADF::text(text)}))).value();
     };
     for (const QString &unit : {u"a"_s, u"\""_s, u"é"_s, u"\u0001"_s})
-        expectLinear(code, [&](qsizetype size) { return repeated(unit, size); }, 100'000);
+        expectLinear(code, [&](qsizetype size) { return repeated(unit, size); }, 50'000);
 }
 
 } // namespace
