@@ -3,12 +3,17 @@
 #include <QObject>
 #include <QUrl>
 
+#include <memory>
+
 /// What the desktop round the program knows and does. One object for the process; UI thread only.
 class Desktop : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
+
+    /// The desktop that the program runs on.
+    static std::unique_ptr<Desktop> ofThisSystem();
 
     /// True while the program is the active application.
     virtual bool isApplicationActive() const = 0;

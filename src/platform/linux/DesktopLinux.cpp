@@ -121,7 +121,12 @@ void DesktopLinux::takeSetting(const QString &group, const QString &key, const Q
     else if (group == AppearanceGroup && key == ReducedMotionKey)
         m_portalReducedMotion = plain.toUInt() == PreferReducedMotion;
     else if (group == GnomeGroup && key == AnimationsKey)
-        m_animationsOff = !plain.toBool();
+        m_animationsOff = plain.typeId() == QMetaType::Bool && !plain.toBool();
     if (wasDark != prefersDark() || wasReduced != prefersReducedMotion())
         Q_EMIT appearanceChanged();
+}
+
+std::unique_ptr<Desktop> Desktop::ofThisSystem()
+{
+    return std::make_unique<DesktopLinux>();
 }

@@ -67,3 +67,8 @@ void DesktopMac::copyText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
 }
+
+std::unique_ptr<Desktop> Desktop::ofThisSystem()
+{
+    return std::make_unique<DesktopMac>();
+}

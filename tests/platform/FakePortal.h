@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QDBusVariant>
+#include <QObject>
+#include <QProcess>
+
+#include <map>
+#include <memory>
+
+/// A message bus of the test's own, gone with this object.
+class PrivateBus
+{
+public:
+    PrivateBus();
+    ~PrivateBus();
+    PrivateBus(const PrivateBus &) = delete;
+    PrivateBus &operator=(const PrivateBus &) = delete;
+
+    bool isRunning() const { return !m_address.isEmpty(); }
+    /// A new connection under the given name.
+    QDBusConnection connection(const QString &name);
+
+private:
+    QProcess m_daemon;
+    QString m_address;
+    QStringList m_names;
+};
+
+/// The settings of a desktop portal, as a test sets them. A read of any other setting fails.
+class FakePortal : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    explicit FakePortal(QDBusConnection bus);
+
+    /// What a read gives.
+    void set(const QString &group, const QString &key, const QVariant &value);
+    /// Sets it and tells listeners.
+    void change(const QString &group, const QString &key, const QVariant &value);
+    int reads() const { return m_reads; }
+
+    Q_SCRIPTABLE QDBusVariant Read(const QString &group, const QString &key);
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void SettingChanged(const QString &group, const QString &key,
+                                     const QDBusVariant &value);
+
+private:
+    QDBusConnection m_bus;
+    std::map<QString, QVariant> m_values;
+    int m_reads = 0;
+};
