@@ -111,7 +111,8 @@ TEST_F(PreferencesTest, aListWithAnEntryThatIsNoTextReadsAsAbsent)
 
 TEST_F(PreferencesTest, aBrokenFileHoldsNothingAndCanBeWritten)
 {
-    writeFile(QByteArray("\x00\xff\xfe[[[ not = \n @@ \x80 settings\nlayout", 38));
+    static constexpr char Broken[] = "\x00\xff\xfe[[[ not = \n @@ \x80 settings\nlayout";
+    writeFile(QByteArray(Broken, sizeof Broken - 1));
     {
         Preferences preferences(path);
         EXPECT_FALSE(preferences.text(u"layout"_s));
