@@ -20,7 +20,8 @@ CHARACTERS = [
     (0x2300, 0x23FF), (0x2460, 0x24FF), (0x2500, 0x27BF), (0x2900, 0x297F), (0x2B00, 0x2BFF), (0xFB00, 0xFB06),
 ]
 EVERYTHING = [code for first, last in CHARACTERS for code in range(first, last + 1)]
-FEATURES = ["kern", "mark", "mkmk", "ccmp", "locl", "calt", "liga"]
+# Without contextual alternates and ligatures: a text is shown as it was written, "3x1" and "->" included.
+FEATURES = ["kern", "mark", "mkmk", "ccmp", "locl"]
 
 # Name of the source and the characters that stay.
 INTER = [
@@ -30,6 +31,16 @@ INTER = [
     ("Inter-Black", [ord("!")]),
 ]
 TABULAR = ["Inter-Regular", "Inter-Medium", "Inter-SemiBold"]
+# Qt rounds a font's size to whole pixels. For the two half sizes of the type scale there are families whose glyphs are
+# smaller in their em by as much as the rounding adds: name of the family, style, size wanted, size asked for.
+HALVES = [
+    ("Inter Eleven Half", "Regular", 11.5, 12), ("Inter Eleven Half", "Medium", 11.5, 12),
+    ("Inter Ten Half", "Medium", 10.5, 11), ("Inter Ten Half", "SemiBold", 10.5, 11),
+]
+# Dates, counts, keys and hints in French.
+SHORT = [code for first, last in [(0x20, 0x17F), (0x2010, 0x2027), (0x2030, 0x203A), (0x2190, 0x2199), (0x21A9, 0x21AA),
+                                  (0x20AC, 0x20AC), (0x2318, 0x2318), (0x21E7, 0x21E7), (0x2325, 0x2325)]
+         for code in range(first, last + 1)]
 MONO = ["JetBrainsMono-Regular"]
 
 
@@ -41,15 +52,29 @@ def tabular():
     return module
 
 
-def cut(font, characters, features):
+def cut(font, characters):
     options = subset.Options()
-    options.layout_features = features
+    options.layout_features = FEATURES
     options.hinting = False
     options.notdef_outline = True
     options.name_IDs = ["*"]
     cutter = subset.Subsetter(options)
     cutter.populate(unicodes=characters)
     cutter.subset(font)
+
+
+def rename(font, family):
+    for name in font["name"].names:
+        if name.nameID in (1, 3, 4, 6, 16):
+            old, new = ("InterTabular", family.replace(" ", "")) if name.nameID == 6 else ("Inter Tabular", family)
+            name.string = name.toUnicode().replace(old, new, 1)
+
+
+def shrink(font, wanted, asked):
+    """Makes the em so much larger that a text asked for at one size comes out at the other."""
+    em = round(font["head"].unitsPerEm * asked / wanted)
+    font["head"].unitsPerEm = em
+    font["CFF "].cff.topDictIndex[0].FontMatrix = [1 / em, 0, 0, 1 / em, 0, 0]
 
 
 def write(font, folder, name):
@@ -63,17 +88,23 @@ def main(inter, mono, out):
     make_tabular = tabular().make_tabular
     for name, characters in INTER:
         font = TTFont(os.path.join(inter, name + ".otf"))
-        cut(font, characters, FEATURES)
+        cut(font, characters)
         write(font, out, name + ".otf")
     for name in TABULAR:
         font = TTFont(os.path.join(inter, name + ".otf"))
         make_tabular(font)
-        cut(font, EVERYTHING, FEATURES)
+        cut(font, EVERYTHING)
         write(font, out, name.replace("Inter", "InterTabular") + ".otf")
+    for family, style, wanted, asked in HALVES:
+        font = TTFont(os.path.join(inter, "Inter-" + style + ".otf"))
+        make_tabular(font)
+        cut(font, SHORT)
+        rename(font, family)
+        shrink(font, wanted, asked)
+        write(font, out, family.replace(" ", "") + "-" + style + ".otf")
     for name in MONO:
         font = TTFont(os.path.join(mono, name + ".ttf"))
-        # Code is shown as it was written: no ligatures that draw "!=" as one sign.
-        cut(font, EVERYTHING, [feature for feature in FEATURES if feature not in ("calt", "liga")])
+        cut(font, EVERYTHING)
         write(font, out, name + ".ttf")
 
 

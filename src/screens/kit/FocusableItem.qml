@@ -11,7 +11,7 @@ T.AbstractButton {
     property string accessibleName: text
     property string hint
     property real corner: Metrics.radiusRow
-    /// Rest 0, hovered, pressed: for fills.
+    /// Under the pointer or pressed.
     readonly property bool lit: enabled && (hovered || down)
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

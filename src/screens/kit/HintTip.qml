@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 
 /// The hint of the item it is declared in. It is made when first wanted, shows after a moment, and at once when another
@@ -10,9 +9,6 @@ Loader {
     property string text
 
     active: shown && text.length > 0
-
-    sourceComponent: HintBubble {
-        owner: hint.parent
-        text: hint.text
-    }
+    sourceComponent: HintBubble {}
+    onLoaded: (item as HintBubble).showAt(parent, text)
 }

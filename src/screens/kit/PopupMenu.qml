@@ -1,17 +1,21 @@
 import QtQuick
 import QtQuick.Templates as T
 import Velmora.Theme
+import Velmora.Kit
 
 /// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a title.
 T.Menu {
     id: menu
 
-    implicitWidth: Math.max(140, contentWidth + leftPadding + rightPadding)
+    property real widest: 0
+
+    implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
     padding: 5
     margins: 8
     overlap: 4
     cascade: true
+    onAboutToShow: widest = MenuMeasure.widest(menu)
 
     delegate: PopupMenuItem {}
 

@@ -16,7 +16,6 @@ FocusableItem {
     implicitWidth: Math.min(Metrics.toastMaxWidth, implicitContentWidth + leftPadding + rightPadding)
     corner: Math.min(Metrics.radiusToast, height / 2)
     accessibleName: message
-    Accessible.role: Accessible.AlertMessage
 
     contentItem: ToastLabel {
         message: toast.message

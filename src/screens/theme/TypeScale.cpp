@@ -1,8 +1,6 @@
 #include "screens/theme/TypeScale.h"
 
 #include <QFontMetricsF>
-#include <QGuiApplication>
-#include <QScreen>
 
 #include <array>
 #include <cmath>
@@ -11,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Family { Text, Display, Code };
+enum class Family { Text, ElevenHalf, TenHalf, Display, Code };
 
 struct Style
 {
@@ -33,9 +31,9 @@ constexpr std::array<Style, 14> styles{{
     {Family::Text, 14, 19, QFont::Normal, 0},
     {Family::Text, 13, 18, QFont::Normal, -0.04},
     {Family::Text, 12, 16, QFont::Normal, 0},
-    {Family::Text, 11.5, 14, QFont::Medium, 0},
+    {Family::ElevenHalf, 11.5, 14, QFont::Medium, 0},
     {Family::Text, 11, 14, QFont::Normal, 0},
-    {Family::Text, 10.5, 14, QFont::Medium, 0},
+    {Family::TenHalf, 10.5, 14, QFont::Medium, 0},
     {Family::Text, 10, 13, QFont::Normal, 0},
     {Family::Code, 12, 18, QFont::Normal, 0},
 }};
@@ -44,6 +42,10 @@ QStringList families(Family family, bool tabular)
 {
     if (family == Family::Code)
         return {u"JetBrains Mono"_s, u"DejaVu Sans Mono"_s, u"monospace"_s};
+    if (family == Family::ElevenHalf)
+        return {u"Inter Eleven Half"_s, u"Inter"_s, u"sans-serif"_s};
+    if (family == Family::TenHalf)
+        return {u"Inter Ten Half"_s, u"Inter"_s, u"sans-serif"_s};
     if (tabular)
         return {u"Inter Tabular"_s, u"Inter"_s, u"sans-serif"_s};
     if (family == Family::Display)
@@ -51,23 +53,12 @@ QStringList families(Family family, bool tabular)
     return {u"Inter"_s, u"sans-serif"_s};
 }
 
-// A font's size in pixels is a whole number in Qt; half pixels exist only as points of the screen's density.
-void setSize(QFont &font, qreal pixels)
-{
-    if (pixels == std::floor(pixels)) {
-        font.setPixelSize(static_cast<int>(pixels));
-        return;
-    }
-    const auto *screen = QGuiApplication::primaryScreen();
-    const qreal dotsPerInch = screen ? std::round(screen->logicalDotsPerInchY()) : 96.0;
-    font.setPointSizeF(pixels * 72.0 / dotsPerInch);
-}
-
 QFont makeFont(const QStringList &names, qreal pixels, QFont::Weight weight)
 {
     QFont font;
     font.setFamilies(names);
-    setSize(font, pixels);
+    // Qt knows whole pixels only; the half sizes have families that make up for the rounding.
+    font.setPixelSize(static_cast<int>(std::ceil(pixels)));
     font.setWeight(weight);
     // Hinted widths jump by a pixel from size to size.
     font.setHintingPreference(QFont::PreferNoHinting);

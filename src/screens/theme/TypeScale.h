@@ -34,7 +34,7 @@ public:
     static constexpr int roleWeight = -1;
 
     /// The font of a role. `weight` is a `QFont::Weight`, or `roleWeight`. With `tabular`, the family whose digits are all
-    /// of one width: for keys, counts and dates, up to weight DemiBold.
+    /// of one width: for keys, counts and dates, up to weight DemiBold (Badge and Micro always have it).
     Q_INVOKABLE QFont font(TypeScale::Role role, int weight = roleWeight,
                            bool tabular = false) const;
     /// The distance of two lines, in logical pixels.
@@ -45,6 +45,6 @@ public:
 
     /// The font of a role as it stands in the scale, for C++.
     static QFont fontOf(Role role);
-    /// A font of the text family at a size in logical pixels, which may be fractional.
+    /// A font of the text family at a size in logical pixels, rounded up to a whole number.
     static QFont textFont(qreal pixels, QFont::Weight weight);
 };

@@ -3,23 +3,25 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// The bubble of a hint, below the middle of its owner.
+/// The bubble of a hint, below the middle of the item it belongs to.
 T.ToolTip {
     id: tip
 
-    required property Item owner
-
-    parent: owner
-    x: Math.round((owner.width - implicitWidth) / 2)
-    y: owner.height + 6
+    x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
+    y: parent ? parent.height + 6 : 0
     margins: 6
     leftPadding: 10
     rightPadding: 10
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Metrics.tooltipHeight
     delay: HintWarmth.warm ? 0 : Motion.tooltipDelay
-    visible: true
     onAboutToHide: HintWarmth.restart()
+
+    function showAt(owner: Item, words: string) {
+        parent = owner
+        text = words
+        open()
+    }
 
     contentItem: AppText {
         text: tip.text
