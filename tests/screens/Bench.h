@@ -16,8 +16,8 @@ public:
     Bench(const Bench &) = delete;
     Bench &operator=(const Bench &) = delete;
 
-    /// Makes the only item of the window from QML text; the imports of the kit stand before it. Null on an error, which is
-    /// then among the warnings.
+    /// Makes the only item of the window from QML text; the imports of the kit stand before it. Null on an error,
+    /// which is then among the warnings.
     QQuickItem *show(const QString &qml);
 
     QQuickView &window() { return m_window; }

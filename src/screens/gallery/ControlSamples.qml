@@ -201,7 +201,8 @@ Item {
             }
 
             ToastCard {
-                message: "Impossible de joindre le serveur. Vérifie ta connexion, puis réessaie dans un instant : la liste affichée peut dater un peu."
+                message: "Impossible de joindre le serveur. Vérifie ta connexion, puis réessaie dans un instant : "
+                         + "la liste affichée peut dater un peu."
                 symbol: "exclamationmark.triangle.fill"
                 isError: true
             }

@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// A due date: the calendar symbol and the date's text, which comes ready. `late` turns it red, `compact` leaves the text out.
+/// A due date: the calendar symbol and the date's text, which comes ready. `late` turns it red, `compact` leaves the
+/// text out.
 Rectangle {
     id: badge
 

@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// The keyboard's focus round the parent's box: 2 wide, 2 away, of the same curvature. Set `shown` and the box's `corner`.
+/// The keyboard's focus round the parent's box: 2 wide, 2 away, of the same curvature. Set `shown` and the box's
+/// `corner`.
 Rectangle {
     required property bool shown
     required property real corner

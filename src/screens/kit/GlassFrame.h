@@ -5,9 +5,9 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// What glass has round its fill: shadow, hairline and light upper edge, drawn over and around the item's box as a stretched
-/// picture whose empty middle is left out. Right on both renderers, at every scale, without layers or shaders. Place it in
-/// the surface with `anchors.fill: parent`, after the fill.
+/// What glass has round its fill: shadow, hairline and light upper edge, drawn over and around the item's box as a
+/// stretched picture whose empty middle is left out. Right on both renderers, at every scale, without layers or
+/// shaders. Place it in the surface with `anchors.fill: parent`, after the fill.
 class GlassFrame : public QQuickItem
 {
     Q_OBJECT

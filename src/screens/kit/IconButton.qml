@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// A button that is one symbol. Plain: a square of 22 (or `side`) that fills under the pointer. Glass: a round floating one.
-/// Prominent: round, in the accent. Its name is its hint too.
+/// A button that is one symbol. Plain: a square of 22 (or `side`) that fills under the pointer. Glass: a round
+/// floating one. Prominent: round, in the accent. Its name is its hint too.
 FocusableItem {
     id: control
 

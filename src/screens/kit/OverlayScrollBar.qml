@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Theme
 
-/// A scroll bar over the content: there while scrolling or under the pointer, wider under it, gone soon after. Attach it
-/// with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls for the attached property).
+/// A scroll bar over the content: there while scrolling or under the pointer, wider under it, gone soon after. Attach
+/// it with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls for the attached property).
 T.ScrollBar {
     id: bar
 

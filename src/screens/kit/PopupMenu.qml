@@ -3,7 +3,8 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a title.
+/// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a
+/// title.
 T.Menu {
     id: menu
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// A button with a label, and a symbol before it where one is given. Plain: words in the accent. Glass: a floating capsule.
-/// Prominent: the accent, one per screen. `large` is 40 high instead of 30.
+/// A button with a label, and a symbol before it where one is given. Plain: words in the accent. Glass: a floating
+/// capsule. Prominent: the accent, one per screen. `large` is 40 high instead of 30.
 FocusableItem {
     id: control
 

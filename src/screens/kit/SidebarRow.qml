@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// A row of the sidebar: a symbol or a drawn icon (`leading`), a title, a count where there is one. `nested` moves it in.
+/// A row of the sidebar: a symbol or a drawn icon (`leading`), a title, a count where there is one. `nested` moves it
+/// in.
 FocusableItem {
     id: row
 

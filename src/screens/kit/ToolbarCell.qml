@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// One command inside a toolbar capsule, 34 × 28. `on` fills it (a chosen layout, an open popover), `active` colours its
-/// symbol (a filter that filters).
+/// One command inside a toolbar capsule, 34 × 28. `on` fills it (a chosen layout, an open popover), `active` colours
+/// its symbol (a filter that filters).
 FocusableItem {
     id: control
 

@@ -5,8 +5,8 @@
 #include <QColor>
 #include <QStringView>
 
-/// The colours that identify a thing: a status, a priority, a type, a label, a project, a person, the user's accent. They
-/// are the same in both appearances and, where a hash chooses them, on every machine.
+/// The colours that identify a thing: a status, a priority, a type, a label, a project, a person, the user's accent.
+/// They are the same in both appearances and, where a hash chooses them, on every machine.
 namespace IdentityColors {
 
 enum class Ground { Light, Dark };

@@ -33,8 +33,8 @@ public:
     /// The weight that a role has by itself.
     static constexpr int roleWeight = -1;
 
-    /// The font of a role. `weight` is a `QFont::Weight`, or `roleWeight`. With `tabular`, the family whose digits are all
-    /// of one width: for keys, counts and dates, up to weight DemiBold (Badge and Micro always have it).
+    /// The font of a role. `weight` is a `QFont::Weight`, or `roleWeight`. With `tabular`, the family whose digits are
+    /// all of one width: for keys, counts and dates, up to weight DemiBold (Badge and Micro always have it).
     Q_INVOKABLE QFont font(TypeScale::Role role, int weight = roleWeight,
                            bool tabular = false) const;
     /// The distance of two lines, in logical pixels.

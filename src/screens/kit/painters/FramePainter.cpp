@@ -98,7 +98,7 @@ std::vector<SoftShadow> shadowsNamed(const QString &name, Appearance appearance,
 {
     if (name == "prominent"_L1)
         return {{1, 2, faded(accent, 0.30F)}, {4, 12, faded(accent, 0.22F)}};
-    const auto shared = sameInBoth(name);
+    auto shared = sameInBoth(name);
     if (!shared.empty())
         return shared;
     return appearance == Appearance::Dark ? inDark(name) : inLight(name);

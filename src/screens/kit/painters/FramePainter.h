@@ -8,8 +8,8 @@
 
 #include <vector>
 
-/// What glass has round its fill: a shadow of one or two parts outside the shape, a line of one device pixel round it, and
-/// a light line of one device pixel inside its upper edge.
+/// What glass has round its fill: a shadow of one or two parts outside the shape, a line of one device pixel round it,
+/// and a light line of one device pixel inside its upper edge.
 struct FrameDrawing
 {
     /// The shape, in logical pixels.
@@ -24,8 +24,8 @@ struct FrameDrawing
 /// Which of the two appearances a picture is for.
 enum class Appearance { Light, Dark };
 
-/// The shadows of a name: none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover, sheet. The name
-/// "prominent" takes `accent`. An unknown name has none.
+/// The shadows of a name: none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover, sheet. The
+/// name "prominent" takes `accent`. An unknown name has none.
 std::vector<SoftShadow> shadowsNamed(const QString &name, Appearance appearance,
                                      const QColor &accent);
 /// How far the shadows reach beyond the shape, at least 1 for the hairline, in whole logical pixels.

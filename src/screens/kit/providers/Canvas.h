@@ -23,7 +23,8 @@ struct PictureAddress
 
 PictureAddress parsedAddress(const QString &id);
 
-/// Paints a square of `side` logical pixels into an image of the size in device pixels that was requested (one per logical
-/// pixel without a request). The callback paints in logical pixels and gets the number of device pixels per logical one.
+/// Paints a square of `side` logical pixels into an image of the size in device pixels that was requested (one per
+/// logical pixel without a request). The callback paints in logical pixels and gets the number of device pixels per
+/// logical one.
 QImage painted(qreal side, QSize requestedSize, QSize *size,
                const std::function<void(QPainter &, qreal)> &paint);

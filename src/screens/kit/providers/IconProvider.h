@@ -2,8 +2,8 @@
 
 #include <QQuickImageProvider>
 
-/// Serves the drawn icons: `image://icon/<kind>?<values>`. The addresses are made by `Pictures`; pictures of one address
-/// share one texture.
+/// Serves the drawn icons: `image://icon/<kind>?<values>`. The addresses are made by `Pictures`; pictures of one
+/// address share one texture.
 class IconProvider : public QQuickImageProvider
 {
 public:

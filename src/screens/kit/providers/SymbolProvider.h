@@ -2,9 +2,9 @@
 
 #include <QQuickImageProvider>
 
-/// Serves `image://symbol/<name>?f=<font size>&w=<weight>&c=<colour>`: a symbol in its square of side 1.15 × font size and
-/// a border of `symbolBorder` round it, at the device pixels that the item asks for. Weights: regular, medium, semibold,
-/// bold, heavy. An unknown name gives an empty picture and a warning.
+/// Serves `image://symbol/<name>?f=<font size>&w=<weight>&c=<colour>`: a symbol in its square of side 1.15 × font size
+/// and a border of `symbolBorder` round it, at the device pixels that the item asks for. Weights: regular, medium,
+/// semibold, bold, heavy. An unknown name gives an empty picture and a warning.
 class SymbolProvider : public QQuickImageProvider
 {
 public:
