@@ -149,12 +149,29 @@ def week(now, offset):
 
 
 def recap(now, offset):
-    """The groups of my recap of this week (offset 0) or of an earlier one."""
+    """The groups of my recap of this week (offset 0) or of an earlier one; of equal dates the smaller key first."""
+    dates = last_dates(now, offset)
+    return groups([row for row in ROWS if row.key in dates], RECAP_ORDER,
+                  lambda row: (-dates[row.key].timestamp(), row.key))
+
+
+def last_dates(now, offset):
+    """{key: date of its last event in the week} for the issues of my recap."""
     start, end = week(now, offset)
     logs = {row.key: [event for event in events(row, now) if start <= event[0] < end] for row in ROWS}
-    rows = [row for row in ROWS
-            if any(author == "me" or (is_status and row.is_mine) for _, author, is_status in logs[row.key])]
-    return groups(rows, RECAP_ORDER, lambda row: -max(logs[row.key])[0].timestamp())
+    return {row.key: max(logs[row.key])[0] for row in ROWS
+            if any(author == "me" or (is_status and row.is_mine) for _, author, is_status in logs[row.key])}
+
+
+def with_equals_by_key(listed, now, offset):
+    """The same recap; issues whose last events have one date stand in any order, and here by their keys."""
+    dates = last_dates(now, offset)
+    return [(title, sorted(keys, key=lambda key: (keys.index(first_of_date(keys, dates, key)), key)))
+            for title, keys in listed]
+
+
+def first_of_date(keys, dates, key):
+    return next(other for other in keys if dates.get(other) == dates.get(key))
 
 
 def matching(found, text):

@@ -43,7 +43,8 @@ def photograph_demo(album, program):
     write_preferences(album.session, demoMode="true", appearance=album.appearance)
     velmora = Velmora(album.session, program, WINDOW)
     for name, scope in SCOPES:
-        velmora.app.find(role="list item", name="^%s(,|$)" % scope, timeout=20).click()
+        velmora.app.find(role="heading", timeout=20)
+        velmora.scope(scope).click()
         velmora.app.find(role="list item", name=ISSUE.pattern, timeout=20)
         album.take(velmora, name)
 

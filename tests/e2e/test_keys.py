@@ -90,4 +90,5 @@ class Filtering(WindowCase):
         velmora = self.open_demo()
         self.type_into_filter(velmora, "introuvable")
         velmora.wait_listed([], "introuvable")
-        velmora.app.find(name="Aucun résultat")
+        velmora.app.find(role="push button", name="^Effacer les filtres$").click()
+        velmora.wait_listed(demo_lists.mine(), "with the filters taken away")
