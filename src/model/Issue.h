@@ -38,6 +38,7 @@ struct Issue
     Q_PROPERTY(QString summary MEMBER summary CONSTANT FINAL)
     Q_PROPERTY(IssueStatus status MEMBER status CONSTANT FINAL)
     Q_PROPERTY(bool hasPriority READ hasPriority CONSTANT FINAL)
+    Q_PROPERTY(Model::PriorityLevel priorityLevel READ priorityLevel CONSTANT FINAL)
     Q_PROPERTY(IssuePriority priorityOrEmpty READ priorityOrEmpty CONSTANT FINAL)
     Q_PROPERTY(bool hasAssignee READ hasAssignee CONSTANT FINAL)
     Q_PROPERTY(JiraUser assigneeOrEmpty READ assigneeOrEmpty CONSTANT FINAL)

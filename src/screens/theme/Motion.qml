@@ -1,18 +1,19 @@
 pragma Singleton
 import QtQuick
 
-/// How things move. Animate with `easing.type: Easing.BezierSpline`, one of the curves and the duration that stands with
-/// it. With `reduced`, moves end at once and fades stay as short fades; the composition root writes it.
+/// How things move. (Curves are `var` because the linter of Qt 6.4 takes a typed list for another type.) Animate with
+/// `easing.type: Easing.BezierSpline`, one of the curves and the duration that stands with it. With `reduced`, moves
+/// end at once and fades stay as short fades; the composition root writes it.
 QtObject {
     /// The desktop asks for less motion.
     property bool reduced: false
 
     /// Damping 0.85: every visible change of state.
-    readonly property list<real> spring: [0.24, 0.21, 0.14, 1.16, 1, 1]
+    readonly property var spring: [0.24, 0.21, 0.14, 1.16, 1, 1]
     /// Damping 0.7, a slight overshoot: toasts and the selection bar coming in.
-    readonly property list<real> softSpring: [0.30, 0.35, 0.11, 1.28, 1, 1]
+    readonly property var softSpring: [0.30, 0.35, 0.11, 1.28, 1, 1]
     /// Damping 1, no overshoot: toasts going out.
-    readonly property list<real> firmSpring: [0.22, 0.20, 0.12, 1.04, 1, 1]
+    readonly property var firmSpring: [0.22, 0.20, 0.12, 1.04, 1, 1]
 
     // Durations in milliseconds
     /// Changes of state, group folding, filter bar, board moves, optimistic edits; with `spring`.

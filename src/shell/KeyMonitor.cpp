@@ -1,0 +1,69 @@
+#include "shell/KeyMonitor.h"
+
+#include "state/KeyPress.h"
+#include "state/KeyRouting.h"
+#include "state/ShortcutKey.h"
+
+#include <QKeyEvent>
+#include <QQuickItem>
+
+void KeyMonitor::setWindow(QQuickWindow *window)
+{
+    if (m_window == window)
+        return;
+    if (m_window)
+        m_window->removeEventFilter(this);
+    m_window = window;
+    if (m_window)
+        m_window->installEventFilter(this);
+    Q_EMIT windowChanged();
+}
+
+void KeyMonitor::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    m_store = store;
+    Q_EMIT storeChanged();
+}
+
+namespace {
+
+/// The create screen and the commands of the palette do not exist yet; asking for them would only take the keyboard away.
+bool hasNoScreenYet(const KeyPress &press)
+{
+    const auto shortcut = shortcutCommand(press);
+    return shortcut == ShortcutCommand::NewIssue || shortcut == ShortcutCommand::CommandPalette ||
+           (!shortcut && route(press) == KeyCommand::NewIssue);
+}
+
+} // namespace
+
+bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || watched != m_window || !m_store)
+        return false;
+    const KeyPress press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
+    if (hasNoScreenYet(press))
+        return false;
+    if (m_store->handleShortcut(press))
+        return true;
+    if (m_store->palette() || isTyping() || isWalkingAList(press.key))
+        return false;
+    return m_store->handleKey(press);
+}
+
+bool KeyMonitor::isTyping() const
+{
+    const QQuickItem *item = m_window->activeFocusItem();
+    return item && (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit"));
+}
+
+bool KeyMonitor::isWalkingAList(int key) const
+{
+    const QQuickItem *item = m_window->activeFocusItem();
+    if (!item || !item->property("walksItsRows").toBool())
+        return false;
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
+           key == Qt::Key_Down;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "state/AppStore.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QtQml/qqmlregistration.h>
+
+/// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A press
+/// passes on untouched while the user is typing in a text field, and where a focused list walks its own rows with
+/// Return and the arrows.
+class KeyMonitor : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL)
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+
+public:
+    using QObject::QObject;
+
+    QQuickWindow *window() const { return m_window; }
+    void setWindow(QQuickWindow *window);
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void windowChanged();
+    void storeChanged();
+
+private:
+    bool isTyping() const;
+    bool isWalkingAList(int key) const;
+
+    QPointer<QQuickWindow> m_window;
+    QPointer<AppStore> m_store;
+};

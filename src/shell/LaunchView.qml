@@ -1,0 +1,23 @@
+import QtQuick
+import Velmora.Kit
+
+// Shows only until it is known which screen comes first.
+Item {
+    Accessible.role: Accessible.Indicator
+    Accessible.name: "Démarrage de Velmora"
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 14
+
+        AppGlyph {
+            anchors.horizontalCenter: parent.horizontalCenter
+            size: 64
+        }
+
+        Spinner {
+            anchors.horizontalCenter: parent.horizontalCenter
+            size: 16
+        }
+    }
+}

@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// The content of the main window: one screen by phase, and the layers that float over every screen.
+Window {
+    id: root
+
+    required property AppStore store
+
+    title: "Velmora"
+    width: 1320
+    height: 840
+    minimumWidth: 940
+    minimumHeight: 580
+    visible: true
+    color: Theme.content
+
+    When {
+        shown: root.store.phase === AppStore.Phase.Launching
+
+        LaunchView {
+            anchors.fill: parent
+        }
+    }
+
+    When {
+        shown: root.store.phase === AppStore.Phase.SignedOut
+
+        OnboardingView {
+            anchors.fill: parent
+            focus: true
+            onDemoChosen: root.store.openDemo()
+        }
+    }
+
+    When {
+        shown: root.store.phase === AppStore.Phase.Ready
+
+        MainView {
+            anchors.fill: parent
+            focus: true
+            store: root.store
+        }
+    }
+
+    PickerOverlay {
+        anchors.fill: parent
+        store: root.store
+    }
+
+    ToastStack {
+        toasts: root.store.toasts
+        // Over the selection bar while issues are checked, near the edge otherwise.
+        bottomGap: root.store.isSelecting ? Metrics.toastBottomAboveBar : Metrics.toastBottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.horizontalCenterOffset: root.store.phase === AppStore.Phase.Ready ? Metrics.sidebarWidth / 2 : 0
+        anchors.bottom: parent.bottom
+        onDismissed: id => root.store.dismissToast(id)
+    }
+
+    Binding {
+        target: Theme
+        property: "dark"
+        value: root.store.isDark
+    }
+
+    Binding {
+        target: Theme
+        property: "accentChoice"
+        value: root.store.accentChoice
+    }
+
+    Binding {
+        target: Motion
+        property: "reduced"
+        value: root.store.prefersReducedMotion
+    }
+}

@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// One line of the sidebar's list: a section's title, a row to pick, or the words in place of projects.
+Item {
+    id: root
+
+    required property int kind
+    required property string text
+    required property string symbol
+    required property project project
+    required property bool isSelectable
+    required property bool isSelected
+    required property string badgeText
+    required property string accessibleName
+    // The row has the keyboard's focus, and it is to be seen.
+    property bool isFocused: false
+
+    signal chosen()
+    signal menuRequested()
+
+    readonly property bool isSection: kind === SidebarEnums.Section
+
+    implicitHeight: isSection ? 35 : Metrics.sidebarRowHeight
+
+    Accessible.role: root.isSection ? Accessible.Heading
+        : root.isSelectable ? Accessible.ListItem : Accessible.StaticText
+    Accessible.name: root.accessibleName
+    Accessible.selectable: root.isSelectable
+    Accessible.selected: root.isSelected
+    Accessible.focusable: root.isSelectable
+    Accessible.focused: root.isFocused
+    Accessible.onPressAction: root.chosen()
+
+    SidebarRow {
+        anchors.fill: parent
+        visible: root.isSelectable
+        focusPolicy: Qt.NoFocus
+        text: root.text
+        symbol: root.symbol
+        count: root.badgeText
+        selected: root.isSelected
+        nested: root.kind === SidebarEnums.View
+        accessibleName: root.accessibleName
+        Accessible.ignored: true
+        onClicked: root.chosen()
+
+        When {
+            shown: root.kind === SidebarEnums.Project
+
+            ProjectBadge {
+                x: 9
+                anchors.verticalCenter: parent.verticalCenter
+                project: root.project
+                Accessible.ignored: true
+            }
+        }
+
+        FocusRing {
+            shown: root.isFocused
+            corner: Metrics.radiusRow
+            anchors.margins: -2
+        }
+    }
+
+    AppText {
+        visible: root.isSection
+        x: Metrics.gapMedium
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 5
+        role: TypeScale.Caption
+        weight: Font.DemiBold
+        color: Theme.text3
+        text: root.text
+        Accessible.ignored: true
+    }
+
+    AppText {
+        visible: root.kind === SidebarEnums.Placeholder
+        x: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.text2
+        text: root.text
+        Accessible.ignored: true
+    }
+
+    TapHandler {
+        enabled: root.kind === SidebarEnums.Project
+        acceptedButtons: Qt.RightButton
+        onTapped: root.menuRequested()
+    }
+}

@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
+import Velmora.Theme
+
+// The site, and the menu of the session.
+Item {
+    id: root
+
+    required property AppStore store
+    required property Workspace workspace
+
+    implicitHeight: 40
+
+    FocusableItem {
+        id: button
+        x: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, root.width - 2 * x)
+        height: 28
+        padding: 4
+        accessibleName: "Espace " + root.store.siteShortName
+        onClicked: menu.open()
+
+        background: HoverFill {
+            radius: Metrics.radiusRow
+            shown: button.lit || menu.opened
+        }
+
+        contentItem: WorkspaceLabel {
+            initial: root.workspace.initial
+            name: root.store.siteShortName
+        }
+    }
+
+    PopupMenu {
+        id: menu
+        x: button.x
+        y: root.height
+        title: "Espace"
+
+        PopupMenuItem {
+            enabled: false
+            text: root.workspace.userName
+            visible: text !== ""
+            height: visible ? implicitHeight : 0
+        }
+
+        PopupMenuItem {
+            enabled: false
+            text: root.workspace.userEmail
+            visible: text !== ""
+            height: visible ? implicitHeight : 0
+        }
+
+        PopupMenuSeparator {
+            visible: root.store.hasMe
+            height: visible ? implicitHeight : 0
+        }
+
+        PopupMenuItem {
+            text: "Ouvrir " + root.store.siteName
+            symbol: "safari"
+            onTriggered: root.store.openSite()
+        }
+
+        PopupMenuItem {
+            text: root.store.isDemo ? "Quitter le mode démo" : "Se déconnecter"
+            symbol: "rectangle.portrait.and.arrow.right"
+            onTriggered: root.store.signOut()
+        }
+    }
+}

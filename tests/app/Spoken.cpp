@@ -1,0 +1,33 @@
+#include "app/Spoken.h"
+
+#include <QQuickWindow>
+
+namespace {
+
+void collect(QAccessibleInterface *node, const QPoint &origin, QList<Spoken> &found)
+{
+    if (!node || node->state().invisible)
+        return;
+    found.push_back({node->role(), node->text(QAccessible::Name), node->state(),
+                     node->rect().translated(-origin)});
+    for (int i = 0; i < node->childCount(); ++i)
+        collect(node->child(i), origin, found);
+}
+
+} // namespace
+
+QList<Spoken> spokenIn(QQuickWindow &window)
+{
+    QList<Spoken> found;
+    collect(QAccessible::queryAccessibleInterface(&window), window.mapToGlobal(QPoint()), found);
+    return found;
+}
+
+QList<Spoken> spokenIn(QQuickWindow &window, QAccessible::Role role, const QString &nameContains)
+{
+    QList<Spoken> found = spokenIn(window);
+    found.removeIf([&](const Spoken &thing) {
+        return thing.role != role || !thing.name.contains(nameContains);
+    });
+    return found;
+}

@@ -1,0 +1,140 @@
+#include "app/WindowFixture.h"
+
+#include "async/Spawn.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList &warnings()
+{
+    static QStringList list;
+    return list;
+}
+
+void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        warnings() += message;
+}
+
+Issue issueWithKey(const QString &key, const QString &statusName)
+{
+    Issue issue;
+    issue.id = u"id-"_s + key;
+    issue.key = key;
+    issue.summary = u"Résumé de "_s + key;
+    issue.status = IssueStatus::guessed(statusName);
+    issue.projectKey = key.section(u'-', 0, 0);
+    issue.created = issue.updated = QDateTime({2026, 10, 28}, {9, 0}, QTimeZone::utc());
+    return issue;
+}
+
+} // namespace
+
+WindowFixture::WindowFixture()
+{
+    warnings().clear();
+    qInstallMessageHandler(keepWarnings);
+}
+
+WindowFixture::~WindowFixture()
+{
+    app.reset();
+    service->cancelPending();
+    qInstallMessageHandler(nullptr);
+    EXPECT_TRUE(warnings().isEmpty()) << warnings().join(u'\n').toStdString();
+}
+
+void WindowFixture::open()
+{
+    Outside outside;
+    auto ownClock = std::make_unique<ManualClock>();
+    auto ownDesktop = std::make_unique<FakeDesktop>();
+    clock = ownClock.get();
+    desktop = ownDesktop.get();
+    outside.clock = std::move(ownClock);
+    outside.desktop = std::move(ownDesktop);
+    outside.preferences = std::make_unique<Preferences>(preferencesPath);
+    outside.calendar = {QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
+    outside.makeDemo = [this](Clock &, const UserCalendar &) { return service; };
+    app = std::make_unique<VelmoraApp>(std::move(outside));
+    ASSERT_TRUE(app->open());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+}
+
+void WindowFixture::openOnDemo()
+{
+    Preferences(preferencesPath).setFlag(u"demoMode"_s, true);
+    answerEverything();
+    open();
+}
+
+void WindowFixture::openSignedOut()
+{
+    answerEverything();
+    open();
+}
+
+void WindowFixture::answerEverything()
+{
+    service->currentUserCalls.answerWith(JiraUser{u"u1"_s, u"Noam Talvère"_s, {}, {}});
+    service->projectsCalls.answerWith({Project{u"1"_s, u"MOB"_s, u"App mobile"_s, {}, {}, false}});
+    service->projectCalls.answerWith(Project{u"1"_s, u"MOB"_s, u"App mobile"_s, {}, {}, false});
+    service->statusesCalls.answerWith({});
+    service->prioritiesCalls.answerWith({});
+    service->assignableUsersCalls.answerWith({});
+    service->transitionsCalls.answerWith({});
+    service->commentsCalls.answerWith({});
+}
+
+void WindowFixture::serve(const QStringList &keys, const QString &statusName)
+{
+    IssueList issues;
+    for (const auto &key : keys)
+        issues += issueWithKey(key, statusName);
+    service->issuesCalls.answerWith(issues);
+}
+
+void WindowFixture::reload()
+{
+    spawn(store().reload());
+    QCoreApplication::processEvents();
+}
+
+void WindowFixture::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(&window(), key, modifiers);
+}
+
+void WindowFixture::type(const QString &text)
+{
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, &window(), Qt::Key_unknown, QString(letter),
+                            Qt::NoModifier);
+}
+
+void WindowFixture::click(const Spoken &thing, Qt::KeyboardModifiers modifiers)
+{
+    QTest::mouseClick(&window(), Qt::LeftButton, modifiers, thing.box.center());
+}
+
+Spoken WindowFixture::find(QAccessible::Role role, const QString &nameContains)
+{
+    const auto found = spokenIn(window(), role, nameContains);
+    EXPECT_EQ(found.size(), 1) << "things named like " << nameContains.toStdString();
+    return found.isEmpty() ? Spoken() : found.first();
+}
+
+QStringList WindowFixture::rowsShown()
+{
+    auto rows = spokenIn(window(), QAccessible::ListItem, u"Résumé"_s);
+    std::ranges::sort(rows, {}, [](const Spoken &row) { return row.box.top(); });
+    QStringList keys;
+    for (const auto &row : rows)
+        keys += row.name.section(u',', 0, 0);
+    return keys;
+}
