@@ -1,0 +1,91 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// The header of a group; a click anywhere folds or unfolds it.
+Item {
+    id: root
+
+    required property issueListHeader header
+    // Drawn over rows that scroll beneath it.
+    property bool isPinned: false
+
+    signal toggled()
+
+    Accessible.role: Accessible.Button
+    Accessible.name: root.header.accessibleName
+    Accessible.ignored: root.isPinned
+    Accessible.onPressAction: root.toggled()
+
+    Rectangle {
+        visible: root.isPinned
+        anchors.fill: parent
+        color: Theme.content
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Metrics.radiusRow
+        color: Theme.hoverFill
+    }
+
+    Item {
+        x: 13
+        width: 12
+        height: 14
+        anchors.verticalCenter: parent.verticalCenter
+
+        Symbol {
+            anchors.centerIn: parent
+            name: "chevron.right"
+            size: 9
+            weight: "bold"
+            color: Theme.text2
+            rotation: root.header.isCollapsed ? 0 : 90
+
+            Behavior on rotation {
+                NumberAnimation {
+                    duration: Motion.stateDuration
+                    easing.type: Easing.BezierSpline
+                    easing.bezierCurve: Motion.spring
+                }
+            }
+        }
+    }
+
+    GroupIcon {
+        // Centred on the rows' priority column.
+        x: 47 - width / 2
+        anchors.verticalCenter: parent.verticalCenter
+        header: root.header
+    }
+
+    AppText {
+        id: title
+        x: 68
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, root.width - x - 60)
+        role: TypeScale.Body
+        weight: Font.Medium
+        text: root.header.title
+        Accessible.ignored: true
+        elide: Text.ElideRight
+    }
+
+    AppText {
+        anchors.left: title.right
+        anchors.leftMargin: Metrics.gap
+        anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
+        tabular: true
+        color: Theme.text2
+        text: root.header.count
+        Accessible.ignored: true
+    }
+
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.toggled()
+    }
+}

@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Qt.labs.qmlmodels
+import QtQuick.Templates as T
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// Every visible issue as a row of fixed height, in groups whose headers stay at the top while their rows scroll.
+FocusScope {
+    id: root
+
+    required property AppStore store
+
+    readonly property bool isCompact: store.density === Model.RowDensity.Compact
+    readonly property int rowHeight: isCompact ? Metrics.rowCompactHeight : Metrics.rowHeight
+    readonly property int headerHeight: isCompact ? Metrics.groupHeaderCompactHeight : Metrics.groupHeaderHeight
+
+    KeyColumn {
+        id: keyColumn
+        store: root.store
+    }
+
+    ListView {
+        id: list
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        clip: true
+        model: root.store.issueList
+        boundsBehavior: Flickable.StopAtBounds
+        reuseItems: true
+        cacheBuffer: 400
+        pixelAligned: true
+
+        Accessible.role: Accessible.List
+        Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
+
+        delegate: DelegateChooser {
+            role: "kind"
+
+            DelegateChoice {
+                roleValue: IssueListEnums.Header
+
+                GroupHeader {
+                    width: list.width
+                    height: root.headerHeight
+                    onToggled: root.store.toggleGroup(header.groupId)
+                }
+            }
+
+            DelegateChoice {
+                roleValue: IssueListEnums.Issue
+
+                IssueRow {
+                    width: list.width
+                    height: root.rowHeight
+                    display: root.store.display
+                    keyWidth: keyColumn.width
+                    isSelecting: root.store.isSelecting
+                    onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
+                    onCheckToggled: root.store.toggleCheck(issue.key)
+                }
+            }
+        }
+
+        T.ScrollBar.vertical: OverlayScrollBar {}
+    }
+
+    // The header of the rows at the top, pushed away by the next one.
+    GroupHeader {
+        id: pinned
+
+        readonly property int topRow: {
+            list.contentY;
+            root.store.issueList.revision;
+            return list.indexAt(1, list.contentY + 1);
+        }
+        readonly property Item nextHeader: list.itemAtIndex(root.store.issueList.headerRowAfter(topRow))
+
+        visible: topRow >= 0 && list.contentY > list.originY
+        width: list.width
+        height: root.headerHeight
+        y: nextHeader ? Math.min(0, nextHeader.y - list.contentY - height) : 0
+        isPinned: true
+        header: root.store.issueList.headerAt(root.store.issueList.headerRowOf(topRow))
+        onToggled: root.store.toggleGroup(header.groupId)
+    }
+
+    FocusedRowScroller {
+        list: list
+        rows: root.store.issueList
+        focusedKey: root.store.focusedKey
+        headerHeight: root.headerHeight
+    }
+}

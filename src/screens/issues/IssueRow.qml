@@ -1,0 +1,235 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// One issue of the list.
+Item {
+    id: root
+
+    required property issue issue
+    required property bool isFocused
+    required property bool isChecked
+    required property bool isOpen
+    required property string updatedText
+    required property string dueText
+    required property bool isOverdue
+    required property string dueTooltip
+    required property string accessibleName
+    required property issueListBadge badge
+    required property displayProperties display
+    required property int keyWidth
+    // Any issue is checked: every check box shows.
+    required property bool isSelecting
+
+    signal clicked(modifiers: int)
+    signal checkToggled()
+
+    readonly property real gap: Metrics.gapMedium
+    readonly property real room: width - trailing.width - leading.width - 3 * gap
+    readonly property rowFit fit: RowFitting.fit(room,
+        labels.visible ? labels.namesWidth + gap : 0, labels.visible ? labels.dotsWidth + gap : 0,
+        due.visible ? dueMeasure.advanceWidth + 30 + gap : 0, due.visible ? 26 + gap : 0)
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.accessibleName
+    Accessible.focusable: true
+    Accessible.focused: root.isFocused
+    Accessible.selectable: true
+    Accessible.selected: root.isChecked
+    Accessible.onPressAction: root.clicked(0)
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.topMargin: 1
+        anchors.bottomMargin: 1
+        radius: Metrics.radiusRow
+        color: root.isChecked ? Theme.checkedFill
+            : root.isOpen ? Theme.openFill
+            : root.isFocused || hover.hovered ? Theme.hoverFill : "transparent"
+    }
+
+    Rectangle {
+        visible: root.isFocused
+        width: 2
+        radius: 1
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.topMargin: 9
+        anchors.bottomMargin: 9
+        color: Theme.accent
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    TapHandler {
+        id: tap
+        acceptedButtons: Qt.LeftButton
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.clicked(tap.point.modifiers)
+    }
+
+    Row {
+        id: leading
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: root.gap
+
+        // The visible box is 14 wide, its target 22.
+        Item {
+            width: 14
+            height: Metrics.smallButton
+
+            RowCheckBox {
+                anchors.centerIn: parent
+                focusPolicy: Qt.NoFocus
+                name: "Sélectionner " + root.issue.key
+                checked: root.isChecked
+                shown: hover.hovered || root.isSelecting
+                hint: "Sélectionner (X)"
+                onClicked: root.checkToggled()
+            }
+        }
+
+        Item {
+            visible: root.display.priority
+            width: Metrics.smallButton
+            height: Metrics.smallButton
+
+            PriorityIcon {
+                anchors.centerIn: parent
+                level: root.issue.priorityLevel
+                Accessible.ignored: true
+                size: 14
+            }
+        }
+
+        AppText {
+            visible: root.display.key
+            anchors.verticalCenter: parent.verticalCenter
+            width: root.keyWidth
+            role: TypeScale.Small
+            tabular: true
+            color: Theme.text2
+            text: root.issue.key
+            Accessible.ignored: true
+            elide: Text.ElideRight
+        }
+
+        Item {
+            width: Metrics.smallButton
+            height: Metrics.smallButton
+
+            StatusIcon {
+                anchors.centerIn: parent
+                status: root.issue.status
+                Accessible.ignored: true
+                size: 14
+            }
+        }
+
+        Item {
+            visible: root.display.type
+            width: 14
+            height: Metrics.smallButton
+
+            TypeIcon {
+                anchors.centerIn: parent
+                visible: root.issue.hasType
+                type: root.issue.typeOrEmpty
+                Accessible.ignored: true
+                size: 11
+            }
+        }
+    }
+
+    RowSummary {
+        anchors.left: leading.right
+        anchors.leftMargin: root.gap
+        anchors.right: labels.left
+        anchors.rightMargin: labels.visible ? root.gap : 0
+        anchors.verticalCenter: parent.verticalCenter
+        summary: root.issue.summary
+        parentSummary: root.issue.parentSummary
+    }
+
+    RowLabels {
+        id: labels
+        visible: root.display.labels && root.issue.labels.length > 0
+        width: visible ? implicitWidth : 0
+        anchors.right: due.left
+        anchors.rightMargin: due.visible ? root.gap : 0
+        anchors.verticalCenter: parent.verticalCenter
+        issue: root.issue
+        showsNames: root.fit.showsLabelNames
+    }
+
+    TextMetrics {
+        id: dueMeasure
+        font: TypeScale.font(TypeScale.Badge, -1, true)
+        text: root.dueText
+    }
+
+    DueBadge {
+        id: due
+        visible: root.display.dueDate && root.issue.hasDueDate
+        width: visible ? implicitWidth : 0
+        anchors.right: trailing.left
+        anchors.rightMargin: root.gap
+        anchors.verticalCenter: parent.verticalCenter
+        Accessible.ignored: true
+        text: root.dueText
+        late: root.isOverdue
+        compact: !root.fit.showsDueText
+    }
+
+    Row {
+        id: trailing
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: root.gap
+
+        Item {
+            visible: root.display.assignee
+            width: Metrics.smallButton
+            height: Metrics.smallButton
+
+            Avatar {
+                anchors.centerIn: parent
+                user: root.issue.assigneeOrEmpty
+                Accessible.ignored: true
+                hasUser: root.issue.hasAssignee
+                size: 18
+            }
+        }
+
+        When {
+            shown: root.display.updated && root.badge.isShown
+
+            RowActivity {
+                badge: root.badge
+            }
+        }
+
+        AppText {
+            visible: root.display.updated && !root.badge.isShown
+            anchors.verticalCenter: parent.verticalCenter
+            width: 54
+            horizontalAlignment: Text.AlignRight
+            role: TypeScale.Small
+            tabular: true
+            color: Theme.text2
+            text: root.updatedText
+            Accessible.ignored: true
+        }
+    }
+}

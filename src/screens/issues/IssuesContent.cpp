@@ -1,0 +1,96 @@
+#include "screens/issues/IssuesContent.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+EmptyScreen nothingMatches()
+{
+    return {u"line.3.horizontal.decrease.circle"_s, u"Aucun ticket ne correspond"_s,
+            u"Essaie d'élargir la recherche ou de retirer des filtres."_s,
+            u"Effacer les filtres"_s};
+}
+
+EmptyScreen nothingHappened(const ActivityPeriod &period, const QDateTime &now,
+                            const UserCalendar &calendar)
+{
+    const QString whose = period.teamWide ? QString() : u" par toi"_s;
+    return {u"calendar.badge.exclamationmark"_s, u"Aucune activité"_s,
+            u"Aucun ticket traité "_s + period.rangeLabel(now, calendar) + whose + u'.',
+            period.range == ActivityRange::Week ? u"Semaine précédente"_s : u"Mois précédent"_s};
+}
+
+EmptyScreen nothingToDo()
+{
+    return {u"checkmark.seal"_s, u"Rien à faire ici"_s,
+            u"Aucun ticket dans cette vue. Profite, ou crée-en un avec C."_s, QString()};
+}
+
+} // namespace
+
+EmptyScreen emptyScreen(const IssueScope &scope, FilterState filter, const QDateTime &now,
+                        const UserCalendar &calendar)
+{
+    if (filter == FilterState::Filtered)
+        return nothingMatches();
+    if (const auto *period = scope.asActivity())
+        return nothingHappened(*period, now, calendar);
+    return nothingToDo();
+}
+
+void IssuesContent::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    if (m_store)
+        m_store->disconnect(this);
+    m_store = store;
+    if (m_store) {
+        connect(m_store, &AppStore::issuesChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::isLoadingChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::loadErrorChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::visibleCountChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::recapChanged);
+    }
+    Q_EMIT storeChanged();
+    Q_EMIT recapChanged();
+    update();
+}
+
+IssuesContent::Kind IssuesContent::presentKind() const
+{
+    if (m_store->issues().isEmpty() && m_store->isLoading())
+        return Kind::Loading;
+    if (m_store->issues().isEmpty() && m_store->loadError().has_value())
+        return Kind::Failed;
+    return m_store->visibleCount() > 0 ? Kind::Issues : Kind::Empty;
+}
+
+void IssuesContent::update()
+{
+    if (!m_store)
+        return;
+    const auto filter = m_store->filterText().isEmpty() && m_store->filters().isEmpty()
+                            ? FilterState::Unfiltered
+                            : FilterState::Filtered;
+    const Kind kind = presentKind();
+    const EmptyScreen empty =
+        emptyScreen(m_store->scope(), filter, m_store->now(), m_store->calendar());
+    if (m_kind == kind && m_empty == empty)
+        return;
+    m_kind = kind;
+    m_empty = empty;
+    Q_EMIT changed();
+}
+
+void IssuesContent::runEmptyAction()
+{
+    if (!m_store->filterText().isEmpty() || !m_store->filters().isEmpty()) {
+        m_store->setFilterText({});
+        m_store->setFilters({});
+    } else if (const auto *period = m_store->scope().asActivity()) {
+        m_store->select(IssueScope::activity(
+            {period->range, std::min(period->offset - 1, 0), period->teamWide}));
+    }
+}

@@ -1,0 +1,85 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// Title and count at the left, commands and the search field at the right.
+Item {
+    id: root
+
+    required property AppStore store
+
+    function focusSearch() {
+        search.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    implicitHeight: Metrics.toolbarHeight
+
+    Column {
+        anchors.left: parent.left
+        anchors.leftMargin: 20
+        anchors.right: commands.left
+        anchors.rightMargin: Metrics.gap
+        y: 11
+
+        AppText {
+            width: parent.width
+            role: TypeScale.Headline
+            text: root.store.scopeTitle
+            elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        AppText {
+            width: parent.width
+            role: TypeScale.Badge
+            weight: Font.Normal
+            tabular: true
+            color: Theme.text2
+            text: root.store.subtitle
+            elide: Text.ElideRight
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+
+    Row {
+        id: commands
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.top
+        anchors.verticalCenterOffset: Metrics.toolbarCentre
+        spacing: Metrics.gap
+
+        LayoutSwitch {
+            layout: root.store.layout
+            onChosen: layout => root.store.layout = layout
+        }
+
+        GlassCapsule {
+            width: cells.width + 4
+
+            Row {
+                id: cells
+                anchors.centerIn: parent
+
+                ToolbarCell {
+                    name: "Actualiser"
+                    symbol: "arrow.clockwise"
+                    onClicked: root.store.refresh()
+                }
+            }
+        }
+
+        SearchField {
+            id: search
+            width: 190
+            name: "Filtrer"
+            placeholderText: "Filtrer"
+            text: root.store.filterText
+            onTextChanged: root.store.filterText = text
+            Keys.onEscapePressed: focus = false
+        }
+    }
+}

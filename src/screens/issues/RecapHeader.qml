@@ -1,0 +1,116 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// Above the list of a recap: which period, whose work, what came of it, and a report to take along.
+GlassPanel {
+    id: root
+
+    required property AppStore store
+
+    readonly property activityHeaderData content: store.activityHeader
+
+    implicitHeight: flow.implicitHeight + 2 * 12
+    radius: 16
+    color: Theme.glass
+    shadow: "capsule"
+
+    Flow {
+        id: flow
+        anchors.left: parent.left
+        anchors.right: copy.left
+        anchors.top: parent.top
+        anchors.leftMargin: 12
+        anchors.rightMargin: Metrics.gapLarge
+        anchors.topMargin: 12
+        spacing: Metrics.gapLarge
+
+        Row {
+            height: 28
+            spacing: Metrics.gap
+
+            AppText {
+                anchors.verticalCenter: parent.verticalCenter
+                role: TypeScale.Headline
+                text: root.content.title
+            }
+
+            AppText {
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.text2
+                text: root.content.rangeLabel
+            }
+        }
+
+        Row {
+            height: 28
+            spacing: 2
+
+            IconButton {
+                name: root.content.previousHelp
+                symbol: "chevron.left"
+                symbolWeight: "bold"
+                side: 28
+                corner: 14
+                onClicked: root.store.showPreviousPeriod()
+            }
+
+            IconButton {
+                name: root.content.nextHelp
+                symbol: "chevron.right"
+                symbolWeight: "bold"
+                side: 28
+                corner: 14
+                enabled: root.content.hasNext
+                onClicked: root.store.showNextPeriod()
+            }
+        }
+
+        SegmentedPicker {
+            name: "Période"
+            choices: ["Semaine", "Mois"]
+            current: root.content.isWeek ? 0 : 1
+            onChosen: index => root.store.showRange(index === 0 ? Model.ActivityRange.Week : Model.ActivityRange.Month)
+        }
+
+        SegmentedPicker {
+            name: "Personnes"
+            choices: ["Moi", "Équipe"]
+            current: root.content.teamWide ? 1 : 0
+            onChosen: index => root.store.showPeople(index === 0 ? Recap.People.Me : Recap.People.Team)
+        }
+
+        Row {
+            height: 28
+            spacing: 18
+
+            Repeater {
+                model: root.content.pills
+
+                RecapPill {
+                    required property statPill modelData
+                    anchors.verticalCenter: parent ? parent.verticalCenter : undefined
+                    symbol: modelData.symbol
+                    value: modelData.value
+                    label: modelData.label
+                }
+            }
+        }
+    }
+
+    PushButton {
+        id: copy
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 11
+        symbol: "doc.on.clipboard"
+        text: "Copier le récap"
+        hint: "Copie un résumé Markdown, prêt pour Slack ou un compte rendu"
+        onClicked: root.store.copyActivityRecap()
+    }
+}

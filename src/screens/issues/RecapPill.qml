@@ -1,0 +1,44 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// One counter of a recap.
+Row {
+    id: root
+
+    required property string symbol
+    required property int value
+    required property string label
+
+    readonly property var colors: ({
+        "checkmark.circle.fill": Theme.done,
+        "arrow.forward.circle.fill": Theme.inProgress,
+        "plus.circle.fill": Theme.review
+    })
+
+    spacing: Metrics.gapSmall
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.value + " " + root.label
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        name: root.symbol
+        size: 13
+        color: root.colors[root.symbol] ?? Theme.neutral
+    }
+
+    AppText {
+        anchors.verticalCenter: parent.verticalCenter
+        weight: Font.DemiBold
+        tabular: true
+        text: root.value
+        Accessible.ignored: true
+    }
+
+    AppText {
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.text2
+        text: root.label
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,65 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// What stands where there is nothing to list: a symbol, a title, a sentence and one way out.
+Item {
+    id: root
+
+    required property string symbol
+    required property string title
+    required property string description
+    required property string action
+    property bool isProminent: false
+
+    signal actionChosen()
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.title
+    Accessible.description: root.description
+
+    Column {
+        width: Math.min(root.width - 2 * Metrics.pageMargin, 520)
+        anchors.horizontalCenter: parent.horizontalCenter
+        // A little above the middle, where the eye expects the middle to be.
+        y: (root.height - height) / 2 - root.height * 0.03
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: root.symbol
+            size: 38
+            color: Theme.text3
+        }
+
+        Item { width: 1; height: 14 }
+
+        AppText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            role: TypeScale.Title3
+            text: root.title
+            wrapMode: Text.Wrap
+        }
+
+        Item { width: 1; height: Metrics.gapTiny }
+
+        AppText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            role: TypeScale.Body
+            color: Theme.text2
+            text: root.description
+            wrapMode: Text.Wrap
+        }
+
+        Item { width: 1; height: 18 }
+
+        PushButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.action
+            visible: root.action !== ""
+            look: root.isProminent ? PushButton.Prominent : PushButton.Glass
+            onClicked: root.actionChosen()
+        }
+    }
+}
