@@ -39,6 +39,7 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
 
+        // A row that waits for its next use would otherwise still be told to screen readers.
         delegate: DelegateChooser {
             role: "kind"
 
@@ -49,6 +50,8 @@ FocusScope {
                     width: list.width
                     height: root.headerHeight
                     onToggled: root.store.toggleGroup(header.groupId)
+                    ListView.onPooled: visible = false
+                    ListView.onReused: visible = true
                 }
             }
 
@@ -63,6 +66,8 @@ FocusScope {
                     isSelecting: root.store.isSelecting
                     onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
+                    ListView.onPooled: visible = false
+                    ListView.onReused: visible = true
                 }
             }
         }
