@@ -42,7 +42,7 @@ class Scopes(WindowCase):
         velmora = self.open_demo()
         for _ in range(20):
             focused = velmora.app.focused()
-            if focused and focused.name.startswith("Mes tickets"):
+            if focused and focused.name.endswith("tickets ouverts"):
                 break
             self.session.key("Tab")
         self.session.key("Down")
