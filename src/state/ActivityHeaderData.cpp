@@ -20,6 +20,14 @@ QList<StatPill> statPills(const ActivitySummary &summary, const ActivityPeriod &
 
 } // namespace
 
+QVariantList ActivityHeaderData::pillValues() const
+{
+    QVariantList values;
+    for (const StatPill &pill : pills)
+        values.append(QVariant::fromValue(pill));
+    return values;
+}
+
 ActivityHeaderData activityHeader(const ActivityPeriod &period, const ActivitySummary &summary,
                                   const QDateTime &now, const UserCalendar &calendar)
 {
@@ -30,6 +38,8 @@ ActivityHeaderData activityHeader(const ActivityPeriod &period, const ActivitySu
         .previousHelp = isWeek ? u"Semaine précédente"_s : u"Mois précédent"_s,
         .nextHelp = isWeek ? u"Semaine suivante"_s : u"Mois suivant"_s,
         .hasNext = hasNextPeriod(period),
+        .isWeek = isWeek,
+        .teamWide = period.teamWide,
         .pills = statPills(summary, period),
     };
 }

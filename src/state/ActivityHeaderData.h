@@ -3,6 +3,8 @@
 #include "model/ActivityPeriod.h"
 #include "state/ActivitySummary.h"
 
+#include <QVariantList>
+
 /// One counter of a recap's header.
 struct StatPill
 {
@@ -30,7 +32,9 @@ struct ActivityHeaderData
     Q_PROPERTY(QString previousHelp MEMBER previousHelp CONSTANT FINAL)
     Q_PROPERTY(QString nextHelp MEMBER nextHelp CONSTANT FINAL)
     Q_PROPERTY(bool hasNext MEMBER hasNext CONSTANT FINAL)
-    Q_PROPERTY(QList<StatPill> pills MEMBER pills CONSTANT FINAL)
+    Q_PROPERTY(bool isWeek MEMBER isWeek CONSTANT FINAL)
+    Q_PROPERTY(bool teamWide MEMBER teamWide CONSTANT FINAL)
+    Q_PROPERTY(QVariantList pills READ pillValues CONSTANT FINAL)
 
 public:
     QString title;
@@ -41,8 +45,15 @@ public:
     QString nextHelp;
     /// False for the current period, which is the last.
     bool hasNext = false;
+    /// The period is a week, not a month.
+    bool isWeek = true;
+    /// The recap covers the whole team.
+    bool teamWide = false;
     /// Completed, progressed and created; for a team also the people.
     QList<StatPill> pills;
+
+    /// The pills as QML's views take them.
+    QVariantList pillValues() const;
 
     bool operator==(const ActivityHeaderData &) const = default;
 };

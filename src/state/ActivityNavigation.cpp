@@ -28,9 +28,9 @@ ActivityPeriod withRange(ActivityPeriod period, ActivityRange range)
     return at(period, period.offset);
 }
 
-ActivityPeriod withPeople(ActivityPeriod period, ActivityPeople people)
+ActivityPeriod withPeople(ActivityPeriod period, Recap::People people)
 {
-    period.teamWide = people == ActivityPeople::Team;
+    period.teamWide = people == Recap::People::Team;
     return at(period, period.offset);
 }
 

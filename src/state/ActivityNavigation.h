@@ -2,6 +2,16 @@
 
 #include "model/ActivityPeriod.h"
 
+/// The enumerations of recaps.
+namespace Recap {
+Q_NAMESPACE
+
+/// Whose activity a recap tells.
+enum class People { Me, Team };
+Q_ENUM_NS(People)
+
+} // namespace Recap
+
 /// Where the controls of a recap lead. The future is never reached.
 
 /// The period before.
@@ -11,10 +21,7 @@ ActivityPeriod nextPeriod(ActivityPeriod period);
 /// As many months back as it was weeks, and the reverse.
 ActivityPeriod withRange(ActivityPeriod period, ActivityRange range);
 
-/// Whose activity a recap tells.
-enum class ActivityPeople { Me, Team };
-
-ActivityPeriod withPeople(ActivityPeriod period, ActivityPeople people);
+ActivityPeriod withPeople(ActivityPeriod period, Recap::People people);
 
 /// Whether there is a period after this one that is not in the future.
 bool hasNextPeriod(const ActivityPeriod &period);

@@ -1,13 +1,25 @@
 #pragma once
 
 #include "async/Settled.h"
+#include "async/Turns.h"
 #include "model/DisplayProperties.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Preferences.h"
+#include "state/ActivityBadge.h"
+#include "state/ActivityHeaderData.h"
+#include "state/ActivityNavigation.h"
 #include "state/AppStoreFields.h"
+#include "state/CommentAudience.h"
+#include "state/CopiedText.h"
+#include "state/IssueCopies.h"
 #include "state/IssueDerivation.h"
+#include "state/KeyCommand.h"
+#include "state/KeyPress.h"
+#include "state/OptimisticEdit.h"
+#include "state/OptionBuilders.h"
 #include "state/SelectionRules.h"
+#include "state/ShortcutKey.h"
 #include "state/models/IssueListModel.h"
 #include "state/models/SidebarModel.h"
 #include "state/models/ToastModel.h"
@@ -36,6 +48,8 @@ class AppStore : public AppStoreFields
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the composition root")
+    // Cases of different enumerations share names.
+    Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
     // Preferences
     Q_PROPERTY(Model::LayoutMode layout READ layout WRITE setLayout NOTIFY layoutChanged FINAL)
@@ -58,11 +72,15 @@ class AppStore : public AppStoreFields
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged FINAL)
     Q_PROPERTY(bool prefersReducedMotion READ prefersReducedMotion NOTIFY
                    prefersReducedMotionChanged FINAL)
+    Q_PROPERTY(bool showInspector READ showInspector WRITE setShowInspector NOTIFY
+                   inspectorKeyChanged FINAL)
     // What is made from the fields
     Q_PROPERTY(QString scopeTitle READ scopeTitle NOTIFY scopeTitleChanged FINAL)
     Q_PROPERTY(int visibleCount READ visibleCount NOTIFY visibleCountChanged FINAL)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged FINAL)
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged FINAL)
+    Q_PROPERTY(
+        ActivityHeaderData activityHeader READ activityHeader NOTIFY activityHeaderChanged FINAL)
     Q_PROPERTY(IssueListModel *issueList READ issueList CONSTANT FINAL)
     Q_PROPERTY(SidebarModel *sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(ToastModel *toasts READ toastModel CONSTANT FINAL)
@@ -100,6 +118,8 @@ public:
     /// The best known record of the issue.
     std::optional<SharedIssue> issue(const QString &key) const;
     std::optional<Project> project(const QString &key) const;
+    /// The last known list of each scope met in this session.
+    const QHash<IssueScope, IssueList> &scopeCache() const { return m_scopeCache; }
     /// Every user met so far, by id; outlives sessions.
     const QHash<QString, JiraUser> &knownUsers() const { return m_knownUsers; }
 
@@ -117,14 +137,100 @@ public:
     const QString &subtitle() const { return *m_subtitle; }
     /// The present to the minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
+    const UserCalendar &calendar() const { return m_context.calendar; }
     IssueListModel *issueList() { return &m_issueList; }
     SidebarModel *sidebar() { return &m_sidebar; }
     ToastModel *toastModel() { return &m_toastModel; }
+
+    // Edits: each shows at once in every copy of its issues, is sent, and comes back with a toast if it is refused; keys
+    // of unknown issues are left out, and so are issues that are as wished already --------------------------------------
+    /// Moves issues by their workflows, at most eight at a time; each ends in the status that its workflow really reaches.
+    void setStatus(const IssueStatus &status, const QStringList &keys);
+    void setPriority(const IssuePriority &priority, const QStringList &keys);
+    /// Nobody unassigns. Refreshes the user's own issues.
+    void assign(const QStringList &keys, const std::optional<JiraUser> &user);
+    /// Takes the label off when all issues have it, else adds it where it is missing.
+    void toggleLabel(const QString &label, const QStringList &keys);
+    void setLabels(const QStringList &labels, const QString &key);
+    void rename(const QString &key, const QString &title);
+    /// A text without a word clears the description.
+    void setDescription(const QString &markdown, const QString &key);
+    /// Nothing clears the date.
+    void setDueDate(const std::optional<QDate> &day, const QString &key);
+    /// Carries out what picking a row does.
+    void run(const OptionAction &action);
+
+    // Comments and creation, which show only when they are stored --------------------------------------------------------
+    /// Gives whether the comment was posted; until then its text is the caller's to keep. Names after an "@" become
+    /// mentions, of `mentions` first.
+    QCoro::Task<bool> addComment(QString markdown, QString key, CommentAudience audience,
+                                 QList<JiraUser> mentions);
+    /// Gives the key of the new issue, which is then focused and open; nothing when it was refused.
+    QCoro::Task<std::optional<QString>> create(IssueDraft draft);
+    std::optional<QString> defaultProjectKey() const;
+    /// Without a project the issue's counts.
+    QList<JiraUser> mentionCandidates(const std::optional<QString> &issueKey = {},
+                                      const std::optional<QString> &projectKey = {}) const;
+    /// Users that the service finds; none on any failure.
+    QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {});
 
     // Selection -------------------------------------------------------------------------------------------------------
     Q_INVOKABLE void toggleGroup(const QString &id);
     /// Moves the focus by `delta` rows, without wrapping; an open inspector follows.
     void moveFocus(int delta, FocusMove move = FocusMove::Plain);
+    /// A click on a row or a card with these `Qt::KeyboardModifiers`.
+    Q_INVOKABLE void handleClick(const QString &key, int modifiers = 0);
+    Q_INVOKABLE void toggleCheck(const QString &key);
+    /// Closes the inspector, or opens it on the focused issue, else on the first one shown.
+    Q_INVOKABLE void togglePeek();
+    bool showInspector() const { return m_inspectorKey->has_value(); }
+    void setShowInspector(bool shown);
+    /// The issues that a key or a menu acts on.
+    QStringList actionTargets() const;
+    /// The issues that a context menu or a drag of one row acts on.
+    QStringList contextKeys(const QString &key) const;
+    /// Opens the create screen, in the project of the list if none is given; only in a session.
+    Q_INVOKABLE void newIssue() { newIssue(std::nullopt); }
+    void newIssue(const std::optional<QString> &projectKey);
+
+    // Keys and commands -------------------------------------------------------------------------------------------------
+    /// Carries out what the key map makes of a press; false for a press that is not consumed. Not for presses that a text
+    /// field, the palette or the create screen should have.
+    bool handleKey(const KeyPress &press);
+    /// The same for the shortcuts of the menus, which also count while the user types.
+    bool handleShortcut(const KeyPress &press);
+    void run(ShortcutCommand command);
+    /// A picker for the targets, or a toast that asks for one; the same for the assignment.
+    void openPicker(PickerKind kind);
+    void assignToMe();
+    Q_INVOKABLE void togglePalette();
+    QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
+    QList<IssueStatus> statusOptions(const QStringList &keys) const;
+    QList<JiraUser> assigneeOptions(const QStringList &keys) const;
+    QList<IssuePriority> priorityOptions() const;
+
+    // Pasteboard and browser; without keys for the targets ---------------------------------------------------------------
+    void copy(const QString &text, const QString &label);
+    void copyKeys(const std::optional<QStringList> &keys = {});
+    void copyBranch(const std::optional<QString> &key = {});
+    void copyLink(const std::optional<QString> &key = {});
+    void openInBrowser(const std::optional<QString> &key = {});
+    Q_INVOKABLE void openSite();
+
+    // Recap; outside of one nothing of it does anything ------------------------------------------------------------------
+    ActivitySummary activitySummary() const;
+    /// Empty outside a recap.
+    const ActivityHeaderData &activityHeader() const { return *m_activityHeader; }
+    /// Copies a report in Markdown.
+    Q_INVOKABLE void copyActivityRecap();
+    Q_INVOKABLE void showPreviousPeriod();
+    Q_INVOKABLE void showNextPeriod();
+    Q_INVOKABLE void showRange(Model::ActivityRange range);
+    Q_INVOKABLE void showPeople(Recap::People people);
+    /// The latest event of an issue in a recap.
+    std::optional<ActivityBadge> badgeOf(const Issue &issue) const;
+    /// The status of a name in an issue's history.
+    IssueStatus statusNamed(const QString &name, const QString &projectKey) const;
 
     // Preferences, each written to the disk at its change ---------------------------------------------------------------
     LayoutMode layout() const { return *m_layout; }
@@ -174,6 +280,9 @@ Q_SIGNALS:
     void visibleCountChanged();
     void subtitleChanged();
     void nowChanged();
+    void activityHeaderChanged();
+    /// Asks for the window of an issue of its own.
+    void openWindowRequested(const QString &key);
 
 private:
     enum class SessionKind { Real, Demo };
@@ -198,8 +307,36 @@ private:
     void takeDetails(const QString &key, const Issue &issue);
     void takeDetailsFailure(const QString &key, const TaskFailure &failure);
     void takeAssignables(const QString &key, const QList<JiraUser> &users);
+    // AppStoreEdits.cpp, AppStoreTransitions.cpp
+    IssueList knownIssues(const QStringList &keys) const;
+    void carryOut(const QList<OptimisticEdit> &edits);
+    void show(const QList<OptimisticEdit> &edits);
+    QCoro::Task<> commit(OptimisticEdit edit);
+    QCoro::Task<> transition(OptimisticEdit edit, IssueStatus wished);
+    void undo(const OptimisticEdit &edit, const TaskFailure &failure);
+    void mutate(const IssueChanges &changes);
+    // AppStoreOptions.cpp
+    OptionInputs optionInputs(const QStringList &keys) const;
     // AppStoreSelection.cpp
+    Selection selection() const;
     void setSelection(const Selection &selection);
+    // AppStoreKeys.cpp
+    bool run(KeyCommand command, FocusMove move);
+    QStringList targetsOrToast();
+    bool takeSelection(const std::optional<Selection> &next);
+    bool requestWindow();
+    bool toggleFocusedCheck();
+    bool escape();
+    // AppStoreClipboard.cpp
+    void copy(const CopiedText &copied);
+    std::optional<QString> targetOr(const std::optional<QString> &key) const;
+    std::optional<QUrl> browseURL(const std::optional<QString> &key) const;
+    // AppStoreRecap.cpp
+    void turnTo(const ActivityPeriod &period);
+    void refreshActivityHeader();
+    const StatusLookup &statusLookup() const;
+    // AppStoreToasts.cpp
+    void report(const TaskFailure &failure);
     // AppStorePreferences.cpp
     void readPreferences();
     void refreshAppearance();
@@ -218,6 +355,8 @@ private:
     QHash<IssueScope, IssueList> m_scopeCache;
     QSet<QString> m_loadedMeta;
     QHash<QString, JiraUser> m_knownUsers;
+    /// How many transitions are under way at once.
+    Turns m_transitionTurns{8};
     Clock::TimerHandle m_refreshTimer;
     Clock::TimerHandle m_minuteTimer;
     std::map<QUuid, Clock::TimerHandle> m_toastTimers;
@@ -241,6 +380,11 @@ private:
     Observed<AppStore, int> m_visibleCount{this, &AppStore::visibleCountChanged};
     Observed<AppStore, QString> m_subtitle{this, &AppStore::subtitleChanged};
     Observed<AppStore, QDateTime> m_now{this, &AppStore::nowChanged, Time, m_context.clock.now()};
+    Observed<AppStore, ActivityHeaderData> m_activityHeader{this, &AppStore::activityHeaderChanged};
+    /// Made when they are asked for.
+    mutable StatusSources m_statusSources;
+    mutable StatusLookup m_statusLookup{m_statusSources};
+    mutable std::optional<QHash<QString, JiraUser>> m_badgeUsers;
     IssueListModel m_issueList{m_context.calendar, *m_now};
     SidebarModel m_sidebar;
     ToastModel m_toastModel;

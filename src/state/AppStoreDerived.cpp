@@ -41,6 +41,8 @@ IssueDerivationInputs AppStore::derivationInputs() const
 
 void AppStore::flush(unsigned what)
 {
+    if (what & (List | Sidebar | People))
+        m_badgeUsers.reset();
     if (what & List) {
         m_derivation.setInputs(derivationInputs());
         m_issueList.setGroups(groups(), *m_collapsedGroups);
@@ -55,6 +57,10 @@ void AppStore::flush(unsigned what)
         m_issueList.setNow(*m_now);
     if (what & (List | Captions | Time))
         refreshCaptions();
+    if (what & (List | Sidebar | Time))
+        refreshActivityHeader();
+    if (what & (List | Sidebar | People))
+        m_issueList.refreshBadges();
 }
 
 void AppStore::feedMarks()

@@ -5,6 +5,7 @@
 #include "model/IssueService.h"
 #include "state/IssueFilters.h"
 #include "state/Observed.h"
+#include "state/PaletteMode.h"
 #include "state/Toast.h"
 
 #include <QObject>
@@ -54,6 +55,8 @@ class AppStoreFields : public QObject, public Batched
     // Selection and search
     Q_PROPERTY(QString focusedKey READ focusedKeyOrEmpty NOTIFY focusedKeyChanged FINAL)
     Q_PROPERTY(QSet<QString> checked READ checked NOTIFY checkedChanged FINAL)
+    Q_PROPERTY(bool isSelecting READ isSelecting NOTIFY checkedChanged FINAL)
+    Q_PROPERTY(int checkedCount READ checkedCount NOTIFY checkedChanged FINAL)
     Q_PROPERTY(QString inspectorKey READ inspectorKeyOrEmpty NOTIFY inspectorKeyChanged FINAL)
     Q_PROPERTY(
         QSet<QString> collapsedGroups READ collapsedGroups NOTIFY collapsedGroupsChanged FINAL)
@@ -61,6 +64,8 @@ class AppStoreFields : public QObject, public Batched
         QString filterText READ filterText WRITE setFilterText NOTIFY filterTextChanged FINAL)
     Q_PROPERTY(IssueFilters filters READ filters NOTIFY filtersChanged FINAL)
     Q_PROPERTY(bool hasFilters READ hasFilters NOTIFY filtersChanged FINAL)
+    Q_PROPERTY(bool hasPalette READ hasPalette NOTIFY paletteChanged FINAL)
+    Q_PROPERTY(bool isCreating READ isCreating WRITE setIsCreating NOTIFY isCreatingChanged FINAL)
 
 public:
     enum class Phase { Launching, SignedOut, Ready };
@@ -108,6 +113,8 @@ public:
     void setFocusedKey(const std::optional<QString> &key) { m_focusedKey.set(key); }
     const QSet<QString> &checked() const { return *m_checked; }
     void setChecked(const QSet<QString> &keys) { m_checked.set(keys); }
+    bool isSelecting() const { return !m_checked->isEmpty(); }
+    int checkedCount() const { return int(m_checked->size()); }
     const std::optional<QString> &inspectorKey() const { return *m_inspectorKey; }
     void setInspectorKey(const std::optional<QString> &key) { m_inspectorKey.set(key); }
     const QSet<QString> &collapsedGroups() const { return *m_collapsedGroups; }
@@ -115,6 +122,16 @@ public:
     void setFilterText(const QString &text) { m_filterText.set(text); }
     const IssueFilters &filters() const { return *m_filters; }
     void setFilters(const IssueFilters &filters) { m_filters.set(filters); }
+
+    /// The open palette.
+    const std::optional<PaletteMode> &palette() const { return *m_palette; }
+    void setPalette(const std::optional<PaletteMode> &palette) { m_palette.set(palette); }
+    Q_INVOKABLE void closePalette() { m_palette.set(std::nullopt); }
+    /// The create screen is open.
+    bool isCreating() const { return *m_isCreating; }
+    void setIsCreating(bool creating) { m_isCreating.set(creating); }
+    /// The project that the create screen was asked for.
+    const std::optional<QString> &createProjectKey() const { return *m_createProjectKey; }
 
     /// Those now shown, oldest first.
     const QList<Toast> &toasts() const { return *m_toasts; }
@@ -144,6 +161,9 @@ Q_SIGNALS:
     void collapsedGroupsChanged();
     void filterTextChanged();
     void filtersChanged();
+    void paletteChanged();
+    void isCreatingChanged();
+    void createProjectKeyChanged();
     void toastsChanged();
 
 protected:
@@ -157,7 +177,8 @@ protected:
         Sidebar = 4,
         Captions = 8,
         ToastRows = 16,
-        Time = 32
+        Time = 32,
+        People = 64
     };
 
     using QObject::QObject;
@@ -177,7 +198,7 @@ protected:
     Field<CommentMap> m_comments{this, &This::commentsChanged};
     Field<TransitionMap> m_transitions{this, &This::transitionsChanged};
     Field<StatusMap> m_projectStatuses{this, &This::projectStatusesChanged, List};
-    Field<UserMap> m_assignables{this, &This::assignablesChanged};
+    Field<UserMap> m_assignables{this, &This::assignablesChanged, People};
     Field<ProjectMap> m_projectDetails{this, &This::projectDetailsChanged, List};
     Field<IssueList> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
     Field<std::optional<QString>> m_focusedKey{this, &This::focusedKeyChanged, Marks};
@@ -186,6 +207,9 @@ protected:
     Field<QSet<QString>> m_collapsedGroups{this, &This::collapsedGroupsChanged, List};
     Field<QString> m_filterText{this, &This::filterTextChanged, List};
     Field<IssueFilters> m_filters{this, &This::filtersChanged, List};
+    Field<std::optional<PaletteMode>> m_palette{this, &This::paletteChanged};
+    Field<bool> m_isCreating{this, &This::isCreatingChanged};
+    Field<std::optional<QString>> m_createProjectKey{this, &This::createProjectKeyChanged};
     Field<QList<Toast>> m_toasts{this, &This::toastsChanged, ToastRows};
 
 private:
@@ -197,4 +221,5 @@ private:
     QString focusedKeyOrEmpty() const { return m_focusedKey->value_or(QString()); }
     QString inspectorKeyOrEmpty() const { return m_inspectorKey->value_or(QString()); }
     bool hasFilters() const { return !m_filters->isEmpty(); }
+    bool hasPalette() const { return m_palette->has_value(); }
 };

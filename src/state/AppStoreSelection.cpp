@@ -10,8 +10,53 @@ void AppStore::toggleGroup(const QString &id)
 
 void AppStore::moveFocus(int delta, FocusMove move)
 {
-    setSelection(
-        afterMove({*m_focusedKey, *m_checked, *m_inspectorKey}, delta, move, flatVisibleKeys()));
+    setSelection(afterMove(selection(), delta, move, flatVisibleKeys()));
+}
+
+void AppStore::handleClick(const QString &key, int modifiers)
+{
+    const auto kind = clickKind(Qt::KeyboardModifiers(modifiers));
+    setSelection(afterClick(selection(), key, kind, flatVisibleKeys()));
+}
+
+void AppStore::toggleCheck(const QString &key)
+{
+    setSelection(afterToggleCheck(selection(), key));
+}
+
+void AppStore::togglePeek()
+{
+    setSelection(afterTogglePeek(selection(), flatVisibleKeys()));
+}
+
+void AppStore::setShowInspector(bool shown)
+{
+    setSelection(shown ? withInspectorShown(selection()) : withInspectorHidden(selection()));
+}
+
+QStringList AppStore::actionTargets() const
+{
+    return ::actionTargets(selection());
+}
+
+QStringList AppStore::contextKeys(const QString &key) const
+{
+    return ::contextKeys(selection(), key);
+}
+
+void AppStore::newIssue(const std::optional<QString> &projectKey)
+{
+    if (*m_phase != Phase::Ready)
+        return;
+    const Batch batch(*this);
+    const auto *project = m_scope->asProject();
+    m_createProjectKey.set(projectKey || !project ? projectKey : std::optional(project->key));
+    m_isCreating.set(true);
+}
+
+Selection AppStore::selection() const
+{
+    return {*m_focusedKey, *m_checked, *m_inspectorKey};
 }
 
 void AppStore::setSelection(const Selection &selection)

@@ -1,5 +1,6 @@
 #include "state/AppStore.h"
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -25,4 +26,10 @@ void AppStore::dismissToast(const QUuid &id)
     QList<Toast> left = *m_toasts;
     left.removeIf([&](const Toast &toast) { return toast.id == gone; });
     m_toasts.set(left);
+}
+
+void AppStore::report(const TaskFailure &failure)
+{
+    if (!failure.isCancellation)
+        toast(failure.message, u"exclamationmark.triangle.fill"_s, ToastKind::Error);
 }

@@ -13,6 +13,8 @@ struct StatusSources
     /// The list being looked at.
     IssueList issues;
     IssueList myOpenIssues;
+
+    bool operator==(const StatusSources &) const = default;
 };
 
 /// Finds statuses by the names that an issue's history spells. Made once for many names.

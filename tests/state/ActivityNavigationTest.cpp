@@ -29,9 +29,9 @@ TEST(ActivityNavigation, ASwitchOfRangeKeepsTheOffset)
 
 TEST(ActivityNavigation, ASwitchOfPeopleKeepsThePeriod)
 {
-    EXPECT_EQ(withPeople({.offset = -3}, ActivityPeople::Team),
+    EXPECT_EQ(withPeople({.offset = -3}, Recap::People::Team),
               (ActivityPeriod{.offset = -3, .teamWide = true}));
-    EXPECT_EQ(withPeople({.offset = -3, .teamWide = true}, ActivityPeople::Me),
+    EXPECT_EQ(withPeople({.offset = -3, .teamWide = true}, Recap::People::Me),
               (ActivityPeriod{.offset = -3}));
 }
 
@@ -41,6 +41,6 @@ TEST(ActivityNavigation, NoWayLeadsIntoTheFuture)
     EXPECT_EQ(previousPeriod(future).offset, 0);
     EXPECT_EQ(nextPeriod(future).offset, 0);
     EXPECT_EQ(withRange(future, ActivityRange::Month).offset, 0);
-    EXPECT_EQ(withPeople(future, ActivityPeople::Team).offset, 0);
+    EXPECT_EQ(withPeople(future, Recap::People::Team).offset, 0);
     EXPECT_FALSE(hasNextPeriod(future));
 }

@@ -25,7 +25,20 @@ IssueListModel::IssueListModel(UserCalendar calendar, QDateTime now, QObject *pa
 
 void IssueListModel::setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed)
 {
-    auto rows = issueListRows(groups, collapsed);
+    setRows(issueListRows(groups, collapsed));
+}
+
+void IssueListModel::setIssues(const IssueList &issues)
+{
+    QList<IssueListRow> rows;
+    rows.reserve(issues.size());
+    for (const auto &issue : issues)
+        rows.append({issue->key, issue});
+    setRows(std::move(rows));
+}
+
+void IssueListModel::setRows(QList<IssueListRow> rows)
+{
     m_headerRows = headerRows(rows);
     update(std::move(rows));
     ++m_revision;
@@ -80,6 +93,12 @@ void IssueListModel::setNow(const QDateTime &now)
                            {UpdatedTextRole, DueTextRole, IsOverdueRole});
 }
 
+void IssueListModel::refreshBadges()
+{
+    if (!rows().isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {BadgeRole});
+}
+
 int IssueListModel::headerRowOf(int row) const
 {
     const auto after = std::upper_bound(m_headerRows.begin(), m_headerRows.end(), row);
@@ -107,6 +126,12 @@ int IssueListModel::rowOfKey(const QString &key) const
 QString IssueListModel::keyAt(int row) const
 {
     return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key : QString();
+}
+
+int IssueListModel::positionInGroup(int row) const
+{
+    const int header = headerRowOf(row);
+    return header < 0 ? -1 : row - header;
 }
 
 QVariant IssueListModel::data(const QModelIndex &index, int role) const
@@ -143,6 +168,8 @@ QVariant IssueListModel::issueRoleData(const Issue &issue, int role) const
         return isOverdue(issue);
     case DueTooltipRole:
         return issue.dueDate ? dueTooltip(*issue.dueDate) : QString();
+    case BadgeRole:
+        return QVariant::fromValue(IssueListBadge(m_badges(issue)));
     case AccessibleNameRole:
         return accessibleSentence(issue);
     }
@@ -167,6 +194,8 @@ QVariant IssueListModel::groupData(const IssueListHeader &header, int role) cons
     case IsOpenRole:
     case IsOverdueRole:
         return false;
+    case BadgeRole:
+        return QVariant::fromValue(IssueListBadge());
     case UpdatedTextRole:
     case DueTextRole:
     case DueTooltipRole:
@@ -199,5 +228,6 @@ QHash<int, QByteArray> IssueListModel::roleNames() const
             {DueTextRole, "dueText"},
             {IsOverdueRole, "isOverdue"},
             {DueTooltipRole, "dueTooltip"},
+            {BadgeRole, "badge"},
             {AccessibleNameRole, "accessibleName"}};
 }

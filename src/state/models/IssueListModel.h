@@ -1,11 +1,14 @@
 #pragma once
 
 #include "model/UserCalendar.h"
+#include "state/models/IssueListBadge.h"
 #include "state/models/IssueListRow.h"
 #include "state/models/KeyedListModel.h"
 
 #include <QSet>
 #include <QtQml/qqmlregistration.h>
+
+#include <functional>
 
 /// The list layout as one flat list: each group's header, then its issues unless the group is collapsed. What depends on
 /// the view alone (focus, check marks, the open issue, the time) changes without touching the rows.
@@ -39,6 +42,8 @@ public:
         IsOverdueRole,
         /// "Échéance : " and the due date in full; empty without one.
         DueTooltipRole,
+        /// `IssueListBadge`: the latest event of an issue in a recap; empty for all others.
+        BadgeRole,
         /// A whole sentence.
         AccessibleNameRole
     };
@@ -49,6 +54,8 @@ public:
 
     int revision() const { return m_revision; }
     void setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
+    /// Only issues, without any header: the cards of a column.
+    void setIssues(const IssueList &issues);
     /// An empty key focuses nothing. Touches the row that loses and the row that takes the focus.
     void setFocusedKey(const QString &key);
     void setCheckedKeys(const QSet<QString> &keys);
@@ -56,6 +63,12 @@ public:
     void setOpenKey(const QString &key);
     /// Tells relative dates anew.
     void setNow(const QDateTime &now);
+
+    /// Makes the badge of an issue, when a view asks for it.
+    using BadgeMaker = std::function<std::optional<ActivityBadge>(const Issue &)>;
+    void setBadges(BadgeMaker maker) { m_badges = std::move(maker); }
+    /// Says that the badges may have become others.
+    void refreshBadges();
 
     /// The row of the header that the row belongs to, which is the row itself for a header; -1 outside the list.
     Q_INVOKABLE int headerRowOf(int row) const;
@@ -68,6 +81,9 @@ public:
     /// The key of the issue in a row; empty for a header and outside the list.
     Q_INVOKABLE QString keyAt(int row) const;
 
+    /// How many rows an issue stands below its header, from 1; 0 for a header, -1 outside the list.
+    Q_INVOKABLE int positionInGroup(int row) const;
+
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
@@ -75,6 +91,7 @@ Q_SIGNALS:
     void updated();
 
 private:
+    void setRows(QList<IssueListRow> rows);
     QVariant issueRoleData(const Issue &issue, int role) const;
     QVariant groupData(const IssueListHeader &header, int role) const;
     QString dueTooltip(const QDate &day) const;
@@ -86,6 +103,7 @@ private:
     QString m_focusedKey;
     QSet<QString> m_checkedKeys;
     QString m_openKey;
+    BadgeMaker m_badges = [](const Issue &) { return std::nullopt; };
     /// Ascending.
     std::vector<int> m_headerRows;
     int m_revision = 0;

@@ -1,0 +1,87 @@
+#include "async/WhileAlive.h"
+#include "state/AppStore.h"
+#include "state/DefaultProject.h"
+#include "state/DocumentComposing.h"
+#include "state/MentionCandidates.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto LastProjectKey = u"lastProject"_s;
+
+} // namespace
+
+QCoro::Task<bool> AppStore::addComment(QString markdown, QString key, CommentAudience audience,
+                                       QList<JiraUser> mentions)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return false;
+    const ADFNode body = composedDocument(markdown, mentions + mentionCandidates(key));
+    const bool isInternal = audience == CommentAudience::Agents;
+    const auto comment =
+        co_await whileAlive(this, settled(service, service->addComment(key, body, isInternal)));
+    if (!comment) {
+        report(comment.error());
+        co_return false;
+    }
+    m_comments.insert(key, m_comments->value(key) + QList{*comment});
+    co_return true;
+}
+
+QCoro::Task<std::optional<QString>> AppStore::create(IssueDraft draft)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return std::nullopt;
+    const auto created = co_await whileAlive(this, settled(service, service->create(draft)));
+    if (!created) {
+        report(created.error());
+        co_return std::nullopt;
+    }
+    m_context.preferences.setText(LastProjectKey, draft.projectKey);
+    toast(*created + u" créé"_s, u"checkmark.circle.fill"_s);
+    co_await whileAlive(this, reload());
+    co_await whileAlive(this, refreshMyIssues());
+    setSelection({*created, *m_checked, *created});
+    co_return *created;
+}
+
+std::optional<QString> AppStore::defaultProjectKey() const
+{
+    return ::defaultProjectKey(*m_createProjectKey, m_context.preferences.text(LastProjectKey),
+                               *m_projects);
+}
+
+QList<JiraUser> AppStore::mentionCandidates(const std::optional<QString> &issueKey,
+                                            const std::optional<QString> &projectKey) const
+{
+    MentionSources sources{.assignables = {},
+                           .availableAssignees = derivation().menus().assignees,
+                           .knownUsers = m_knownUsers,
+                           .me = *m_me};
+    if (issueKey) {
+        sources.issue = issue(*issueKey);
+        sources.comments = m_comments->value(*issueKey);
+    }
+    if (projectKey)
+        sources.assignables = m_assignables->value(*projectKey);
+    else if (sources.issue)
+        sources.assignables = m_assignables->value((*sources.issue)->projectKey);
+    return ::mentionCandidates(sources);
+}
+
+QCoro::Task<QList<JiraUser>> AppStore::searchUsers(QString query, std::stop_token stop)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return QList<JiraUser>();
+    const auto found =
+        co_await whileAlive(this, settled(service, service->searchUsers(query, stop)));
+    if (!found)
+        co_return QList<JiraUser>();
+    for (const JiraUser &user : *found)
+        m_knownUsers.insert(user.id, user);
+    co_return *found;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "state/ActivityHeaderData.h"
+#include "state/ActivityNavigation.h"
+
+#include <QtQml/qqml.h>
+
+/// Names in QML of what recaps are made of.
+namespace RecapTypes {
+
+struct ActivityHeaderDataValue
+{
+    Q_GADGET
+    QML_FOREIGN(ActivityHeaderData)
+    QML_VALUE_TYPE(activityHeaderData)
+};
+
+struct StatPillValue
+{
+    Q_GADGET
+    QML_FOREIGN(StatPill)
+    QML_VALUE_TYPE(statPill)
+};
+
+} // namespace RecapTypes
+
+namespace RecapEnums {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(Recap)
+QML_NAMED_ELEMENT(Recap)
+} // namespace RecapEnums
