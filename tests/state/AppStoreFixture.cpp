@@ -2,11 +2,20 @@
 
 #include "model/JiraError.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 AppStoreFixture::AppStoreFixture()
 {
     makeStore();
+}
+
+QString AppStoreFixture::folderTemplate()
+{
+    const QFileInfo memory(u"/dev/shm"_s);
+    return (memory.isWritable() ? memory.filePath() : QDir::tempPath()) + u"/velmora-XXXXXX"_s;
 }
 
 AppStoreFixture::~AppStoreFixture()

@@ -35,7 +35,10 @@ protected:
     static Project sampleProject(const QString &key);
     static QStringList keys(const IssueList &issues);
 
-    QTemporaryDir folder;
+    /// In memory where there is such a folder: each session writes preferences, and disks are slow.
+    static QString folderTemplate();
+
+    QTemporaryDir folder{folderTemplate()};
     QString preferencesPath = folder.filePath(QStringLiteral("Velmora.ini"));
     Preferences preferences{preferencesPath};
     ManualClock clock;

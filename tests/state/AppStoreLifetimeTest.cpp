@@ -155,4 +155,63 @@ TEST_F(AppStoreLifetimeTest, theServiceOutlivesTheCallsThatRunOnIt)
     last->commentsCalls.last().finish({});
 }
 
+TEST_F(AppStoreLifetimeTest, goneWhileEditsAreSent)
+{
+    startSession();
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    store->rename(u"WEB-1"_s, u"Autre"_s);
+    store->setPriority(IssuePriority(u"1"_s, u"High"_s), {u"WEB-1"_s});
+    store->toggleLabel(u"ios"_s, {u"WEB-1"_s});
+    store->setDescription(u"Texte"_s, u"WEB-1"_s);
+    store->setDueDate(QDate(2026, 11, 2), u"WEB-1"_s);
+    store->assign({u"WEB-1"_s}, std::nullopt);
+    store->assign({u"WEB-1"_s}, sampleUser(u"u2"_s, u"Maud"_s));
+    ASSERT_EQ(service->updateCalls.count(), 5);
+    ASSERT_EQ(service->assignCalls.count(), 1);
+    store.reset();
+    service->updateCalls[0].finish();
+    for (int i = 1; i < 5; ++i)
+        service->updateCalls[i].fail(Refused);
+    service->assignCalls[0].fail(Refused);
+}
+
+TEST_F(AppStoreLifetimeTest, goneAtEachStageOfATransition)
+{
+    const IssueStatus doing(u"2"_s, u"En cours"_s, u"indeterminate"_s);
+    const QList<WorkflowTransition> offered{{u"t"_s, u"Commencer"_s, doing}};
+    startSession();
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s), sampleIssue(u"WEB-3"_s)});
+    const int first = service->transitionsCalls.count();
+    store->setStatus(doing, {u"WEB-1"_s, u"WEB-2"_s, u"WEB-3"_s});
+    service->transitionsCalls[first + 1].finish(offered);
+    service->transitionsCalls[first + 2].finish(offered);
+    service->performCalls[1].finish();
+    store.reset();
+    service->transitionsCalls[first].fail(Refused);
+    service->performCalls[0].fail(Refused);
+    ASSERT_EQ(service->transitionsCalls.count(), first + 4);
+    service->transitionsCalls[first + 3].finish(offered);
+}
+
+TEST_F(AppStoreLifetimeTest, goneWhileACommentACreationOrAUserSearchIsUnderWay)
+{
+    startSession();
+    const TaskResult<bool> posted(
+        store->addComment(u"Bonjour"_s, u"WEB-1"_s, CommentAudience::Everyone, {}));
+    const TaskResult<std::optional<QString>> created(store->create({}));
+    const TaskResult<std::optional<QString>> listing(store->create({}));
+    const TaskResult<QList<JiraUser>> found(store->searchUsers(u"ma"_s));
+    service->createCalls[1].finish(u"WEB-9"_s);
+    store.reset();
+    service->addCommentCalls[0].fail(Refused);
+    service->createCalls[0].finish(u"WEB-8"_s);
+    service->issuesCalls.last().finish({});
+    service->searchUsersCalls[0].finish({sampleUser(u"u2"_s, u"Maud"_s)});
+
+    EXPECT_THROW(posted.value(), OwnerGone);
+    EXPECT_THROW(created.value(), OwnerGone);
+    EXPECT_THROW(listing.value(), OwnerGone);
+    EXPECT_THROW(found.value(), OwnerGone);
+}
+
 } // namespace
