@@ -8,8 +8,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A press
-/// passes on untouched while the user is typing in a text field, and where a focused list walks its own rows with
-/// Return and the arrows.
+/// passes on untouched while the user is typing in a text field or a palette is open, and where a focused list walks its
+/// own rows with Return and the arrows.
 class KeyMonitor : public QObject
 {
     Q_OBJECT

@@ -55,7 +55,7 @@ Item {
 
             ProjectBadge {
                 x: 9
-                anchors.verticalCenter: parent.verticalCenter
+                y: (root.height - height) / 2
                 project: root.project
                 Accessible.ignored: true
             }

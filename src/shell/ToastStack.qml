@@ -53,8 +53,7 @@ ListView {
             property: "y"
             from: root.height + root.bottomGap
             duration: Motion.toastInDuration
-            easing.type: Easing.BezierSpline
-            easing.bezierCurve: Motion.softSpring
+            easing: Springs.soft
         }
     }
 
@@ -68,8 +67,7 @@ ListView {
             property: "y"
             to: root.height + root.bottomGap
             duration: Motion.toastOutDuration
-            easing.type: Easing.BezierSpline
-            easing.bezierCurve: Motion.firmSpring
+            easing: Springs.firm
         }
     }
 
@@ -77,8 +75,7 @@ ListView {
         NumberAnimation {
             property: "y"
             duration: Motion.stateDuration
-            easing.type: Easing.BezierSpline
-            easing.bezierCurve: Motion.spring
+            easing: Springs.even
         }
     }
 }

@@ -47,7 +47,7 @@ TEST_F(Toasts, WithIssuesCheckedTheyStandAboveTheSelectionBar)
 TEST_F(Toasts, TheyLeaveByThemselves)
 {
     store().cycleAppearance();
-    ASSERT_EQ(shown().size(), 1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown().size() == 1; }));
 
     clock->advance(std::chrono::milliseconds(2400));
 

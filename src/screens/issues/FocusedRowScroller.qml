@@ -38,7 +38,6 @@ Item {
         target: root.list
         property: "contentY"
         duration: Motion.scrollDuration
-        easing.type: Easing.BezierSpline
-        easing.bezierCurve: Motion.spring
+        easing: Springs.even
     }
 }

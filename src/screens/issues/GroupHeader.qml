@@ -47,8 +47,7 @@ Item {
             Behavior on rotation {
                 NumberAnimation {
                     duration: Motion.stateDuration
-                    easing.type: Easing.BezierSpline
-                    easing.bezierCurve: Motion.spring
+                    easing: Springs.even
                 }
             }
         }

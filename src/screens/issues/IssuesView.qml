@@ -28,11 +28,9 @@ FocusScope {
         shown: content.isRecap
 
         RecapHeader {
-            anchors.top: toolbar.bottom
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.leftMargin: Metrics.paneMargin
-            anchors.rightMargin: Metrics.paneMargin
+            x: Metrics.paneMargin
+            y: toolbar.height
+            width: root.width - 2 * Metrics.paneMargin
             store: root.store
             onHeightChanged: body.recapHeight = height + Metrics.gapMedium
             Component.onDestruction: body.recapHeight = 0
@@ -74,7 +72,7 @@ FocusScope {
         }
 
         When {
-            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.Board
+            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
 
             BoardView {
                 anchors.fill: parent
@@ -83,7 +81,7 @@ FocusScope {
         }
 
         When {
-            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.List
+            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.List
 
             IssueListView {
                 anchors.fill: parent

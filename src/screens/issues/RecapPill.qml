@@ -10,11 +10,10 @@ Row {
     required property int value
     required property string label
 
-    readonly property var colors: ({
-        "checkmark.circle.fill": Theme.done,
-        "arrow.forward.circle.fill": Theme.inProgress,
-        "plus.circle.fill": Theme.review
-    })
+    // By symbol: what was finished, what moved, what is new.
+    readonly property color tint: symbol === "checkmark.circle.fill" ? Theme.done
+        : symbol === "arrow.forward.circle.fill" ? Theme.inProgress
+        : symbol === "plus.circle.fill" ? Theme.review : Theme.neutral
 
     spacing: Metrics.gapSmall
     Accessible.role: Accessible.StaticText
@@ -24,7 +23,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         name: root.symbol
         size: 13
-        color: root.colors[root.symbol] ?? Theme.neutral
+        color: root.tint
     }
 
     AppText {

@@ -20,7 +20,7 @@ Item {
         shown: root.badge.hasStatus
 
         StatusIcon {
-            anchors.verticalCenter: parent.verticalCenter
+            y: (root.height - height) / 2
             status: root.badge.statusOrEmpty
             Accessible.ignored: true
         }
@@ -30,7 +30,7 @@ Item {
         shown: root.badge.hasUser
 
         Avatar {
-            anchors.verticalCenter: parent.verticalCenter
+            y: (root.height - height) / 2
             user: root.badge.userOrEmpty
             hasUser: true
             size: 16

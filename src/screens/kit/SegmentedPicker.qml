@@ -8,7 +8,7 @@ Rectangle {
     id: picker
 
     required property string name
-    required property var choices
+    required property list<string> choices
     required property int current
 
     signal chosen(index: int)

@@ -1,32 +1,24 @@
 pragma Singleton
 import QtQuick
 
-/// How things move. (Curves are `var` because the linter of Qt 6.4 takes a typed list for another type.) Animate with
-/// `easing.type: Easing.BezierSpline`, one of the curves and the duration that stands with it. With `reduced`, moves
-/// end at once and fades stay as short fades; the composition root writes it.
+/// How long things move. Animate with `easing` one of `Springs` and the duration that names it. With `reduced`, moves end
+/// at once and fades stay as short fades; the composition root writes it.
 QtObject {
     /// The desktop asks for less motion.
     property bool reduced: false
 
-    /// Damping 0.85: every visible change of state.
-    readonly property var spring: [0.24, 0.21, 0.14, 1.16, 1, 1]
-    /// Damping 0.7, a slight overshoot: toasts and the selection bar coming in.
-    readonly property var softSpring: [0.30, 0.35, 0.11, 1.28, 1, 1]
-    /// Damping 1, no overshoot: toasts going out.
-    readonly property var firmSpring: [0.22, 0.20, 0.12, 1.04, 1, 1]
-
     // Durations in milliseconds
-    /// Changes of state, group folding, filter bar, board moves, optimistic edits; with `spring`.
+    /// Changes of state, group folding, filter bar, board moves, optimistic edits; with `Springs.even`.
     readonly property int stateDuration: reduced ? 0 : 570
-    /// The palette; with `spring`.
+    /// The palette; with `Springs.even`.
     readonly property int paletteDuration: reduced ? 0 : 250
-    /// Scrolling to the focused row, a targeted column, the mention list; with `spring`.
+    /// Scrolling to the focused row, a targeted column, the mention list; with `Springs.even`.
     readonly property int scrollDuration: reduced ? 0 : 205
-    /// A card under the pointer, the drop overlay; with `spring`.
+    /// A card under the pointer, the drop overlay; with `Springs.even`.
     readonly property int cardDuration: reduced ? 0 : 170
-    /// The selection bar coming in; with `softSpring`.
+    /// The selection bar coming in; with `Springs.soft`.
     readonly property int selectionBarDuration: reduced ? 0 : 395
-    /// A toast coming in, with `softSpring`, and going out, with `firmSpring`.
+    /// A toast coming in, with `Springs.soft`, and going out, with `Springs.firm`.
     readonly property int toastInDuration: reduced ? 0 : 565
     readonly property int toastOutDuration: reduced ? 0 : 610
     /// A pressed glass button shrinking to `pressScale`.

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QEasingCurve>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+/// The springs that things move on, as easing curves; each goes with the durations of `Motion` that name it. A curve of
+/// fixed length is within 2 % of the spring and costs nothing per frame.
+class Springs : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    /// Damping 0.85: every visible change of state.
+    Q_PROPERTY(QEasingCurve even READ even CONSTANT FINAL)
+    /// Damping 0.7, a slight overshoot: toasts and the selection bar coming in.
+    Q_PROPERTY(QEasingCurve soft READ soft CONSTANT FINAL)
+    /// Damping 1, no overshoot: toasts going out.
+    Q_PROPERTY(QEasingCurve firm READ firm CONSTANT FINAL)
+
+public:
+    static QEasingCurve even();
+    static QEasingCurve soft();
+    static QEasingCurve firm();
+};
