@@ -1,0 +1,56 @@
+#pragma once
+
+#include "jira/wire/UserDTO.h"
+#include "jira/wire/WireMember.h"
+#include "model/ActivityEvent.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+#include <tuple>
+
+/// The history of an issue, as Jira sends it.
+struct ChangelogDTO
+{
+    struct History
+    {
+        struct Item
+        {
+            std::optional<QString> field;
+            std::optional<QString> fieldId;
+            std::optional<QString> fromString;
+            std::optional<QString> toString;
+
+            static constexpr auto wireMembers()
+            {
+                return std::tuple(WireMember{"field", &Item::field},
+                                  WireMember{"fieldId", &Item::fieldId},
+                                  WireMember{"fromString", &Item::fromString},
+                                  WireMember{"toString", &Item::toString});
+            }
+        };
+
+        std::optional<UserDTO> author;
+        std::optional<QString> created;
+        std::optional<QList<Item>> items;
+
+        static constexpr auto wireMembers()
+        {
+            return std::tuple(WireMember{"author", &History::author},
+                              WireMember{"created", &History::created},
+                              WireMember{"items", &History::items});
+        }
+    };
+
+    std::optional<QList<History>> histories;
+
+    /// The changes of status and assignee, in the order of the histories and of the items in each. A history whose date
+    /// is missing or unreadable gives none.
+    QList<ActivityEvent> events() const;
+
+    static constexpr auto wireMembers()
+    {
+        return std::tuple(WireMember{"histories", &ChangelogDTO::histories});
+    }
+};

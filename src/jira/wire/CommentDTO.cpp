@@ -1,0 +1,17 @@
+#include "jira/wire/CommentDTO.h"
+
+#include "jira/AttachmentRefs.h"
+#include "jira/JiraDate.h"
+#include "jira/wire/Models.h"
+
+Comment CommentDTO::model(const QDateTime &now) const
+{
+    const QStringList attachments = AttachmentRefs::ids(renderedBody.value_or(QString()));
+    return {.id = id,
+            .author = modelOf(author),
+            .body = AttachmentRefs::tied(body, attachments),
+            .created = JiraDate::parse(created).value_or(now),
+            .isInternal = jsdPublic == false,
+            .restrictedTo = visibility ? visibility->value : std::nullopt,
+            .attachmentIDs = attachments};
+}

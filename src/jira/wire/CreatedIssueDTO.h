@@ -1,0 +1,20 @@
+#pragma once
+
+#include "jira/wire/WireMember.h"
+
+#include <QString>
+
+#include <tuple>
+
+/// What Jira answers to a creation.
+struct CreatedIssueDTO
+{
+    QString id;
+    QString key;
+
+    static constexpr auto wireMembers()
+    {
+        return std::tuple(WireMember{"id", &CreatedIssueDTO::id},
+                          WireMember{"key", &CreatedIssueDTO::key});
+    }
+};

@@ -1,0 +1,79 @@
+#include "jira/wire/IssueDTO.h"
+
+#include "jira/AttachmentRefs.h"
+#include "jira/JiraDate.h"
+#include "jira/wire/Models.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+IssueStatus statusOf(const FieldsDTO &fields)
+{
+    return fields.status ? fields.status->model() : IssueStatus(u"?"_s, u"Inconnu"_s, std::nullopt);
+}
+
+/// The project that the answer names, or else what stands before the first dash of the issue's key.
+QString projectKeyOf(const IssueDTO &issue)
+{
+    if (issue.fields.project)
+        return issue.fields.project->key;
+    return issue.key.split(u'-', Qt::SkipEmptyParts).value(0);
+}
+
+std::optional<ADFNode> descriptionOf(const IssueDTO &issue)
+{
+    if (!issue.renderedFields)
+        return issue.fields.description;
+    const QString html = issue.renderedFields->description.value_or(QString());
+    return AttachmentRefs::tied(issue.fields.description, AttachmentRefs::ids(html));
+}
+
+/// By date; events of one date keep their order.
+QList<ActivityEvent> sortedByDate(const QList<ActivityEvent> &events)
+{
+    std::vector<std::pair<qint64, qsizetype>> order;
+    order.reserve(size_t(events.size()));
+    for (qsizetype i = 0; i < events.size(); ++i)
+        order.emplace_back(events[i].date.toMSecsSinceEpoch(), i);
+    std::ranges::sort(order);
+    QList<ActivityEvent> sorted;
+    sorted.reserve(events.size());
+    for (const auto &[date, index] : order)
+        sorted.append(events[index]);
+    return sorted;
+}
+
+/// The history with the issue's creation; nothing at all when the history was not asked for.
+QList<ActivityEvent> activityOf(const ChangelogDTO &changelog, const Issue &issue)
+{
+    const ActivityEvent creation{issue.created, issue.reporter, ActivityEvent::Created{}};
+    return sortedByDate(QList{creation} + changelog.events());
+}
+
+} // namespace
+
+Issue IssueDTO::model(const QDateTime &now) const
+{
+    Issue issue;
+    issue.id = id;
+    issue.key = key;
+    issue.summary = fields.summary.value_or(u"(sans titre)"_s);
+    issue.status = statusOf(fields);
+    issue.priority = modelOf(fields.priority);
+    issue.assignee = modelOf(fields.assignee);
+    issue.reporter = modelOf(fields.reporter);
+    issue.labels = fields.labels.value_or(QStringList());
+    issue.type = modelOf(fields.issuetype);
+    issue.projectKey = projectKeyOf(*this);
+    issue.created = JiraDate::parse(fields.created).value_or(now);
+    issue.updated = JiraDate::parse(fields.updated).value_or(now);
+    issue.dueDate = JiraDate::parseDay(fields.duedate);
+    issue.description = descriptionOf(*this);
+    issue.parent = modelOf(fields.parent);
+    issue.subtasks = modelsOf(fields.subtasks);
+    issue.attachments = modelsOf(fields.attachment, now);
+    if (changelog)
+        issue.activity = activityOf(*changelog, issue);
+    return issue;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "jira/wire/IssueTypeDTO.h"
+#include "jira/wire/WireMember.h"
+#include "model/Project.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <optional>
+#include <tuple>
+
+/// A project, as Jira sends one.
+struct ProjectDTO
+{
+    QString id;
+    QString key;
+    std::optional<QString> name;
+    /// Addresses by size; only "48x48" is read.
+    std::optional<QMap<QString, QString>> avatarUrls;
+    std::optional<QList<IssueTypeDTO>> issueTypes;
+    /// "service_desk" for a service project.
+    std::optional<QString> projectTypeKey;
+
+    /// A project without a name is called by its key.
+    Project model() const;
+
+    static constexpr auto wireMembers()
+    {
+        return std::tuple(WireMember{"id", &ProjectDTO::id}, WireMember{"key", &ProjectDTO::key},
+                          WireMember{"name", &ProjectDTO::name},
+                          WireMember{"avatarUrls", &ProjectDTO::avatarUrls},
+                          WireMember{"issueTypes", &ProjectDTO::issueTypes},
+                          WireMember{"projectTypeKey", &ProjectDTO::projectTypeKey});
+    }
+};
+
+/// One page of the site's projects.
+struct ProjectSearchDTO
+{
+    QList<ProjectDTO> values;
+    std::optional<bool> isLast;
+
+    static constexpr auto wireMembers()
+    {
+        return std::tuple(WireMember{"values", &ProjectSearchDTO::values},
+                          WireMember{"isLast", &ProjectSearchDTO::isLast});
+    }
+};

@@ -1,0 +1,72 @@
+#include "jira/wire/WireDecoding.h"
+
+#include "jira/wire/AttachmentDTO.h"
+#include "jira/wire/CommentDTO.h"
+#include "jira/wire/CreatedIssueDTO.h"
+#include "jira/wire/IssueDTO.h"
+#include "jira/wire/JiraErrorDTO.h"
+#include "jira/wire/PriorityDTO.h"
+#include "jira/wire/ProjectDTO.h"
+#include "jira/wire/SearchResponseDTO.h"
+#include "jira/wire/StatusDTO.h"
+#include "jira/wire/TransitionsDTO.h"
+#include "jira/wire/UserDTO.h"
+#include "jira/wire/WireReader.h"
+
+#include <QTextBoundaryFinder>
+
+namespace {
+
+/// What of an error's description is shown.
+constexpr int MaximumCharacters = 240;
+
+QString shortened(const QString &text)
+{
+    // A character can be made of any number of code units; nobody misses the rest of such a one.
+    const QString head = text.left(16 * MaximumCharacters);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);
+    for (int i = 0; i < MaximumCharacters; ++i) {
+        if (finder.toNextBoundary() < 0)
+            return head;
+    }
+    return head.left(finder.position());
+}
+
+JiraError::Decoding errorOf(const DecodingError &error)
+{
+    return {shortened(error.description())};
+}
+
+} // namespace
+
+template <typename DTO>
+std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
+{
+    simdjson::dom::parser parser;
+    simdjson::dom::element root;
+    if (const auto error = parser.parse(json.constData(), size_t(json.size())).get(root))
+        return std::unexpected(errorOf({{}, QString::fromUtf8(simdjson::error_message(error))}));
+    DTO record;
+    if (const auto done = WireReader::read(root, record); !done)
+        return std::unexpected(errorOf(done.error()));
+    return record;
+}
+
+#define VELMORA_DECODES(...)                                                                       \
+    template std::expected<__VA_ARGS__, JiraError::Decoding> decodeWire(const QByteArray &);
+
+VELMORA_DECODES(UserDTO)
+VELMORA_DECODES(QList<UserDTO>)
+VELMORA_DECODES(ProjectDTO)
+VELMORA_DECODES(ProjectSearchDTO)
+VELMORA_DECODES(QList<IssueTypeStatusesDTO>)
+VELMORA_DECODES(QList<PriorityDTO>)
+VELMORA_DECODES(PrioritySearchDTO)
+VELMORA_DECODES(SearchResponseDTO)
+VELMORA_DECODES(IssueDTO)
+VELMORA_DECODES(CommentsDTO)
+VELMORA_DECODES(CommentDTO)
+VELMORA_DECODES(TransitionsDTO)
+VELMORA_DECODES(CreatedIssueDTO)
+VELMORA_DECODES(QList<AttachmentDTO>)
+VELMORA_DECODES(JiraErrorDTO)

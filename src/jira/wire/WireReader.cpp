@@ -1,0 +1,74 @@
+#include "jira/wire/WireReader.h"
+
+#include "richtext/ADFCoding.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace WireReader {
+
+QString textOf(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+Result failure(const char *message)
+{
+    return std::unexpected(DecodingError{{}, QString::fromLatin1(message)});
+}
+
+Result inMember(std::string_view name, Result failed)
+{
+    QString &place = failed.error().place;
+    const bool isBeforeMember = !place.isEmpty() && !place.startsWith(u'[');
+    place = textOf(name) + (isBeforeMember ? u"."_s : QString()) + place;
+    return failed;
+}
+
+Result inItem(qsizetype index, Result failed)
+{
+    return inMember("[" + std::to_string(index) + "]", std::move(failed));
+}
+
+Result read(const Element &element, QString &text)
+{
+    std::string_view utf8;
+    if (element.get(utf8))
+        return failure("expected a text");
+    text = textOf(utf8);
+    return {};
+}
+
+Result read(const Element &element, bool &value)
+{
+    return element.get(value) ? failure("expected true or false") : Result();
+}
+
+Result read(const Element &element, qint64 &number)
+{
+    int64_t whole = 0;
+    if (!element.get(whole)) {
+        number = whole;
+        return {};
+    }
+    double real = 0;
+    if (element.get(real) || real != std::trunc(real))
+        return failure("expected an integer");
+    constexpr double Bound = 9223372036854775808.0; // 2^63
+    if (real < -Bound || real >= Bound)
+        return failure("out of range");
+    number = qint64(real);
+    return {};
+}
+
+Result read(const Element &element, ADFNode &document)
+{
+    auto decoded = ADFCoding::decodeNode(element);
+    if (!decoded)
+        return std::unexpected(std::move(decoded.error()));
+    document = std::move(*decoded);
+    return {};
+}
+
+} // namespace WireReader

@@ -1,0 +1,143 @@
+#pragma once
+
+#include "jira/wire/WireMember.h"
+#include "model/ADFNode.h"
+#include "richtext/DecodingError.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include <array>
+#include <expected>
+#include <optional>
+#include <simdjson.h>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+/// Reads parsed JSON into fields and records. How deep it goes is bounded by the records themselves, and within a
+/// document by the bound on documents. An error is given its place on the way out, so that reading pays nothing for it.
+namespace WireReader {
+
+using Element = simdjson::dom::element;
+using Result = std::expected<void, DecodingError>;
+
+Result read(const Element &element, QString &text);
+Result read(const Element &element, bool &value);
+/// Takes any whole number within 64 bits, however it is spelled (3, 3.0, 3e0).
+Result read(const Element &element, qint64 &number);
+Result read(const Element &element, ADFNode &document);
+template <typename T>
+Result read(const Element &element, std::optional<T> &value);
+template <typename T>
+Result read(const Element &element, QList<T> &list);
+template <typename T>
+Result read(const Element &element, QMap<QString, T> &map);
+template <typename DTO>
+    requires requires { DTO::wireMembers(); }
+Result read(const Element &element, DTO &record);
+
+QString textOf(std::string_view utf8);
+Result failure(const char *message);
+/// The error, seen from an object that holds the failed value as `name`.
+Result inMember(std::string_view name, Result failed);
+/// The error, seen from an array that holds the failed value at `index`.
+Result inItem(qsizetype index, Result failed);
+
+template <typename T>
+inline constexpr bool isOptional = false;
+template <typename T>
+inline constexpr bool isOptional<std::optional<T>> = true;
+
+template <typename T>
+Result read(const Element &element, std::optional<T> &value)
+{
+    if (!element.is_null())
+        return read(element, value.emplace());
+    value.reset();
+    return {};
+}
+
+template <typename T>
+Result read(const Element &element, QList<T> &list)
+{
+    simdjson::dom::array items;
+    if (element.get(items))
+        return failure("expected an array");
+    list.clear();
+    list.reserve(qsizetype(items.size()));
+    for (const Element item : items) {
+        if (auto done = read(item, list.emplaceBack()); !done)
+            return inItem(list.size() - 1, std::move(done));
+    }
+    return {};
+}
+
+template <typename T>
+Result read(const Element &element, QMap<QString, T> &map)
+{
+    simdjson::dom::object members;
+    if (element.get(members))
+        return failure("expected an object");
+    map.clear();
+    for (const auto &[name, value] : members) {
+        if (auto done = read(value, map[textOf(name)]); !done)
+            return inMember(name, std::move(done));
+    }
+    return {};
+}
+
+/// Reads one member into the field of its name, and notes that it was there. A name that no field has is passed over.
+template <typename DTO, typename... Members, size_t... Index>
+Result readMember(DTO &record, std::string_view name, const Element &value,
+                  const std::tuple<Members...> &members,
+                  std::array<bool, sizeof...(Members)> &found, std::index_sequence<Index...>)
+{
+    Result done;
+    const auto readAs = [&](const auto &member, size_t index) {
+        if (member.name != name)
+            return false;
+        found[index] = true;
+        done = read(value, record.*member.field);
+        return true;
+    };
+    (readAs(std::get<Index>(members), Index) || ...);
+    return done ? done : inMember(name, std::move(done));
+}
+
+/// The name of the first field that must be there and was not found; empty when there is none.
+template <typename DTO, typename... Field, size_t... Index>
+std::string_view missingMember(const std::tuple<WireMember<DTO, Field>...> &members,
+                               const std::array<bool, sizeof...(Field)> &found,
+                               std::index_sequence<Index...>)
+{
+    std::string_view missing;
+    const auto isMissing = [&](std::string_view name, bool optional, bool present) {
+        if (!optional && !present)
+            missing = name;
+        return !missing.empty();
+    };
+    (isMissing(std::get<Index>(members).name, isOptional<Field>, found[Index]) || ...);
+    return missing;
+}
+
+template <typename DTO>
+    requires requires { DTO::wireMembers(); }
+Result read(const Element &element, DTO &record)
+{
+    static constexpr auto Members = DTO::wireMembers();
+    constexpr auto Indexes = std::make_index_sequence<std::tuple_size_v<decltype(Members)>>();
+    simdjson::dom::object object;
+    if (element.get(object))
+        return failure("expected an object");
+    std::array<bool, Indexes.size()> found{};
+    for (const auto &[name, value] : object) {
+        if (auto done = readMember(record, name, value, Members, found, Indexes); !done)
+            return done;
+    }
+    const auto missing = missingMember(Members, found, Indexes);
+    return missing.empty() ? Result() : inMember(missing, failure("missing"));
+}
+
+} // namespace WireReader
