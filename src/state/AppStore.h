@@ -20,6 +20,7 @@
 #include "state/OptionBuilders.h"
 #include "state/SelectionRules.h"
 #include "state/ShortcutKey.h"
+#include "state/models/BoardModel.h"
 #include "state/models/IssueListModel.h"
 #include "state/models/SidebarModel.h"
 #include "state/models/ToastModel.h"
@@ -82,6 +83,7 @@ class AppStore : public AppStoreFields
     Q_PROPERTY(
         ActivityHeaderData activityHeader READ activityHeader NOTIFY activityHeaderChanged FINAL)
     Q_PROPERTY(IssueListModel *issueList READ issueList CONSTANT FINAL)
+    Q_PROPERTY(BoardModel *board READ board CONSTANT FINAL)
     Q_PROPERTY(SidebarModel *sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(ToastModel *toasts READ toastModel CONSTANT FINAL)
 
@@ -139,6 +141,8 @@ public:
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
     IssueListModel *issueList() { return &m_issueList; }
+    /// Follows the lists while the layout is the board.
+    BoardModel *board() { return &m_board; }
     SidebarModel *sidebar() { return &m_sidebar; }
     ToastModel *toastModel() { return &m_toastModel; }
 
@@ -343,6 +347,7 @@ private:
     // AppStoreDerived.cpp
     void flush(unsigned what) override;
     IssueDerivationInputs derivationInputs() const;
+    void feedLists();
     void feedMarks();
     void feedSidebar();
     void refreshCaptions();
@@ -386,6 +391,7 @@ private:
     mutable StatusLookup m_statusLookup{m_statusSources};
     mutable std::optional<QHash<QString, JiraUser>> m_badgeUsers;
     IssueListModel m_issueList{m_context.calendar, *m_now};
+    BoardModel m_board{m_context.calendar, *m_now};
     SidebarModel m_sidebar;
     ToastModel m_toastModel;
 };

@@ -43,18 +43,18 @@ void AppStore::flush(unsigned what)
 {
     if (what & (List | Sidebar | People))
         m_badgeUsers.reset();
-    if (what & List) {
-        m_derivation.setInputs(derivationInputs());
-        m_issueList.setGroups(groups(), *m_collapsedGroups);
-    }
+    if (what & List)
+        feedLists();
     if (what & Marks)
         feedMarks();
     if (what & Sidebar)
         feedSidebar();
     if (what & ToastRows)
         m_toastModel.setToasts(*m_toasts);
-    if (what & Time)
+    if (what & Time) {
         m_issueList.setNow(*m_now);
+        m_board.setNow(*m_now);
+    }
     if (what & (List | Captions | Time))
         refreshCaptions();
     if (what & (List | Sidebar | Time))
@@ -63,8 +63,19 @@ void AppStore::flush(unsigned what)
         m_issueList.refreshBadges();
 }
 
+void AppStore::feedLists()
+{
+    m_derivation.setInputs(derivationInputs());
+    m_issueList.setGroups(groups(), *m_collapsedGroups);
+    if (*m_layout == LayoutMode::Board)
+        m_board.setColumns(boardColumns());
+}
+
 void AppStore::feedMarks()
 {
+    m_board.setFocusedKey(m_focusedKey->value_or(QString()));
+    m_board.setCheckedKeys(*m_checked);
+    m_board.setOpenKey(m_inspectorKey->value_or(QString()));
     m_issueList.setFocusedKey(m_focusedKey->value_or(QString()));
     m_issueList.setCheckedKeys(*m_checked);
     m_issueList.setOpenKey(m_inspectorKey->value_or(QString()));
