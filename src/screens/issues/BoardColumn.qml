@@ -1,0 +1,114 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// One status of the board: its head, and below it the cards, made as they come into view.
+Rectangle {
+    id: root
+
+    required property string title
+    required property int count
+    required property issueStatus status
+    required property IssueListModel cards
+    required property string accessibleName
+    required property string focusedKey
+
+    signal cardClicked(key: string, modifiers: int)
+
+    readonly property int padding: Metrics.paneMargin
+
+    radius: Metrics.radiusPopover
+    color: Theme.boardColumn
+
+    Item {
+        id: head
+        x: root.padding
+        y: root.padding
+        width: parent.width - 2 * root.padding
+        height: 28
+
+        StatusIcon {
+            id: icon
+            x: Metrics.gapSmall
+            anchors.verticalCenter: parent.verticalCenter
+            status: root.status
+            size: 14
+            Accessible.ignored: true
+        }
+
+        AppText {
+            id: name
+            anchors.left: icon.right
+            anchors.leftMargin: Metrics.gap
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, head.width - x - number.implicitWidth - 2 * Metrics.gap)
+            weight: Font.DemiBold
+            text: root.title
+            Accessible.role: Accessible.Heading
+        }
+
+        AppText {
+            id: number
+            anchors.left: name.right
+            anchors.leftMargin: Metrics.gap
+            anchors.verticalCenter: parent.verticalCenter
+            role: TypeScale.Small
+            tabular: true
+            color: Theme.text2
+            text: root.count
+        }
+    }
+
+    ListView {
+        id: list
+        x: root.padding
+        anchors.top: head.bottom
+        anchors.topMargin: Metrics.gapSmall
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: root.padding
+        width: parent.width - 2 * root.padding
+        clip: contentHeight > height
+        model: root.cards
+        spacing: Metrics.gap
+        // The last card can be scrolled clear of the bar over the board's lower edge.
+        bottomMargin: 90
+        boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 400
+        pixelAligned: true
+        keyNavigationEnabled: false
+
+        Accessible.role: Accessible.List
+        Accessible.name: root.accessibleName
+
+        delegate: BoardCard {
+            width: list.width
+            onClicked: modifiers => root.cardClicked(issue.key, modifiers)
+        }
+
+
+        T.ScrollBar.vertical: OverlayScrollBar {
+            thickness: 5
+        }
+    }
+
+    EmptyColumnBox {
+        visible: root.count === 0
+        x: list.x
+        y: list.y
+        width: list.width
+        height: 64
+    }
+
+    FocusedRowScroller {
+        list: list
+        rows: root.cards
+        focusedKey: root.focusedKey
+        headerHeight: 0
+    }
+}

@@ -1,0 +1,65 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// Every visible issue as a card in the column of its status.
+FocusScope {
+    id: root
+
+    required property AppStore store
+
+    readonly property int columnWidth: 296
+    readonly property int columnGap: 12
+    readonly property int sidePadding: 16
+
+    Flickable {
+        id: board
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        clip: true
+        contentWidth: columns.width + 2 * root.sidePadding
+        contentHeight: height
+        flickableDirection: Flickable.HorizontalFlick
+        boundsBehavior: Flickable.StopAtBounds
+        pixelAligned: true
+
+        Accessible.role: Accessible.Grouping
+        Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
+
+        Row {
+            id: columns
+            x: root.sidePadding
+            y: Metrics.gapMedium
+            height: board.height - y - Metrics.paneMargin
+            spacing: root.columnGap
+
+            Repeater {
+                model: root.store.board
+
+                BoardColumn {
+                    width: root.columnWidth
+                    height: columns.height
+                    focusedKey: root.store.focusedKey
+                    onCardClicked: (key, modifiers) => root.store.handleClick(key, modifiers)
+                }
+            }
+        }
+
+        T.ScrollBar.horizontal: OverlayScrollBar {}
+    }
+
+    FocusedColumnScroller {
+        flickable: board
+        board: root.store.board
+        focusedKey: root.store.focusedKey
+        firstLeft: root.sidePadding
+        columnWidth: root.columnWidth
+        columnGap: root.columnGap
+    }
+}

@@ -1,0 +1,17 @@
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Theme
+
+// What stands in a column without cards.
+DashedBox {
+    radius: Metrics.radiusPanel
+    color: Theme.ink(0.08)
+
+    AppText {
+        anchors.centerIn: parent
+        role: TypeScale.Nano
+        color: Theme.text2
+        text: "Déposer ici"
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import Velmora.State
+import Velmora.Theme
+
+// Brings the column of the focused card into view each time the focus moves to another issue, with a margin beside it.
+Item {
+    id: root
+
+    required property Flickable flickable
+    required property BoardModel board
+    required property string focusedKey
+    // Where the first column begins, which is the margin too.
+    required property int firstLeft
+    required property int columnWidth
+    required property int columnGap
+
+    function reveal() {
+        const column = board.columnOfKey(focusedKey);
+        if (column >= 0)
+            scrollTo(targetFor(column * (columnWidth + columnGap)));
+    }
+
+    // Where the board stands once a column with its margins is in view; it moves no further than it must.
+    function targetFor(left: real): real {
+        const right = left + columnWidth + 2 * firstLeft;
+        return Math.max(right - flickable.width, Math.min(left, flickable.contentX));
+    }
+
+    function scrollTo(x: real) {
+        animation.to = Math.max(0, x);
+        animation.restart();
+    }
+
+    onFocusedKeyChanged: reveal()
+    Component.onCompleted: reveal()
+
+    NumberAnimation {
+        id: animation
+        target: root.flickable
+        property: "contentX"
+        duration: Motion.scrollDuration
+        easing: Springs.even
+    }
+}
