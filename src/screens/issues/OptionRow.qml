@@ -1,0 +1,93 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Theme
+
+// One row of a picker. The pointer highlights it when it moves over it.
+Rectangle {
+    id: root
+
+    required property int index
+    required property string title
+    required property string subtitle
+    required property pickerIcon icon
+    required property bool isSelected
+    required property string shortcut
+    property bool isHighlighted: false
+
+    signal pointed()
+    signal picked()
+
+    implicitHeight: Metrics.optionRowHeight
+    radius: Metrics.radiusRow
+    color: isHighlighted ? Theme.highlightFill : "transparent"
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.title
+    Accessible.description: root.subtitle
+    Accessible.focusable: true
+    Accessible.focused: root.isHighlighted
+    Accessible.selectable: true
+    Accessible.selected: root.isSelected
+    Accessible.onPressAction: root.picked()
+
+    PickerIconView {
+        id: picture
+        x: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        icon: root.icon
+    }
+
+    AppText {
+        id: name
+        anchors.left: picture.right
+        anchors.leftMargin: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, marks.x - x - Metrics.gapMedium)
+        text: root.title
+        Accessible.ignored: true
+    }
+
+    AppText {
+        anchors.left: name.right
+        anchors.leftMargin: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(0, Math.min(implicitWidth, marks.x - x - Metrics.gapMedium))
+        role: TypeScale.Small
+        tabular: true
+        color: Theme.text2
+        text: root.subtitle
+        Accessible.ignored: true
+    }
+
+    Row {
+        id: marks
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.gapMedium
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Metrics.gapMedium
+
+        Symbol {
+            visible: root.isSelected
+            anchors.verticalCenter: parent.verticalCenter
+            name: "checkmark"
+            size: 11
+            weight: "medium"
+        }
+
+        KeyCap {
+            visible: root.shortcut !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.shortcut
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onPositionChanged: root.pointed()
+        onClicked: root.picked()
+    }
+}

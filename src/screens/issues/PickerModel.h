@@ -1,0 +1,45 @@
+#pragma once
+
+#include "screens/issues/PickerIcon.h"
+#include "state/OptionItem.h"
+#include "state/models/KeyedListModel.h"
+
+#include <QtQml/qqmlregistration.h>
+
+/// A row of a picker.
+struct PickerRow
+{
+    /// The option's id.
+    QString key;
+    OptionItem option;
+
+    bool operator==(const PickerRow &) const = default;
+};
+
+/// The rows whose title contains the query, in their order; all of them for a query without a word.
+QList<PickerRow> pickerRows(const QList<OptionItem> &options, const QString &query);
+
+/// The rows of a picker.
+class PickerModel : public KeyedListModel<PickerRow>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the picker")
+
+public:
+    enum Role {
+        TitleRole = Qt::UserRole,
+        /// Empty without one.
+        SubtitleRole,
+        IconRole,
+        IsSelectedRole,
+        /// The digit that picks the row; empty without one.
+        ShortcutRole
+    };
+    Q_ENUM(Role)
+
+    using KeyedListModel::KeyedListModel;
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+};
