@@ -61,9 +61,10 @@ bool KeyMonitor::isTyping() const
 
 bool KeyMonitor::isWalkingAList(int key) const
 {
+    // A list hands the focus on to its current row.
     const QQuickItem *item = m_window->activeFocusItem();
-    if (!item || !item->property("walksItsRows").toBool())
-        return false;
-    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
-           key == Qt::Key_Down;
+    while (item && !item->property("walksItsRows").toBool())
+        item = item->parentItem();
+    return item && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
+                    key == Qt::Key_Down);
 }
