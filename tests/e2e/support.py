@@ -85,6 +85,19 @@ class Velmora:
     def search_field(self):
         return self.app.find(role="text", name="Filtrer")
 
+    # what is done to it
+    def tab_to(self, name):
+        """Presses Tab until something of that name has the focus."""
+        seen = []
+        for _ in range(30):
+            focused = self.app.focused()
+            seen.append(focused.name if focused else None)
+            if focused and re.search(name, focused.name):
+                return
+            self.session.key("Tab")
+            self.session.settle()
+        raise AssertionError("Tab reaches only %s" % seen)
+
     # what is waited for
     def wait_listed(self, expected, what, normal=lambda listed: listed):
         """Waits until exactly these groups are listed; normal brings what may stand in any order into one."""

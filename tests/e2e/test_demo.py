@@ -17,11 +17,7 @@ class FirstStart(WindowCase):
 
     def test_the_demo_button_works_by_keyboard(self):
         velmora = self.open()
-        for _ in range(12):
-            focused = velmora.app.focused()
-            if focused and focused.name == "Explorer en mode démo":
-                break
-            self.session.key("Tab")
+        velmora.tab_to("^Explorer en mode démo$")
         self.session.key("space")
         velmora.wait_listed(demo_lists.mine(), "my issues")
 

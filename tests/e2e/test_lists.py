@@ -40,11 +40,7 @@ class Scopes(WindowCase):
 
     def test_the_sidebar_is_walked_by_keyboard_once_it_has_the_focus(self):
         velmora = self.open_demo()
-        for _ in range(20):
-            focused = velmora.app.focused()
-            if focused and focused.name.endswith("tickets ouverts"):
-                break
-            self.session.key("Tab")
+        velmora.tab_to("^Mes tickets, .* ouverts$")
         self.session.key("Down")
         velmora.wait_listed(demo_lists.recent(), "Récemment consultés")
         self.session.key("Down")
