@@ -54,7 +54,7 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         y: 112
         width: 640
-        height: rows.y + rows.height
+        height: footer.y + footer.height
         radius: Metrics.radiusPalette
         shadow: "palette"
         color: Theme.elevatedGlass
@@ -113,6 +113,20 @@ FocusScope {
             height: implicitHeight
             enabled: root.shown
             picker: picker
+        }
+
+        Rectangle {
+            anchors.bottom: footer.top
+            width: parent.width
+            height: 1
+            color: Theme.divider
+        }
+
+        PickerFooter {
+            id: footer
+            anchors.top: rows.bottom
+            width: parent.width
+            isDemo: root.store.isDemo
         }
     }
 }
