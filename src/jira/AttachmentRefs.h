@@ -7,8 +7,8 @@
 
 #include <optional>
 
-/// How the media of a document find their attachments. A document names media by identifiers of another service; only the
-/// HTML that Jira made of it refers to attachments, in the same order.
+/// How the media of a document find their attachments. A document names media by identifiers of another service; only
+/// the HTML that Jira made of it refers to attachments, in the same order.
 namespace AttachmentRefs {
 
 /// The attachments that links and pictures in the HTML refer to, each once, in order of first occurrence. Takes time in

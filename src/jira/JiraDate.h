@@ -10,8 +10,8 @@
 /// The forms in which Jira writes dates, and wants them.
 namespace JiraDate {
 
-/// An instant, in UTC: "2026-10-29T14:32:05.123+0100", or the same by ISO 8601 ("+01:00", "Z", no fraction). Nothing for
-/// any other text, a day or an hour that does not exist, or no text at all. Of a fraction, milliseconds are kept.
+/// An instant, in UTC: "2026-10-29T14:32:05.123+0100", or the same by ISO 8601 ("+01:00", "Z", no fraction). Nothing
+/// for any other text, a day or an hour that does not exist, or no text at all. Of a fraction, milliseconds are kept.
 std::optional<QDateTime> parse(const std::optional<QString> &text);
 
 /// A calendar day, "2026-10-29"; nothing for any other text.

@@ -18,8 +18,8 @@
 namespace SiteAnswers {
 
 /// Where the next page of projects starts, after a page that began at `startAt` and brought the list to `gathered`
-/// projects. Nothing when the list is over: unless the page says that it is not the last, when it is empty, and from 500
-/// projects on.
+/// projects. Nothing when the list is over: unless the page says that it is not the last, when it is empty, and from
+/// 500 projects on.
 std::optional<qsizetype> nextProjects(const ProjectSearchDTO &page, qsizetype startAt,
                                       qsizetype gathered);
 /// The statuses of all types of a project, the first of each group key.
