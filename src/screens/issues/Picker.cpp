@@ -81,7 +81,12 @@ void Picker::refresh()
     const bool isAskedFor = m_store && m_store->palette() && m_store->palette()->asPicker();
     if (!isAskedFor)
         return;
-    m_rows.update(pickerRows(m_store->options(m_asked.kind, m_asked.keys), m_query));
+    const auto options = m_store->options(m_asked.kind, m_asked.keys);
+    auto rows = pickerRows(options, m_query);
+    m_newLabel = m_asked.kind == PickerKind::Labels ? newLabel(options, m_query) : std::nullopt;
+    if (m_newLabel)
+        rows.append(newLabelRow(*m_newLabel));
+    m_rows.update(rows);
     Q_EMIT updated();
 }
 
@@ -105,11 +110,25 @@ void Picker::activate(int row)
 {
     if (!m_isOpen || row < 0 || row >= m_rows.rowCount())
         return;
+    if (m_newLabel && row == m_rows.rowCount() - 1)
+        return createLabel();
     // A copy: carrying it out changes the rows.
     const OptionItem option = m_rows.rows()[row].option;
     m_store->run(option.run);
     if (!option.keepsOpen)
         close();
+}
+
+void Picker::createLabel()
+{
+    const QString label = *m_newLabel;
+    const QStringList keys = m_asked.keys;
+    for (const auto &key : keys) {
+        const auto issue = m_store->issue(key);
+        if (issue && !(*issue)->labels.contains(label))
+            m_store->setLabels((*issue)->labels + QStringList{label}, key);
+    }
+    setQuery({});
 }
 
 void Picker::close()

@@ -67,6 +67,7 @@ Q_SIGNALS:
 private:
     void followPalette();
     void refresh();
+    void createLabel();
     void moveHighlight(int delta);
     void leave();
     bool activateDigit(const KeyPress &press);
@@ -74,6 +75,8 @@ private:
     QPointer<AppStore> m_store;
     PaletteMode::Picker m_asked;
     PickerModel m_rows;
+    /// What the last row makes, if there is such a row.
+    std::optional<QString> m_newLabel;
     bool m_isOpen = false;
     QString m_query;
     int m_highlighted = 0;

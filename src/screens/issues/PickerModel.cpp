@@ -2,6 +2,10 @@
 
 #include "model/TextFolding.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 QList<PickerRow> pickerRows(const QList<OptionItem> &options, const QString &query)
 {
     const QString words = query.trimmed();
@@ -11,6 +15,27 @@ QList<PickerRow> pickerRows(const QList<OptionItem> &options, const QString &que
             rows.append({option.id, option});
     }
     return rows;
+}
+
+std::optional<QString> newLabel(const QList<OptionItem> &options, const QString &query)
+{
+    QString words = query.trimmed();
+    const bool isTaken = std::ranges::any_of(options, [&](const OptionItem &option) {
+        return option.title.compare(words, Qt::CaseInsensitive) == 0;
+    });
+    if (words.isEmpty() || isTaken)
+        return std::nullopt;
+    return words.replace(u' ', u'-');
+}
+
+PickerRow newLabelRow(const QString &label)
+{
+    const QString id = u"create-label"_s;
+    return {id,
+            {.id = id,
+             .title = u"Créer l'étiquette « "_s + label + u" »"_s,
+             .icon = {OptionIcon::Symbol{u"plus"_s}},
+             .keepsOpen = true}};
 }
 
 QVariant PickerModel::data(const QModelIndex &index, int role) const

@@ -18,6 +18,11 @@ struct PickerRow
 
 /// The rows whose title contains the query, in their order; all of them for a query without a word.
 QList<PickerRow> pickerRows(const QList<OptionItem> &options, const QString &query);
+/// The label that the query would make, its blanks as hyphens; nothing without a word, and where an option has that
+/// title already, whatever the case.
+std::optional<QString> newLabel(const QList<OptionItem> &options, const QString &query);
+/// The row that makes a label.
+PickerRow newLabelRow(const QString &label);
 
 /// The rows of a picker.
 class PickerModel : public KeyedListModel<PickerRow>

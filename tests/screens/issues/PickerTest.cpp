@@ -49,6 +49,14 @@ TEST(PickerRows, SubtitlesAreNotSearched)
     EXPECT_TRUE(pickerRows({option(u"Ada"_s, u"ada@exemple.fr"_s)}, u"exemple"_s).isEmpty());
 }
 
+TEST(NewLabel, BlanksBecomeHyphensUnlessTheWordsAreALabelAlready)
+{
+    EXPECT_EQ(newLabel({}, u" bug fix "_s), u"bug-fix"_s);
+    EXPECT_EQ(newLabel({option(u"bug-fix"_s)}, u"bug"_s), u"bug"_s);
+    EXPECT_EQ(newLabel({option(u"Auth"_s)}, u"auth"_s), std::nullopt);
+    EXPECT_EQ(newLabel({}, u"  "_s), std::nullopt);
+}
+
 TEST(PickerCaps, ThreeKeysAreShownAndTheOthersCounted)
 {
     EXPECT_EQ(pickerCaps({u"A-1"_s}), QStringList{u"A-1"_s});
@@ -173,6 +181,32 @@ TEST_F(PickerTest, PickingALabelLeavesThePickerOpenAndShowsTheCheckMark)
     EXPECT_TRUE(picker.isOpen());
     EXPECT_EQ((*store->issue(u"MOB-1"_s))->labels, QStringList{u"auth"_s});
     EXPECT_EQ(picker.rows()->index(0).data(PickerModel::IsSelectedRole), true);
+}
+
+TEST_F(PickerTest, ANewLabelIsMadeWhereItIsMissingAndThePickerStays)
+{
+    Issue labelled = sampleIssue(u"MOB-2"_s);
+    labelled.labels = {u"bug-fix"_s};
+    reloadWith({sampleIssue(u"MOB-1"_s), labelled});
+    store->setPalette(
+        PaletteMode::picker(PickerKind::Labels, {u"MOB-1"_s, u"GONE-1"_s, u"MOB-2"_s}));
+    picker.setQuery(u"bug fix"_s);
+    ASSERT_EQ(shown(), QStringList{u"Créer l'étiquette « bug-fix »"_s});
+
+    EXPECT_TRUE(picker.handle(press(Qt::Key_Return)));
+
+    EXPECT_EQ((*store->issue(u"MOB-1"_s))->labels, QStringList{u"bug-fix"_s});
+    EXPECT_EQ((*store->issue(u"MOB-2"_s))->labels, QStringList{u"bug-fix"_s});
+    EXPECT_TRUE(picker.isOpen());
+    EXPECT_EQ(picker.query(), QString());
+    EXPECT_EQ(shown(), QStringList{u"bug-fix"_s});
+}
+
+TEST_F(PickerTest, OnlyLabelsAreMade)
+{
+    open(PickerKind::Status);
+    picker.setQuery(u"nouveau"_s);
+    EXPECT_TRUE(picker.isEmpty());
 }
 
 TEST_F(PickerTest, ANewPickerBeginsAnew)
