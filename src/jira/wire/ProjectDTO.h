@@ -1,11 +1,11 @@
 #pragma once
 
+#include "jira/wire/AvatarUrlsDTO.h"
 #include "jira/wire/IssueTypeDTO.h"
 #include "jira/wire/WireMember.h"
 #include "model/Project.h"
 
 #include <QList>
-#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -17,8 +17,8 @@ struct ProjectDTO
     QString id;
     QString key;
     std::optional<QString> name;
-    /// Addresses by size; only "48x48" is read.
-    std::optional<QMap<QString, QString>> avatarUrls;
+    /// Only the large one counts.
+    std::optional<AvatarUrlsDTO> avatarUrls;
     std::optional<QList<IssueTypeDTO>> issueTypes;
     /// "service_desk" for a service project.
     std::optional<QString> projectTypeKey;

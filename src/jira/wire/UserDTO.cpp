@@ -6,14 +6,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first size that the site names decides, even when its address is no address.
-std::optional<QUrl> pictureOf(const QMap<QString, QString> &addresses)
+/// The large picture that the site names decides, even when its address is no address.
+std::optional<QUrl> pictureOf(const AvatarUrlsDTO &addresses)
 {
-    for (const QString &size : {u"48x48"_s, u"32x32"_s}) {
-        if (const auto found = addresses.find(size); found != addresses.end())
-            return webAddress(*found);
-    }
-    return std::nullopt;
+    return webAddress(addresses.large ? addresses.large : addresses.medium);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "jira/wire/AvatarUrlsDTO.h"
 #include "jira/wire/WireMember.h"
 #include "model/JiraUser.h"
 
-#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -16,8 +16,7 @@ struct UserDTO
     std::optional<QString> accountType;
     std::optional<QString> displayName;
     std::optional<QString> emailAddress;
-    /// Addresses by size: "48x48", "32x32" and others.
-    std::optional<QMap<QString, QString>> avatarUrls;
+    std::optional<AvatarUrlsDTO> avatarUrls;
     std::optional<bool> active;
 
     /// A user without a name is "Utilisateur inconnu". The picture is that of 48 pixels, or of 32 where the site names

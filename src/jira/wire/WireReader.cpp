@@ -71,4 +71,21 @@ Result read(const Element &element, ADFNode &document)
     return {};
 }
 
+Result read(const Element &element, AvatarUrlsDTO &addresses)
+{
+    simdjson::dom::object members;
+    if (element.get(members))
+        return failure("expected an object");
+    for (const auto &[name, value] : members) {
+        std::string_view address;
+        if (value.get(address))
+            return inMember(name, failure("expected a text"));
+        if (name == "48x48")
+            addresses.large = textOf(address);
+        else if (name == "32x32")
+            addresses.medium = textOf(address);
+    }
+    return {};
+}
+
 } // namespace WireReader

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jira/wire/AvatarUrlsDTO.h"
 #include "jira/wire/WireMember.h"
 #include "model/ADFNode.h"
 #include "richtext/DecodingError.h"
@@ -28,6 +29,8 @@ Result read(const Element &element, bool &value);
 /// Takes any whole number within 64 bits, however it is spelled (3, 3.0, 3e0).
 Result read(const Element &element, qint64 &number);
 Result read(const Element &element, ADFNode &document);
+/// Every address must be a text, also those that are not kept.
+Result read(const Element &element, AvatarUrlsDTO &addresses);
 template <typename T>
 Result read(const Element &element, std::optional<T> &value);
 template <typename T>
