@@ -18,14 +18,14 @@
 namespace {
 
 /// What of an error's description is shown.
-constexpr int MaximumCharacters = 240;
+constexpr qsizetype MaximumCharacters = 240;
 
 QString shortened(const QString &text)
 {
     // A character can be made of any number of code units; nobody misses the rest of such a one.
-    const QString head = text.left(16 * MaximumCharacters);
+    QString head = text.left(16 * MaximumCharacters);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);
-    for (int i = 0; i < MaximumCharacters; ++i) {
+    for (qsizetype i = 0; i < MaximumCharacters; ++i) {
         if (finder.toNextBoundary() < 0)
             return head;
     }
