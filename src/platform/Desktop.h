@@ -6,7 +6,8 @@
 #include <memory>
 
 /// What the desktop round the program knows and does. One object for the process; UI thread only.
-class Desktop : public QObject {
+class Desktop : public QObject
+{
     Q_OBJECT
 
 public:

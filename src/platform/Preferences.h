@@ -12,7 +12,8 @@ class QSettings;
 
 /// The per-user store of small values under plain names. A value of another kind than asked for reads as absent, so a
 /// broken or foreign store never fails. Every write reaches the disk before the operation returns. UI thread only.
-class Preferences {
+class Preferences
+{
 public:
     /// The user's own store, in the folder that the desktop prescribes.
     Preferences();

@@ -8,7 +8,8 @@
 enum class ToastKind { Notice, Error };
 
 /// A small message that disappears by itself.
-struct Toast {
+struct Toast
+{
     Q_GADGET
     Q_PROPERTY(QUuid id MEMBER id CONSTANT FINAL)
     Q_PROPERTY(QString message MEMBER message CONSTANT FINAL)
