@@ -8,7 +8,7 @@ import Velmora.Theme
 Item {
     id: root
 
-    required property var caps
+    required property list<string> caps
     required property string title
 
     implicitHeight: 34
