@@ -1,6 +1,7 @@
 #include "async/Spawn.h"
 #include "async/WhileAlive.h"
 #include "state/AppStore.h"
+#include "state/IssueDerivationIndex.h"
 #include "state/IssueUpkeep.h"
 
 namespace {
@@ -88,10 +89,12 @@ void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &o
 {
     const Batch batch(*this);
     if (outcome) {
-        m_issues.set(*outcome);
-        m_scopeCache.insert(scope, *outcome);
-        mergeIntoDetails(*outcome);
-        m_checked.set(QSet(*m_checked).intersect(keysOf(*outcome)));
+        // What has not changed stays the same object, so that the lists derived from it need not look inside.
+        const IssueList issues = reusingRecords(*outcome, *m_issues);
+        m_issues.set(issues);
+        m_scopeCache.insert(scope, issues);
+        mergeIntoDetails(issues);
+        m_checked.set(QSet(*m_checked).intersect(keysOf(issues)));
         m_loadError.set(std::nullopt);
     } else if (!outcome.error().isCancellation) {
         m_loadError.set(outcome.error().message);

@@ -325,4 +325,16 @@ TEST_F(AppStoreReloadTest, metadataIsFetchedAfterAFailedReloadToo)
     EXPECT_EQ(service->statusesCalls.count(), 1);
 }
 
+TEST_F(AppStoreReloadTest, whatAReloadBringsUnchangedStaysTheSameObject)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s)});
+    const IssueList before = store->issues();
+
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s, u"Terminé"_s)});
+
+    ASSERT_EQ(store->issues().size(), 2);
+    EXPECT_TRUE(store->issues()[0].isSameObject(before[0]));
+    EXPECT_FALSE(store->issues()[1].isSameObject(before[1]));
+}
+
 } // namespace
