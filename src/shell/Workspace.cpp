@@ -2,10 +2,12 @@
 
 int neighbourRow(const QList<SidebarRow> &rows, int from, int direction)
 {
+    const auto present = from < 0 ? std::nullopt : rows[from].scope;
     const int edge = direction > 0 ? -1 : int(rows.size());
     for (int row = (from < 0 ? edge : from) + direction; row >= 0 && row < rows.size();
          row += direction) {
-        if (rows[row].scope)
+        // A project's row and the row of all its issues bear one scope; a step between them would lead nowhere.
+        if (rows[row].scope && rows[row].scope != present)
             return row;
     }
     return from;

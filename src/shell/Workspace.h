@@ -43,5 +43,6 @@ private:
     QPointer<AppStore> m_store;
 };
 
-/// The row that `selectNeighbour` goes to; `from` itself when there is none in that direction.
+/// The row that `selectNeighbour` goes to: the next with a scope other than that of `from`, or `from` itself when there is
+/// none in that direction.
 int neighbourRow(const QList<SidebarRow> &rows, int from, int direction);

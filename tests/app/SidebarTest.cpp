@@ -88,3 +88,16 @@ TEST(NeighbourRow, TitlesAndPlaceholdersAreSteppedOver)
     EXPECT_EQ(neighbourRow(rows, -1, 1), indexOf(u"Mes tickets"_s));
     EXPECT_EQ(neighbourRow(rows, -1, -1), indexOf(u"Semaine dernière"_s));
 }
+
+TEST(NeighbourRow, ARowOfTheSameScopeIsSteppedOver)
+{
+    SidebarInputs inputs;
+    inputs.projects = {Project{u"1"_s, u"MOB"_s, u"App mobile"_s, {}, {}, false}};
+    inputs.scope = IssueScope::project(u"MOB"_s, ProjectView::All);
+    const QList<SidebarRow> rows = sidebarRows(inputs);
+    const int tickets = int(std::ranges::find_if(rows, &SidebarRow::isSelected) - rows.begin());
+    ASSERT_EQ(rows[tickets].text, u"Tickets"_s);
+
+    EXPECT_EQ(rows[neighbourRow(rows, tickets, -1)].text, u"Semaine dernière"_s);
+    EXPECT_EQ(rows[neighbourRow(rows, tickets, 1)].text, u"Sprint actif"_s);
+}
