@@ -21,6 +21,12 @@ FocusScope {
 
     GlassPanel {
         anchors.fill: parent
+
+        PaneGlow {
+            anchors.fill: parent
+            color: Theme.paneGlow
+            radius: Metrics.radiusPane
+        }
     }
 
     WorkspaceHeader {
