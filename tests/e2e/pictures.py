@@ -47,6 +47,9 @@ def photograph_demo(album, program):
         velmora.scope(scope).click()
         velmora.app.find(role="list item", name=ISSUE.pattern, timeout=20)
         album.take(velmora, name)
+    album.session.key("2")
+    velmora.app.gone(role="push button", name="^En cours, \\d+ ticket")
+    album.take(velmora, "board")
 
 
 def main(program, folder):
