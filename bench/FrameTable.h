@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// A table of durations on the standard output, each row set against the first one.
+class FrameTable
+{
+public:
+    explicit FrameTable(const QString &renderer);
+    /// Prints the median, the 99th percentile and the worst in milliseconds, and the first two as multiples of those of
+    /// the first row.
+    void add(const QString &what, std::vector<qint64> nanoseconds);
+
+private:
+    double m_median = 0;
+    double m_late = 0;
+};

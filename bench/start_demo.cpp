@@ -1,0 +1,62 @@
+// One start of Velmora on the demo, to the first frame with issues in it.
+// Arguments: the instant of the start, a file of preferences, and "instant" where the demo shall answer at once.
+
+#include "BenchClock.h"
+#include "FrameWatch.h"
+#include "StartReport.h"
+#include "app/Renderer.h"
+#include "app/VelmoraApp.h"
+
+#include <QGuiApplication>
+#include <QQuickItem>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Outside outside(const QStringList &arguments)
+{
+    auto outside = Outside::system();
+    outside.preferences = std::make_unique<Preferences>(arguments.value(2));
+    if (arguments.value(3) == u"instant"_s)
+        outside.clock = std::make_unique<BenchClock>();
+    return outside;
+}
+
+bool holdsRow(const QQuickItem &item)
+{
+    return QByteArrayView(item.metaObject()->className()).startsWith("IssueRow_") ||
+           std::ranges::any_of(item.childItems(),
+                               [](const QQuickItem *child) { return holdsRow(*child); });
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    chooseRenderer();
+    const QGuiApplication application(argc, argv);
+    const auto arguments = QGuiApplication::arguments();
+    StartReport report(arguments);
+    report.mark(u"application"_s);
+    VelmoraApp velmora(outside(arguments));
+    report.mark(u"store"_s);
+    if (!velmora.open())
+        return 1;
+    report.mark(u"loaded"_s);
+    auto &window = *velmora.mainWindow();
+    const FrameWatch watch(window, [&window] { return holdsRow(*window.contentItem()); });
+    // On a thread of its own, the next frame may be on its way already.
+    bool isDone = false;
+    const auto onFrame = [&](qint64 instant, bool hasRows) {
+        report.mark(u"firstFrame"_s, instant);
+        if (!hasRows || isDone)
+            return;
+        isDone = true;
+        report.mark(u"shown"_s, instant);
+        report.print(watch.renderer());
+        QGuiApplication::quit();
+    };
+    QObject::connect(&watch, &FrameWatch::swapped, &application, onFrame);
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,137 @@
+// From a key press to the frame that shows what it did: in a nearly empty window, and in the main window on lists of
+// made-up issues. All in one process, so that the ratios hold on any machine.
+
+#include "BenchClock.h"
+#include "BenchIssues.h"
+#include "EmptyWindow.h"
+#include "FrameTable.h"
+#include "FrameTimer.h"
+#include "app/Renderer.h"
+#include "app/VelmoraApp.h"
+#include "support/FakeDesktop.h"
+#include "support/ScriptedService.h"
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Notches = 180;
+
+/// How often each key is pressed: the first argument.
+int presses()
+{
+    const auto given = QGuiApplication::arguments().value(1).toInt();
+    return given > 0 ? given : 300;
+}
+
+/// A site with so many issues, all in every list, that answers at once.
+std::shared_ptr<IssueService> siteWith(int count)
+{
+    auto site = std::make_shared<ScriptedService>();
+    const auto issues = samples(count).issues;
+    site->currentUserCalls.answerWith(issues.first()->assignee.value());
+    site->projectsCalls.answerWith({});
+    site->prioritiesCalls.answerWith({});
+    site->issuesCalls.answerWith(issues);
+    return site;
+}
+
+Outside outsideWith(int count, const QString &folder)
+{
+    Outside outside;
+    outside.clock = std::make_unique<BenchClock>();
+    outside.preferences = std::make_unique<Preferences>(folder + u"/bench.ini"_s);
+    outside.preferences->setFlag(u"demoMode"_s, true);
+    outside.preferences->setFlag(u"showCompleted"_s, true);
+    outside.desktop = std::make_unique<FakeDesktop>();
+    outside.calendar = UserCalendar::system();
+    outside.makeDemo = [count](Clock &, const UserCalendar &) { return siteWith(count); };
+    return outside;
+}
+
+QQuickItem *itemOf(QQuickItem *root, const char *kind)
+{
+    if (root->inherits(kind))
+        return root;
+    for (auto *child : root->childItems()) {
+        if (auto *found = itemOf(child, kind))
+            return found;
+    }
+    return nullptr;
+}
+
+std::vector<qint64> pressesOf(FrameTimer &timer, int count)
+{
+    std::vector<qint64> times;
+    for (int i = 0; i < count; ++i)
+        times.push_back(timer.press(Qt::Key_J, u"j"_s));
+    return times;
+}
+
+/// A letter that every issue has and its removal, one that few have and its removal, and so on.
+std::vector<qint64> keystrokes(FrameTimer &timer, int count)
+{
+    std::vector<qint64> times;
+    for (int i = 0; i < count; i += 4) {
+        times.push_back(timer.press(Qt::Key_E, u"e"_s));
+        times.push_back(timer.press(Qt::Key_Backspace, u"\b"_s));
+        times.push_back(timer.press(Qt::Key_7, u"7"_s));
+        times.push_back(timer.press(Qt::Key_Backspace, u"\b"_s));
+    }
+    return times;
+}
+
+void measureList(FrameTable &table, int count)
+{
+    const QTemporaryDir folder;
+    VelmoraApp velmora(outsideWith(count, folder.path()));
+    if (!velmora.open())
+        qFatal("The main window does not open.");
+    auto &window = *velmora.mainWindow();
+    FrameTimer timer(window);
+    timer.settle();
+    const auto &store = velmora.store();
+    if (store.visibleCount() != count)
+        qFatal("%d of %d issues are shown.", store.visibleCount(), count);
+
+    const auto size = QString::number(count) + u" issues: "_s;
+    table.add(size + u"J moves the focus"_s, pressesOf(timer, presses()));
+    if (store.flatVisibleKeys().indexOf(*store.focusedKey()) < std::min(count, presses()) - 1)
+        qFatal("The focus has not moved.");
+    itemOf(window.contentItem(), "QQuickTextInput")->forceActiveFocus();
+    table.add(size + u"a letter in the search"_s, keystrokes(timer, presses()));
+    if (count > 1000)
+        table.add(size + u"between frames of a scroll"_s, timer.scroll(Notches));
+}
+
+void measureEmptyWindow(std::optional<FrameTable> &table)
+{
+    QQmlApplicationEngine engine;
+    engine.loadData(emptyWindow());
+    FrameTimer timer(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()));
+    timer.settle();
+    const auto times = pressesOf(timer, presses());
+    if (!table)
+        table.emplace(timer.renderer());
+    table->add(u"nearly empty window"_s, times);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    chooseRenderer();
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const QGuiApplication application(argc, argv);
+    std::optional<FrameTable> table;
+    measureEmptyWindow(table);
+    measureList(*table, 300);
+    measureList(*table, 10000);
+    // Once more, to tell how far the machine itself has changed meanwhile.
+    measureEmptyWindow(table);
+    return 0;
+}
