@@ -14,19 +14,30 @@ Item {
     function reveal() {
         const row = rows.rowOfKey(focusedKey);
         if (row >= 0)
-            scrollTo(list.contentY, targetFor(row));
+            scrollTo(targetFor(row));
     }
 
-    // Where the list stands once the row is in view. The list itself knows, by going there.
+    // Where the list stands once the row is in view. For a row that it holds no item of, the list knows by going there.
     function targetFor(row: int): real {
-        list.positionViewAtIndex(row, ListView.Contain);
         const item = list.itemAtIndex(row);
-        const covered = item ? Math.max(0, list.contentY + headerHeight - item.y) : 0;
-        return Math.max(list.originY, list.contentY - covered);
+        return item ? targetForItem(item) : targetByGoing(row);
     }
 
-    function scrollTo(from: real, to: real) {
+    function targetForItem(item: Item): real {
+        const lowest = Math.max(list.originY, item.y - headerHeight);
+        const highest = item.y + item.height - list.height;
+        return Math.max(highest, Math.min(list.contentY, lowest));
+    }
+
+    function targetByGoing(row: int): real {
+        const from = list.contentY;
+        list.positionViewAtIndex(row, ListView.Contain);
+        const target = targetForItem(list.itemAtIndex(row));
         list.contentY = from;
+        return target;
+    }
+
+    function scrollTo(to: real) {
         animation.to = to;
         animation.restart();
     }

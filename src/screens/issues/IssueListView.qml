@@ -35,6 +35,11 @@ FocusScope {
         reuseItems: true
         cacheBuffer: 400
         pixelAligned: true
+        // The store knows the focused row. A current row of the list's own would move with every change above it, and the
+        // unseen highlight would run after it, at 400 px a second and 60 frames a second.
+        currentIndex: -1
+        highlightFollowsCurrentItem: false
+        keyNavigationEnabled: false
 
         Accessible.role: Accessible.List
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
@@ -8,8 +9,7 @@ import Velmora.Theme
 Item {
     id: root
 
-    required property list<string> caps
-    required property string title
+    required property Picker picker
 
     implicitHeight: 34
 
@@ -20,7 +20,7 @@ Item {
         spacing: Metrics.gapSmall
 
         Repeater {
-            model: root.caps
+            model: root.picker.caps
 
             Rectangle {
                 id: cap
@@ -56,7 +56,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             role: TypeScale.Small
             weight: Font.Medium
-            text: root.title
+            text: root.picker.title
         }
     }
 }

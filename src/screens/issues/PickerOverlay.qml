@@ -77,8 +77,7 @@ FocusScope {
         PickerHead {
             id: head
             width: parent.width
-            caps: picker.caps
-            title: picker.title
+            picker: picker
         }
 
         Symbol {
