@@ -53,7 +53,7 @@ void AppStore::run(const OptionAction &action)
 {
     using Action = OptionAction;
     // A copy: carrying it out changes the rows that it may belong to.
-    const OptionAction kept = action;
+    const OptionAction kept = action; // NOLINT(performance-unnecessary-copy-initialization)
     std::visit(Overloaded{[](const Action::None &) {},
                           [this](const Action::SetStatus &a) { setStatus(a.status, a.keys); },
                           [this](const Action::SetPriority &a) { setPriority(a.priority, a.keys); },

@@ -48,6 +48,7 @@ QList<T> sortedBy(const QList<T> &values, KeyOf keyOf)
 {
     using Key = std::remove_cvref_t<std::invoke_result_t<KeyOf, const T &>>;
     std::vector<std::pair<Key, qsizetype>> places;
+    places.reserve(static_cast<std::size_t>(values.size()));
     for (qsizetype i = 0; i < values.size(); ++i)
         places.emplace_back(std::invoke(keyOf, values[i]), i);
     std::ranges::sort(places, std::less<>());

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -121,11 +122,11 @@ TEST_F(DemoFilesTest, attachmentOfAnUnknownOrMissingExtensionIsBytes)
 TEST_F(DemoFilesTest, attachmentLiesAsManyHoursBackAsItsNameHasCharacters)
 {
     EXPECT_EQ(attachmentOf(write(u"worker-facturation.log"_s, "x")).created,
-              testNow().addSecs(-22 * 3600));
+              testNow().addDuration(-22h));
     EXPECT_EQ(attachmentOf(write(u"facture-septembre-erreur.png"_s, "x")).created,
-              testNow().addSecs(-28 * 3600));
+              testNow().addDuration(-28h));
     // One character to the reader, however it is encoded.
-    EXPECT_EQ(attachmentOf(write(u"e\u0301🙂.txt"_s, "x")).created, testNow().addSecs(-6 * 3600));
+    EXPECT_EQ(attachmentOf(write(u"e\u0301🙂.txt"_s, "x")).created, testNow().addDuration(-6h));
 }
 
 TEST_F(DemoFilesTest, attachmentIdDependsOnThePathAlone)

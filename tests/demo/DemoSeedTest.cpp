@@ -3,6 +3,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -80,7 +81,7 @@ TEST(DemoSeed, createdLiesThreeToElevenDaysBeforeTheLastChange)
 
 TEST(DemoSeed, lastChangeIsAFractionOfADayAgo)
 {
-    EXPECT_EQ(issueOf(u"MOB-101"_s).updated, testNow().addSecs(-72 * 60));
+    EXPECT_EQ(issueOf(u"MOB-101"_s).updated, testNow().addDuration(-72min));
     EXPECT_EQ(issueOf(u"WEB-215"_s).updated, testNow().addSecs(-8 * 86'400 - 25'920));
 }
 
@@ -166,8 +167,7 @@ TEST(DemoSeed, sameInstantGivesTheSameData)
 
 TEST(DemoSeed, datesMoveWithTheStart)
 {
-    const DemoSeed::Seed later =
-        DemoSeed::make(testNow().addSecs(3 * 86'400), paris(), countingIDs());
+    const DemoSeed::Seed later = DemoSeed::make(testNow().addDays(3), paris(), countingIDs());
     EXPECT_EQ(later.issues.first().updated, seed().issues.first().updated.addDays(3));
     EXPECT_EQ(later.issues.first().dueDate, QDate(2026, 11, 3));
     EXPECT_EQ(later.threads[u"SUP-41"_s].first().created,

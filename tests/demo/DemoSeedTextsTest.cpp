@@ -6,6 +6,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -142,7 +143,7 @@ TEST(DemoSeedTexts, serviceThreadMixesPublicAndInternal)
         internal += comment.isInternal;
     EXPECT_EQ(internal, (QList<bool>{false, true, false, true}));
     EXPECT_EQ(comments.first().author, DemoSeed::customer());
-    EXPECT_EQ(comments.first().created, testNow().addSecs(-30 * 3600));
+    EXPECT_EQ(comments.first().created, testNow().addDuration(-30h));
     EXPECT_EQ(comments.first().body->version, 1);
 }
 

@@ -31,7 +31,7 @@ TEST(Shared, ComparesTheValuesOfDifferentObjects)
 TEST(Shared, DoesNotLookInsideOneAndTheSameObject)
 {
     const Shared value(CountingValue{1});
-    const Shared copy = value;
+    const Shared copy = value; // NOLINT(performance-unnecessary-copy-initialization)
     CountingValue::comparisons = 0;
     EXPECT_TRUE(value == copy);
     EXPECT_TRUE(value.isSameObject(copy));

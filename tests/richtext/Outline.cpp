@@ -41,7 +41,7 @@ QString ownLine(const ADFNode &node)
 void append(const QList<ADFNode> &nodes, int level, QStringList &lines)
 {
     for (const ADFNode &node : nodes) {
-        lines.append(QString(level * 2, u' ') + ownLine(node));
+        lines.append(QString(2 * qsizetype{level}, u' ') + ownLine(node));
         append(node.content.value_or(QList<ADFNode>()), level + 1, lines);
     }
 }

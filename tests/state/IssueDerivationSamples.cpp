@@ -131,7 +131,8 @@ Issue sampleIssue(const QString &key, const QString &statusName)
 
 QDateTime minute(int minutes)
 {
-    return QDateTime(QDate(2026, 11, 2), QTime(8, 0), Qt::UTC).addSecs(minutes * 60);
+    return QDateTime(QDate(2026, 11, 2), QTime(8, 0), Qt::UTC)
+        .addDuration(std::chrono::minutes(minutes));
 }
 
 IssueStatus todo(const QString &name)

@@ -62,6 +62,7 @@ void ManualClock::advance(std::chrono::milliseconds duration)
         if ((*next)->due > end)
             break;
         // Kept alive over the call: the callback may destroy its own handle.
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const std::shared_ptr<Entry> entry = *next;
         m_now = entry->due;
         if (entry->period > std::chrono::milliseconds::zero())

@@ -39,6 +39,7 @@ IssueListModel *BoardModel::cardsOfColumn(const QString &id)
 {
     auto &cards = m_cards[id];
     if (!cards) {
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): this owns it, as its parent
         cards = new IssueListModel(m_calendar, m_now, this);
         mark(*cards);
     }

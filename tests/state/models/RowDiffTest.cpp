@@ -13,6 +13,7 @@ namespace {
 std::vector<QStringView> keys(const QString &text)
 {
     std::vector<QStringView> keys;
+    keys.reserve(static_cast<std::size_t>(text.size()));
     for (qsizetype at = 0; at < text.size(); ++at)
         keys.push_back(QStringView(text).sliced(at, 1));
     return keys;
