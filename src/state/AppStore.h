@@ -2,14 +2,11 @@
 
 #include "async/Settled.h"
 #include "async/Turns.h"
-#include "model/DisplayProperties.h"
-#include "platform/Clock.h"
-#include "platform/Desktop.h"
-#include "platform/Preferences.h"
 #include "state/ActivityBadge.h"
 #include "state/ActivityHeaderData.h"
 #include "state/ActivityNavigation.h"
-#include "state/AppStoreFields.h"
+#include "state/AppStoreContext.h"
+#include "state/AppStorePreferences.h"
 #include "state/CommentAudience.h"
 #include "state/CopiedText.h"
 #include "state/IssueCopies.h"
@@ -25,26 +22,14 @@
 #include "state/models/SidebarModel.h"
 #include "state/models/ToastModel.h"
 
-#include <functional>
 #include <map>
-
-/// The outside world, as the store needs it. All references outlive the store.
-struct AppStoreContext
-{
-    Clock &clock;
-    Preferences &preferences;
-    Desktop &desktop;
-    UserCalendar calendar;
-    /// Opens a session on made-up data.
-    std::function<std::shared_ptr<IssueService>()> makeDemo;
-};
 
 /// The state of the program: the active service, all lists and dictionaries that screens show, the preferences and the
 /// toasts. Made once by the composition root; lives on the UI thread; the single writer of its fields. Screens bind to
 /// its properties and call its operations, and never see the service.
 ///
 /// Asynchronous operations never fail; a wait that outlives the store ends with `OwnerGone`.
-class AppStore : public AppStoreFields
+class AppStore : public AppStorePreferences
 {
     Q_OBJECT
     QML_ELEMENT
@@ -52,27 +37,7 @@ class AppStore : public AppStoreFields
     // Cases of different enumerations share names.
     Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
-    // Preferences
-    Q_PROPERTY(Model::LayoutMode layout READ layout WRITE setLayout NOTIFY layoutChanged FINAL)
-    Q_PROPERTY(
-        Model::Grouping grouping READ grouping WRITE setGrouping NOTIFY groupingChanged FINAL)
-    Q_PROPERTY(
-        Model::Ordering ordering READ ordering WRITE setOrdering NOTIFY orderingChanged FINAL)
-    Q_PROPERTY(bool showCompleted READ showCompleted WRITE setShowCompleted NOTIFY
-                   showCompletedChanged FINAL)
-    Q_PROPERTY(DisplayProperties display READ display NOTIFY displayChanged FINAL)
-    Q_PROPERTY(
-        QStringList favoriteProjects READ favoriteProjects NOTIFY favoriteProjectsChanged FINAL)
-    Q_PROPERTY(Model::AppearanceMode appearance READ appearance WRITE setAppearance NOTIFY
-                   appearanceChanged FINAL)
-    Q_PROPERTY(Model::AccentChoice accentChoice READ accentChoice WRITE setAccentChoice NOTIFY
-                   accentChoiceChanged FINAL)
-    Q_PROPERTY(Model::RowDensity density READ density WRITE setDensity NOTIFY densityChanged FINAL)
-    Q_PROPERTY(bool activityTeamWide READ activityTeamWide WRITE setActivityTeamWide NOTIFY
-                   activityTeamWideChanged FINAL)
-    Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged FINAL)
-    Q_PROPERTY(bool prefersReducedMotion READ prefersReducedMotion NOTIFY
-                   prefersReducedMotionChanged FINAL)
+    // Selection
     Q_PROPERTY(bool showInspector READ showInspector WRITE setShowInspector NOTIFY
                    inspectorKeyChanged FINAL)
     // What is made from the fields
@@ -236,50 +201,13 @@ public:
     /// The status of a name in an issue's history.
     IssueStatus statusNamed(const QString &name, const QString &projectKey) const;
 
-    // Preferences, each written to the disk at its change ---------------------------------------------------------------
-    LayoutMode layout() const { return *m_layout; }
-    void setLayout(LayoutMode layout);
-    Grouping grouping() const { return *m_grouping; }
-    void setGrouping(Grouping grouping);
-    Ordering ordering() const { return *m_ordering; }
-    void setOrdering(Ordering ordering);
-    bool showCompleted() const { return *m_showCompleted; }
-    void setShowCompleted(bool show);
-    const DisplayProperties &display() const { return *m_display; }
-    void setDisplay(const DisplayProperties &display);
-    const QStringList &favoriteProjects() const { return *m_favoriteProjects; }
-    Q_INVOKABLE void toggleFavorite(const QString &projectKey);
-    AppearanceMode appearance() const { return *m_appearance; }
-    void setAppearance(AppearanceMode mode);
-    /// Goes on to the next appearance and says so.
-    Q_INVOKABLE void cycleAppearance();
-    AccentChoice accentChoice() const { return *m_accentChoice; }
-    void setAccentChoice(AccentChoice choice);
-    RowDensity density() const { return *m_density; }
-    void setDensity(RowDensity density);
-    bool activityTeamWide() const { return *m_activityTeamWide; }
-    void setActivityTeamWide(bool teamWide);
-    /// The appearance in force: the user's choice, or the desktop's where the user follows it.
-    bool isDark() const { return *m_isDark; }
-    bool prefersReducedMotion() const { return *m_prefersReducedMotion; }
-
     // Toasts ----------------------------------------------------------------------------------------------------------
     void toast(const QString &message, const QString &symbol, ToastKind kind = ToastKind::Notice);
     Q_INVOKABLE void dismissToast(const QUuid &id);
+    /// Goes on to the next appearance and says so.
+    Q_INVOKABLE void cycleAppearance();
 
 Q_SIGNALS:
-    void layoutChanged();
-    void groupingChanged();
-    void orderingChanged();
-    void showCompletedChanged();
-    void displayChanged();
-    void favoriteProjectsChanged();
-    void appearanceChanged();
-    void accentChoiceChanged();
-    void densityChanged();
-    void activityTeamWideChanged();
-    void isDarkChanged();
-    void prefersReducedMotionChanged();
     void scopeTitleChanged();
     void visibleCountChanged();
     void subtitleChanged();
@@ -290,8 +218,6 @@ Q_SIGNALS:
 
 private:
     enum class SessionKind { Real, Demo };
-    template <typename T>
-    using Preference = Observed<AppStore, T>;
 
     // AppStoreSession.cpp
     QCoro::Task<> activate(std::shared_ptr<IssueService> service, SessionKind kind,
@@ -341,9 +267,6 @@ private:
     const StatusLookup &statusLookup() const;
     // AppStoreToasts.cpp
     void report(const TaskFailure &failure);
-    // AppStorePreferences.cpp
-    void readPreferences();
-    void refreshAppearance();
     // AppStoreDerived.cpp
     void flush(unsigned what) override;
     IssueDerivationInputs derivationInputs() const;
@@ -365,19 +288,6 @@ private:
     Clock::TimerHandle m_refreshTimer;
     Clock::TimerHandle m_minuteTimer;
     std::map<QUuid, Clock::TimerHandle> m_toastTimers;
-
-    Preference<LayoutMode> m_layout{this, &AppStore::layoutChanged, List};
-    Preference<Grouping> m_grouping{this, &AppStore::groupingChanged, List};
-    Preference<Ordering> m_ordering{this, &AppStore::orderingChanged, List};
-    Preference<bool> m_showCompleted{this, &AppStore::showCompletedChanged, List};
-    Preference<DisplayProperties> m_display{this, &AppStore::displayChanged};
-    Preference<QStringList> m_favoriteProjects{this, &AppStore::favoriteProjectsChanged, Sidebar};
-    Preference<AppearanceMode> m_appearance{this, &AppStore::appearanceChanged};
-    Preference<AccentChoice> m_accentChoice{this, &AppStore::accentChoiceChanged};
-    Preference<RowDensity> m_density{this, &AppStore::densityChanged};
-    Preference<bool> m_activityTeamWide{this, &AppStore::activityTeamWideChanged};
-    Observed<AppStore, bool> m_isDark{this, &AppStore::isDarkChanged};
-    Observed<AppStore, bool> m_prefersReducedMotion{this, &AppStore::prefersReducedMotionChanged};
 
     /// Follows the fields when it is read and when a batch ends.
     mutable IssueDerivation m_derivation;

@@ -1,5 +1,6 @@
+#include "state/AppStorePreferences.h"
+
 #include "model/RawValues.h"
-#include "state/AppStore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,43 +32,18 @@ DisplayProperties storedDisplay(const Preferences &preferences)
                 : DisplayProperties();
 }
 
-AppearanceMode following(AppearanceMode mode)
-{
-    switch (mode) {
-    case AppearanceMode::System:
-        return AppearanceMode::Light;
-    case AppearanceMode::Light:
-        return AppearanceMode::Dark;
-    case AppearanceMode::Dark:
-        return AppearanceMode::System;
-    }
-    Q_UNREACHABLE();
-}
-
-struct AppearanceWords
-{
-    QString label;
-    QString symbol;
-};
-
-AppearanceWords words(AppearanceMode mode)
-{
-    switch (mode) {
-    case AppearanceMode::System:
-        return {u"Système"_s, u"circle.lefthalf.filled"_s};
-    case AppearanceMode::Light:
-        return {u"Clair"_s, u"sun.max.fill"_s};
-    case AppearanceMode::Dark:
-        return {u"Sombre"_s, u"moon.fill"_s};
-    }
-    Q_UNREACHABLE();
-}
-
 } // namespace
 
-void AppStore::readPreferences()
+AppStorePreferences::AppStorePreferences(Preferences &preferences, Desktop &desktop,
+                                         QObject *parent)
+    : AppStoreFields(parent), m_preferences(preferences), m_desktop(desktop)
 {
-    const Preferences &stored = m_context.preferences;
+    connect(&desktop, &Desktop::appearanceChanged, this, &AppStorePreferences::refreshAppearance);
+}
+
+void AppStorePreferences::readPreferences()
+{
+    const Preferences &stored = m_preferences;
     m_layout.set(storedCase(stored, LayoutKey, LayoutMode::List));
     m_grouping.set(storedCase(stored, GroupingKey, Grouping::Status));
     m_ordering.set(storedCase(stored, OrderingKey, Ordering::Priority));
@@ -78,84 +54,77 @@ void AppStore::readPreferences()
     m_appearance.set(storedCase(stored, AppearanceKey, AppearanceMode::System));
     m_accentChoice.set(storedCase(stored, AccentKey, AccentChoice::Indigo));
     m_density.set(storedCase(stored, DensityKey, RowDensity::Comfortable));
+    refreshAppearance();
 }
 
-void AppStore::setLayout(LayoutMode layout)
+void AppStorePreferences::setLayout(LayoutMode layout)
 {
     if (m_layout.set(layout))
-        m_context.preferences.setText(LayoutKey, rawValue(layout));
+        m_preferences.setText(LayoutKey, rawValue(layout));
 }
 
-void AppStore::setGrouping(Grouping grouping)
+void AppStorePreferences::setGrouping(Grouping grouping)
 {
     if (m_grouping.set(grouping))
-        m_context.preferences.setText(GroupingKey, rawValue(grouping));
+        m_preferences.setText(GroupingKey, rawValue(grouping));
 }
 
-void AppStore::setOrdering(Ordering ordering)
+void AppStorePreferences::setOrdering(Ordering ordering)
 {
     if (m_ordering.set(ordering))
-        m_context.preferences.setText(OrderingKey, rawValue(ordering));
+        m_preferences.setText(OrderingKey, rawValue(ordering));
 }
 
-void AppStore::setShowCompleted(bool show)
+void AppStorePreferences::setShowCompleted(bool show)
 {
     if (m_showCompleted.set(show))
-        m_context.preferences.setFlag(ShowCompletedKey, show);
+        m_preferences.setFlag(ShowCompletedKey, show);
 }
 
-void AppStore::setDisplay(const DisplayProperties &display)
+void AppStorePreferences::setDisplay(const DisplayProperties &display)
 {
     if (m_display.set(display))
-        m_context.preferences.setBytes(DisplayKey, display.toJson());
+        m_preferences.setBytes(DisplayKey, display.toJson());
 }
 
-void AppStore::toggleFavorite(const QString &projectKey)
+void AppStorePreferences::toggleFavorite(const QString &projectKey)
 {
     QStringList keys = *m_favoriteProjects;
     if (!keys.removeOne(projectKey))
         keys += projectKey;
     m_favoriteProjects.set(keys);
-    m_context.preferences.setTexts(FavoriteProjectsKey, keys);
+    m_preferences.setTexts(FavoriteProjectsKey, keys);
 }
 
-void AppStore::setAppearance(AppearanceMode mode)
+void AppStorePreferences::setAppearance(AppearanceMode mode)
 {
     if (!m_appearance.set(mode))
         return;
-    m_context.preferences.setText(AppearanceKey, rawValue(mode));
+    m_preferences.setText(AppearanceKey, rawValue(mode));
     refreshAppearance();
 }
 
-void AppStore::cycleAppearance()
-{
-    setAppearance(following(*m_appearance));
-    const auto [label, symbol] = words(*m_appearance);
-    toast(u"Apparence : "_s + label, symbol);
-}
-
-void AppStore::setAccentChoice(AccentChoice choice)
+void AppStorePreferences::setAccentChoice(AccentChoice choice)
 {
     if (m_accentChoice.set(choice))
-        m_context.preferences.setText(AccentKey, rawValue(choice));
+        m_preferences.setText(AccentKey, rawValue(choice));
 }
 
-void AppStore::setDensity(RowDensity density)
+void AppStorePreferences::setDensity(RowDensity density)
 {
     if (m_density.set(density))
-        m_context.preferences.setText(DensityKey, rawValue(density));
+        m_preferences.setText(DensityKey, rawValue(density));
 }
 
-void AppStore::setActivityTeamWide(bool teamWide)
+void AppStorePreferences::setActivityTeamWide(bool teamWide)
 {
     if (m_activityTeamWide.set(teamWide))
-        m_context.preferences.setFlag(ActivityTeamWideKey, teamWide);
+        m_preferences.setFlag(ActivityTeamWideKey, teamWide);
 }
 
-void AppStore::refreshAppearance()
+void AppStorePreferences::refreshAppearance()
 {
     const bool followsDesktop = *m_appearance == AppearanceMode::System;
-    m_isDark.set(followsDesktop ? m_context.desktop.prefersDark()
-                                : *m_appearance == AppearanceMode::Dark);
-    m_prefersReducedMotion.set(m_context.desktop.prefersReducedMotion());
+    m_isDark.set(followsDesktop ? m_desktop.prefersDark() : *m_appearance == AppearanceMode::Dark);
+    m_prefersReducedMotion.set(m_desktop.prefersReducedMotion());
 }

@@ -8,6 +8,38 @@ namespace {
 constexpr std::chrono::milliseconds ErrorStay = 5000ms;
 constexpr std::chrono::milliseconds NoticeStay = 2400ms;
 
+AppearanceMode following(AppearanceMode mode)
+{
+    switch (mode) {
+    case AppearanceMode::System:
+        return AppearanceMode::Light;
+    case AppearanceMode::Light:
+        return AppearanceMode::Dark;
+    case AppearanceMode::Dark:
+        return AppearanceMode::System;
+    }
+    Q_UNREACHABLE();
+}
+
+struct AppearanceWords
+{
+    QString label;
+    QString symbol;
+};
+
+AppearanceWords words(AppearanceMode mode)
+{
+    switch (mode) {
+    case AppearanceMode::System:
+        return {u"Système"_s, u"circle.lefthalf.filled"_s};
+    case AppearanceMode::Light:
+        return {u"Clair"_s, u"sun.max.fill"_s};
+    case AppearanceMode::Dark:
+        return {u"Sombre"_s, u"moon.fill"_s};
+    }
+    Q_UNREACHABLE();
+}
+
 } // namespace
 
 void AppStore::toast(const QString &message, const QString &symbol, ToastKind kind)
@@ -32,4 +64,11 @@ void AppStore::report(const TaskFailure &failure)
 {
     if (!failure.isCancellation)
         toast(failure.message, u"exclamationmark.triangle.fill"_s, ToastKind::Error);
+}
+
+void AppStore::cycleAppearance()
+{
+    setAppearance(following(*m_appearance));
+    const auto [label, symbol] = words(*m_appearance);
+    toast(u"Apparence : "_s + label, symbol);
 }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/IssueService.h"
+#include "model/UserCalendar.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+#include "platform/Preferences.h"
+
+#include <functional>
+#include <memory>
+
+/// The outside world, as the store needs it. All references outlive the store.
+struct AppStoreContext
+{
+    Clock &clock;
+    Preferences &preferences;
+    Desktop &desktop;
+    UserCalendar calendar;
+    /// Opens a session on made-up data.
+    std::function<std::shared_ptr<IssueService>()> makeDemo;
+};
