@@ -26,7 +26,8 @@ function(velmora_qml_module name)
         URI ${ARG_URI}
         VERSION 1.0
         RESOURCE_PREFIX /qt/qml
-        IMPORTS ${ARG_IMPORTS}
+        # Not IMPORTS: those are followed again for every document that imports the module, a seventh of a start.
+        DEPENDENCIES ${ARG_IMPORTS}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
         RESOURCES ${ARG_RESOURCES}
         SOURCES ${ARG_SOURCES})

@@ -3,7 +3,6 @@ import QtQuick
 import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Model
-import Velmora.Theme
 
 /// The controls at rest, chosen, focused and disabled, on the sidebar and on the plane.
 Item {

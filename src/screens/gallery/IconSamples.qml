@@ -3,7 +3,6 @@ import QtQuick
 import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Model
-import Velmora.Theme
 
 /// Every drawn icon at four sizes.
 Column {

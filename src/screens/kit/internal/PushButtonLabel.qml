@@ -1,5 +1,4 @@
 import QtQuick
-import Velmora.Theme
 import Velmora.Kit
 
 /// The symbol and the words of a button, centred.
