@@ -4,27 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-PrivateBus::PrivateBus()
-{
-    m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-    if (m_daemon.waitForStarted() && m_daemon.waitForReadyRead())
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-}
-
-PrivateBus::~PrivateBus()
-{
-    for (const QString &name : m_names)
-        QDBusConnection::disconnectFromBus(name);
-    m_daemon.kill();
-    m_daemon.waitForFinished();
-}
-
-QDBusConnection PrivateBus::connection(const QString &name)
-{
-    m_names += name;
-    return QDBusConnection::connectToBus(m_address, name);
-}
-
 FakePortal::FakePortal(QDBusConnection bus) : m_bus(std::move(bus))
 {
     m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,

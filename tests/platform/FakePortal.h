@@ -1,32 +1,13 @@
 #pragma once
 
+#include "platform/PrivateBus.h"
+
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusVariant>
 #include <QObject>
-#include <QProcess>
 
 #include <map>
-#include <memory>
-
-/// A message bus of the test's own, gone with this object.
-class PrivateBus
-{
-public:
-    PrivateBus();
-    ~PrivateBus();
-    PrivateBus(const PrivateBus &) = delete;
-    PrivateBus &operator=(const PrivateBus &) = delete;
-
-    bool isRunning() const { return !m_address.isEmpty(); }
-    /// A new connection under the given name.
-    QDBusConnection connection(const QString &name);
-
-private:
-    QProcess m_daemon;
-    QString m_address;
-    QStringList m_names;
-};
 
 /// The settings of a desktop portal, as a test sets them. A read of any other setting fails.
 class FakePortal : public QObject, protected QDBusContext

@@ -17,6 +17,7 @@ constexpr std::array Replacements = {
     Replacement{u"trousseau macOS", u"trousseau du système"},
     Replacement{u"nécessite macOS", u"nécessite le système en version"},
     Replacement{u"macOS n'a pas", u"Le système n'a pas"},
+    Replacement{u"puis « Toujours autoriser »", u"puis déverrouille ton trousseau"},
     Replacement{u"macOS", u"le système"},
     Replacement{u"Finder", u"gestionnaire de fichiers"},
 };

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gio/gio.h>
+#include <memory>
+
+/// Lets go of what GLib hands out; of nothing, too, as shared owners ask it to.
+struct GLibRelease
+{
+    void operator()(void *object) const
+    {
+        if (object)
+            g_object_unref(object);
+    }
+    void operator()(GError *error) const
+    {
+        if (error)
+            g_error_free(error);
+    }
+    void operator()(GHashTable *table) const
+    {
+        if (table)
+            g_hash_table_unref(table);
+    }
+};
+
+template <typename T>
+using GLibPointer = std::unique_ptr<T, GLibRelease>;

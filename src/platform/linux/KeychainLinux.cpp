@@ -1,0 +1,93 @@
+#include "platform/linux/KeychainLinux.h"
+
+#include "platform/linux/KeychainRefusal.h"
+#include "platform/linux/SecretSteps.h"
+
+#include <QStringDecoder>
+
+namespace {
+
+using SecretSteps::Calls;
+
+Keychain::Lookup lookupOf(const QByteArray &secret)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString token = decoder(secret);
+    if (decoder.hasError())
+        return Keychain::Missing();
+    return Keychain::Found{token};
+}
+
+QCoro::Task<Keychain::Lookup> readThrough(Calls calls, QString account)
+{
+    const auto service = co_await SecretSteps::open(calls);
+    const auto item = co_await SecretSteps::find(calls, service, account);
+    if (!item)
+        co_return Keychain::Missing();
+    co_await SecretSteps::unlock(calls, service, item);
+    const QByteArray secret = co_await SecretSteps::secretOf(calls, item);
+    co_return lookupOf(secret);
+}
+
+/// The old item goes first, so that a save that fails leaves none.
+QCoro::Task<> saveThrough(Calls calls, QString token, QString account)
+{
+    const auto service = co_await SecretSteps::open(calls);
+    co_await SecretSteps::clear(calls, service, account);
+    co_await SecretSteps::store(calls, service, account, token.toUtf8());
+}
+
+QCoro::Task<> removeThrough(Calls calls, QString account)
+{
+    const auto service = co_await SecretSteps::open(calls);
+    co_await SecretSteps::clear(calls, service, account);
+}
+
+} // namespace
+
+KeychainLinux::KeychainLinux(Clock &clock) : m_calls(std::make_shared<GLibCalls>(clock)) {}
+
+KeychainLinux::~KeychainLinux()
+{
+    m_calls->close();
+}
+
+// After its turn has come, an operation does not touch this object, which may have gone.
+
+QCoro::Task<Keychain::Lookup> KeychainLinux::read(QString account)
+{
+    const auto calls = m_calls;
+    const auto turn = co_await m_turns.next();
+    try {
+        co_return co_await readThrough(calls, account);
+    } catch (const KeychainRefusal &refusal) {
+        co_return asLookup(refusal);
+    }
+}
+
+QCoro::Task<> KeychainLinux::save(QString token, QString account)
+{
+    const auto calls = m_calls;
+    const auto turn = co_await m_turns.next();
+    try {
+        co_await saveThrough(calls, token, account);
+    } catch (const KeychainRefusal &refusal) {
+        throw asFailure(refusal);
+    }
+}
+
+QCoro::Task<> KeychainLinux::remove(QString account)
+{
+    const auto calls = m_calls;
+    const auto turn = co_await m_turns.next();
+    try {
+        co_await removeThrough(calls, account);
+    } catch (const KeychainRefusal &) {
+        // It stays: there is nothing that the user could do about it here.
+    }
+}
+
+std::unique_ptr<Keychain> Keychain::ofThisSystem(Clock &clock)
+{
+    return std::make_unique<KeychainLinux>(clock);
+}

@@ -1,0 +1,182 @@
+#include "platform/linux/SecretSteps.h"
+
+#include "platform/linux/KeychainLinux.h"
+#include "platform/linux/KeychainRefusal.h"
+
+namespace {
+
+constexpr auto ServiceKey = "service";
+constexpr auto AccountKey = "account";
+
+/// Collects the error that a `…_finish` leaves.
+class ErrorSlot
+{
+public:
+    GError **out() { return &m_error; }
+    void throwIfSet()
+    {
+        if (!m_error)
+            return;
+        const GLibPointer<GError> error(m_error);
+        throw refusalFor(*error);
+    }
+
+private:
+    GError *m_error = nullptr;
+};
+
+const SecretSchema &schema()
+{
+    static const QByteArray name = Keychain::serviceName().toUtf8();
+    static const SecretSchema schema = [] {
+        SecretSchema made = {};
+        made.name = name.constData();
+        made.flags = SECRET_SCHEMA_NONE;
+        made.attributes[0] = {ServiceKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
+        made.attributes[1] = {AccountKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
+        return made;
+    }();
+    return schema;
+}
+
+std::shared_ptr<GHashTable> attributesOf(const QString &account)
+{
+    return {secret_attributes_build(&schema(), ServiceKey,
+                                    Keychain::serviceName().toUtf8().constData(), AccountKey,
+                                    account.toUtf8().constData(), nullptr),
+            GLibRelease()};
+}
+
+QCoro::Task<GLibPointer<GAsyncResult>>
+answered(SecretSteps::Calls calls, std::chrono::milliseconds limit, GLibCalls::Start start)
+{
+    try {
+        co_return co_await GLibCalls::run(calls, limit, start);
+    } catch (const GLibCalls::TimedOut &) {
+        throw KeychainRefusal(KeychainLinux::TimedOut);
+    }
+}
+
+/// A bus that ends must not take the process with it, as GLib would have it.
+QCoro::Task<std::shared_ptr<GDBusConnection>> openBus(SecretSteps::Calls calls)
+{
+    const GLibCalls::Start start = [](GCancellable *stop, GAsyncReadyCallback done, gpointer data) {
+        g_bus_get(G_BUS_TYPE_SESSION, stop, done, data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::ServiceLimit, start);
+    ErrorSlot error;
+    std::shared_ptr<GDBusConnection> bus(g_bus_get_finish(result.get(), error.out()),
+                                         GLibRelease());
+    error.throwIfSet();
+    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
+    // On a bus that has ended, libsecret takes no answer for "nothing found".
+    if (g_dbus_connection_is_closed(bus.get()))
+        throw KeychainRefusal(KeychainLinux::Absent);
+    co_return bus;
+}
+
+} // namespace
+
+QCoro::Task<SecretSteps::Service> SecretSteps::open(Calls calls)
+{
+    const auto bus = co_await openBus(calls);
+    const GLibCalls::Start start = [](GCancellable *stop, GAsyncReadyCallback done, gpointer data) {
+        secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, stop, done,
+                            data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::ServiceLimit, start);
+    ErrorSlot error;
+    Service service(secret_service_open_finish(result.get(), error.out()), GLibRelease());
+    error.throwIfSet();
+    co_return service;
+}
+
+QCoro::Task<SecretSteps::Item> SecretSteps::find(Calls calls, Service service, QString account)
+{
+    const auto attributes = attributesOf(account);
+    const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
+                                       gpointer data) {
+        secret_service_search(service.get(), &schema(), attributes.get(), SECRET_SEARCH_NONE, stop,
+                              done, data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::ServiceLimit, start);
+    ErrorSlot error;
+    GList *items = secret_service_search_finish(service.get(), result.get(), error.out());
+    error.throwIfSet();
+    Item item(items ? SECRET_ITEM(g_object_ref(items->data)) : nullptr,
+              [](SecretItem *object) { g_clear_object(&object); });
+    g_list_free_full(items, g_object_unref);
+    co_return item;
+}
+
+QCoro::Task<> SecretSteps::unlock(Calls calls, Service service, Item item)
+{
+    if (!secret_item_get_locked(item.get()))
+        co_return;
+    const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
+                                       gpointer data) {
+        GList *const objects = g_list_append(nullptr, item.get());
+        secret_service_unlock(service.get(), objects, stop, done, data);
+        g_list_free(objects);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::PromptLimit, start);
+    ErrorSlot error;
+    const int unlocked =
+        secret_service_unlock_finish(service.get(), result.get(), nullptr, error.out());
+    error.throwIfSet();
+    if (unlocked == 0)
+        throw KeychainRefusal(KeychainLinux::Locked);
+}
+
+QCoro::Task<QByteArray> SecretSteps::secretOf(Calls calls, Item item)
+{
+    const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
+                                       gpointer data) {
+        secret_item_load_secret(item.get(), stop, done, data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::ServiceLimit, start);
+    ErrorSlot error;
+    secret_item_load_secret_finish(item.get(), result.get(), error.out());
+    error.throwIfSet();
+    const std::shared_ptr<SecretValue> value(secret_item_get_secret(item.get()),
+                                             [](SecretValue *held) {
+                                                 if (held)
+                                                     secret_value_unref(held);
+                                             });
+    gsize length = 0;
+    const gchar *bytes = value ? secret_value_get(value.get(), &length) : nullptr;
+    co_return QByteArray(bytes, qsizetype(length));
+}
+
+QCoro::Task<> SecretSteps::clear(Calls calls, Service service, QString account)
+{
+    const auto attributes = attributesOf(account);
+    const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
+                                       gpointer data) {
+        secret_service_clear(service.get(), &schema(), attributes.get(), stop, done, data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::PromptLimit, start);
+    ErrorSlot error;
+    secret_service_clear_finish(service.get(), result.get(), error.out());
+    error.throwIfSet();
+}
+
+QCoro::Task<> SecretSteps::store(Calls calls, Service service, QString account, QByteArray secret)
+{
+    const auto attributes = attributesOf(account);
+    const QByteArray label = Keychain::label(account).toUtf8();
+    const std::shared_ptr<SecretValue> value(
+        secret_value_new(secret.constData(), secret.size(), "text/plain"), secret_value_unref);
+    const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
+                                       gpointer data) {
+        secret_service_store(service.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
+                             label.constData(), value.get(), stop, done, data);
+    };
+    const auto result = co_await answered(calls, KeychainLinux::PromptLimit, start);
+    ErrorSlot error;
+    const bool isStored = secret_service_store_finish(service.get(), result.get(), error.out());
+    error.throwIfSet();
+    // No error and no item: the user turned the desktop's question down.
+    if (!isStored)
+        throw KeychainRefusal(KeychainLinux::Locked);
+}
