@@ -11,6 +11,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ThemePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_IssuesPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 

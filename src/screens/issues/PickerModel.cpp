@@ -49,7 +49,7 @@ QVariant PickerModel::data(const QModelIndex &index, int role) const
     case SubtitleRole:
         return option.subtitle.value_or(QString());
     case IconRole:
-        return QVariant::fromValue(PickerIcon(option.icon));
+        return QVariant::fromValue(OptionIconValue(option.icon));
     case IsSelectedRole:
         return option.isSelected;
     case ShortcutRole:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/issues/PickerIcon.h"
+#include "screens/options/OptionIconValue.h"
 #include "state/OptionItem.h"
 #include "state/models/KeyedListModel.h"
 

@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
+import Velmora.Options
 import Velmora.Theme
 
 // The rows of a picker, or the words that none matches.

@@ -1,14 +1,14 @@
-#include "screens/issues/PickerIcon.h"
+#include "screens/options/OptionIconValue.h"
 
 #include <type_traits>
 
 namespace {
 
-template <PickerIcons::Kind kind, typename T>
+template <OptionIcons::Kind kind, typename T>
 constexpr bool isAt =
     std::is_same_v<std::variant_alternative_t<std::size_t(kind), decltype(OptionIcon::value)>, T>;
 
-using PickerIcons::Kind;
+using OptionIcons::Kind;
 
 static_assert(isAt<Kind::None, OptionIcon::None> && isAt<Kind::Status, IssueStatus> &&
               isAt<Kind::Priority, PriorityLevel> && isAt<Kind::User, OptionIcon::User> &&

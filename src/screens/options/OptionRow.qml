@@ -1,23 +1,24 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Options
 import Velmora.Kit
 import Velmora.Theme
 
-// One row of a picker. The pointer highlights it when it moves over it.
+/// One row of a list of options: icon, title, subtitle, a tick when it is selected, the digit that picks it. `pointed`
+/// tells that the pointer is over it, and where in the window; `picked` that it was pressed.
 Rectangle {
     id: root
 
     required property int index
     required property string title
     required property string subtitle
-    required property pickerIcon icon
+    required property optionIcon icon
     required property bool isSelected
     required property string shortcut
     property bool isHighlighted: false
 
-    signal pointed()
+    signal pointed(where: point)
     signal picked()
 
     implicitHeight: Metrics.optionRowHeight
@@ -33,7 +34,7 @@ Rectangle {
     Accessible.selected: root.isSelected
     Accessible.onPressAction: root.picked()
 
-    PickerIconView {
+    OptionIconView {
         id: picture
         x: Metrics.gapMedium
         anchors.verticalCenter: parent.verticalCenter
@@ -87,7 +88,8 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
-        onPositionChanged: root.pointed()
+        onEntered: root.pointed(mapToItem(null, mouseX, mouseY))
+        onPositionChanged: mouse => root.pointed(mapToItem(null, mouse.x, mouse.y))
         onClicked: root.picked()
     }
 }

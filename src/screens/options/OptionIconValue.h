@@ -5,11 +5,11 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// The icon of a picker's row, for QML: `kind` says which of the values holds; the others are empty.
-class PickerIcon
+/// The icon of an option, for QML: `kind` says which of the values holds; the others are empty.
+class OptionIconValue
 {
     Q_GADGET
-    QML_VALUE_TYPE(pickerIcon)
+    QML_VALUE_TYPE(optionIcon)
     Q_PROPERTY(int kind READ kind CONSTANT FINAL)
     Q_PROPERTY(IssueStatus status READ status CONSTANT FINAL)
     Q_PROPERTY(int level READ level CONSTANT FINAL)
@@ -21,10 +21,10 @@ class PickerIcon
     Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
 
 public:
-    PickerIcon() = default;
-    explicit PickerIcon(OptionIcon icon) : m_icon(std::move(icon)) {}
+    OptionIconValue() = default;
+    explicit OptionIconValue(OptionIcon icon) : m_icon(std::move(icon)) {}
 
-    /// A `PickerIcons.Kind`.
+    /// A `OptionIcons.Kind`.
     int kind() const { return int(m_icon.value.index()); }
     IssueStatus status() const { return valueOr(IssueStatus()); }
     int level() const { return int(valueOr(PriorityLevel::None)); }
@@ -35,7 +35,7 @@ public:
     Project project() const { return valueOr(Project()); }
     QString symbol() const { return valueOr(OptionIcon::Symbol()).name; }
 
-    bool operator==(const PickerIcon &) const = default;
+    bool operator==(const OptionIconValue &) const = default;
 
 private:
     template <typename T>
@@ -49,11 +49,11 @@ private:
 };
 
 /// The kinds of icons, for QML.
-namespace PickerIcons {
+namespace OptionIcons {
 Q_NAMESPACE
 QML_ELEMENT
 
 enum class Kind { None, Status, Priority, User, Label, Type, Project, Symbol };
 Q_ENUM_NS(Kind)
 
-} // namespace PickerIcons
+} // namespace OptionIcons

@@ -1,21 +1,21 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Options
 import Velmora.Kit
 import Velmora.Theme
 
-// The icon of a picker's row, centred in a square of 20.
+/// The icon of an option, centred in a square of 20.
 Item {
     id: root
 
-    required property pickerIcon icon
+    required property optionIcon icon
 
     implicitWidth: 20
     implicitHeight: 20
 
     When {
-        shown: root.icon.kind === PickerIcons.Status
+        shown: root.icon.kind === OptionIcons.Status
 
         StatusIcon {
             anchors.centerIn: parent
@@ -25,7 +25,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.Priority
+        shown: root.icon.kind === OptionIcons.Priority
 
         PriorityIcon {
             anchors.centerIn: parent
@@ -35,7 +35,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.User
+        shown: root.icon.kind === OptionIcons.User
 
         Avatar {
             anchors.centerIn: parent
@@ -46,7 +46,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.Label
+        shown: root.icon.kind === OptionIcons.Label
 
         LabelDot {
             anchors.centerIn: parent
@@ -56,7 +56,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.Type
+        shown: root.icon.kind === OptionIcons.Type
 
         TypeIcon {
             anchors.centerIn: parent
@@ -66,7 +66,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.Project
+        shown: root.icon.kind === OptionIcons.Project
 
         ProjectBadge {
             anchors.centerIn: parent
@@ -76,7 +76,7 @@ Item {
     }
 
     When {
-        shown: root.icon.kind === PickerIcons.Symbol
+        shown: root.icon.kind === OptionIcons.Symbol
 
         Symbol {
             anchors.centerIn: parent

@@ -1,0 +1,18 @@
+#include "screens/kit/FocusReturn.h"
+
+#include <QQuickWindow>
+
+QQuickItem *FocusReturn::holder(const QQuickItem *near) const
+{
+    return near && near->window() ? near->window()->activeFocusItem() : nullptr;
+}
+
+void FocusReturn::giveBack(QQuickItem *holder) const
+{
+    if (!holder || !holder->window())
+        return;
+    // A popup that goes leaves the focus to a scope round its holder, if to anybody.
+    const auto *now = holder->window()->activeFocusItem();
+    if (!now || now->isAncestorOf(holder))
+        holder->forceActiveFocus(Qt::PopupFocusReason);
+}

@@ -1,0 +1,85 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Theme
+import Velmora.Kit
+
+/// A floating panel beside the item that it is declared in, which stays in the window. Its children stand one over the
+/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, a press on its
+/// anchor is left to the anchor, so that `toggle()` there closes it too. The focus returns to where it was. Put what is
+/// costly into a `When { shown: popover.isShown }`.
+T.Popup {
+    id: popover
+
+    default property alias content: holder.data
+    required property string name
+    /// A `PopoverPlacement.Alignment`.
+    property int alignment: PopoverPlacement.Leading
+    /// There, or coming or going.
+    readonly property bool isShown: visible
+    readonly property Item room: T.Overlay.overlay
+    property Item returnTo: null
+    property rect anchor: Qt.rect(0, 0, 0, 0)
+    readonly property size roomSize: room ? Qt.size(room.width, room.height) : Qt.size(0, 0)
+    readonly property point place: PopoverPlacement.place(anchor, Qt.size(width, height), roomSize, alignment)
+
+    x: place.x
+    y: place.y
+    implicitWidth: 290
+    implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
+    padding: 0
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
+    onAboutToShow: begin()
+    onAboutToHide: FocusReturn.giveBack(returnTo)
+
+    function toggle() {
+        popover.visible = !popover.visible
+    }
+
+    function begin() {
+        returnTo = FocusReturn.holder(parent)
+        anchor = parent.mapToItem(null, 0, 0, parent.width, parent.height)
+    }
+
+    readonly property Item body: Item {
+        id: holder
+
+        implicitHeight: childrenRect.height
+        Accessible.role: Accessible.Dialog
+        Accessible.name: popover.name
+    }
+
+    contentItem: body
+
+    background: GlassPanel {
+        radius: Metrics.radiusPopover
+        color: Theme.elevatedGlass
+        shadow: "popover"
+    }
+
+    enter: Transition {
+        NumberAnimation {
+            properties: "opacity"
+            from: 0
+            to: 1
+            duration: Motion.popoverDuration
+        }
+
+        NumberAnimation {
+            properties: "scale"
+            from: Motion.popoverScale
+            to: 1
+            duration: Motion.popoverDuration
+            easing: Springs.even
+        }
+    }
+
+    exit: Transition {
+        NumberAnimation {
+            properties: "opacity"
+            to: 0
+            duration: Motion.fadeDuration
+        }
+    }
+}

@@ -1,0 +1,46 @@
+#include "screens/options/OptionFilter.h"
+
+#include "model/TextFolding.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isFound(const OptionItem &item, const QString &words)
+{
+    return localizedContains(item.title, words) ||
+           (item.subtitle && localizedContains(*item.subtitle, words));
+}
+
+} // namespace
+
+QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString &query)
+{
+    const QString words = query.trimmed();
+    if (words.isEmpty())
+        return items;
+    QList<OptionItem> found;
+    std::ranges::copy_if(items, std::back_inserter(found),
+                         [&](const OptionItem &item) { return isFound(item, words); });
+    return found;
+}
+
+std::optional<QString> createCandidate(const QList<OptionItem> &items, const QString &query)
+{
+    const QString candidate = query.trimmed().replace(u' ', u'-');
+    const bool isTaken = std::ranges::any_of(items, [&](const OptionItem &item) {
+        return item.title.compare(candidate, Qt::CaseInsensitive) == 0;
+    });
+    if (candidate.isEmpty() || isTaken)
+        return std::nullopt;
+    return candidate;
+}
+
+std::optional<int> itemWithShortcut(const QList<OptionItem> &items, int digit)
+{
+    const std::optional shortcut = QString::number(digit);
+    const auto item = std::ranges::find(items, shortcut, &OptionItem::shortcut);
+    if (item == items.end())
+        return std::nullopt;
+    return int(item - items.begin());
+}

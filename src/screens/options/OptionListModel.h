@@ -1,0 +1,47 @@
+#pragma once
+
+#include "screens/options/OptionIconValue.h"
+#include "state/OptionItem.h"
+#include "state/models/KeyedListModel.h"
+
+#include <QtQml/qqmlregistration.h>
+
+/// A row of a list of options.
+struct OptionListRow
+{
+    /// Tells an item from all others, and from the row that makes a value.
+    QString key;
+    OptionItem item;
+
+    bool operator==(const OptionListRow &) const = default;
+};
+
+/// The row of an item.
+OptionListRow itemRow(const OptionItem &item);
+/// The row that makes a value, with its title.
+OptionListRow createRow(const QString &title);
+
+/// The rows of a list of options.
+class OptionListModel : public KeyedListModel<OptionListRow>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the list of options")
+
+public:
+    enum Role {
+        TitleRole = Qt::UserRole,
+        /// Empty without one.
+        SubtitleRole,
+        IconRole,
+        IsSelectedRole,
+        /// The digit that picks the row; empty without one.
+        ShortcutRole
+    };
+    Q_ENUM(Role)
+
+    using KeyedListModel::KeyedListModel;
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+};

@@ -1,0 +1,30 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Options
+
+/// A chip that shows a property of some issues and opens the list that changes it. `kind` is a `PropertyOptions.Kind`,
+/// `keys` are the issues' keys.
+GlassChip {
+    id: chip
+
+    property alias store: options.store
+    property alias kind: options.kind
+    property alias keys: options.keys
+
+    PropertyOptions {
+        id: options
+    }
+
+    When {
+        shown: chip.isPresented
+
+        OptionListView {
+            source: options
+            placeholder: options.placeholder
+            width: chip.popoverWidth
+            onDone: chip.dismiss()
+        }
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "screens/options/OptionSource.h"
+#include "state/AppStore.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+/// The options for one property of some issues, as the store knows them.
+class PropertyOptions : public OptionSource
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL)
+    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged FINAL)
+    /// The keys of the issues that a choice applies to.
+    Q_PROPERTY(QStringList keys READ keys WRITE setKeys NOTIFY keysChanged FINAL)
+    /// What the search field says while it is empty.
+    Q_PROPERTY(QString placeholder READ placeholder NOTIFY kindChanged FINAL)
+
+public:
+    enum Kind { Status, Priority, Assignee, Labels };
+    Q_ENUM(Kind)
+
+    using OptionSource::OptionSource;
+
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
+    Kind kind() const { return m_kind; }
+    void setKind(Kind kind);
+    const QStringList &keys() const { return m_keys; }
+    void setKeys(const QStringList &keys);
+    QString placeholder() const;
+
+    QList<OptionItem> items() const override;
+    void run(const OptionItem &item) override;
+    /// Only labels can be made.
+    bool canCreate() const override { return m_kind == Labels; }
+    QString createLabel(const QString &candidate) const override;
+    /// Gives the label to each of the issues that is known and lacks it.
+    void create(const QString &label) override;
+
+Q_SIGNALS:
+    void storeChanged();
+    void kindChanged();
+    void keysChanged();
+
+private:
+    void addLabel(const QString &label, const QString &key);
+
+    QPointer<AppStore> m_store;
+    Kind m_kind = Status;
+    QStringList m_keys;
+};
