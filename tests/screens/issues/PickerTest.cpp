@@ -95,7 +95,8 @@ TEST_F(PickerTest, ItShowsTheOptionsOfTheStore)
     const auto first = picker.rows()->index(0);
     EXPECT_EQ(first.data(PickerModel::IsSelectedRole), true);
     EXPECT_EQ(first.data(PickerModel::ShortcutRole), u"1"_s);
-    EXPECT_EQ(first.data(PickerModel::IconRole).value<OptionIconValue>().status().name(), u"À faire"_s);
+    EXPECT_EQ(first.data(PickerModel::IconRole).value<OptionIconValue>().status().name(),
+              u"À faire"_s);
 }
 
 TEST_F(PickerTest, TheCommandsOfThePaletteAreNoPicker)
