@@ -114,3 +114,17 @@ JiraRequest SiteRequests::create(const IssueDraft &draft)
 {
     return send(Method::Post, {u"issue"_s}, RequestBody::create(draft));
 }
+
+JiraRequest SiteRequests::attachments(const QString &key)
+{
+    return {.method = Method::Post,
+            .path = apiPath({u"issue"_s, key, u"attachments"_s}),
+            .query = {},
+            .body = {}};
+}
+
+JiraRequest SiteRequests::deleteAttachment(const QString &id)
+{
+    return {
+        .method = Method::Delete, .path = apiPath({u"attachment"_s, id}), .query = {}, .body = {}};
+}

@@ -28,5 +28,8 @@ JiraRequest update(const QString &key, const IssueFieldUpdate &update);
 JiraRequest assign(const QString &key, const std::optional<JiraUser> &user);
 JiraRequest addComment(const QString &key, const ADFNode &body, CommentAudience audience);
 JiraRequest create(const IssueDraft &draft);
+/// Where uploads go. The form is not part of it.
+JiraRequest attachments(const QString &key);
+JiraRequest deleteAttachment(const QString &id);
 
 } // namespace SiteRequests

@@ -1,0 +1,55 @@
+#include "http/HttpCall.h"
+
+HttpCall::HttpCall(Clock &clock, std::chrono::milliseconds limit) : m_clock(clock)
+{
+    m_whole = clock.after(limit, [this] { end(std::unexpected(TransportError::Kind::TimedOut)); });
+    restartIdleTime();
+}
+
+void HttpCall::follow(HttpExchange *exchange)
+{
+    m_exchange.reset(exchange);
+    connect(exchange, &HttpExchange::progressed, this, &HttpCall::restartIdleTime);
+    connect(exchange, &HttpExchange::finished, this, &HttpCall::end);
+}
+
+void HttpCall::restartIdleTime()
+{
+    if (m_isOver)
+        return;
+    m_idle =
+        m_clock.after(IdleLimit, [this] { end(std::unexpected(TransportError::Kind::TimedOut)); });
+}
+
+void HttpCall::cancel()
+{
+    m_isOver = true;
+    m_exchange.reset();
+    resume();
+}
+
+void HttpCall::abandon()
+{
+    m_isOver = true;
+    m_exchange.reset();
+    QMetaObject::invokeMethod(this, &HttpCall::resume, Qt::QueuedConnection);
+}
+
+void HttpCall::end(HttpOutcome outcome)
+{
+    if (m_isOver)
+        return;
+    m_isOver = true;
+    m_outcome = std::move(outcome);
+    m_exchange.reset();
+    resume();
+}
+
+void HttpCall::resume()
+{
+    m_idle.reset();
+    m_whole.reset();
+    // Going on destroys this object, and what called it.
+    if (const auto waiting = std::exchange(m_waiting, nullptr))
+        waiting.resume();
+}

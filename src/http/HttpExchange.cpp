@@ -1,0 +1,162 @@
+#include "http/HttpExchange.h"
+
+#include "http/NetworkRequest.h"
+#include "http/OneWayBody.h"
+#include "http/Redirects.h"
+#include "http/ReplyFailure.h"
+#include "http/SystemProxies.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+HttpExchange::HttpExchange(HttpRequest request, Identity identity)
+    : m_request(std::move(request)), m_identity(std::move(identity))
+{
+}
+
+HttpExchange::~HttpExchange()
+{
+    dropReply();
+}
+
+void HttpExchange::start(QNetworkAccessManager &shared)
+{
+    m_shared = &shared;
+    transmit();
+}
+
+void HttpExchange::transmit()
+{
+    m_answer = {};
+    m_decoder.reset();
+    m_certificateErrors.clear();
+    m_reply = m_request.purpose == HttpRequest::Purpose::Write ? sentOnce() : sent();
+    connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::progressed);
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
+    connect(m_reply, &QNetworkReply::sslErrors, this,
+            [this](const QList<QSslError> &errors) { m_certificateErrors += errors; });
+    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::completeReply);
+}
+
+QNetworkReply *HttpExchange::sent()
+{
+    const QNetworkRequest request = networkRequest(m_request, m_identity);
+    if (m_request.body)
+        return m_shared->sendCustomRequest(request, m_request.verb, *m_request.body);
+    return m_shared->sendCustomRequest(request, m_request.verb);
+}
+
+QNetworkReply *HttpExchange::sentOnce()
+{
+    m_own = std::make_unique<QNetworkAccessManager>();
+    m_own->setProxyFactory(std::make_unique<SystemProxies>().release());
+    QNetworkRequest request = networkRequest(m_request, m_identity);
+    // A body is what keeps the network stack from sending twice, so a request without one gets one of no bytes.
+    auto body = std::make_unique<OneWayBody>(m_request.body.value_or(QByteArray()));
+    request.setHeader(QNetworkRequest::ContentLengthHeader, body->bytesAvailable());
+    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    request.setRawHeader("Connection", "close");
+    QNetworkReply *reply = m_own->sendCustomRequest(request, m_request.verb, body.get());
+    body.release()->setParent(reply);
+    return reply;
+}
+
+void HttpExchange::takeBytes()
+{
+    Q_EMIT progressed();
+    const QByteArray bytes = m_reply->readAll();
+    if (!m_decoder)
+        m_decoder = std::make_unique<BodyDecoder>(m_reply->rawHeader("Content-Encoding"));
+    if (!m_decoder->feed(bytes, [this](QByteArrayView piece) { return store(piece); }))
+        finish(std::unexpected(m_refusal.value_or(TransportError::Kind::Broken)));
+}
+
+bool HttpExchange::store(QByteArrayView piece)
+{
+    // What a redirect has to say is of no use, and may be long.
+    if (Redirects::isRedirect(status(), location()))
+        return true;
+    if (m_request.saveAs && status() >= 200 && status() < 300)
+        return storeInFile(piece);
+    if (m_answer.body.size() + piece.size() > HttpRequest::MaximumInMemory) {
+        m_refusal = TransportError::Kind::TooLarge;
+        return false;
+    }
+    m_answer.body.append(piece);
+    return true;
+}
+
+bool HttpExchange::storeInFile(QByteArrayView piece)
+{
+    if (!m_answer.file) {
+        QDir().mkpath(QFileInfo(*m_request.saveAs).path());
+        m_answer.file = std::make_shared<QTemporaryFile>(*m_request.saveAs);
+        m_answer.file->open();
+    }
+    const bool isStored = m_answer.file->write(piece.data(), piece.size()) == piece.size();
+    if (!isStored)
+        m_refusal = TransportError::Kind::NotStored;
+    return isStored;
+}
+
+void HttpExchange::completeReply()
+{
+    takeBytes();
+    if (m_isOver)
+        return;
+    if (const auto failure = replyFailure(*m_reply, m_certificateErrors))
+        return finish(std::unexpected(*failure));
+    if (!m_decoder->isComplete())
+        return finish(std::unexpected(TransportError::Kind::Broken));
+    if (const QByteArray target = location(); Redirects::isRedirect(status(), target))
+        return follow(target);
+    m_answer.status = status();
+    m_answer.mediaType = mediaType(m_reply->rawHeader("Content-Type"));
+    // An empty file is a file too.
+    if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
+        return finish(std::unexpected(TransportError::Kind::NotStored));
+    finish(m_answer);
+}
+
+void HttpExchange::follow(const QByteArray &location)
+{
+    if (m_redirects == Redirects::Most)
+        return finish(std::unexpected(TransportError::Kind::TooManyRedirects));
+    ++m_redirects;
+    auto next = Redirects::next(m_request, status(), location);
+    if (!next)
+        return finish(std::unexpected(next.error()));
+    m_request = *std::move(next);
+    dropReply();
+    transmit();
+}
+
+void HttpExchange::finish(HttpOutcome outcome)
+{
+    m_isOver = true;
+    dropReply();
+    Q_EMIT finished(outcome);
+}
+
+void HttpExchange::dropReply()
+{
+    if (!m_reply)
+        return;
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply->deleteLater();
+    m_reply = nullptr;
+    if (m_own)
+        m_own.release()->deleteLater();
+}
+
+int HttpExchange::status() const
+{
+    return m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+QByteArray HttpExchange::location() const
+{
+    return m_reply->rawHeader("Location");
+}

@@ -1,0 +1,53 @@
+#include "http/HttpSession.h"
+
+#include "http/HttpCall.h"
+#include "http/SystemProxies.h"
+
+HttpSession::HttpSession(Identity identity, Clock &clock)
+    : m_identity(std::move(identity)), m_clock(clock)
+{
+    auto manager = std::make_unique<QNetworkAccessManager>();
+    manager->setProxyFactory(std::make_unique<SystemProxies>().release());
+    manager->moveToThread(&m_thread);
+    m_manager = manager.release();
+    connect(&m_thread, &QThread::finished, m_manager, &QObject::deleteLater);
+    m_thread.setObjectName(QStringLiteral("http"));
+    m_thread.start();
+}
+
+HttpSession::~HttpSession()
+{
+    close();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void HttpSession::close()
+{
+    m_isClosed = true;
+    Q_EMIT closing();
+}
+
+QCoro::Task<HttpAnswer> HttpSession::send(HttpRequest request, std::stop_token stop)
+{
+    if (m_isClosed || stop.stop_requested())
+        throw Cancelled();
+    const auto call = std::make_unique<HttpCall>(m_clock, request.limit);
+    start(*call, std::move(request));
+    // The session may be gone after this.
+    co_return co_await call->answer(std::move(stop));
+}
+
+void HttpSession::start(HttpCall &call, HttpRequest request)
+{
+    connect(this, &HttpSession::closing, &call, &HttpCall::abandon);
+    auto exchange = std::make_unique<HttpExchange>(std::move(request), m_identity);
+    exchange->moveToThread(&m_thread);
+    call.follow(exchange.get());
+    QMetaObject::invokeMethod(
+        exchange.get(),
+        [exchange = exchange.get(), manager = m_manager] { exchange->start(*manager); },
+        Qt::QueuedConnection);
+    // From here on it belongs to the call.
+    exchange.release();
+}

@@ -1,0 +1,49 @@
+#include "http/Redirects.h"
+
+#include "http/Origin.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool becomesGet(const QByteArray &verb, int status)
+{
+    if (status == 303)
+        return verb != "GET" && verb != "HEAD";
+    return (status == 301 || status == 302) && verb == "POST";
+}
+
+HttpRequest asGet(HttpRequest request)
+{
+    request.verb = "GET";
+    request.body.reset();
+    request.headers.removeIf([](const HttpHeader &header) {
+        return header.name.compare("Content-Type", Qt::CaseInsensitive) == 0;
+    });
+    return request;
+}
+
+} // namespace
+
+bool Redirects::isRedirect(int status, const QByteArray &location)
+{
+    const bool sendsElsewhere = (status >= 301 && status <= 303) || status == 307 || status == 308;
+    return sendsElsewhere && !location.isEmpty();
+}
+
+std::expected<HttpRequest, TransportError::Kind>
+Redirects::next(const HttpRequest &request, int status, const QByteArray &location)
+{
+    using Kind = TransportError::Kind;
+    HttpRequest next = becomesGet(request.verb, status) ? asGet(request) : request;
+    next.url = request.url.resolved(QUrl::fromEncoded(location));
+    next.url.setFragment(QString());
+    const QString scheme = next.url.scheme();
+    if (request.url.scheme() == "https"_L1 && scheme != "https"_L1)
+        return std::unexpected(Kind::UnsafeRedirect);
+    if ((scheme != "https"_L1 && scheme != "http"_L1) || next.url.host().isEmpty())
+        return std::unexpected(Kind::Broken);
+    if (next.body && Origin::of(next.url) != Origin::of(request.url))
+        return std::unexpected(Kind::ForeignRedirect);
+    return next;
+}

@@ -1,0 +1,82 @@
+#include "jira/AttachmentCache.h"
+
+#include <QCryptographicHash>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Below what common file systems allow, and enough to tell names apart.
+constexpr qsizetype MaximumBytes = 200;
+/// A longer ending is none that a program goes by.
+constexpr qsizetype MaximumEnding = 20;
+
+bool isPlainWord(const QString &id)
+{
+    static const QRegularExpression plain(u"\\A[A-Za-z0-9_-]{1,64}\\z"_s);
+    return plain.match(id).hasMatch();
+}
+
+/// Starts with a sign that no plain word has, so that the two kinds never meet.
+QString wordFor(const QString &id)
+{
+    const QByteArray hash =
+        QCryptographicHash::hash(id.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return u'~' + QString::fromLatin1(hash);
+}
+
+/// Separators of paths, control characters, and marks that turn the order in which a name is read.
+bool isUnsafe(QChar character)
+{
+    return character == u'/' || character == u':' || character.category() == QChar::Other_Control ||
+           character.category() == QChar::Other_Format;
+}
+
+QString shortened(QString text, qsizetype bytes)
+{
+    while (text.toUtf8().size() > bytes)
+        text.chop(text.size() > 1 && text.back().isLowSurrogate() ? 2 : 1);
+    return text;
+}
+
+QString withinLength(const QString &name)
+{
+    if (name.toUtf8().size() <= MaximumBytes)
+        return name;
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const QString ending =
+        dot > 0 && name.size() - dot <= MaximumEnding ? name.mid(dot) : QString();
+    return shortened(name.chopped(ending.size()), MaximumBytes - ending.toUtf8().size()) + ending;
+}
+
+} // namespace
+
+QString AttachmentCache::systemFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           u"/Velmora/attachments"_s;
+}
+
+QString AttachmentCache::folder(const QString &cache, const Attachment &attachment)
+{
+    const QString &id = attachment.id;
+    return cache + u'/' + (isPlainWord(id) ? id : wordFor(id));
+}
+
+QString AttachmentCache::fileName(const Attachment &attachment)
+{
+    QString name = attachment.filename;
+    for (QChar &character : name) {
+        if (isUnsafe(character))
+            character = u'-';
+    }
+    const bool isUsable = !name.isEmpty() && name != "."_L1 && name != ".."_L1;
+    return isUsable ? withinLength(name) : u"fichier"_s;
+}
+
+QString AttachmentCache::file(const QString &cache, const Attachment &attachment)
+{
+    return folder(cache, attachment) + u'/' + fileName(attachment);
+}

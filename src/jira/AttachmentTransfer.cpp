@@ -1,0 +1,140 @@
+#include "jira/AttachmentTransfer.h"
+
+#include "http/TransportError.h"
+#include "jira/AttachmentCache.h"
+#include "jira/ErrorMessage.h"
+#include "jira/MultipartForm.h"
+#include "jira/SiteRequests.h"
+#include "jira/wire/AttachmentDTO.h"
+#include "jira/wire/Models.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int TooLargeStatus = 413;
+
+FormFile readFile(const QUrl &url)
+{
+    const QString path = url.toLocalFile();
+    const QString name = QFileInfo(path).fileName();
+    QFile file(path);
+    // A folder opens too, on some systems, and reads as nothing.
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
+        throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
+    FormFile result{name, file.readAll()};
+    if (file.error() != QFileDevice::NoError)
+        throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
+    return result;
+}
+
+HttpRequest uploadRequest(const QUrl &url, const QList<QUrl> &files)
+{
+    QList<FormFile> read;
+    for (const QUrl &file : files)
+        read.append(readFile(file));
+    const QByteArray boundary = MultipartForm::newBoundary();
+    return {.verb = "POST",
+            .url = url,
+            .purpose = HttpRequest::Purpose::Write,
+            .headers = {{"Accept", "application/json"},
+                        {"X-Atlassian-Token", "no-check"},
+                        {"Content-Type", "multipart/form-data; boundary=" + boundary}},
+            .body = MultipartForm::body(read, boundary),
+            .limit = HttpRequest::TransferLimit,
+            .saveAs = {}};
+}
+
+QUrl addressOf(const JiraRequest &request, const QUrl &site)
+{
+    const auto url = request.url(site);
+    if (!url)
+        throw JiraError(JiraError::InvalidSite());
+    return *url;
+}
+
+JiraError uploadError(const HttpAnswer &answer)
+{
+    if (answer.status == TooLargeStatus)
+        return JiraError(JiraError::Http{TooLargeStatus, u"Fichier trop volumineux pour Jira."_s});
+    return JiraError(JiraError::Http{answer.status, errorMessage(answer.body)});
+}
+
+bool isPage(const QByteArray &mediaType)
+{
+    return mediaType == "text/html" || mediaType == "application/xhtml+xml";
+}
+
+/// A page that stands in for the file, as the page of a sign-in does. An attachment may be a page itself; then only its
+/// size can tell.
+bool isPageInstead(const HttpAnswer &answer, const Attachment &attachment)
+{
+    if (!isPage(answer.mediaType))
+        return false;
+    return !isPage(attachment.mimeType.toLatin1().toLower()) ||
+           (attachment.size > 0 && answer.file->size() != attachment.size);
+}
+
+/// Puts a complete file in its place, over anything that stands there.
+QUrl moveIntoPlace(QTemporaryFile &file, const QString &target)
+{
+    std::error_code failed;
+    QDir().mkpath(QFileInfo(target).path());
+    if (QFileInfo(target).isDir())
+        QDir(target).removeRecursively();
+    file.close();
+    std::filesystem::rename(file.fileName().toStdString(), target.toStdString(), failed);
+    if (failed)
+        throw TransportError(TransportError::Kind::NotStored);
+    file.setAutoRemove(false);
+    return QUrl::fromLocalFile(target);
+}
+
+JiraError downloadError(const HttpAnswer &answer, const Attachment &attachment)
+{
+    return JiraError(JiraError::Http{answer.status, u"Téléchargement de « "_s +
+                                                        attachment.filename + u" » impossible."_s});
+}
+
+} // namespace
+
+QCoro::Task<QList<Attachment>> uploaded(SiteConnectionPtr connection, QString key,
+                                        QList<QUrl> files, QDateTime now, std::stop_token stop)
+{
+    const QUrl url = addressOf(SiteRequests::attachments(key), connection->site);
+    auto build = [url, files = std::move(files)] { return uploadRequest(url, files); };
+    HttpRequest request = co_await offThread(std::move(build));
+    const HttpAnswer answer = co_await exchange(std::move(connection), std::move(request), stop);
+    if (!answer.isSuccess())
+        throw uploadError(answer);
+    auto mapping = [now](const QList<AttachmentDTO> &stored) { return modelsOf(stored, now); };
+    co_return co_await mapped<QList<AttachmentDTO>>(answer.body, std::move(mapping),
+                                                    std::move(stop));
+}
+
+QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment, QString folder,
+                             std::stop_token stop)
+{
+    const QString target = AttachmentCache::file(folder, attachment);
+    if (QFileInfo(target).isFile())
+        co_return QUrl::fromLocalFile(target);
+    if (!attachment.contentURL)
+        throw JiraError(JiraError::InvalidResponse());
+    HttpRequest request{.url = *attachment.contentURL,
+                        .headers = {},
+                        .body = {},
+                        .limit = HttpRequest::TransferLimit,
+                        .saveAs = folder + u"/.download-XXXXXX"_s};
+    const HttpAnswer answer =
+        co_await exchange(std::move(connection), std::move(request), std::move(stop));
+    if (!answer.isSuccess() || isPageInstead(answer, attachment))
+        throw downloadError(answer, attachment);
+    auto move = [file = answer.file, target] { return moveIntoPlace(*file, target); };
+    co_return co_await offThread(std::move(move));
+}

@@ -1,0 +1,61 @@
+#include "jira/SiteConnection.h"
+
+#include "jira/ErrorMessage.h"
+
+namespace {
+
+HttpRequest httpRequest(const JiraRequest &request, const QUrl &site, HttpRequest::Purpose purpose)
+{
+    const auto url = request.url(site);
+    if (!url)
+        throw JiraError(JiraError::InvalidSite());
+    HttpRequest result{.verb = verb(request.method),
+                       .url = *url,
+                       .purpose = purpose,
+                       .headers = {{"Accept", "application/json"}},
+                       .body = request.body,
+                       .saveAs = {}};
+    if (request.body)
+        result.headers.append(HttpHeader{"Content-Type", "application/json"});
+    return result;
+}
+
+QCoro::Task<QByteArray> bodyOf(SiteConnectionPtr connection, JiraRequest request,
+                               HttpRequest::Purpose purpose, std::stop_token stop)
+{
+    HttpRequest outgoing = httpRequest(request, connection->site, purpose);
+    const HttpAnswer answer =
+        co_await exchange(std::move(connection), std::move(outgoing), std::move(stop));
+    if (!answer.isSuccess())
+        throw JiraError(JiraError::Http{answer.status, errorMessage(answer.body)});
+    co_return answer.body;
+}
+
+} // namespace
+
+SiteConnection::SiteConnection(const JiraCredentials &credentials, Clock &clock)
+    : site(credentials.site),
+      session({Origin::of(credentials.site), credentials.authorizationHeader()}, clock)
+{
+}
+
+QCoro::Task<QByteArray> read(SiteConnectionPtr connection, JiraRequest request,
+                             std::stop_token stop)
+{
+    return bodyOf(std::move(connection), std::move(request), HttpRequest::Purpose::Read,
+                  std::move(stop));
+}
+
+QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
+                              std::stop_token stop)
+{
+    return bodyOf(std::move(connection), std::move(request), HttpRequest::Purpose::Write,
+                  std::move(stop));
+}
+
+QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
+                                 std::stop_token stop)
+{
+    // Holds the connection while it is under way.
+    co_return co_await connection->session.send(std::move(request), std::move(stop));
+}

@@ -1,0 +1,112 @@
+#include "SessionTest.h"
+
+namespace {
+
+using Ending = RawAnswer::Ending;
+using Kind = TransportError::Kind;
+
+struct Write
+{
+    const char *verb;
+    const char *body;
+    Ending ending;
+};
+
+/// A write must never reach the server twice, whatever becomes of its connection.
+class WriteOnce : public SessionTest, public testing::WithParamInterface<Write>
+{
+protected:
+    HttpRequest sent() const
+    {
+        HttpRequest result = write("/write", GetParam().verb, GetParam().body);
+        if (result.body->isEmpty())
+            result.body.reset();
+        return result;
+    }
+    qsizetype arrivals() const
+    {
+        return std::ranges::count(server.journal(), "/write", &RawRequest::target);
+    }
+};
+
+TEST_P(WriteOnce, WhenItsConnectionBreaksBeforeTheAnswer)
+{
+    server.answer(RawAnswer::nothing(GetParam().ending));
+    EXPECT_EQ(failureOf(sent()), Kind::ConnectionLost);
+    // Another request shows that nothing else was on its way.
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    EXPECT_EQ(arrivals(), 1);
+}
+
+TEST_P(WriteOnce, WhenTheConnectionWasKeptAlive)
+{
+    server.answerNext(RawAnswer::json("{}"));
+    server.answerNext(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    answerTo(sent());
+    server.answer(RawAnswer::nothing(GetParam().ending));
+    EXPECT_EQ(failureOf(sent()), Kind::ConnectionLost);
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    EXPECT_EQ(arrivals(), 2);
+}
+
+TEST_P(WriteOnce, WhenTheAnswerBreaksOffInItsHead)
+{
+    server.answer(RawAnswer::json("{}").cut(20, GetParam().ending));
+    EXPECT_TRUE(failureOf(sent()).has_value());
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    EXPECT_EQ(arrivals(), 1);
+}
+
+TEST_P(WriteOnce, ArrivesWholeOnAConnectionOfItsOwn)
+{
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    EXPECT_EQ(answerTo(sent()).status, 200);
+    EXPECT_EQ(server.journal().last().body, GetParam().body);
+    EXPECT_EQ(server.journal().last().method, GetParam().verb);
+    EXPECT_EQ(server.journal().last().connection, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Writes, WriteOnce,
+                         testing::Values(Write{"POST", "{\"a\":1}", Ending::Close},
+                                         Write{"POST", "{\"a\":1}", Ending::Reset},
+                                         Write{"PUT", "{\"a\":1}", Ending::Close},
+                                         Write{"PUT", "{\"a\":1}", Ending::Reset},
+                                         Write{"DELETE", "", Ending::Close},
+                                         Write{"DELETE", "", Ending::Reset}));
+
+/// The connections of reads that the server has closed meanwhile do not spoil a write.
+TEST_F(SessionTest, AWriteGoesThroughThoughEveryOpenConnectionIsDead)
+{
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    server.dropConnections(Ending::Reset);
+    EXPECT_EQ(answerTo(write("/write", "POST", "{}")).status, 200);
+    EXPECT_EQ(server.journal().size(), 2);
+}
+
+/// The danger that all this guards against: what the network stack does by itself with a body that it can read again.
+TEST_F(SessionTest, AReadMayBeSentAgainWhenItsConnectionIsDead)
+{
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/read"));
+    server.answerNext(RawAnswer::nothing(Ending::Close));
+    HttpRequest search = request("/search", "POST");
+    search.body = "{}";
+    EXPECT_EQ(answerTo(search).status, 200);
+    EXPECT_EQ(server.journal().size(), 3);
+}
+
+TEST_F(SessionTest, ALargeWriteArrivesWhole)
+{
+    server.answer(RawAnswer::json("{}"));
+    const QByteArray body(8 * 1024 * 1024, 'x');
+    answerTo(write("/write", "POST", body));
+    EXPECT_EQ(server.journal().first().body, body);
+}
+
+} // namespace

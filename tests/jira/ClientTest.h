@@ -1,0 +1,64 @@
+#pragma once
+
+#include "jira/JiraClient.h"
+#include "simulator/RawServer.h"
+#include "support/ManualClock.h"
+#include "support/RunUntil.h"
+#include "support/TaskResult.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <optional>
+
+/// A client of a site that each test scripts.
+class ClientTest : public testing::Test
+{
+protected:
+    ClientTest()
+    {
+        connectAs({server.url(), QStringLiteral("alice@exemple.fr"), QStringLiteral("s3cret")});
+    }
+
+    void connectAs(const JiraCredentials &credentials)
+    {
+        client.emplace(
+            credentials, clock,
+            UserCalendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")},
+            cache.filePath(QStringLiteral("attachments")));
+    }
+
+    /// The result of an operation, waited for; throws what it failed with.
+    template <typename T>
+    static T resultOf(QCoro::Task<T> task)
+    {
+        const TaskResult<T> result(std::move(task));
+        EXPECT_TRUE(runUntil([&] { return result.isDone(); })) << "the operation never ended";
+        return result.value();
+    }
+    /// What the user reads of a failure; empty when there was none.
+    template <typename T>
+    static QString failureOf(QCoro::Task<T> task)
+    {
+        try {
+            resultOf(std::move(task));
+        } catch (const Failure &failure) {
+            return failure.message();
+        }
+        return {};
+    }
+    /// The requests so far, each as "GET /path?query".
+    QStringList asked() const
+    {
+        QStringList requests;
+        for (const RawRequest &request : server.journal())
+            requests.append(QString::fromUtf8(request.method + ' ' + request.target));
+        return requests;
+    }
+    const RawRequest &lastRequest() const { return server.journal().last(); }
+
+    QTemporaryDir cache;
+    ManualClock clock;
+    RawServer server;
+    std::optional<JiraClient> client;
+};

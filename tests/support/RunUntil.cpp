@@ -1,0 +1,17 @@
+#include "support/RunUntil.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+bool runUntil(const std::function<bool()> &condition)
+{
+    const QDeadlineTimer deadline(std::chrono::seconds(10));
+    // Something has to wake the loop when nothing else does.
+    QTimer wake;
+    wake.start(std::chrono::milliseconds(20));
+    while (!condition() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return condition();
+}
