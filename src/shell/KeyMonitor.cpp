@@ -48,7 +48,8 @@ bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (m_store->handleShortcut(press))
         return true;
-    if (m_store->palette() || isTyping() || isWalkingAList(press.key))
+    if (m_store->palette() || m_store->isCreating() || isTyping() || isInPopup() ||
+        isWalkingAList(press.key) || isPressingAControl(press.key))
         return false;
     return m_store->handleKey(press);
 }
@@ -57,6 +58,21 @@ bool KeyMonitor::isTyping() const
 {
     const QQuickItem *item = m_window->activeFocusItem();
     return item && (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit"));
+}
+
+bool KeyMonitor::isInPopup() const
+{
+    const QQuickItem *item = m_window->activeFocusItem();
+    while (item && !item->inherits("QQuickPopupItem"))
+        item = item->parentItem();
+    return item != nullptr;
+}
+
+bool KeyMonitor::isPressingAControl(int key) const
+{
+    const QQuickItem *item = m_window->activeFocusItem();
+    return item && item->property("visualFocus").toBool() &&
+           (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
 }
 
 bool KeyMonitor::isWalkingAList(int key) const

@@ -8,8 +8,9 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A press
-/// passes on untouched while the user is typing in a text field or a palette is open, and where a focused list walks its
-/// own rows with Return and the arrows.
+/// passes on untouched while the user is typing in a text field, the palette or the create screen is open, a menu or a
+/// popover has the focus, where a focused list walks its own rows with Return and the arrows, and where Return or Space
+/// presses a control that was reached by Tab.
 class KeyMonitor : public QObject
 {
     Q_OBJECT
@@ -33,7 +34,9 @@ Q_SIGNALS:
 
 private:
     bool isTyping() const;
+    bool isInPopup() const;
     bool isWalkingAList(int key) const;
+    bool isPressingAControl(int key) const;
 
     QPointer<QQuickWindow> m_window;
     QPointer<AppStore> m_store;

@@ -21,6 +21,8 @@ void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &mes
         warnings() += message;
 }
 
+} // namespace
+
 Issue issueWithKey(const QString &key, const QString &statusName)
 {
     Issue issue;
@@ -32,8 +34,6 @@ Issue issueWithKey(const QString &key, const QString &statusName)
     issue.created = issue.updated = QDateTime({2026, 10, 28}, {9, 0}, QTimeZone::utc());
     return issue;
 }
-
-} // namespace
 
 WindowFixture::WindowFixture()
 {
@@ -96,6 +96,11 @@ void WindowFixture::serve(const QStringList &keys, const QString &statusName)
     IssueList issues;
     for (const auto &key : keys)
         issues += issueWithKey(key, statusName);
+    serveIssues(issues);
+}
+
+void WindowFixture::serveIssues(const IssueList &issues)
+{
     service->issuesCalls.answerWith(issues);
 }
 
@@ -120,6 +125,34 @@ void WindowFixture::type(const QString &text)
 void WindowFixture::click(const Spoken &thing, Qt::KeyboardModifiers modifiers)
 {
     QTest::mouseClick(&window(), Qt::LeftButton, modifiers, thing.box.center());
+}
+
+void WindowFixture::rightClick(const Spoken &thing)
+{
+    QTest::mouseClick(&window(), Qt::RightButton, {}, thing.box.center());
+}
+
+void WindowFixture::settle()
+{
+    for (int frame = 0; frame < 2; ++frame) {
+        QSignalSpy frames(&window(), &QQuickWindow::frameSwapped);
+        window().update();
+        frames.wait(1000);
+    }
+}
+
+Spoken WindowFixture::await(QAccessible::Role role, const QString &nameContains)
+{
+    const bool came =
+        QTest::qWaitFor([&] { return spokenIn(window(), role, nameContains).size() == 1; });
+    EXPECT_TRUE(came) << "waited for " << nameContains.toStdString();
+    settle();
+    return came ? find(role, nameContains) : Spoken();
+}
+
+bool WindowFixture::isGone(QAccessible::Role role, const QString &nameContains)
+{
+    return QTest::qWaitFor([&] { return spokenIn(window(), role, nameContains).isEmpty(); });
 }
 
 Spoken WindowFixture::find(QAccessible::Role role, const QString &nameContains)

@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+/// An issue as a list has it: updated on 28 October 2026, without priority, assignee, labels and due date.
+Issue issueWithKey(const QString &key, const QString &statusName = QStringLiteral("À faire"));
+
 /// The whole program but its entry, in a real window, on a world that the test sets. Fails on any warning of QML.
 class WindowFixture : public testing::Test
 {
@@ -23,15 +26,25 @@ protected:
     void openSignedOut();
     /// The list that the service gives from now on; shown after the next reload.
     void serve(const QStringList &keys, const QString &statusName = QStringLiteral("À faire"));
+    void serveIssues(const IssueList &issues);
     void reload();
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const QString &text);
     void click(const Spoken &thing, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void rightClick(const Spoken &thing);
+    /// Waits until two frames were shown: what is new stands at its place only then.
+    void settle();
+    /// Waits for the only thing of this role and name; the test fails when it does not come.
+    Spoken await(QAccessible::Role role, const QString &nameContains);
+    /// Waits until nothing of this role and name is left.
+    bool isGone(QAccessible::Role role, const QString &nameContains);
     /// The only thing of this role and name; the test fails when there is none, or more than one.
     Spoken find(QAccessible::Role role, const QString &nameContains);
     /// The keys of the issues whose rows are in the window, from top to bottom.
     QStringList rowsShown();
+
+    QString lastCopied() const { return desktop->copied.value(desktop->copied.size() - 1); }
 
     AppStore &store() { return app->store(); }
     QQuickWindow &window() { return *app->mainWindow(); }

@@ -19,6 +19,7 @@ Rectangle {
     required property string accessibleName
 
     signal clicked(modifiers: int)
+    signal menuRequested(x: real, y: real)
 
     readonly property bool isStrong: isChecked || isOpen
     // 0 at rest, 1 under the pointer.
@@ -74,9 +75,11 @@ Rectangle {
 
     TapHandler {
         id: tap
-        acceptedButtons: Qt.LeftButton
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.clicked(tap.point.modifiers)
+        onTapped: (point, button) => button === Qt.RightButton
+            ? root.menuRequested(point.position.x, point.position.y)
+            : root.clicked(tap.point.modifiers)
     }
 
     Column {

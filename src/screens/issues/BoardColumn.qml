@@ -20,6 +20,7 @@ Rectangle {
     required property string focusedKey
 
     signal cardClicked(key: string, modifiers: int)
+    signal menuRequested(key: string, card: Item, x: real, y: real)
 
     readonly property int padding: Metrics.paneMargin
 
@@ -87,10 +88,11 @@ Rectangle {
         Accessible.name: root.accessibleName
 
         delegate: BoardCard {
+            id: card
             width: list.width
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
+            onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
         }
-
 
         T.ScrollBar.vertical: OverlayScrollBar {
             thickness: 5

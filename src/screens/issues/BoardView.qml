@@ -12,6 +12,7 @@ FocusScope {
     id: root
 
     required property AppStore store
+    required property ContextMenuHost contextMenu
 
     readonly property int columnWidth: 296
     readonly property int columnGap: 12
@@ -47,6 +48,7 @@ FocusScope {
                     height: columns.height
                     focusedKey: root.store.focusedKey
                     onCardClicked: (key, modifiers) => root.store.handleClick(key, modifiers)
+                    onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                 }
             }
         }

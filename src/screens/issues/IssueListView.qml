@@ -14,10 +14,17 @@ FocusScope {
     id: root
 
     required property AppStore store
+    required property ContextMenuHost contextMenu
 
     readonly property bool isCompact: store.density === Model.RowDensity.Compact
     readonly property int rowHeight: isCompact ? Metrics.rowCompactHeight : Metrics.rowHeight
     readonly property int headerHeight: isCompact ? Metrics.groupHeaderCompactHeight : Metrics.groupHeaderHeight
+
+    function openFocusedMenu() {
+        const row = list.itemAtIndex(store.issueList.rowOfKey(store.focusedKey));
+        if (row)
+            contextMenu.open(store.focusedKey, row, 68, rowHeight);
+    }
 
     KeyColumn {
         id: keyColumn
@@ -40,6 +47,8 @@ FocusScope {
         currentIndex: -1
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
+
+        Keys.onMenuPressed: root.openFocusedMenu()
 
         Accessible.role: Accessible.List
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
@@ -64,6 +73,7 @@ FocusScope {
                 roleValue: IssueListEnums.Issue
 
                 IssueRow {
+                    id: row
                     width: list.width
                     height: root.rowHeight
                     display: root.store.display
@@ -71,6 +81,7 @@ FocusScope {
                     isSelecting: root.store.isSelecting
                     onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
+                    onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
                 }

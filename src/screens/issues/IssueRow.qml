@@ -28,7 +28,25 @@ Item {
 
     signal clicked(modifiers: int)
     signal checkToggled()
+    // The picker of a kind (`RowPicking.Kind`) is wanted at a cell.
+    signal pickRequested(kind: int, cell: Item)
+    signal menuRequested(x: real, y: real)
 
+    readonly property RowCell hotCell: hover.hovered ? cellAt(hover.point.position.x) : null
+
+    function cellAt(x: real): RowCell {
+        return (leading.childAt(x - leading.x, 1) ?? trailing.childAt(x - trailing.x, 1)) as RowCell;
+    }
+
+    function press(x: real, modifiers: int) {
+        const cell = cellAt(x);
+        if (cell)
+            cell.pressed();
+        else
+            clicked(modifiers);
+    }
+
+    readonly property string priorityText: Pictures.priorityName(issue.priorityLevel)
     readonly property real gap: Metrics.gapMedium
     readonly property real room: width - trailing.width - leading.width - 3 * gap
     readonly property rowFit fit: RowFitting.fit(room,
@@ -71,9 +89,16 @@ Item {
 
     TapHandler {
         id: tap
-        acceptedButtons: Qt.LeftButton
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.clicked(tap.point.modifiers)
+        onTapped: (point, button) => button === Qt.RightButton
+            ? root.menuRequested(point.position.x, point.position.y)
+            : root.press(point.position.x, tap.point.modifiers)
+    }
+
+    CellHighlight {
+        anchors.verticalCenter: parent.verticalCenter
+        cell: root.hotCell
     }
 
     Row {
@@ -99,10 +124,13 @@ Item {
             }
         }
 
-        Item {
+        RowCell {
+            id: priorityCell
             visible: root.display.priority
-            width: Metrics.smallButton
-            height: Metrics.smallButton
+            kind: RowPicking.Priority
+            hint: root.priorityText
+            spoken: "Priorité : " + hint
+            onPressed: root.pickRequested(kind, priorityCell)
 
             PriorityIcon {
                 anchors.centerIn: parent
@@ -124,9 +152,12 @@ Item {
             elide: Text.ElideRight
         }
 
-        Item {
-            width: Metrics.smallButton
-            height: Metrics.smallButton
+        RowCell {
+            id: statusCell
+            kind: RowPicking.Status
+            hint: root.issue.status.displayName
+            spoken: "Statut : " + hint
+            onPressed: root.pickRequested(kind, statusCell)
 
             StatusIcon {
                 anchors.centerIn: parent
@@ -198,10 +229,13 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: root.gap
 
-        Item {
+        RowCell {
+            id: assigneeCell
             visible: root.display.assignee
-            width: Metrics.smallButton
-            height: Metrics.smallButton
+            kind: RowPicking.Assignee
+            hint: ""
+            spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
+            onPressed: root.pickRequested(kind, assigneeCell)
 
             Avatar {
                 anchors.centerIn: parent

@@ -1,5 +1,7 @@
 #include "screens/issues/IssuesContent.h"
 
+#include "screens/issues/CreateScreen.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,8 +24,12 @@ EmptyScreen nothingHappened(const ActivityPeriod &period, const QDateTime &now,
 
 EmptyScreen nothingToDo()
 {
-    return {u"checkmark.seal"_s, u"Rien à faire ici"_s,
-            u"Aucun ticket dans cette vue. Profite, ou crée-en un avec C."_s, QString()};
+    return {u"checkmark.seal"_s,
+            u"Rien à faire ici"_s,
+            u"Aucun ticket dans cette vue. Profite, ou crée-en un avec C."_s,
+            u"Nouveau ticket"_s,
+            true,
+            CreateScreen::isAvailable()};
 }
 
 } // namespace
@@ -92,5 +98,7 @@ void IssuesContent::runEmptyAction()
     } else if (const auto *period = m_store->scope().asActivity()) {
         m_store->select(IssueScope::activity(
             {period->range, std::min(period->offset - 1, 0), period->teamWide}));
+    } else {
+        m_store->newIssue();
     }
 }

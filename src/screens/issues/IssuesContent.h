@@ -15,6 +15,8 @@ class EmptyScreen
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
     Q_PROPERTY(QString description MEMBER description CONSTANT FINAL)
     Q_PROPERTY(QString action MEMBER action CONSTANT FINAL)
+    Q_PROPERTY(bool isProminent MEMBER isProminent CONSTANT FINAL)
+    Q_PROPERTY(bool isActionEnabled MEMBER isActionEnabled CONSTANT FINAL)
 
 public:
     QString symbol;
@@ -22,6 +24,9 @@ public:
     QString description;
     /// The button's text; empty for a screen without a button.
     QString action;
+    /// The button is the screen's one prominent button.
+    bool isProminent = false;
+    bool isActionEnabled = true;
 
     bool operator==(const EmptyScreen &) const = default;
 };

@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -8,9 +11,10 @@ Item {
     id: root
 
     required property AppStore store
+    required property Filters filters
 
     function focusSearch() {
-        search.forceActiveFocus(Qt.ShortcutFocusReason)
+        search.open()
     }
 
     implicitHeight: Metrics.toolbarHeight
@@ -21,6 +25,7 @@ Item {
         anchors.right: commands.left
         anchors.rightMargin: Metrics.gap
         y: 11
+        visible: !search.coversTitle
 
         AppText {
             width: parent.width
@@ -64,22 +69,32 @@ Item {
                 id: cells
                 anchors.centerIn: parent
 
+                FilterButton {
+                    filters: root.filters
+                }
+
                 ToolbarCell {
                     name: "Actualiser"
+                    hint: Words.localized("Actualiser (⌘R)")
                     symbol: "arrow.clockwise"
                     onClicked: root.store.refresh()
                 }
             }
         }
 
-        SearchField {
+        IconButton {
+            look: IconButton.Prominent
+            enabled: CreateScreen.isAvailable
+            name: "Nouveau ticket"
+            hint: "Nouveau ticket (C)"
+            symbol: "plus"
+            onClicked: root.store.newIssue()
+        }
+
+        ToolbarSearch {
             id: search
-            width: 190
-            name: "Filtrer"
-            placeholderText: "Filtrer"
-            text: root.store.filterText
-            onTextChanged: root.store.filterText = text
-            Keys.onEscapePressed: focus = false
+            store: root.store
+            room: root.width
         }
     }
 }

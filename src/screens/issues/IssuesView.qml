@@ -18,33 +18,48 @@ FocusScope {
         store: root.store
     }
 
+    Filters {
+        id: activeFilters
+        store: root.store
+    }
+
     IssuesToolbar {
         id: toolbar
         width: parent.width
         store: root.store
+        filters: activeFilters
     }
 
-    When {
-        shown: content.isRecap
+    Column {
+        id: heads
+        anchors.top: toolbar.bottom
+        width: parent.width
 
-        RecapHeader {
-            x: Metrics.paneMargin
-            y: toolbar.height
-            width: root.width - 2 * Metrics.paneMargin
-            store: root.store
-            onHeightChanged: body.recapHeight = height + Metrics.gapMedium
-            Component.onDestruction: body.recapHeight = 0
+        When {
+            shown: content.isRecap
+
+            Item {
+                width: heads.width
+                height: recap.height + Metrics.gapMedium
+
+                RecapHeader {
+                    id: recap
+                    x: Metrics.paneMargin
+                    width: parent.width - 2 * x
+                    store: root.store
+                }
+            }
+        }
+
+        FilterBarSlot {
+            width: parent.width
+            filters: activeFilters
         }
     }
 
     Item {
         id: body
-
-        // What the recap's header takes from the list.
-        property real recapHeight: 0
-
-        anchors.top: toolbar.bottom
-        anchors.topMargin: recapHeight
+        anchors.top: heads.bottom
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
@@ -53,7 +68,8 @@ FocusScope {
             shown: content.kind === IssuesContent.Loading
 
             LoadingRows {
-                anchors.fill: parent
+                width: body.width
+                height: body.height
             }
         }
 
@@ -61,7 +77,8 @@ FocusScope {
             shown: content.kind === IssuesContent.Failed
 
             UnavailableScreen {
-                anchors.fill: parent
+                width: body.width
+                height: body.height
                 symbol: "exclamationmark.triangle"
                 title: "Impossible de charger les tickets"
                 description: root.store.loadError
@@ -75,8 +92,11 @@ FocusScope {
             shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
 
             BoardView {
-                anchors.fill: parent
+                width: body.width
+                height: body.height
+                focus: true
                 store: root.store
+                contextMenu: rowMenu
             }
         }
 
@@ -84,10 +104,12 @@ FocusScope {
             shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.List
 
             IssueListView {
-                anchors.fill: parent
-                anchors.leftMargin: Metrics.paneMargin
-                anchors.rightMargin: Metrics.paneMargin
+                x: Metrics.paneMargin
+                width: body.width - 2 * x
+                height: body.height
+                focus: true
                 store: root.store
+                contextMenu: rowMenu
             }
         }
 
@@ -95,13 +117,29 @@ FocusScope {
             shown: content.kind === IssuesContent.Empty
 
             UnavailableScreen {
-                anchors.fill: parent
+                width: body.width
+                height: body.height
                 symbol: content.empty.symbol
                 title: content.empty.title
                 description: content.empty.description
                 action: content.empty.action
+                isProminent: content.empty.isProminent
+                isActionEnabled: content.empty.isActionEnabled
                 onActionChosen: content.runEmptyAction()
             }
         }
+    }
+
+    SelectionBar {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 20
+        store: root.store
+    }
+
+    ContextMenuHost {
+        id: rowMenu
+        anchors.fill: parent
+        store: root.store
     }
 }

@@ -11,6 +11,7 @@ Item {
     required property string description
     required property string action
     property bool isProminent: false
+    property bool isActionEnabled: true
 
     signal actionChosen()
 
@@ -58,6 +59,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.action
             visible: root.action !== ""
+            enabled: root.isActionEnabled
             look: root.isProminent ? PushButton.Prominent : PushButton.Glass
             onClicked: root.actionChosen()
         }

@@ -1,0 +1,45 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+
+// The context menu of the rows or cards in it, which exists while it is open.
+Item {
+    id: root
+
+    required property AppStore store
+
+    property bool isOpen: false
+    property Item returnTo: null
+    property point place
+
+    // Opens on the issue, at a point of an item.
+    function open(key: string, item: Item, x: real, y: real) {
+        issueMenu.prepare(key);
+        returnTo = FocusReturn.holder(root);
+        place = mapFromItem(item, x, y);
+        isOpen = true;
+    }
+
+    IssueMenu {
+        id: issueMenu
+        store: root.store
+    }
+
+    When {
+        shown: root.isOpen
+
+        Item {
+            IssueContextMenu {
+                content: issueMenu
+                onClosed: {
+                    root.isOpen = false;
+                    FocusReturn.giveBack(root.returnTo);
+                }
+                Component.onCompleted: popup(root, root.place.x, root.place.y)
+            }
+        }
+    }
+}

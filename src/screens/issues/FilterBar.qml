@@ -1,0 +1,57 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Theme
+
+// The filters in force, a chip for each kind, over the list they narrow.
+Item {
+    id: root
+
+    required property Filters filters
+
+    implicitHeight: flow.implicitHeight + Metrics.gapMedium
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: "Filtres actifs"
+
+    Flow {
+        id: flow
+        x: 20
+        width: parent.width - x - Metrics.gap
+        spacing: Metrics.gap
+
+        Repeater {
+            model: root.filters.chips
+
+            FilterChipView {
+                required property filterChip modelData
+
+                maximumWidth: flow.width
+                field: modelData.field
+                value: modelData.value
+                onRemoved: root.filters.remove(modelData.id)
+            }
+        }
+
+        FocusableItem {
+            id: clear
+            height: Metrics.filterChipHeight
+            leftPadding: Metrics.gapTiny
+            rightPadding: Metrics.gapTiny
+            corner: height / 2
+            text: "Tout effacer"
+            onClicked: root.filters.clear()
+
+            contentItem: AppText {
+                role: TypeScale.Small
+                weight: Font.Medium
+                color: Theme.accentText
+                verticalAlignment: Text.AlignVCenter
+                text: clear.text
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,40 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Theme
+
+// The place of the filters in force, which opens and closes over the list.
+Item {
+    id: root
+
+    required property Filters filters
+
+    // How far it is open, 0 to 1.
+    property real presence: filters.isEmpty ? 0 : 1
+    property real barHeight: 0
+
+    height: presence * barHeight
+    visible: presence > 0
+    opacity: Math.min(1, presence)
+    clip: presence < 1
+
+    Behavior on presence {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
+        }
+    }
+
+    When {
+        shown: root.visible
+
+        FilterBar {
+            width: root.width
+            filters: root.filters
+            onImplicitHeightChanged: root.barHeight = implicitHeight
+            Component.onCompleted: root.barHeight = implicitHeight
+        }
+    }
+}

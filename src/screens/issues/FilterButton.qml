@@ -1,0 +1,39 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+
+// The toolbar's filter menu, which exists while it is open.
+ToolbarCell {
+    id: root
+
+    required property Filters filters
+
+    property bool isOpen: false
+    property Item returnTo: null
+
+    name: "Filtrer"
+    symbol: filters.isEmpty ? "line.3.horizontal.decrease" : "line.3.horizontal.decrease.circle.fill"
+    active: !filters.isEmpty
+    on: isOpen
+    onClicked: {
+        returnTo = FocusReturn.holder(root);
+        isOpen = true;
+    }
+
+    When {
+        shown: root.isOpen
+
+        Item {
+            FilterMenu {
+                filters: root.filters
+                onClosed: {
+                    root.isOpen = false;
+                    FocusReturn.giveBack(root.returnTo);
+                }
+                Component.onCompleted: popup(root, 0, root.height + 6)
+            }
+        }
+    }
+}

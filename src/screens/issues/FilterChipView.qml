@@ -1,0 +1,55 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// A filter in force, and the button that lifts it.
+GlassCapsule {
+    id: root
+
+    required property string field
+    required property string value
+    required property real maximumWidth
+
+    signal removed()
+
+    width: Math.min(implicitWidth, maximumWidth)
+    implicitWidth: Math.ceil(words.x + words.implicitWidth + Metrics.gapSmall + 20 + 4)
+    implicitHeight: Metrics.filterChipHeight
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.field + " : " + root.value
+
+    AppText {
+        id: label
+        x: 11
+        anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
+        color: Theme.text2
+        text: root.field
+        Accessible.ignored: true
+    }
+
+    AppText {
+        id: words
+        x: label.x + label.implicitWidth + Metrics.gapSmall
+        width: cross.x - x - Metrics.gapSmall
+        anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
+        weight: Font.Medium
+        text: root.value
+        Accessible.ignored: true
+    }
+
+    IconButton {
+        id: cross
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        name: "Retirer le filtre " + root.field
+        symbol: "xmark"
+        symbolSize: 8
+        symbolWeight: "semibold"
+        side: 20
+        corner: 10
+        onClicked: root.removed()
+    }
+}

@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQml
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Issues
+import Velmora.Kit
+
+// What can be done to one issue, or to all checked ones. Ask a prepared `IssueMenu` for its content.
+PopupMenu {
+    id: root
+
+    required property IssueMenu content
+
+    title: content.isSingle ? content.keys[0] : content.copyKeysTitle
+
+    Instantiator {
+        model: root.content.sections
+        onObjectAdded: (index, object) => root.insertMenu(index, object as T.Menu)
+        onObjectRemoved: (index, object) => root.removeMenu(object as T.Menu)
+
+        MenuSectionMenu {
+            required property menuSection modelData
+            required property int index
+
+            section: modelData
+            isReached: root.currentIndex === index
+            onChosen: choice => root.content.choose(modelData.id, choice)
+        }
+    }
+
+    PopupMenuSeparator {}
+
+    PopupMenuItem {
+        visible: root.content.isSingle
+        height: visible ? implicitHeight : 0
+        text: "Ouvrir dans une nouvelle fenêtre"
+        symbol: "macwindow.on.rectangle"
+        onTriggered: root.content.openWindow()
+    }
+
+    PopupMenuItem {
+        visible: root.content.isSingle
+        height: visible ? implicitHeight : 0
+        text: "Ouvrir dans Jira"
+        symbol: "safari"
+        onTriggered: root.content.openInBrowser()
+    }
+
+    PopupMenuSeparator {
+        visible: root.content.isSingle
+        height: visible ? implicitHeight : 0
+    }
+
+    PopupMenuItem {
+        text: root.content.isSingle ? "Copier la clé" : root.content.copyKeysTitle
+        symbol: root.content.isSingle ? "number" : "doc.on.doc"
+        onTriggered: root.content.copyKeys()
+    }
+
+    PopupMenuItem {
+        visible: root.content.isSingle
+        height: visible ? implicitHeight : 0
+        text: "Copier le lien"
+        symbol: "link"
+        onTriggered: root.content.copyLink()
+    }
+
+    PopupMenuItem {
+        visible: root.content.isSingle
+        height: visible ? implicitHeight : 0
+        text: "Copier le nom de branche git"
+        symbol: "arrow.triangle.branch"
+        onTriggered: root.content.copyBranch()
+    }
+}

@@ -1,0 +1,61 @@
+pragma ComponentBehavior: Bound
+
+import QtQml
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Options
+import Velmora.Theme
+
+// A submenu that is made from data. Its rows come when its title is first reached: a site can have hundreds of people.
+PopupMenu {
+    id: root
+
+    required property menuSection section
+    // Its title is the highlighted row of the menu it hangs in.
+    required property bool isReached
+
+    property bool isFilled: false
+
+    signal chosen(choice: string)
+
+    title: section.title
+    onIsReachedChanged: isFilled = isFilled || isReached
+
+    Instantiator {
+        model: root.isFilled ? root.section.choices : []
+        onObjectAdded: (index, object) => root.insertItem(index, object as Item)
+        onObjectRemoved: (index, object) => root.removeItem(object as Item)
+
+        PopupMenuItem {
+            id: row
+
+            required property menuChoice modelData
+
+            text: modelData.title
+            symbol: modelData.symbol
+            leading: modelData.hasIcon ? picture : null
+            checked: modelData.isOn
+            topPadding: modelData.startsGroup ? 11 : 0
+            topInset: topPadding
+            implicitHeight: Metrics.menuRowHeight + topPadding
+            onTriggered: root.chosen(modelData.id)
+
+            Rectangle {
+                visible: row.modelData.startsGroup
+                x: 9
+                y: 5
+                width: parent.width - 18
+                height: 1
+                color: Theme.divider
+            }
+
+            OptionIconView {
+                id: picture
+                visible: row.modelData.hasIcon
+                icon: row.modelData.icon
+                Accessible.ignored: true
+            }
+        }
+    }
+}

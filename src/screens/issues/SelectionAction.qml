@@ -1,0 +1,40 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// A command of the selection bar: a symbol over a word.
+FocusableItem {
+    id: root
+
+    required property string symbol
+
+    implicitWidth: 64
+    implicitHeight: 44
+    corner: height / 2
+
+    contentItem: Item {
+        Column {
+            anchors.centerIn: parent
+            spacing: 3
+
+            Symbol {
+                anchors.horizontalCenter: parent.horizontalCenter
+                name: root.symbol
+                size: 13
+            }
+
+            AppText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                role: TypeScale.Micro
+                text: root.text
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    background: HoverFill {
+        radius: root.corner
+        shown: root.lit
+        fill: Theme.ink(0.07)
+    }
+}

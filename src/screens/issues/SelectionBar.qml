@@ -1,0 +1,119 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// How many issues are checked, and what can be done to all of them at once.
+Item {
+    id: root
+
+    required property AppStore store
+
+    // How far it has come in: 0 away, 1 there.
+    property real presence: actions.isShown ? 1 : 0
+
+    implicitWidth: line.width
+    implicitHeight: 52
+    visible: presence > 0
+    enabled: actions.isShown
+
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: actions.countText
+
+    Behavior on presence {
+        NumberAnimation {
+            duration: Motion.selectionBarDuration
+            easing: Springs.soft
+        }
+    }
+
+    BulkActions {
+        id: actions
+        store: root.store
+    }
+
+    Row {
+        id: line
+        y: (1 - root.presence) * (parent.height + 20)
+        opacity: Math.min(1, root.presence)
+        spacing: Metrics.gap
+
+        GlassPanel {
+            width: count.x + count.width + Metrics.gap + clear.width + Metrics.gap
+            height: 52
+            radius: 26
+            shadow: "bar"
+            color: Theme.glassStrong
+
+            AppText {
+                id: count
+                x: 20
+                width: Math.ceil(implicitWidth)
+                anchors.verticalCenter: parent.verticalCenter
+                weight: Font.Medium
+                tabular: true
+                text: actions.countText
+            }
+
+            IconButton {
+                id: clear
+                anchors.right: parent.right
+                anchors.rightMargin: Metrics.gap
+                anchors.verticalCenter: parent.verticalCenter
+                name: "Désélectionner (Échap)"
+                symbol: "xmark"
+                symbolSize: 9.5
+                symbolWeight: "semibold"
+                corner: 11
+                onClicked: actions.clear()
+            }
+        }
+
+        GlassPanel {
+            width: cells.width + 8
+            height: 52
+            radius: 26
+            shadow: "bar"
+            color: Theme.glassStrong
+
+            Row {
+                id: cells
+                x: 4
+                y: 4
+
+                SelectionAction {
+                    text: "Statut"
+                    symbol: "circle.dashed"
+                    onClicked: actions.pickStatus()
+                }
+
+                SelectionAction {
+                    text: "Priorité"
+                    symbol: "chart.bar.fill"
+                    onClicked: actions.pickPriority()
+                }
+
+                SelectionAction {
+                    text: "Assigner"
+                    symbol: "person.crop.circle"
+                    onClicked: actions.pickAssignee()
+                }
+
+                SelectionAction {
+                    text: "Étiquettes"
+                    symbol: "tag"
+                    onClicked: actions.pickLabels()
+                }
+
+                SelectionAction {
+                    text: "Copier"
+                    symbol: "doc.on.doc"
+                    onClicked: actions.copyKeys()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,46 @@
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// The search field of the list. Where the toolbar is narrow it is shorter, and then a symbol that becomes a field while
+// it is used.
+Item {
+    id: root
+
+    required property AppStore store
+    // The toolbar's width.
+    required property real room
+
+    readonly property bool isFolded: room < 500 && !field.activeFocus && store.filterText === ""
+    // The unfolded field needs the title's place.
+    readonly property bool coversTitle: room < 500 && !isFolded
+
+    function open() {
+        field.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    implicitWidth: isFolded ? Metrics.capsuleHeight : room < 892 ? 120 : 190
+    implicitHeight: Metrics.capsuleHeight
+
+    SearchField {
+        id: field
+        anchors.fill: parent
+        opacity: root.isFolded ? 0 : 1
+        name: "Filtrer"
+        placeholderText: "Filtrer"
+        text: root.store.filterText
+        onTextChanged: root.store.filterText = text
+        Keys.onEscapePressed: focus = false
+    }
+
+    IconButton {
+        visible: root.isFolded
+        look: IconButton.Glass
+        name: "Filtrer"
+        symbol: "magnifyingglass"
+        focusPolicy: Qt.NoFocus
+        onClicked: root.open()
+    }
+}

@@ -1,0 +1,104 @@
+#include "app/WindowFixture.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class SelectionBar : public WindowFixture
+{
+protected:
+    SelectionBar()
+    {
+        Preferences(preferencesPath).setText(u"ordering"_s, u"key"_s);
+        serve({u"MOB-1"_s, u"MOB-2"_s, u"MOB-3"_s});
+        service->assignCalls.answerWith();
+        openOnDemo();
+        desktop->setPrefersReducedMotion(true);
+    }
+};
+
+TEST_F(SelectionBar, ItComesWithTheFirstCheckedIssueAndGoesWithTheLast)
+{
+    EXPECT_TRUE(spokenIn(window(), QAccessible::ToolBar).isEmpty());
+    press(Qt::Key_Down);
+    press(Qt::Key_X);
+    await(QAccessible::ToolBar, u"1 sélectionné"_s);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    await(QAccessible::ToolBar, u"2 sélectionnés"_s);
+
+    press(Qt::Key_Escape);
+
+    EXPECT_TRUE(isGone(QAccessible::ToolBar, {}));
+    EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
+}
+
+TEST_F(SelectionBar, ItsCrossChecksNothingAnyMore)
+{
+    store().setChecked({u"MOB-1"_s, u"MOB-3"_s});
+    click(await(QAccessible::Button, u"Désélectionner"_s));
+
+    EXPECT_TRUE(store().checked().isEmpty());
+}
+
+TEST_F(SelectionBar, EachActionOpensItsPickerForTheCheckedIssues)
+{
+    const QList<std::pair<QString, QString>> actions{
+        {u"Statut"_s, u"Statut…"_s},
+        {u"Priorité"_s, u"Priorité…"_s},
+        {u"Assigner"_s, u"Assigner…"_s},
+        {u"Étiquettes"_s, u"Ajouter des étiquettes…"_s}};
+    store().setChecked({u"MOB-1"_s, u"MOB-3"_s});
+    for (const auto &[title, placeholder] : actions) {
+        const auto buttons = spokenIn(window(), QAccessible::Button, title);
+        ASSERT_FALSE(buttons.isEmpty());
+        click(buttons.constLast());
+        await(QAccessible::EditableText, placeholder);
+        ASSERT_TRUE(store().palette() && store().palette()->asPicker());
+        EXPECT_EQ(store().palette()->asPicker()->keys, (QStringList{u"MOB-1"_s, u"MOB-3"_s}));
+        press(Qt::Key_Escape);
+        EXPECT_TRUE(isGone(QAccessible::EditableText, placeholder));
+    }
+}
+
+TEST_F(SelectionBar, CopyCopiesTheKeysInOrder)
+{
+    store().setChecked({u"MOB-3"_s, u"MOB-1"_s});
+    click(await(QAccessible::Button, u"Copier"_s));
+
+    EXPECT_EQ(lastCopied(), u"MOB-1, MOB-3"_s);
+    await(QAccessible::Button, u"Clés copié"_s);
+}
+
+TEST_F(SelectionBar, AReloadTakesIssuesThatWentOutOfTheCount)
+{
+    store().setChecked({u"MOB-1"_s, u"MOB-3"_s});
+    await(QAccessible::ToolBar, u"2 sélectionnés"_s);
+
+    serve({u"MOB-1"_s, u"MOB-2"_s});
+    reload();
+
+    await(QAccessible::ToolBar, u"1 sélectionné"_s);
+}
+
+TEST_F(SelectionBar, CheckingOneRowMakesEveryRowsCheckBoxVisible)
+{
+    // The pixel where the box's left edge is drawn, in a row that is neither hovered nor checked.
+    const auto row = await(QAccessible::ListItem, u"MOB-3,"_s);
+    const QPoint edge(row.box.left() + 12, row.box.center().y());
+    const auto colorAt = [&](const QPoint &point) {
+        return window().grabWindow().pixelColor(point);
+    };
+    const QColor plane = colorAt(edge);
+
+    store().setChecked({u"MOB-1"_s});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colorAt(edge) != plane; }));
+}
+
+TEST_F(SelectionBar, TheInvisibleCheckBoxOfARowCanBeClicked)
+{
+    click(find(QAccessible::CheckBox, u"Sélectionner MOB-2"_s));
+
+    EXPECT_EQ(store().checked(), QSet<QString>{u"MOB-2"_s});
+    EXPECT_EQ(store().inspectorKey(), std::nullopt);
+}
