@@ -17,6 +17,10 @@ const QString pressable[]{
     u"SidebarRow { text: 'Mes tickets'; width: 200; focus: true }"_s,
     u"ToastCard { message: 'Copié'; symbol: 'link'; isError: false; focus: true }"_s,
     u"RowCheckBox { name: 'Sélectionner'; focus: true }"_s,
+    u"GlassChip { title: 'Statut'; focus: true }"_s,
+    u"MenuPicker { name: 'Trier par'; choices: ['Clé']; current: 0; focus: true }"_s,
+    u"ToggleSwitch { name: 'Afficher'; focus: true }"_s,
+    u"DisclosureButton { text: 'Détails'; focus: true }"_s,
 };
 
 QPoint middle(const QQuickItem *item)
@@ -87,6 +91,8 @@ TEST_P(EveryPressable, RingShowsAfterAKeyAndNotAfterAClick)
     control->setFocus(false);
     QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, middle(control));
     EXPECT_FALSE(showsRing(control));
+    // What a press has opened.
+    QTest::keyClick(&bench.window(), Qt::Key_Escape);
     QTest::keyClick(&bench.window(), Qt::Key_Tab);
     EXPECT_TRUE(control->hasActiveFocus());
     EXPECT_TRUE(showsRing(control));

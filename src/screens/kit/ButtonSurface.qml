@@ -2,24 +2,27 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What lies under a button's label: nothing, glass or the accent, with the fills of hover and press over it.
+/// What lies under a button's label: nothing, glass, or the accent (red where it destroys), with the fills of hover and
+/// press over it.
 Rectangle {
     id: surface
 
     required property real corner
     property bool floating: false
     property bool prominent: false
+    property bool destructive: false
+    readonly property color strong: destructive ? Theme.redFill : Theme.accentFill
     property bool hovered: false
     property bool pressed: false
 
     radius: corner
-    color: prominent ? Theme.accentFill : floating ? Theme.glass : "transparent"
+    color: prominent ? strong : floating ? Theme.glass : "transparent"
 
     GlassFrame {
         anchors.fill: parent
         visible: surface.floating || surface.prominent
         dark: Theme.dark
-        accent: Theme.accent
+        accent: surface.destructive ? Theme.redFill : Theme.accent
         radius: surface.corner
         shadow: surface.prominent ? "prominent" : "capsule"
         hairline: surface.prominent ? "transparent" : Theme.hairline

@@ -4,11 +4,12 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a
-/// title.
+/// title. The focus returns to where it was.
 T.Menu {
     id: menu
 
     property real widest: 0
+    property Item returnTo: null
 
     implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
@@ -16,7 +17,13 @@ T.Menu {
     margins: 8
     overlap: 4
     cascade: true
-    onAboutToShow: widest = MenuMeasure.widest(menu)
+    onAboutToShow: begin()
+    onAboutToHide: FocusReturn.giveBack(returnTo)
+
+    function begin() {
+        widest = MenuMeasure.widest(menu)
+        returnTo = FocusReturn.holder(parent)
+    }
 
     delegate: PopupMenuItem {}
 

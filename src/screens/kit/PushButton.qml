@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.Theme
 
 /// A button with a label, and a symbol before it where one is given. Plain: words in the accent. Glass: a floating
-/// capsule. Prominent: the accent, one per screen. `large` is 40 high instead of 30.
+/// capsule. Prominent: the accent, one per screen. `destructive` is red: what it does cannot be taken back. `large` is
+/// 40 high instead of 30.
 FocusableItem {
     id: control
 
@@ -10,11 +11,12 @@ FocusableItem {
 
     property int look: PushButton.Glass
     property bool large: false
+    property bool destructive: false
     property string symbol
     readonly property bool plain: look === PushButton.Plain
     readonly property bool prominent: look === PushButton.Prominent
     readonly property color ink: !enabled ? Theme.text4 : prominent ? Theme.textOnAccent
-                               : plain ? Theme.accentText : Theme.text1
+                               : destructive ? Theme.redText : plain ? Theme.accentText : Theme.text1
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: large ? Metrics.largeButtonHeight : plain ? Metrics.filterChipHeight : Metrics.buttonHeight
@@ -40,6 +42,7 @@ FocusableItem {
         corner: control.corner
         floating: control.look === PushButton.Glass && control.enabled
         prominent: control.prominent && control.enabled
+        destructive: control.destructive
         hovered: control.lit
         pressed: control.down
 

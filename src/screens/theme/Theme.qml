@@ -103,6 +103,8 @@ QtObject {
     readonly property color orangeText: dark ? "#FFAA58" : "#A44E04"
     readonly property color red: dark ? "#F2555A" : "#E5484D"
     readonly property color redText: dark ? "#FF7A7D" : "#C02A2F"
+    /// Under white text.
+    readonly property color redFill: "#C02A2F"
     readonly property color green: dark ? "#3EC684" : "#26A064"
     readonly property color blue: dark ? "#5AA0FF" : "#2979E6"
     readonly property color purple: dark ? "#B484F5" : "#995CE6"

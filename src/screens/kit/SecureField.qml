@@ -1,0 +1,47 @@
+import QtQuick
+
+/// A field for what must not be read over a shoulder: dots on the screen, and nothing of it to screen readers, which know
+/// the field by its `name`. What was typed is `secret`.
+FocusScope {
+    id: secure
+
+    required property string name
+    // Not called text: screen readers read a property of that name.
+    property alias secret: field.text
+    property alias placeholderText: field.placeholderText
+    property alias corner: field.corner
+    property alias role: field.role
+    property alias leftPadding: field.leftPadding
+    property alias rightPadding: field.rightPadding
+    property alias background: field.background
+
+    signal accepted()
+    signal textEdited()
+
+    implicitWidth: field.implicitWidth
+    implicitHeight: field.implicitHeight
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+    Accessible.description: "Texte masqué"
+    Accessible.focusable: true
+    Accessible.focused: field.activeFocus
+
+    function clear() {
+        field.clear()
+    }
+
+    InputField {
+        id: field
+
+        anchors.fill: parent
+        focus: true
+        name: secure.name
+        echoMode: TextInput.Password
+        passwordCharacter: "•"
+        inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+        // Its text is told in clear to whoever asks for it.
+        Accessible.ignored: true
+        onAccepted: secure.accepted()
+        onTextEdited: secure.textEdited()
+    }
+}

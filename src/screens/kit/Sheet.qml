@@ -1,0 +1,73 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Theme
+import Velmora.Kit
+
+/// A panel over the window that must be dealt with first: the rest is dimmed and out of reach. Its children stand one over
+/// the other at the top left; give them `width: sheet.width`. `name` is what screen readers call it. Escape closes it
+/// unless `closePolicy` says otherwise. The focus returns to where it was. What is costly goes into a
+/// `When { shown: sheet.visible }`.
+T.Popup {
+    id: sheet
+
+    default property alias content: holder.data
+    required property string name
+    /// How much of the free height lies above: less than a half, as the eye's middle is higher.
+    property real lift: 0.4
+    readonly property real freeHeight: parent ? parent.height - height : 0
+    property Item returnTo: null
+    readonly property Item body: Item {
+        id: holder
+
+        implicitHeight: childrenRect.height
+        clip: height < implicitHeight
+        Accessible.role: Accessible.Dialog
+        Accessible.name: sheet.name
+    }
+
+    parent: T.Overlay.overlay
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: Math.round(freeHeight * lift)
+    implicitWidth: Math.min(520, parent ? parent.width - 32 : 520)
+    implicitHeight: Math.min(holder.implicitHeight, parent ? parent.height - 32 : holder.implicitHeight)
+    padding: 0
+    modal: true
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape
+    contentItem: body
+    onAboutToShow: returnTo = FocusReturn.holder(parent)
+    onAboutToHide: FocusReturn.giveBack(returnTo)
+
+    background: GlassPanel {
+        radius: Metrics.radiusSheet
+        color: Theme.elevated
+        shadow: "sheet"
+    }
+
+    T.Overlay.modal: Scrim {}
+
+    enter: Transition {
+        NumberAnimation {
+            properties: "opacity"
+            from: 0
+            to: 1
+            duration: Motion.fadeDuration
+        }
+
+        NumberAnimation {
+            properties: "scale"
+            from: Motion.paletteScale
+            to: 1
+            duration: Motion.paletteDuration
+            easing: Springs.even
+        }
+    }
+
+    exit: Transition {
+        NumberAnimation {
+            properties: "opacity"
+            to: 0
+            duration: Motion.fadeDuration
+        }
+    }
+}

@@ -1,0 +1,78 @@
+import QtQuick
+import Velmora.Theme
+
+/// The edge between two panes, to drag: `moved` proposes a width within `minimum` and `maximum`. The left and right keys
+/// move it by 16, Home and End to its ends, a double click to `standard`. Set `trailing` where the pane whose width it is
+/// lies on the right. It shows while it is dragged, under the pointer and with the keyboard's focus.
+FocusScope {
+    id: handle
+
+    required property string name
+    required property real value
+    required property real minimum
+    required property real maximum
+    required property real standard
+    property bool trailing: false
+    readonly property int direction: trailing ? -1 : 1
+    readonly property bool dragged: grip.pressed
+
+    signal moved(width: real)
+
+    implicitWidth: 8
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Splitter
+    Accessible.name: name
+    Accessible.description: Math.round(value) + " points"
+    Accessible.focusable: true
+    Accessible.onIncreaseAction: move(value + 16)
+    Accessible.onDecreaseAction: move(value - 16)
+    Keys.onLeftPressed: move(value - direction * 16)
+    Keys.onRightPressed: move(value + direction * 16)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+        if (event.accepted)
+            move(event.key === Qt.Key_Home ? minimum : maximum)
+    }
+
+    function move(wish: real) {
+        const width = Math.round(Math.max(minimum, Math.min(maximum, wish)))
+        if (width !== value)
+            moved(width)
+    }
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: 2
+        height: parent.height
+        radius: 1
+        visible: handle.activeFocus || grip.containsMouse || grip.pressed
+        color: handle.activeFocus ? Theme.focusRing : Theme.divider
+    }
+
+    MouseArea {
+        id: grip
+
+        property real start: 0
+        property real startValue: 0
+
+        anchors.fill: parent
+        hoverEnabled: true
+        preventStealing: true
+        cursorShape: Qt.SplitHCursor
+        onPressed: mouse => begin(mouse)
+        onPositionChanged: mouse => {
+            if (pressed)
+                handle.move(startValue + handle.direction * (sceneX(mouse) - start))
+        }
+        onDoubleClicked: handle.move(handle.standard)
+
+        function sceneX(mouse: MouseEvent): real {
+            return mapToItem(null, mouse.x, 0).x
+        }
+
+        function begin(mouse: MouseEvent) {
+            start = sceneX(mouse)
+            startValue = handle.value
+        }
+    }
+}

@@ -1,0 +1,28 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora.Kit
+
+/// A menu of choices of which one has a tick; it opens with the highlight on that one.
+PopupMenu {
+    id: choiceMenu
+
+    required property list<string> choices
+    required property int current
+
+    signal chosen(index: int)
+
+    onOpened: currentIndex = current
+
+    Repeater {
+        model: choiceMenu.choices
+
+        PopupMenuItem {
+            required property int index
+            required property string modelData
+
+            text: modelData
+            checked: index === choiceMenu.current
+            onTriggered: choiceMenu.chosen(index)
+        }
+    }
+}

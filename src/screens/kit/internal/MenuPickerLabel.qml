@@ -1,0 +1,34 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// The current choice of a menu picker, and the sign that there are others.
+Item {
+    id: label
+
+    required property string text
+    required property color ink
+
+    implicitWidth: words.implicitWidth + 6 + sign.implicitWidth
+    implicitHeight: words.implicitHeight
+
+    AppText {
+        id: words
+
+        width: parent.width - sign.width - 6
+        anchors.verticalCenter: parent.verticalCenter
+        text: label.text
+        color: label.ink
+        Accessible.ignored: true
+    }
+
+    Symbol {
+        id: sign
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        name: "shell.popup"
+        size: 10
+        color: Theme.text2
+    }
+}
