@@ -18,6 +18,10 @@ struct HttpAnswer
     /// Where the body was stored, complete; the file goes with the last copy of the answer unless it was moved away.
     std::shared_ptr<QTemporaryFile> file;
 
+    /// The server announced the body's length, and it was met. Of a body whose length was not announced nobody can tell
+    /// that it was cut short.
+    bool hasKnownLength = false;
+
     bool operator==(const HttpAnswer &) const = default;
 
     bool isSuccess() const { return status >= 200 && status < 300; }

@@ -29,6 +29,7 @@ void HttpExchange::transmit()
 {
     m_answer = {};
     m_decoder.reset();
+    m_received = 0;
     m_certificateErrors.clear();
     m_reply = m_request.purpose == HttpRequest::Purpose::Write ? sentOnce() : sent();
     connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
@@ -66,6 +67,7 @@ void HttpExchange::takeBytes()
 {
     Q_EMIT progressed();
     const QByteArray bytes = m_reply->readAll();
+    m_received += bytes.size();
     if (!m_decoder)
         m_decoder = std::make_unique<BodyDecoder>(m_reply->rawHeader("Content-Encoding"));
     if (!m_decoder->feed(bytes, [this](QByteArrayView piece) { return store(piece); }))
@@ -89,15 +91,17 @@ bool HttpExchange::store(QByteArrayView piece)
 
 bool HttpExchange::storeInFile(QByteArrayView piece)
 {
-    if (!m_answer.file) {
-        QDir().mkpath(QFileInfo(*m_request.saveAs).path());
-        m_answer.file = std::make_shared<QTemporaryFile>(*m_request.saveAs);
-        m_answer.file->open();
-    }
-    const bool isStored = m_answer.file->write(piece.data(), piece.size()) == piece.size();
+    const bool isStored = (m_answer.file || openFile()) &&
+                          m_answer.file->write(piece.data(), piece.size()) == piece.size();
     if (!isStored)
         m_refusal = TransportError::Kind::NotStored;
     return isStored;
+}
+
+bool HttpExchange::openFile()
+{
+    m_answer.file = std::make_shared<QTemporaryFile>(*m_request.saveAs);
+    return QDir().mkpath(QFileInfo(*m_request.saveAs).path()) && m_answer.file->open();
 }
 
 void HttpExchange::completeReply()
@@ -105,18 +109,27 @@ void HttpExchange::completeReply()
     takeBytes();
     if (m_isOver)
         return;
-    if (const auto failure = replyFailure(*m_reply, m_certificateErrors))
-        return finish(std::unexpected(*failure));
-    if (!m_decoder->isComplete())
-        return finish(std::unexpected(TransportError::Kind::Broken));
+    if (const auto found = flaw())
+        return finish(std::unexpected(*found));
     if (const QByteArray target = location(); Redirects::isRedirect(status(), target))
         return follow(target);
     m_answer.status = status();
     m_answer.mediaType = mediaType(m_reply->rawHeader("Content-Type"));
+    m_answer.hasKnownLength = m_reply->hasRawHeader("Content-Length");
     // An empty file is a file too.
     if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
         return finish(std::unexpected(TransportError::Kind::NotStored));
-    finish(m_answer);
+    finish(std::move(m_answer));
+}
+
+std::optional<TransportError::Kind> HttpExchange::flaw() const
+{
+    if (const auto failure = replyFailure(*m_reply, m_certificateErrors))
+        return failure;
+    // Of an answer that is a failure, the stack tells the failure and not that it is incomplete.
+    if (m_received < m_reply->rawHeader("Content-Length").toLongLong())
+        return TransportError::Kind::ConnectionLost;
+    return m_decoder->isComplete() ? std::nullopt : std::optional(TransportError::Kind::Broken);
 }
 
 void HttpExchange::follow(const QByteArray &location)

@@ -43,7 +43,9 @@ private:
     void takeBytes();
     bool store(QByteArrayView piece);
     bool storeInFile(QByteArrayView piece);
+    bool openFile();
     void completeReply();
+    std::optional<TransportError::Kind> flaw() const;
     void follow(const QByteArray &location);
     void finish(HttpOutcome outcome);
     void dropReply();
@@ -58,6 +60,8 @@ private:
     QPointer<QNetworkReply> m_reply;
     QList<QSslError> m_certificateErrors;
     std::unique_ptr<BodyDecoder> m_decoder;
+    /// Bytes of the body as they came in, packed or not.
+    qint64 m_received = 0;
     /// Why the bytes of the answer were refused, if they were.
     std::optional<TransportError::Kind> m_refusal;
     HttpAnswer m_answer;

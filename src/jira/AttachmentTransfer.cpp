@@ -71,14 +71,14 @@ bool isPage(const QByteArray &mediaType)
     return mediaType == "text/html" || mediaType == "application/xhtml+xml";
 }
 
-/// A page that stands in for the file, as the page of a sign-in does. An attachment may be a page itself; then only its
-/// size can tell.
-bool isPageInstead(const HttpAnswer &answer, const Attachment &attachment)
+/// A page that stands in for the file, as the page of a sign-in does, or a file cut short. An attachment may be a page
+/// itself; then only its size can tell.
+bool isOtherThan(const Attachment &attachment, const HttpAnswer &answer)
 {
-    if (!isPage(answer.mediaType))
-        return false;
-    return !isPage(attachment.mimeType.toLatin1().toLower()) ||
-           (attachment.size > 0 && answer.file->size() != attachment.size);
+    const bool hasOtherSize = attachment.size > 0 && answer.file->size() != attachment.size;
+    if (isPage(answer.mediaType))
+        return hasOtherSize || !isPage(attachment.mimeType.toLatin1().toLower());
+    return hasOtherSize && !answer.hasKnownLength;
 }
 
 /// Puts a complete file in its place, over anything that stands there.
@@ -88,8 +88,10 @@ QUrl moveIntoPlace(QTemporaryFile &file, const QString &target)
     QDir().mkpath(QFileInfo(target).path());
     if (QFileInfo(target).isDir())
         QDir(target).removeRecursively();
+    // Only now does the file get a name.
+    const QString name = file.fileName();
     file.close();
-    std::filesystem::rename(file.fileName().toStdString(), target.toStdString(), failed);
+    std::filesystem::rename(name.toStdString(), target.toStdString(), failed);
     if (failed)
         throw TransportError(TransportError::Kind::NotStored);
     file.setAutoRemove(false);
@@ -133,7 +135,7 @@ QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment
                         .saveAs = folder + u"/.download-XXXXXX"_s};
     const HttpAnswer answer =
         co_await exchange(std::move(connection), std::move(request), std::move(stop));
-    if (!answer.isSuccess() || isPageInstead(answer, attachment))
+    if (!answer.isSuccess() || isOtherThan(attachment, answer))
         throw downloadError(answer, attachment);
     auto move = [file = answer.file, target] { return moveIntoPlace(*file, target); };
     co_return co_await offThread(std::move(move));

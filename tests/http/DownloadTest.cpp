@@ -1,0 +1,99 @@
+#include "Packed.h"
+#include "SessionTest.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = TransportError::Kind;
+
+class DownloadTest : public SessionTest
+{
+protected:
+    HttpRequest download(const QString &below = u"new/folder"_s) const
+    {
+        HttpRequest result = request("/file");
+        result.saveAs = folder.filePath(below + u"/.part-XXXXXX"_s);
+        return result;
+    }
+    QStringList files() const
+    {
+        return QDir(folder.filePath(u"new/folder"_s)).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(DownloadTest, TheBodyOfASuccessIsStored)
+{
+    server.answer(RawAnswer::http(200, "content", {{"Content-Type", "image/png"}}));
+    const HttpAnswer answer = answerTo(download());
+    EXPECT_TRUE(answer.body.isEmpty());
+    QFile file(answer.file->fileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "content");
+    EXPECT_EQ(server.journal().first().header("Accept-Encoding"), "identity");
+}
+
+TEST_F(DownloadTest, AnEmptyFileIsAFile)
+{
+    server.answer(RawAnswer::http(200, {}));
+    const HttpAnswer answer = answerTo(download());
+    ASSERT_TRUE(answer.file);
+    EXPECT_EQ(QFileInfo(answer.file->fileName()).size(), 0);
+}
+
+TEST_F(DownloadTest, TheFileGoesWithTheAnswer)
+{
+    server.answer(RawAnswer::http(200, "content"));
+    EXPECT_FALSE(answerTo(download()).file->fileName().isEmpty());
+    EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
+}
+
+TEST_F(DownloadTest, TheBodyOfAFailureIsNot)
+{
+    server.answer(RawAnswer::http(404, "nothing here"));
+    const HttpAnswer answer = answerTo(download());
+    EXPECT_EQ(answer.body, "nothing here");
+    EXPECT_FALSE(answer.file);
+    EXPECT_FALSE(QDir(folder.filePath(u"new"_s)).exists());
+}
+
+TEST_F(DownloadTest, AFileThatWasCutShortIsNotKept)
+{
+    server.answer(RawAnswer::http(200, "content").cut(3, RawAnswer::Ending::Close));
+    EXPECT_EQ(failureOf(download()), Kind::ConnectionLost);
+    EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
+}
+
+TEST_F(DownloadTest, AFileMayBeLongerThanWhatIsHeldInMemory)
+{
+    constexpr qint64 size = HttpRequest::MaximumInMemory + 1024 * 1024;
+    server.answer(RawAnswer::large(size, size, "application/zip"));
+    const HttpAnswer answer = answerTo(download());
+    EXPECT_EQ(answer.file->size(), size);
+}
+
+TEST_F(DownloadTest, AFolderThatCannotBeMadeIsAFailure)
+{
+    QFile blocking(folder.filePath(u"file"_s));
+    ASSERT_TRUE(blocking.open(QIODevice::WriteOnly));
+    server.answer(RawAnswer::http(200, "content"));
+    EXPECT_EQ(failureOf(download(u"file/below"_s)), Kind::NotStored);
+}
+
+TEST_F(DownloadTest, OnlyTheLastAnswerOfARedirectIsStored)
+{
+    server.answerNext(RawAnswer::http(302, "moved", {{"Location", "/there"}}));
+    server.answerNext(RawAnswer::http(200, "content"));
+    const HttpAnswer answer = answerTo(download());
+    EXPECT_EQ(answer.file->size(), 7);
+    // A file gets its name when it is asked for.
+    const QString name = QFileInfo(answer.file->fileName()).fileName();
+    EXPECT_EQ(files(), QStringList{name});
+}
+
+} // namespace

@@ -1,0 +1,164 @@
+#include "Packed.h"
+#include "SessionTest.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Ending = RawAnswer::Ending;
+using Kind = TransportError::Kind;
+
+using HttpFaults = SessionTest;
+
+TEST_F(HttpFaults, ANameThatNobodyKnows)
+{
+    HttpRequest sent = request("/a");
+    sent.url = QUrl(u"http://site.invalid/a"_s);
+    EXPECT_EQ(failureOf(sent), Kind::HostNotFound);
+}
+
+TEST_F(HttpFaults, APortThatNobodyListensTo)
+{
+    server.stopListening();
+    EXPECT_EQ(failureOf(request("/a")), Kind::Refused);
+    EXPECT_EQ(failureOf(write("/a", "POST", "{}")), Kind::Refused);
+}
+
+TEST_F(HttpFaults, AConnectionThatBreaksBeforeTheAnswer)
+{
+    for (const Ending ending : {Ending::Close, Ending::Reset}) {
+        server.answer(RawAnswer::nothing(ending));
+        EXPECT_EQ(failureOf(request("/a")), Kind::ConnectionLost);
+    }
+}
+
+TEST_F(HttpFaults, AConnectionThatBreaksWithinTheBody)
+{
+    for (const Ending ending : {Ending::Close, Ending::Reset}) {
+        server.answer(RawAnswer::json("[1,2,3]").cut(3, ending));
+        EXPECT_EQ(failureOf(request("/a")), Kind::ConnectionLost);
+        EXPECT_EQ(failureOf(write("/a", "POST", "{}")), Kind::ConnectionLost);
+    }
+}
+
+TEST_F(HttpFaults, AConnectionThatBreaksWithinTheBodyOfAFailure)
+{
+    server.answer(RawAnswer::json("[1,2,3]", 500).cut(3, Ending::Close));
+    EXPECT_EQ(failureOf(request("/a")), Kind::ConnectionLost);
+}
+
+TEST_F(HttpFaults, ABodyShorterThanAnnounced)
+{
+    server.answer(RawAnswer::http(200, "{}", {{"Content-Length", "20"}}).withEnding(Ending::Close));
+    EXPECT_EQ(failureOf(request("/a")), Kind::ConnectionLost);
+}
+
+TEST_F(HttpFaults, OfABodyWithoutALengthNobodyCanTellThatItIsWhole)
+{
+    server.answerNext(
+        RawAnswer{"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n2\r\n{}\r\n0\r\n\r\n"});
+    server.answerNext(RawAnswer{"HTTP/1.1 200 OK\r\n\r\n{}", Ending::Close});
+    server.answer(RawAnswer::json("{}"));
+    for (const bool isKnown : {false, false, true}) {
+        const HttpAnswer answer = answerTo(request("/a"));
+        EXPECT_EQ(answer.body, "{}");
+        EXPECT_EQ(answer.hasKnownLength, isKnown);
+    }
+}
+
+TEST_F(HttpFaults, OfABodyLongerThanAnnouncedTheRestIsNoAnswerToTheNext)
+{
+    server.answerNext(RawAnswer::http(200, "{}garbage", {{"Content-Length", "2"}}));
+    server.answer(RawAnswer::json("next"));
+    EXPECT_EQ(answerTo(request("/a")).body, "{}");
+    EXPECT_EQ(answerTo(request("/b")).body, "next");
+}
+
+TEST_F(HttpFaults, AnAnswerThatIsNoHTTP)
+{
+    server.answer(RawAnswer{"220 mail.exemple.fr ready\r\n", Ending::Close});
+    EXPECT_TRUE(failureOf(request("/a")).has_value());
+    EXPECT_TRUE(failureOf(write("/a", "POST", "{}")).has_value());
+}
+
+TEST_F(HttpFaults, NoAnswerInTime)
+{
+    server.answer(RawAnswer::nothing(Ending::Stall));
+    const TaskResult<HttpAnswer> result(session->send(request("/a")));
+    ASSERT_TRUE(arrive(1));
+    clock.advance(60s);
+    ASSERT_TRUE(result.isDone());
+    EXPECT_THROW(result.value(), TransportError);
+    EXPECT_TRUE(runUntil([&] { return server.openConnections() == 0; }));
+}
+
+TEST_F(HttpFaults, ABodyThatStops)
+{
+    server.answer(RawAnswer::json("[1,2,3]").cut(3, Ending::Stall));
+    const TaskResult<HttpAnswer> result(session->send(request("/a")));
+    ASSERT_TRUE(arrive(1));
+    clock.advance(60s);
+    ASSERT_TRUE(result.isDone());
+    EXPECT_THROW(result.value(), TransportError);
+}
+
+TEST_F(HttpFaults, APackedBodyIsUnpacked)
+{
+    const QByteArray text = "{\"a\":\"" + QByteArray(500000, 'x') + "\"}";
+    server.answer(RawAnswer::http(200, packed(text), {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(answerTo(request("/a")).body, text);
+    EXPECT_EQ(server.journal().last().header("Accept-Encoding"), "gzip");
+}
+
+TEST_F(HttpFaults, ADamagedPackedBody)
+{
+    QByteArray bytes = packed(QByteArray(5000, 'x'));
+    bytes[20] = char(~bytes[20]);
+    server.answer(RawAnswer::http(200, bytes, {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(failureOf(request("/a")), Kind::Broken);
+}
+
+TEST_F(HttpFaults, ABodyThatIsNotPackedThoughItSaysSo)
+{
+    server.answer(RawAnswer::http(200, "{}", {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(failureOf(request("/a")), Kind::Broken);
+}
+
+TEST_F(HttpFaults, APackedBodyCutShort)
+{
+    const QByteArray bytes = packed(QByteArray(5000, 'x'));
+    server.answer(RawAnswer::http(200, bytes.chopped(4), {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(failureOf(request("/a")), Kind::Broken);
+}
+
+TEST_F(HttpFaults, ABodyPackedInAWayThatNobodyAskedFor)
+{
+    server.answer(RawAnswer::http(200, "xyz", {{"Content-Encoding", "br"}}));
+    EXPECT_EQ(failureOf(request("/a")), Kind::Broken);
+}
+
+TEST_F(HttpFaults, AnEmptyBodyIsWholeThoughItSaysThatItIsPacked)
+{
+    server.answer(RawAnswer::http(200, {}, {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(answerTo(request("/a")).body, QByteArray());
+}
+
+TEST_F(HttpFaults, ABodyOf100MegabytesEndsBeforeItIsHeld)
+{
+    constexpr qint64 size = 100 * 1024 * 1024;
+    server.answer(RawAnswer::large(size, size, "application/json"));
+    EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);
+}
+
+TEST_F(HttpFaults, ASmallBodyThatUnpacksTo100Megabytes)
+{
+    const QByteArray bytes = packed(QByteArray(100 * 1024 * 1024, ' '));
+    ASSERT_LT(bytes.size(), 1024 * 1024);
+    server.answer(RawAnswer::http(200, bytes, {{"Content-Encoding", "gzip"}}));
+    EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);
+}
+
+} // namespace

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QByteArray>
+
+/// The bytes as a server sends them with `Content-Encoding: gzip`.
+QByteArray packed(const QByteArray &bytes);
