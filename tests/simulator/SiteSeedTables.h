@@ -1,0 +1,18 @@
+#pragma once
+
+#include "simulator/Site.h"
+
+/// What a made-up company consists of before it has issues.
+namespace SiteSeedTables {
+
+QList<SiteUser> users();
+QList<SitePriority> priorities();
+QList<SiteSprint> sprints();
+QList<SiteProject> projects();
+const QStringList &actions();
+const QStringList &things();
+const QStringList &circumstances();
+const QStringList &sentences();
+const QStringList &labels();
+
+} // namespace SiteSeedTables

@@ -1,0 +1,44 @@
+/// A Jira site of 300 issues and one of 5,000, to sign in to without an account. Runs until it is interrupted.
+#include "simulator/SimulatedSite.h"
+#include "simulator/SiteSeed.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A site that lives in the present.
+Site presentCompany(int issues)
+{
+    Site site = SiteSeed::company(issues, QDateTime::currentDateTimeUtc());
+    site.now = [] { return QDateTime::currentDateTimeUtc(); };
+    site.zone = QTimeZone::systemTimeZone();
+    return site;
+}
+
+void tell(SimulatedSite &simulated)
+{
+    const Site &site = simulated.site();
+    std::printf("Site of %5lld issues  %s\n", qlonglong(site.issues().size()),
+                qPrintable(simulated.url().toString()));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    SimulatedSite small(presentCompany(300));
+    SimulatedSite large(presentCompany(5000));
+    tell(small);
+    tell(large);
+    std::printf("E-mail                %s (none: the token is taken as a personal access token)\n"
+                "Token                 %s\n"
+                "Ctrl+C ends it.\n",
+                qPrintable(small.site().email), qPrintable(small.site().token));
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}
