@@ -22,6 +22,9 @@ HttpExchange::~HttpExchange()
 void HttpExchange::start(QNetworkAccessManager &shared)
 {
     m_shared = &shared;
+    // The network stack would open files of this machine too.
+    if (!Redirects::isAddress(m_request.url))
+        return finish(std::unexpected(TransportError::Kind::Broken));
     transmit();
 }
 

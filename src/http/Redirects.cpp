@@ -25,6 +25,12 @@ HttpRequest asGet(HttpRequest request)
 
 } // namespace
 
+bool Redirects::isAddress(const QUrl &url)
+{
+    const QString scheme = url.scheme();
+    return (scheme == "https"_L1 || scheme == "http"_L1) && !url.host().isEmpty();
+}
+
 bool Redirects::isRedirect(int status, const QByteArray &location)
 {
     const bool sendsElsewhere = (status >= 301 && status <= 303) || status == 307 || status == 308;
@@ -38,10 +44,9 @@ Redirects::next(const HttpRequest &request, int status, const QByteArray &locati
     HttpRequest next = becomesGet(request.verb, status) ? asGet(request) : request;
     next.url = request.url.resolved(QUrl::fromEncoded(location));
     next.url.setFragment(QString());
-    const QString scheme = next.url.scheme();
-    if (request.url.scheme() == "https"_L1 && scheme != "https"_L1)
+    if (request.url.scheme() == "https"_L1 && next.url.scheme() != "https"_L1)
         return std::unexpected(Kind::UnsafeRedirect);
-    if ((scheme != "https"_L1 && scheme != "http"_L1) || next.url.host().isEmpty())
+    if (!isAddress(next.url))
         return std::unexpected(Kind::Broken);
     if (next.body && Origin::of(next.url) != Origin::of(request.url))
         return std::unexpected(Kind::ForeignRedirect);

@@ -11,6 +11,9 @@ namespace Redirects {
 /// The most redirects that one request follows.
 inline constexpr int Most = 10;
 
+/// True for an address that requests may go to: one of http or https, with a host.
+bool isAddress(const QUrl &url);
+
 /// True for an answer that sends a request to `location`, which may be relative.
 bool isRedirect(int status, const QByteArray &location);
 

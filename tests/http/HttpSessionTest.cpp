@@ -115,6 +115,16 @@ TEST_F(HttpSessionTest, ANameInTheAddressAnswersNoChallenge)
     EXPECT_EQ(server.journal().first().header("Authorization"), Secret);
 }
 
+TEST_F(HttpSessionTest, AnAddressThatIsNoHTTPIsNotOpened)
+{
+    HttpRequest sent = request("/a");
+    for (const QString &address :
+         {u"file:///etc/hostname"_s, u"data:,x"_s, u"qrc:/x"_s, u"ftp://127.0.0.1/"_s, QString()}) {
+        sent.url = QUrl(address);
+        EXPECT_EQ(failureOf(sent), Kind::Broken) << address.toStdString();
+    }
+}
+
 TEST_F(HttpSessionTest, AStopEndsARequestAtOnce)
 {
     server.answer(RawAnswer::nothing(Ending::Stall));
