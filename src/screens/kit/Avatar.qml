@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.Model
 import Velmora.Kit
 
-/// The disc of a person, or, without `hasUser`, the dashed ring of nobody. Its name is its hint.
+/// A person: the picture where there is one, until then and otherwise the disc with initials; or, without `hasUser`, the
+/// dashed ring of nobody. Its name is its hint.
 DrawnIcon {
     id: avatar
 
@@ -12,8 +13,14 @@ DrawnIcon {
     readonly property string personName: hasUser ? user.name : "Non assigné"
 
     side: size
-    source: hasUser ? Pictures.avatar(user, size) : Pictures.nobody(size)
+    source: !hasUser ? Pictures.nobody(size) : picture.roundSource.toString() ? picture.roundSource : Pictures.avatar(user, size)
     Accessible.name: personName
+
+    RemotePicture {
+        id: picture
+
+        address: avatar.hasUser ? Pictures.avatarAddress(avatar.user) : ""
+    }
 
     HoverHandler {
         id: pointer

@@ -1,5 +1,6 @@
 #include "screens/kit/KitProviders.h"
 
+#include "screens/kit/images/PictureProvider.h"
 #include "screens/kit/providers/IconProvider.h"
 #include "screens/kit/providers/SymbolProvider.h"
 
@@ -12,4 +13,5 @@ void registerKitProviders(QQmlEngine &engine)
     // The engine takes each of them over.
     engine.addImageProvider(u"symbol"_s, std::make_unique<SymbolProvider>().release());
     engine.addImageProvider(u"icon"_s, std::make_unique<IconProvider>().release());
+    engine.addImageProvider(u"picture"_s, std::make_unique<PictureProvider>().release());
 }

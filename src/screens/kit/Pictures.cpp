@@ -89,6 +89,11 @@ QUrl Pictures::avatar(const JiraUser &user, qreal size) const
                     {u"c"_s, hex(IdentityColors::person(user.id))}});
 }
 
+QUrl Pictures::avatarAddress(const JiraUser &user) const
+{
+    return user.avatarURL.value_or(QUrl());
+}
+
 QUrl Pictures::nobody(qreal size) const
 {
     return address(u"icon"_s, u"nobody"_s, {{u"s"_s, number(size)}});

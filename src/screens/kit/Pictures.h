@@ -27,6 +27,8 @@ public:
     Q_INVOKABLE QUrl project(const Project &project, qreal size) const;
     /// The coloured disc with initials that stands for a person without a picture.
     Q_INVOKABLE QUrl avatar(const JiraUser &user, qreal size) const;
+    /// Where a person's own picture is to be had; empty without one.
+    Q_INVOKABLE QUrl avatarAddress(const JiraUser &user) const;
     Q_INVOKABLE QUrl nobody(qreal size) const;
     Q_INVOKABLE QUrl spinner(qreal size, const QColor &color) const;
     /// Of side `size` + 2 × `glyphMargin`.

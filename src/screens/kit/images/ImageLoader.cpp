@@ -1,0 +1,112 @@
+#include "screens/kit/images/ImageLoader.h"
+
+#include "async/Spawn.h"
+#include "async/WhileAlive.h"
+#include "model/Failure.h"
+
+#include <QCoro/QCoroFuture>
+
+namespace {
+
+/// Pictures being decoded at the same time: each may take some 100 MB.
+constexpr int decoders = 2;
+constexpr int firstRefusedStatus = 400;
+
+void settle(QPromise<QImage> &promise, const QImage &image)
+{
+    promise.addResult(image);
+    promise.finish();
+}
+
+QCoro::Task<QImage> resultOf(QFuture<QImage> future)
+{
+    co_return co_await future;
+}
+
+} // namespace
+
+ImageLoader &ImageLoader::shared()
+{
+    static ImageLoader loader;
+    return loader;
+}
+
+ImageLoader::~ImageLoader()
+{
+    // Whoever still waits is given nothing: a future that never finishes would hold them for ever.
+    for (const auto &promise : std::as_const(m_pending))
+        settle(*promise, {});
+}
+
+std::optional<QString> ImageLoader::authorizationFor(const QUrl &url) const
+{
+    const QString host = url.host(QUrl::FullyEncoded);
+    const bool isOfSite = m_authHost && !host.isEmpty() && host == *m_authHost;
+    return isOfSite ? m_authHeader : std::nullopt;
+}
+
+QCoro::Task<QImage> ImageLoader::image(QUrl url)
+{
+    const auto known = m_cache.constFind(url);
+    if (known != m_cache.cend())
+        co_return *known;
+    co_return co_await sharedRequest(url);
+}
+
+QFuture<QImage> ImageLoader::sharedRequest(const QUrl &url)
+{
+    auto &promise = m_pending[url];
+    if (promise)
+        return promise->future();
+    promise = std::make_shared<QPromise<QImage>>();
+    promise->start();
+    // A copy: an answer that comes at once takes the promise out of the map.
+    const auto future = promise->future();
+    spawn(load(url));
+    return future;
+}
+
+QCoro::Task<> ImageLoader::load(QUrl url)
+{
+    const QByteArray body = co_await whileAlive(this, bytes(url));
+    const QImage image = co_await whileAlive(this, decoded(body));
+    finish(url, image);
+}
+
+QCoro::Task<QByteArray> ImageLoader::bytes(QUrl url)
+{
+    if (!m_fetcher)
+        co_return QByteArray();
+    const ImageRequest request{
+        .url = url, .authorization = authorizationFor(url), .mostBytes = ImageLimits().bytes};
+    try {
+        const ImageAnswer answer = co_await m_fetcher->fetch(request);
+        co_return answer.status < firstRefusedStatus ? answer.body : QByteArray();
+    } catch (const Failure &) {
+        co_return QByteArray();
+    }
+}
+
+QCoro::Task<QImage> ImageLoader::decoded(QByteArray bytes)
+{
+    if (bytes.isEmpty())
+        return resultOf(QtFuture::makeReadyFuture(QImage()));
+    m_decoders.setMaxThreadCount(decoders);
+    auto promise = std::make_shared<QPromise<QImage>>();
+    promise->start();
+    m_decoders.start([promise, bytes] { settle(*promise, decodedImage(bytes)); });
+    return resultOf(promise->future());
+}
+
+void ImageLoader::finish(const QUrl &url, const QImage &image)
+{
+    if (!image.isNull())
+        m_cache.insert(url, image);
+    if (const auto promise = m_pending.take(url))
+        settle(*promise, image);
+}
+
+void ImageLoader::forget()
+{
+    m_cache.clear();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "screens/kit/images/ImageFetcher.h"
+#include "support/ScriptedCall.h"
+
+/// A road to pictures on which a test answers.
+class ScriptedFetcher final : public ImageFetcher
+{
+public:
+    ~ScriptedFetcher() override { calls.cancelPending(); }
+    QCoro::Task<ImageAnswer> fetch(ImageRequest request) override
+    {
+        return calls.call({}, std::move(request));
+    }
+
+    ScriptedCalls<ImageAnswer, ImageRequest> calls;
+};
