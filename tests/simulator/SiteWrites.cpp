@@ -2,9 +2,9 @@
 
 #include "simulator/DocumentCheck.h"
 #include "simulator/FieldCheck.h"
-#include "simulator/MultipartForm.h"
 #include "simulator/SiteJson.h"
 #include "simulator/SiteReply.h"
+#include "simulator/UploadForm.h"
 
 #include <QJsonDocument>
 
@@ -203,7 +203,7 @@ RawAnswer SiteWrites::upload(Site &site, const SiteRoute &route, const RawReques
     if (request.body.size() > site.largestUpload)
         return SiteReply::refused(413, {u"Le fichier dépasse la taille autorisée."_s});
     QJsonArray stored;
-    for (const FormFile &file : *files)
+    for (const UploadedFile &file : *files)
         stored += SiteJson::attachment(site, site.attach(*issue, {.filename = file.filename,
                                                                   .mimeType = file.mimeType,
                                                                   .content = file.content}));

@@ -7,7 +7,7 @@
 #include <optional>
 
 /// A file of a form, as a browser or a program sends it.
-struct FormFile
+struct UploadedFile
 {
     QString filename;
     QString mimeType;
@@ -16,4 +16,5 @@ struct FormFile
 
 /// The files of a body of the type "multipart/form-data"; nothing when it is no such form, is cut short, or has a part
 /// that is no file under the name "file".
-std::optional<QList<FormFile>> filesOfForm(const QByteArray &contentType, const QByteArray &body);
+std::optional<QList<UploadedFile>> filesOfForm(const QByteArray &contentType,
+                                               const QByteArray &body);

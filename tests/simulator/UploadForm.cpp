@@ -1,4 +1,4 @@
-#include "simulator/MultipartForm.h"
+#include "simulator/UploadForm.h"
 
 #include <QRegularExpression>
 
@@ -9,7 +9,7 @@ namespace {
 constexpr QByteArrayView endOfHead = "\r\n\r\n";
 
 /// What a part says of itself and what it holds; the line end before the next boundary is not part of it.
-std::optional<FormFile> fileOf(const QByteArray &part)
+std::optional<UploadedFile> fileOf(const QByteArray &part)
 {
     static const QRegularExpression disposition(
         u"^Content-Disposition: form-data; name=\"file\"; filename=\"([^\"]*)\"$"_s,
@@ -24,20 +24,21 @@ std::optional<FormFile> fileOf(const QByteArray &part)
     const auto name = disposition.match(head);
     if (!name.hasMatch())
         return {};
-    return FormFile{name.captured(1), type.match(head).captured(1),
-                    part.sliced(end + endOfHead.size())};
+    return UploadedFile{name.captured(1), type.match(head).captured(1),
+                        part.sliced(end + endOfHead.size())};
 }
 
 } // namespace
 
-std::optional<QList<FormFile>> filesOfForm(const QByteArray &contentType, const QByteArray &body)
+std::optional<QList<UploadedFile>> filesOfForm(const QByteArray &contentType,
+                                               const QByteArray &body)
 {
     static constexpr QByteArrayView form = "multipart/form-data; boundary=";
     if (!contentType.startsWith(form))
         return {};
     const QByteArray line = "\r\n--" + contentType.sliced(form.size());
     const QByteArray all = "\r\n" + body;
-    QList<FormFile> files;
+    QList<UploadedFile> files;
     qsizetype begin = all.indexOf(line);
     while (begin >= 0) {
         const qsizetype end = all.indexOf(line, begin + line.size());

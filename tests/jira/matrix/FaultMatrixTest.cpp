@@ -1,0 +1,202 @@
+#include "jira/JiraClient.h"
+#include "jira/matrix/Fault.h"
+#include "jira/matrix/Operation.h"
+#include "jira/matrix/Scratch.h"
+#include "simulator/RawServer.h"
+#include "support/ManualClock.h"
+#include "support/RunUntil.h"
+#include "support/TaskResult.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDirIterator>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString token = u"Zr7kQ2token9vXw"_s;
+const QString email = u"camille@lumen.example"_s;
+
+/// One operation on a site that fails in one way.
+class FaultMatrix : public testing::TestWithParam<std::tuple<Operation, Fault>>
+{
+protected:
+    FaultMatrix()
+    {
+        if (fault().place == Fault::Place::Port)
+            server.stopListening();
+        server.answer(fault().answer);
+    }
+
+    static const Operation &operation() { return std::get<Operation>(GetParam()); }
+    static const Fault &fault() { return std::get<Fault>(GetParam()); }
+
+    static std::optional<Certificates::Kind> certificate()
+    {
+        return fault().place == Fault::Place::Certificate ? std::optional(fault().certificate)
+                                                          : std::nullopt;
+    }
+
+    QUrl site() const
+    {
+        return fault().place == Fault::Place::Name ? QUrl(u"http://jira.invalid"_s) : server.url();
+    }
+
+    /// What the user reads; nothing when the operation succeeds.
+    static std::optional<QString> expected()
+    {
+        const Fault::Texts &texts = fault().texts;
+        switch (operation().kind) {
+        case Operation::Kind::ReadsAnswer:
+            return texts.reading;
+        case Operation::Kind::ReadsList:
+            return texts.readingList.value_or(texts.reading);
+        case Operation::Kind::IgnoresAnswer:
+            return texts.ignoring.value_or(texts.reading);
+        case Operation::Kind::Upload:
+            return texts.upload.value_or(texts.readingList.value_or(texts.reading));
+        case Operation::Kind::Download:
+            return texts.download.value_or(texts.reading);
+        case Operation::Kind::Local:
+            return std::nullopt;
+        }
+        Q_UNREACHABLE();
+    }
+
+    /// Lets the operation end. Where the fault is that nothing comes, time goes by each time the server has been asked.
+    bool ends(const TaskResult<void> &result)
+    {
+        if (fault().place != Fault::Place::Time)
+            return runUntil([&] { return result.isDone(); });
+        for (qsizetype asked = 0; !result.isDone(); asked = server.journal().size()) {
+            if (!runUntil([&] { return result.isDone() || server.journal().size() > asked; }))
+                return false;
+            letPartsArrive();
+            clock.advance(31s);
+        }
+        return true;
+    }
+
+    /// What the server has sent may take a moment to the client's thread; so short that nothing else depends on it.
+    static void letPartsArrive()
+    {
+        const QDeadlineTimer moment(3ms);
+        while (!moment.hasExpired())
+            QCoreApplication::processEvents();
+    }
+
+    static QStringList filesInCache()
+    {
+        QStringList files;
+        QDirIterator all(cacheFolder(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (all.hasNext())
+            files += all.next();
+        return files;
+    }
+
+    static QString cacheFolder() { return Scratch::folder() + u"/attachments"_s; }
+
+    static QUrl fileToUpload()
+    {
+        QFile file(Scratch::folder() + u"/plan.txt"_s);
+        if (!file.exists() && file.open(QIODevice::WriteOnly))
+            file.write("plan\n");
+        return QUrl::fromLocalFile(file.fileName());
+    }
+
+    void TearDown() override { QDir(cacheFolder()).removeRecursively(); }
+
+    const Certificates::TrustedAuthority trusted;
+    ManualClock clock;
+    RawServer server{certificate()};
+    JiraClient client{
+        JiraCredentials{site(), email, token}, clock,
+        UserCalendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")},
+        cacheFolder()};
+};
+
+/// What a failed operation says; nothing of one that succeeded.
+std::optional<QString> failureOf(const TaskResult<void> &result)
+{
+    try {
+        result.value();
+    } catch (const Failure &failure) {
+        return failure.message();
+    }
+    return std::nullopt;
+}
+
+/// For people to read. What is expected may end with an ellipsis; then as much is as good as all.
+std::string spoken(const std::optional<QString> &text,
+                   const std::optional<QString> &beginning = std::nullopt)
+{
+    const bool isEnough = text && beginning && beginning->endsWith(u'…') &&
+                          text->size() > beginning->size() &&
+                          text->startsWith(beginning->chopped(1));
+    return (isEnough ? beginning : text).value_or(u"(success)"_s).toStdString();
+}
+
+std::string nameOf(const testing::TestParamInfo<FaultMatrix::ParamType> &info)
+{
+    return std::get<Operation>(info.param).name + std::string("_") +
+           std::get<Fault>(info.param).name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Transport, FaultMatrix,
+                         testing::Combine(testing::ValuesIn(allOperations()),
+                                          testing::ValuesIn(transportFaults())),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Refusals, FaultMatrix,
+                         testing::Combine(testing::ValuesIn(allOperations()),
+                                          testing::ValuesIn(refusals())),
+                         nameOf);
+
+TEST_P(FaultMatrix, EndsInTheRightWords)
+{
+    const TaskResult<void> result(operation().start(client, fileToUpload()));
+    ASSERT_TRUE(ends(result)) << "the operation never ended";
+
+    const std::optional<QString> said = failureOf(result);
+    EXPECT_EQ(spoken(said, expected()), spoken(expected()));
+
+    // Whatever became of it, a change has been asked for once at most.
+    const bool isRedirected = fault().answer.bytes.contains("Location:");
+    if (operation().effect == Operation::Effect::ChangesSite && !isRedirected)
+        EXPECT_LE(server.journal().size(), 1);
+    if (operation().kind == Operation::Kind::Local)
+        EXPECT_EQ(server.connections(), 0);
+    // A failed download leaves nothing behind.
+    if (said)
+        EXPECT_EQ(filesInCache(), QStringList());
+    EXPECT_EQ(Scratch::filesWith(token.toUtf8()), QStringList());
+}
+
+/// Comes after the matrix, because suites with parameters run in the order of this file.
+class SecretsAfterTheMatrix : public testing::TestWithParam<QByteArray>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Forms, SecretsAfterTheMatrix,
+                         testing::Values(token.toUtf8(), token.toUtf8().toBase64(),
+                                         (email + u':' + token).toUtf8().toBase64()));
+
+TEST_P(SecretsAfterTheMatrix, AreInNoFile)
+{
+    EXPECT_EQ(Scratch::filesWith(GetParam()), QStringList());
+}
+
+TEST_P(SecretsAfterTheMatrix, WouldBeFoundIfTheyWere)
+{
+    QFile file(Scratch::folder() + u"/.hidden"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("x" + GetParam() + "x");
+    file.close();
+    EXPECT_EQ(Scratch::filesWith(GetParam()), QStringList{file.fileName()});
+    file.remove();
+}
+
+} // namespace
