@@ -13,6 +13,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_ThemePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_IssuesPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_PalettePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 
 VelmoraApp::VelmoraApp(Outside outside) : m_outside(std::move(outside)), m_store(context())

@@ -1,5 +1,6 @@
 #include "shell/KeyMonitor.h"
 
+#include "state/CreateScreen.h"
 #include "state/KeyPress.h"
 #include "state/KeyRouting.h"
 #include "state/ShortcutKey.h"
@@ -29,12 +30,13 @@ void KeyMonitor::setStore(AppStore *store)
 
 namespace {
 
-/// The create screen and the commands of the palette do not exist yet; asking for them would only take the keyboard away.
+/// Asking for a screen that is not there would only take the keyboard away.
 bool hasNoScreenYet(const KeyPress &press)
 {
     const auto shortcut = shortcutCommand(press);
-    return shortcut == ShortcutCommand::NewIssue || shortcut == ShortcutCommand::CommandPalette ||
-           (!shortcut && route(press) == KeyCommand::NewIssue);
+    const bool isNewIssue =
+        shortcut == AppCommand::NewIssue || (!shortcut && route(press) == KeyCommand::NewIssue);
+    return isNewIssue && !hasCreateScreen;
 }
 
 } // namespace

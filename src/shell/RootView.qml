@@ -1,8 +1,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
 import Velmora.Kit
+import Velmora.Palette
 import Velmora.State
 import Velmora.Theme
 
@@ -48,7 +48,7 @@ Window {
         }
     }
 
-    PickerOverlay {
+    PaletteLayer {
         anchors.fill: parent
         store: root.store
     }

@@ -105,6 +105,8 @@ public:
     /// The present to the minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
+    /// For screens that wait.
+    Clock &clock() const { return m_context.clock; }
     IssueListModel *issueList() { return &m_issueList; }
     /// Follows the lists while the layout is the board.
     BoardModel *board() { return &m_board; }
@@ -120,6 +122,8 @@ public:
     void assign(const QStringList &keys, const std::optional<JiraUser> &user);
     /// Takes the label off when all issues have it, else adds it where it is missing.
     void toggleLabel(const QString &label, const QStringList &keys);
+    /// Adds the label behind their own to the issues that have it not.
+    void addLabel(const QString &label, const QStringList &keys);
     void setLabels(const QStringList &labels, const QString &key);
     void rename(const QString &key, const QString &title);
     /// A text without a word clears the description.
@@ -150,6 +154,8 @@ public:
     /// A click on a row or a card with these `Qt::KeyboardModifiers`.
     Q_INVOKABLE void handleClick(const QString &key, int modifiers = 0);
     Q_INVOKABLE void toggleCheck(const QString &key);
+    /// Takes the focus to the issue and shows it in the inspector.
+    void openInInspector(const QString &key);
     /// Closes the inspector, or opens it on the focused issue, else on the first one shown.
     Q_INVOKABLE void togglePeek();
     bool showInspector() const { return m_inspectorKey->has_value(); }
@@ -168,10 +174,11 @@ public:
     bool handleKey(const KeyPress &press);
     /// The same for the shortcuts of the menus, which also count while the user types.
     bool handleShortcut(const KeyPress &press);
-    void run(ShortcutCommand command);
+    void run(AppCommand command);
     /// A picker for the targets, or a toast that asks for one; the same for the assignment.
     void openPicker(PickerKind kind);
     void assignToMe();
+    void assignToMe(const QStringList &keys);
     Q_INVOKABLE void togglePalette();
     QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
     QList<IssueStatus> statusOptions(const QStringList &keys) const;
@@ -215,6 +222,8 @@ Q_SIGNALS:
     void activityHeaderChanged();
     /// Asks for the window of an issue of its own.
     void openWindowRequested(const QString &key);
+    /// Asks for the window of the settings.
+    void settingsRequested();
 
 private:
     enum class SessionKind { Real, Demo };

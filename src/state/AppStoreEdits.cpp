@@ -46,6 +46,15 @@ void AppStore::toggleLabel(const QString &label, const QStringList &keys)
     carryOut(labelToggleEdits(knownIssues(keys), label));
 }
 
+void AppStore::addLabel(const QString &label, const QStringList &keys)
+{
+    IssueList issues = knownIssues(keys);
+    issues.removeIf([&](const SharedIssue &issue) { return issue->labels.contains(label); });
+    carryOut(neededEdits(issues, [&](const Issue &issue) {
+        return labelsEdit(issue, issue.labels + QStringList{label});
+    }));
+}
+
 void AppStore::setLabels(const QStringList &labels, const QString &key)
 {
     carryOut(neededEdits(knownIssues({key}),

@@ -12,7 +12,7 @@ bool AppStore::handleKey(const KeyPress &press)
 bool AppStore::handleShortcut(const KeyPress &press)
 {
     const auto command = shortcutCommand(press);
-    const bool isDisabled = command == ShortcutCommand::NewIssue && *m_phase != Phase::Ready;
+    const bool isDisabled = command == AppCommand::NewIssue && *m_phase != Phase::Ready;
     if (!command || isDisabled)
         return false;
     run(*command);
@@ -66,28 +66,38 @@ bool AppStore::run(KeyCommand command, FocusMove move)
     return false;
 }
 
-void AppStore::run(ShortcutCommand command)
+void AppStore::run(AppCommand command)
 {
     switch (command) {
-    case ShortcutCommand::NewIssue:
+    case AppCommand::NewIssue:
         return newIssue();
-    case ShortcutCommand::CommandPalette:
+    case AppCommand::CommandPalette:
         return togglePalette();
-    case ShortcutCommand::Reload:
+    case AppCommand::Reload:
         return refresh();
-    case ShortcutCommand::CopyKey:
+    case AppCommand::ChangeStatus:
+        return openPicker(PickerKind::Status);
+    case AppCommand::ChangePriority:
+        return openPicker(PickerKind::Priority);
+    case AppCommand::ChangeAssignee:
+        return openPicker(PickerKind::Assignee);
+    case AppCommand::AssignToMe:
+        return assignToMe();
+    case AppCommand::ChangeLabels:
+        return openPicker(PickerKind::Labels);
+    case AppCommand::CopyKey:
         return copyKeys();
-    case ShortcutCommand::CopyBranch:
+    case AppCommand::CopyBranch:
         return copyBranch();
-    case ShortcutCommand::CopyLink:
+    case AppCommand::CopyLink:
         return copyLink();
-    case ShortcutCommand::OpenInBrowser:
+    case AppCommand::OpenInBrowser:
         return openInBrowser();
-    case ShortcutCommand::ShowList:
+    case AppCommand::ShowList:
         return setLayout(LayoutMode::List);
-    case ShortcutCommand::ShowBoard:
+    case AppCommand::ShowBoard:
         return setLayout(LayoutMode::Board);
-    case ShortcutCommand::TogglePeek:
+    case AppCommand::TogglePeek:
         return togglePeek();
     }
 }
@@ -105,9 +115,14 @@ void AppStore::togglePalette()
 
 void AppStore::assignToMe()
 {
-    const auto keys = targetsOrToast();
+    if (const auto keys = targetsOrToast(); !keys.isEmpty())
+        assignToMe(keys);
+}
+
+void AppStore::assignToMe(const QStringList &keys)
+{
     // While the account is unknown, assigning to it would take everybody off.
-    if (!keys.isEmpty() && *m_me)
+    if (*m_me)
         assign(keys, *m_me);
 }
 

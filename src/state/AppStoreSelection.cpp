@@ -24,6 +24,14 @@ void AppStore::toggleCheck(const QString &key)
     setSelection(afterToggleCheck(selection(), key));
 }
 
+void AppStore::openInInspector(const QString &key)
+{
+    const QString opened = key;
+    const Batch batch(*this);
+    m_focusedKey.set(opened);
+    m_inspectorKey.set(opened);
+}
+
 void AppStore::togglePeek()
 {
     setSelection(afterTogglePeek(selection(), flatVisibleKeys()));

@@ -1,4 +1,5 @@
 #include "state/AppStore.h"
+#include "state/AppearanceWords.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,25 +18,6 @@ AppearanceMode following(AppearanceMode mode)
         return AppearanceMode::Dark;
     case AppearanceMode::Dark:
         return AppearanceMode::System;
-    }
-    Q_UNREACHABLE();
-}
-
-struct AppearanceWords
-{
-    QString label;
-    QString symbol;
-};
-
-AppearanceWords words(AppearanceMode mode)
-{
-    switch (mode) {
-    case AppearanceMode::System:
-        return {u"Système"_s, u"circle.lefthalf.filled"_s};
-    case AppearanceMode::Light:
-        return {u"Clair"_s, u"sun.max.fill"_s};
-    case AppearanceMode::Dark:
-        return {u"Sombre"_s, u"moon.fill"_s};
     }
     Q_UNREACHABLE();
 }
@@ -69,6 +51,5 @@ void AppStore::report(const TaskFailure &failure)
 void AppStore::cycleAppearance()
 {
     setAppearance(following(*m_appearance));
-    const auto [label, symbol] = words(*m_appearance);
-    toast(u"Apparence : "_s + label, symbol);
+    toast(u"Apparence : "_s + appearanceLabel(*m_appearance), appearanceSymbol(*m_appearance));
 }

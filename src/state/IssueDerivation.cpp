@@ -198,6 +198,12 @@ const IssueDerivationMenus &IssueDerivation::menus() const
         .value;
 }
 
+const SearchTexts &IssueDerivation::searchTexts() const
+{
+    index();
+    return m_index.texts();
+}
+
 int IssueDerivation::timesComputed(Step step) const
 {
     switch (step) {

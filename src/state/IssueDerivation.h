@@ -39,6 +39,8 @@ public:
     /// The keys of what the present layout shows, in the order in which it is read; without collapsed groups in a list.
     const QStringList &flatVisibleKeys() const;
     const IssueDerivationMenus &menus() const;
+    /// The texts of all issues, in the order of the inputs.
+    const SearchTexts &searchTexts() const;
 
     /// How often the step was computed.
     int timesComputed(Step step) const;

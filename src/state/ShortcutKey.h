@@ -1,23 +1,10 @@
 #pragma once
 
+#include "state/AppCommand.h"
 #include "state/KeyPress.h"
 
 #include <optional>
 #include <span>
-
-/// What a shortcut of the menus asks for.
-enum class ShortcutCommand {
-    NewIssue,
-    CommandPalette,
-    Reload,
-    CopyKey,
-    CopyBranch,
-    CopyLink,
-    OpenInBrowser,
-    ShowList,
-    ShowBoard,
-    TogglePeek,
-};
 
 /// The shortcut of one menu command.
 struct ShortcutKey
@@ -29,10 +16,10 @@ struct ShortcutKey
     /// Of Control, Alt and Meta, exactly these.
     Qt::KeyboardModifiers flags;
     Shift shift = Shift::NotHeld;
-    ShortcutCommand command;
+    AppCommand command;
 };
 
-/// The shortcuts of all menu commands. No two rows have the same key, flags and Shift.
+/// The shortcuts of the menu commands that have one. No two rows have the same key, flags and Shift.
 std::span<const ShortcutKey> shortcutKeys();
 
 /// The menu command of a press; nothing when it is no shortcut.
@@ -44,4 +31,4 @@ std::span<const ShortcutKey> shortcutKeys();
 /// 2. by what it types with Shift, as a press without Shift: the "." that AZERTY has only with Shift;
 /// 3. by its place on a QWERTY keyboard, with Shift as it is held, unless the layout has a Latin letter there: the key
 ///    ":" of AZERTY for ".", the digits of AZERTY and BÉPO, and all letters under other scripts.
-std::optional<ShortcutCommand> shortcutCommand(const KeyPress &press);
+std::optional<AppCommand> shortcutCommand(const KeyPress &press);

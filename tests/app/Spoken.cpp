@@ -8,8 +8,9 @@ void collect(QAccessibleInterface *node, const QPoint &origin, QList<Spoken> &fo
 {
     if (!node || node->state().invisible)
         return;
-    found.push_back({node->role(), node->text(QAccessible::Name), node->state(),
-                     node->rect().translated(-origin)});
+    found.push_back({node->role(), node->text(QAccessible::Name),
+                     node->text(QAccessible::Description), node->text(QAccessible::Value),
+                     node->state(), node->rect().translated(-origin)});
     for (int i = 0; i < node->childCount(); ++i)
         collect(node->child(i), origin, found);
 }

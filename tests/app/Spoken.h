@@ -11,6 +11,8 @@ struct Spoken
 {
     QAccessible::Role role = QAccessible::NoRole;
     QString name;
+    QString description;
+    QString value;
     QAccessible::State state;
     /// In the window's coordinates, logical pixels.
     QRect box;

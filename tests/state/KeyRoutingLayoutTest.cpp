@@ -57,7 +57,7 @@ class KeyMapUnderLayout : public testing::TestWithParam<Layout>
 {
 protected:
     /// All presses with the modifiers that lead to the command, Shift written as a negative scan code.
-    std::set<int> pressesOf(ShortcutCommand command, Qt::KeyboardModifiers modifiers,
+    std::set<int> pressesOf(AppCommand command, Qt::KeyboardModifiers modifiers,
                             Own own = Own::Known) const
     {
         std::set<int> presses;
@@ -137,14 +137,14 @@ TEST_P(KeyMapUnderLayout, NamedKeysWork)
 
 TEST_P(KeyMapUnderLayout, CopyingTheKeyAndTheBranchAreTwoCommands)
 {
-    EXPECT_EQ(pressesOf(ShortcutCommand::CopyKey, Qt::ControlModifier), GetParam().copyKey);
-    EXPECT_EQ(pressesOf(ShortcutCommand::CopyBranch, Qt::ControlModifier), GetParam().copyBranch);
-    EXPECT_EQ(pressesOf(ShortcutCommand::CopyLink, Qt::ControlModifier), GetParam().copyLink);
+    EXPECT_EQ(pressesOf(AppCommand::CopyKey, Qt::ControlModifier), GetParam().copyKey);
+    EXPECT_EQ(pressesOf(AppCommand::CopyBranch, Qt::ControlModifier), GetParam().copyBranch);
+    EXPECT_EQ(pressesOf(AppCommand::CopyLink, Qt::ControlModifier), GetParam().copyLink);
 }
 
 TEST_P(KeyMapUnderLayout, CopyingTheKeyNeedsNoShift)
 {
-    const auto presses = pressesOf(ShortcutCommand::CopyKey, Qt::ControlModifier);
+    const auto presses = pressesOf(AppCommand::CopyKey, Qt::ControlModifier);
     EXPECT_TRUE(std::ranges::any_of(presses, [](int press) { return press > 0; }));
 }
 
@@ -152,17 +152,17 @@ TEST_P(KeyMapUnderLayout, EveryShortcutIsOnOneOfItsKeysAlone)
 {
     for (const ShortcutKey &key : shortcutKeys())
         EXPECT_FALSE(pressesOf(key.command, key.flags).empty()) << int(key.command);
-    const auto palette = pressesOf(ShortcutCommand::CommandPalette, Qt::ControlModifier);
+    const auto palette = pressesOf(AppCommand::CommandPalette, Qt::ControlModifier);
     EXPECT_EQ(palette, std::set{int(GetParam().letters[1])});
-    const auto peek = pressesOf(ShortcutCommand::TogglePeek, Qt::ControlModifier | Qt::AltModifier);
+    const auto peek = pressesOf(AppCommand::TogglePeek, Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(peek, std::set{int(GetParam().letters[7])});
 }
 
 TEST_P(KeyMapUnderLayout, TheLayoutShortcutsAreOnTheDigitsWithoutShift)
 {
     const auto controlAlt = Qt::ControlModifier | Qt::AltModifier;
-    EXPECT_TRUE(pressesOf(ShortcutCommand::ShowList, controlAlt).contains(10));
-    EXPECT_TRUE(pressesOf(ShortcutCommand::ShowBoard, controlAlt).contains(11));
+    EXPECT_TRUE(pressesOf(AppCommand::ShowList, controlAlt).contains(10));
+    EXPECT_TRUE(pressesOf(AppCommand::ShowBoard, controlAlt).contains(11));
 }
 
 INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapUnderLayout, testing::ValuesIn(layouts),
@@ -183,9 +183,8 @@ TEST_P(KeyMapWithoutOwnCharacters, CopyingTheKeyAndTheBranchAreTwoCommands)
     const KeyboardLayout layout = KeyboardLayout::load(QString::fromLatin1(GetParam()));
     const auto shifted = Qt::ControlModifier | Qt::ShiftModifier;
     EXPECT_EQ(shortcutCommand(layout.press(60, Qt::ControlModifier, Own::Unknown)),
-              ShortcutCommand::CopyKey);
-    EXPECT_EQ(shortcutCommand(layout.press(60, shifted, Own::Unknown)),
-              ShortcutCommand::CopyBranch);
+              AppCommand::CopyKey);
+    EXPECT_EQ(shortcutCommand(layout.press(60, shifted, Own::Unknown)), AppCommand::CopyBranch);
 }
 
 TEST_P(KeyMapWithoutOwnCharacters, EveryDigitOfTheTopRowWorksWithoutShift)

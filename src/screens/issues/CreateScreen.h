@@ -1,5 +1,7 @@
 #pragma once
 
+#include "state/CreateScreen.h"
+
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -15,5 +17,5 @@ class CreateScreen : public QObject
 public:
     using QObject::QObject;
 
-    static constexpr bool isAvailable() { return false; }
+    static constexpr bool isAvailable() { return hasCreateScreen; }
 };

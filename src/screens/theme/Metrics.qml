@@ -62,6 +62,15 @@ QtObject {
     readonly property int toastMaxWidth: 460
     readonly property int tooltipHeight: 26
 
+    // The palette
+    readonly property int paletteWidth: 640
+    readonly property int paletteTop: 112
+    readonly property int paletteFieldHeight: 52
+    /// The title of a section, above its first row.
+    readonly property int paletteTitleHeight: 29
+    /// Of all rows together; what is more is scrolled to.
+    readonly property int paletteMaxHeight: 420
+
     // The main window
     readonly property int paneMargin: 8
     readonly property int sidebarMinWidth: 210

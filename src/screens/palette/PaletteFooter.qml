@@ -1,11 +1,13 @@
 import QtQuick
 import Velmora.Kit
+import Velmora.Palette
 import Velmora.Theme
 
-// The keys that count in a picker.
+// The keys that count in the palette.
 Item {
     id: root
 
+    required property CommandPalette commandPalette
     required property bool isDemo
 
     implicitHeight: 40
@@ -15,19 +17,25 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 16
 
-        KeyHint {
+        PaletteHint {
             keys: "↑↓"
             meaning: "naviguer"
         }
 
-        KeyHint {
+        PaletteHint {
             keys: "↩"
             meaning: "valider"
         }
 
-        KeyHint {
+        PaletteHint {
+            visible: !root.commandPalette.isPicker
+            keys: root.commandPalette.windowShortcut
+            meaning: "nouvelle fenêtre"
+        }
+
+        PaletteHint {
             keys: "esc"
-            meaning: "fermer"
+            meaning: root.commandPalette.isPicker ? "retour" : "fermer"
         }
     }
 

@@ -5,10 +5,10 @@
 
 using namespace Qt::StringLiterals;
 
-class Picker : public WindowFixture
+class Palette : public WindowFixture
 {
 protected:
-    Picker()
+    Palette()
     {
         Preferences(preferencesPath).setText(u"ordering"_s, u"key"_s);
         serve({u"MOB-1"_s, u"MOB-2"_s}, u"À faire"_s);
@@ -51,7 +51,7 @@ protected:
     }
 };
 
-TEST_F(Picker, EachLetterOpensItsPicker)
+TEST_F(Palette, EachLetterOpensItsPicker)
 {
     const QList<std::pair<Qt::Key, QString>> pickers{{Qt::Key_S, u"Statut…"_s},
                                                      {Qt::Key_P, u"Priorité…"_s},
@@ -60,13 +60,13 @@ TEST_F(Picker, EachLetterOpensItsPicker)
     for (const auto &[key, placeholder] : pickers) {
         press(key);
         EXPECT_TRUE(isShown(placeholder)) << placeholder.toStdString();
-        press(Qt::Key_Escape);
+        store().closePalette();
         EXPECT_TRUE(QTest::qWaitFor([&] { return !isShown(placeholder); }))
             << placeholder.toStdString();
     }
 }
 
-TEST_F(Picker, ADigitChangesTheStatusOfTheFocusedIssue)
+TEST_F(Palette, ADigitChangesTheStatusOfTheFocusedIssue)
 {
     serveTwoStatuses();
     press(Qt::Key_S);
@@ -79,7 +79,7 @@ TEST_F(Picker, ADigitChangesTheStatusOfTheFocusedIssue)
     EXPECT_EQ(store().layout(), LayoutMode::List);
 }
 
-TEST_F(Picker, ADigitWithoutARowIsNoCommandOfTheMainWindow)
+TEST_F(Palette, ADigitWithoutARowIsNoCommandOfTheMainWindow)
 {
     press(Qt::Key_A);
     press(Qt::Key_2);
@@ -88,7 +88,7 @@ TEST_F(Picker, ADigitWithoutARowIsNoCommandOfTheMainWindow)
     EXPECT_TRUE(store().palette());
 }
 
-TEST_F(Picker, TheArrowsMoveTheHighlightThatReturnPicks)
+TEST_F(Palette, TheArrowsMoveTheHighlightThatReturnPicks)
 {
     serveTwoStatuses();
     press(Qt::Key_S);
@@ -100,7 +100,7 @@ TEST_F(Picker, TheArrowsMoveTheHighlightThatReturnPicks)
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
 
-TEST_F(Picker, TypingFindsAPersonAndReturnAssigns)
+TEST_F(Palette, TypingFindsAPersonAndReturnAssigns)
 {
     press(Qt::Key_A);
     type(u"noam"_s);
@@ -114,7 +114,7 @@ TEST_F(Picker, TypingFindsAPersonAndReturnAssigns)
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
 
-TEST_F(Picker, LettersOfTheKeyMapAreTypedWhileItIsOpen)
+TEST_F(Palette, LettersOfTheKeyMapAreTypedWhileItIsOpen)
 {
     press(Qt::Key_A);
     type(u"xj"_s);
@@ -124,19 +124,21 @@ TEST_F(Picker, LettersOfTheKeyMapAreTypedWhileItIsOpen)
     find(QAccessible::StaticText, u"Aucun résultat"_s);
 }
 
-TEST_F(Picker, EscapeEmptiesTheSearchAndThenCloses)
+TEST_F(Palette, EscapeInAPickerEmptiesTheSearchThenGoesToTheRootThenCloses)
 {
     press(Qt::Key_A);
     type(u"zzz"_s);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(store().palette());
     EXPECT_TRUE(offers({u"Non assigné"_s, u"Noam Talvère"_s}));
+
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(isShown(u"Rechercher un ticket, une action, un projet…"_s));
 
     press(Qt::Key_Escape);
     EXPECT_FALSE(store().palette());
 }
 
-TEST_F(Picker, TheFocusReturnsToWhereItWas)
+TEST_F(Palette, TheFocusReturnsToWhereItWas)
 {
     auto *before = window().activeFocusItem();
     press(Qt::Key_S);
@@ -144,13 +146,14 @@ TEST_F(Picker, TheFocusReturnsToWhereItWas)
     ASSERT_TRUE(window().activeFocusItem()->inherits("QQuickTextInput"));
 
     press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
 
     EXPECT_EQ(window().activeFocusItem(), before);
     press(Qt::Key_Down);
     EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
 }
 
-TEST_F(Picker, AClickOnTheScrimCloses)
+TEST_F(Palette, AClickOnTheScrimCloses)
 {
     press(Qt::Key_S);
     QTest::mouseClick(&window(), Qt::LeftButton, {}, {1000, 800});
@@ -159,7 +162,7 @@ TEST_F(Picker, AClickOnTheScrimCloses)
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
 
-TEST_F(Picker, AClickOnARowPicksIt)
+TEST_F(Palette, AClickOnARowPicksIt)
 {
     press(Qt::Key_A);
     ASSERT_TRUE(offers({u"Non assigné"_s, u"Noam Talvère"_s}));
@@ -170,7 +173,7 @@ TEST_F(Picker, AClickOnARowPicksIt)
     EXPECT_FALSE(store().palette());
 }
 
-TEST_F(Picker, WithoutAFocusedIssueItAsksForOne)
+TEST_F(Palette, WithoutAFocusedIssueItAsksForOne)
 {
     store().setFocusedKey(std::nullopt);
     press(Qt::Key_S);
@@ -182,14 +185,99 @@ TEST_F(Picker, WithoutAFocusedIssueItAsksForOne)
     }));
 }
 
-TEST_F(Picker, KeysOfScreensThatDoNotExistLeaveTheKeyboardAlone)
+TEST_F(Palette, KeysOfScreensThatDoNotExistLeaveTheKeyboardAlone)
 {
     press(Qt::Key_C);
     press(Qt::Key_N, Qt::ControlModifier);
-    press(Qt::Key_K, Qt::ControlModifier);
     EXPECT_FALSE(store().isCreating());
-    EXPECT_FALSE(store().palette());
 
     press(Qt::Key_Down);
     EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
+}
+
+TEST_F(Palette, ControlKTwiceLeavesItClosedAndTheFocusWhereItWas)
+{
+    auto *before = window().activeFocusItem();
+    press(Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(store().palette(), PaletteMode::root());
+    ASSERT_NE(window().activeFocusItem(), before);
+
+    press(Qt::Key_K, Qt::ControlModifier);
+    EXPECT_FALSE(store().palette());
+    EXPECT_EQ(window().activeFocusItem(), before);
+}
+
+TEST_F(Palette, FromTheFilterFieldTheFocusReturnsToIt)
+{
+    click(find(QAccessible::EditableText, u"Filtrer"_s));
+    auto *before = window().activeFocusItem();
+    ASSERT_TRUE(before->inherits("QQuickTextInput"));
+    press(Qt::Key_K, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(window().activeFocusItem(), before);
+}
+
+TEST_F(Palette, ThreeLettersOfATitleFindAnIssueAndReturnOpensIt)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    type(u"b-2"_s);
+    ASSERT_TRUE(offers({u"Résumé de MOB-2"_s})) << options().join(u", ").toStdString();
+    press(Qt::Key_Return);
+    EXPECT_EQ(store().inspectorKey(), u"MOB-2"_s);
+    EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
+}
+
+TEST_F(Palette, AtTheRootADigitIsTyped)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    type(u"2"_s);
+    EXPECT_EQ(store().layout(), LayoutMode::List);
+    EXPECT_EQ(find(QAccessible::EditableText, u"Rechercher un ticket"_s).value, u"2"_s);
+}
+
+TEST_F(Palette, TheHighlightedRowStaysInSight)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    for (int i = 0; i < 30; ++i)
+        press(Qt::Key_Down);
+    // Inside the rows, above the footer.
+    const QRect rows(340, 112 + 34 + 52, 640, 420);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto last = find(QAccessible::ListItem, u"Activité · Ce mois-ci"_s);
+        return last.state.focused && rows.contains(last.box);
+    }));
+}
+
+TEST_F(Palette, ARestingPointerHighlightsNothingAndAMovedOneItsRow)
+{
+    QTest::mouseMove(&window(), {600, 400});
+    press(Qt::Key_K, Qt::ControlModifier);
+    const auto highlighted = [&] {
+        for (const auto &row : spokenIn(window(), QAccessible::ListItem)) {
+            if (row.box.width() == 624 && row.state.focused)
+                return row;
+        }
+        return Spoken();
+    };
+    const QString first = options().first();
+    QTest::mouseMove(&window(), {600, 400});
+    EXPECT_EQ(highlighted().name, first);
+
+    QTest::mouseMove(&window(), {601, 401});
+    QTest::mouseMove(&window(), {602, 402});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return highlighted().box.contains(602, 402); }))
+        << highlighted().name.toStdString();
+
+    // The rows scroll below the pointer, which stays where it is.
+    for (int i = 0; i < 30; ++i)
+        press(Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return highlighted().name == options().last(); }));
+}
+
+TEST_F(Palette, TheCountAndTheHighlightedRowAreSpoken)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    type(u"tableau"_s);
+    const auto field = find(QAccessible::EditableText, u"Rechercher un ticket"_s);
+    EXPECT_EQ(field.description, u"1 résultat. Afficher en tableau, 1 sur 1"_s);
 }

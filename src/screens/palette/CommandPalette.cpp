@@ -1,0 +1,249 @@
+#include "screens/palette/CommandPalette.h"
+
+#include "platform/Wording.h"
+#include "state/palette/PaletteIssues.h"
+#include "state/palette/PaletteTexts.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+CommandPalette::CommandPalette(QObject *parent) : QObject(parent)
+{
+    connect(&m_remote, &RemoteSearch::foundChanged, this, &CommandPalette::refresh);
+    connect(&m_remote, &RemoteSearch::isSearchingChanged, this, [this] {
+        Q_EMIT isSearchingChanged();
+        Q_EMIT updated();
+    });
+    for (const auto change : {&CommandPalette::updated, &CommandPalette::highlightedChanged})
+        connect(this, change, this, &CommandPalette::spokenStateChanged);
+}
+
+void CommandPalette::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    if (m_store)
+        m_store->disconnect(this);
+    m_store = store;
+    if (m_store) {
+        connectStore();
+        followPalette();
+    }
+    Q_EMIT storeChanged();
+}
+
+void CommandPalette::connectStore()
+{
+    connect(m_store, &AppStore::paletteChanged, this, &CommandPalette::followPalette);
+    for (const auto change :
+         {&AppStore::issuesChanged, &AppStore::detailsChanged, &AppStore::transitionsChanged,
+          &AppStore::projectStatusesChanged, &AppStore::assignablesChanged,
+          &AppStore::prioritiesChanged, &AppStore::meChanged, &AppStore::myOpenIssuesChanged})
+        connect(m_store, change, this, &CommandPalette::refreshOptions);
+    for (const auto change : {&AppStore::checkedChanged, &AppStore::focusedKeyChanged,
+                              &AppStore::inspectorKeyChanged, &AppStore::projectsChanged})
+        connect(m_store, change, this, &CommandPalette::refresh);
+    for (const auto change : {&AppStore::layoutChanged, &AppStore::showCompletedChanged,
+                              &AppStore::appearanceChanged, &AppStore::activityTeamWideChanged})
+        connect(m_store, change, this, &CommandPalette::refresh);
+}
+
+void CommandPalette::followPalette()
+{
+    if (const auto mode = m_store->palette())
+        begin(*mode);
+    else
+        m_remote.clear();
+    setIsOpen(m_store->palette().has_value());
+}
+
+void CommandPalette::begin(const PaletteMode &mode)
+{
+    // A search that an earlier opening began is none of this one's.
+    if (!m_isOpen)
+        m_remote.reset();
+    m_mode = mode;
+    m_isPointing = false;
+    m_sources.forgetOptions();
+    m_remote.clear();
+    if (!std::exchange(m_query, QString()).isEmpty())
+        Q_EMIT queryChanged();
+    setHighlighted(0);
+    Q_EMIT modeChanged();
+    refresh();
+}
+
+void CommandPalette::setIsOpen(bool open)
+{
+    if (std::exchange(m_isOpen, open) != open)
+        Q_EMIT isOpenChanged();
+}
+
+void CommandPalette::refresh()
+{
+    if (!m_store || !m_store->palette())
+        return;
+    const auto *picker = m_mode.asPicker();
+    m_capsules = keyCapsules(picker ? picker->keys : m_store->actionTargets());
+    m_rows.update(paletteRows(m_sources.sections(*m_store, m_mode, m_query, m_remote.found())));
+    Q_EMIT updated();
+}
+
+void CommandPalette::refreshOptions()
+{
+    m_sources.forgetOptions();
+    refresh();
+}
+
+QString CommandPalette::title() const
+{
+    const auto *picker = m_mode.asPicker();
+    return picker ? pickerTitle(picker->kind) : QString();
+}
+
+QString CommandPalette::placeholder() const
+{
+    return palettePlaceholder(m_mode);
+}
+
+QString CommandPalette::windowShortcut() const
+{
+    return Wording::localized(u"⌘↩"_s);
+}
+
+void CommandPalette::setQuery(const QString &query)
+{
+    if (m_query == query)
+        return;
+    m_query = query;
+    Q_EMIT queryChanged();
+    setHighlighted(0);
+    searchRemote();
+    refresh();
+}
+
+void CommandPalette::searchRemote()
+{
+    if (isPicker() || !m_isOpen)
+        m_remote.clear();
+    else
+        m_remote.setText(*m_store, m_query);
+}
+
+void CommandPalette::setHighlighted(int row)
+{
+    if (std::exchange(m_highlighted, row) != row)
+        Q_EMIT highlightedChanged();
+}
+
+void CommandPalette::point(int row)
+{
+    if (m_isPointing)
+        setHighlighted(row);
+}
+
+int CommandPalette::titleCount() const
+{
+    return int(std::ranges::count_if(
+        m_rows.rows(), [](const PaletteRow &row) { return !row.sectionTitle.isEmpty(); }));
+}
+
+QString CommandPalette::emptyText() const
+{
+    if (!m_rows.rows().isEmpty())
+        return {};
+    return emptyPaletteText(isSearching() ? PaletteSearch::UnderWay : PaletteSearch::Done);
+}
+
+QString CommandPalette::spokenState() const
+{
+    if (m_rows.rows().isEmpty())
+        return emptyText();
+    return spokenPaletteState(m_rows.rows(), m_highlighted);
+}
+
+void CommandPalette::activate(int row)
+{
+    if (!m_isOpen || row < 0 || row >= m_rows.rowCount())
+        return;
+    // A copy: carrying it out changes the rows.
+    const OptionItem option = m_rows.rows()[row].option;
+    m_store->run(option.run);
+    if (std::holds_alternative<OptionAction::AddLabel>(option.run.value))
+        setQuery({});
+    if (!option.keepsOpen)
+        close();
+}
+
+void CommandPalette::activateInWindow(int row)
+{
+    const bool isRow = m_isOpen && row >= 0 && row < m_rows.rowCount();
+    const auto key = isRow ? issueKeyOf(m_rows.rows()[row].option) : std::nullopt;
+    if (!key)
+        return activate(row);
+    m_store->run({OptionAction::OpenWindow{*key}});
+    close();
+}
+
+void CommandPalette::close()
+{
+    if (m_isOpen)
+        m_store->closePalette();
+}
+
+bool CommandPalette::handle(const KeyPress &press)
+{
+    m_isPointing = false;
+    const auto digits =
+        isPicker() && m_query.isEmpty() ? PaletteDigits::PickRows : PaletteDigits::AreTyped;
+    const auto key = m_isOpen ? paletteKey(press, digits) : std::nullopt;
+    if (!key)
+        return false;
+    switch (key->kind) {
+    case PaletteKey::Kind::Run:
+        activate(m_highlighted);
+        return true;
+    case PaletteKey::Kind::RunInWindow:
+        activateInWindow(m_highlighted);
+        return true;
+    case PaletteKey::Kind::Back:
+        goBack();
+        return true;
+    case PaletteKey::Kind::Down:
+        moveHighlight(1);
+        return true;
+    case PaletteKey::Kind::Up:
+        moveHighlight(-1);
+        return true;
+    case PaletteKey::Kind::Digit:
+        return activateDigit(key->digit);
+    }
+    return false;
+}
+
+void CommandPalette::moveHighlight(int delta)
+{
+    setHighlighted(delta > 0 ? std::min(m_highlighted + delta, std::max(m_rows.rowCount() - 1, 0))
+                             : std::max(m_highlighted + delta, 0));
+}
+
+void CommandPalette::goBack()
+{
+    if (!m_query.isEmpty())
+        setQuery({});
+    else if (isPicker())
+        m_store->setPalette(PaletteMode::root());
+    else
+        close();
+}
+
+bool CommandPalette::activateDigit(int digit)
+{
+    const auto row = std::ranges::find(m_rows.rows(), std::optional(QString::number(digit)),
+                                       [](const PaletteRow &r) { return r.option.shortcut; });
+    if (row == m_rows.rows().end())
+        return false;
+    activate(int(row - m_rows.rows().begin()));
+    return true;
+}

@@ -1,0 +1,73 @@
+#include "screens/palette/PaletteFocus.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+void PaletteFocus::setPalette(CommandPalette *palette)
+{
+    if (m_palette == palette)
+        return;
+    if (m_palette)
+        m_palette->disconnect(this);
+    m_palette = palette;
+    if (m_palette) {
+        connect(m_palette, &CommandPalette::isOpenChanged, this, &PaletteFocus::follow);
+        connect(m_palette, &CommandPalette::modeChanged, this, &PaletteFocus::follow);
+    }
+    Q_EMIT paletteChanged();
+}
+
+void PaletteFocus::follow()
+{
+    if (!m_window || !m_field || !m_palette)
+        return;
+    if (m_palette->isOpen())
+        begin();
+    else if (m_isHolding)
+        end();
+}
+
+void PaletteFocus::begin()
+{
+    if (!std::exchange(m_isHolding, true)) {
+        m_before.clear();
+        m_pointer.reset();
+        for (QQuickItem *item = m_window->activeFocusItem(); item; item = item->parentItem())
+            m_before.append(item);
+        // The last filter installed is asked first.
+        m_window->installEventFilter(this);
+    }
+    m_field->forceActiveFocus(Qt::PopupFocusReason);
+}
+
+void PaletteFocus::end()
+{
+    m_isHolding = false;
+    m_window->removeEventFilter(this);
+    const auto left = std::ranges::find_if(m_before, [](const QPointer<QQuickItem> &item) {
+        return item && item->isVisible() && item->isEnabled();
+    });
+    if (left != m_before.end())
+        (*left)->forceActiveFocus(Qt::PopupFocusReason);
+    m_before.clear();
+}
+
+bool PaletteFocus::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_window || !m_palette)
+        return false;
+    if (event->type() == QEvent::MouseMove)
+        notePointer(static_cast<const QMouseEvent &>(*event).globalPosition());
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    return m_palette->handle(KeyPress::from(static_cast<const QKeyEvent &>(*event)));
+}
+
+void PaletteFocus::notePointer(const QPointF &place)
+{
+    // Systems also tell of a pointer that rests, when a window comes under it.
+    const bool wasKnown = m_pointer.has_value();
+    if (std::exchange(m_pointer, place) != place && wasKnown)
+        m_palette->notePointerMoved();
+}

@@ -1,0 +1,102 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Palette
+import Velmora.Theme
+
+// The panel of the palette.
+GlassPanel {
+    id: root
+
+    required property CommandPalette commandPalette
+    required property bool isDemo
+
+    readonly property bool hasHead: commandPalette.capsules.length > 0
+
+    width: Metrics.paletteWidth
+    height: footer.y + footer.height
+    radius: Metrics.radiusPalette
+    shadow: "palette"
+    color: Theme.elevatedGlass
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: commandPalette.isPicker ? commandPalette.title : "Palette de commandes"
+
+    PaletteFocus {
+        window: root.Window.window
+        palette: root.commandPalette
+        field: field
+    }
+
+    // Clicks beside a row are not clicks on what lies below.
+    MouseArea {
+        anchors.fill: parent
+    }
+
+    PaletteHead {
+        id: head
+        width: parent.width
+        height: root.hasHead ? implicitHeight : 0
+        visible: root.hasHead
+        commandPalette: root.commandPalette
+    }
+
+    Symbol {
+        x: 18
+        anchors.verticalCenter: field.verticalCenter
+        name: root.commandPalette.isPicker ? "arrow.turn.down.right" : "magnifyingglass"
+        size: 15
+        color: Theme.text2
+    }
+
+    PaletteField {
+        id: field
+        anchors.top: head.bottom
+        x: 38
+        width: parent.width - x - 18 - (spinner.visible ? spinner.width + Metrics.gap : 0)
+        height: Metrics.paletteFieldHeight
+        focus: true
+        commandPalette: root.commandPalette
+    }
+
+    Spinner {
+        id: spinner
+        anchors.right: parent.right
+        anchors.rightMargin: 18
+        anchors.verticalCenter: field.verticalCenter
+        size: 16
+        visible: root.commandPalette.isSearching && root.commandPalette.isOpen
+    }
+
+    Rectangle {
+        anchors.top: rows.top
+        width: parent.width
+        height: 1
+        color: Theme.divider
+    }
+
+    PaletteRows {
+        id: rows
+        anchors.top: field.bottom
+        width: parent.width
+        height: implicitHeight
+        enabled: root.commandPalette.isOpen
+        commandPalette: root.commandPalette
+    }
+
+    Rectangle {
+        anchors.bottom: footer.top
+        width: parent.width
+        height: 1
+        color: Theme.divider
+    }
+
+    PaletteFooter {
+        id: footer
+        anchors.top: rows.bottom
+        width: parent.width
+        commandPalette: root.commandPalette
+        isDemo: root.isDemo
+    }
+}

@@ -1,0 +1,55 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Options
+import Velmora.Theme
+
+// One row of the palette, with the title of its section above the first.
+Item {
+    id: root
+
+    required property int index
+    required property string sectionTitle
+    required property string title
+    required property string subtitle
+    required property optionIcon icon
+    required property bool isSelected
+    required property string shortcut
+    property bool isHighlighted: false
+
+    signal pointed()
+    signal picked()
+
+    readonly property bool isFirst: sectionTitle !== ""
+
+    implicitHeight: Metrics.optionRowHeight + (isFirst ? Metrics.paletteTitleHeight : 0)
+
+    When {
+        shown: root.isFirst
+
+        AppText {
+            x: Metrics.gapMedium
+            y: 10
+            role: TypeScale.Caption
+            weight: Font.DemiBold
+            color: Theme.text3
+            text: root.sectionTitle
+            Accessible.role: Accessible.Heading
+        }
+    }
+
+    OptionRow {
+        y: root.height - height
+        width: root.width
+        index: root.index
+        title: root.title
+        subtitle: root.subtitle
+        icon: root.icon
+        isSelected: root.isSelected
+        shortcut: root.shortcut
+        isHighlighted: root.isHighlighted
+        onPointed: root.pointed()
+        onPicked: root.picked()
+    }
+}

@@ -1,0 +1,75 @@
+#include "screens/palette/PaletteSources.h"
+
+#include "state/CreateScreen.h"
+#include "state/palette/PaletteIssues.h"
+#include "state/palette/PaletteNavigation.h"
+
+namespace {
+
+PaletteActionInputs actionInputs(const AppStore &store)
+{
+    using Creation = PaletteActionInputs::Creation;
+    return {.targets = store.actionTargets(),
+            .layout = store.layout(),
+            .showCompleted = store.showCompleted(),
+            .appearance = store.appearance(),
+            .creation = hasCreateScreen ? Creation::Offered : Creation::Withheld};
+}
+
+} // namespace
+
+QList<PaletteSection> PaletteSources::sections(const AppStore &store, const PaletteMode &mode,
+                                               const QString &query, const IssueList &remote)
+{
+    const auto *picker = mode.asPicker();
+    return picker ? pickerSections(query, *picker, options(store, *picker))
+                  : root(store, query, remote);
+}
+
+QList<PaletteSection> PaletteSources::root(const AppStore &store, const QString &query,
+                                           const IssueList &remote)
+{
+    return rootSections(query, found(store, query, remote), actions(store), destinations(store));
+}
+
+IssueList PaletteSources::found(const AppStore &store, const QString &query,
+                                const IssueList &remote)
+{
+    if (query.trimmed().isEmpty())
+        return {};
+    const auto &derivation = store.derivation();
+    m_openIssues.update(store.myOpenIssues());
+    return paletteIssues(query,
+                         {{derivation.inputs().issues, derivation.searchTexts()},
+                          {m_openIssues.issues(), m_openIssues.texts()}},
+                         remote);
+}
+
+const SearchableItems &PaletteSources::actions(const AppStore &store)
+{
+    if (const auto inputs = actionInputs(store); m_actionInputs != inputs) {
+        m_actionInputs = inputs;
+        m_actions = {paletteActions(inputs), SearchableItems::Texts::Title};
+    }
+    return m_actions;
+}
+
+const SearchableItems &PaletteSources::destinations(const AppStore &store)
+{
+    const auto people = store.activityTeamWide() ? Recap::People::Team : Recap::People::Me;
+    if (!m_destinations || m_people != people || m_projects != store.projects()) {
+        m_people = people;
+        m_projects = store.projects();
+        m_destinations.emplace(paletteNavigation(m_projects, m_people),
+                               SearchableItems::Texts::TitleAndSubtitle);
+    }
+    return *m_destinations;
+}
+
+const SearchableItems &PaletteSources::options(const AppStore &store,
+                                               const PaletteMode::Picker &picker)
+{
+    if (!m_options)
+        m_options.emplace(store.options(picker.kind, picker.keys), SearchableItems::Texts::Title);
+    return *m_options;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "state/AppStore.h"
+#include "state/IssueDerivationIndex.h"
+#include "state/palette/PaletteActions.h"
+#include "state/palette/PaletteSections.h"
+
+/// What the palette searches, prepared: texts are folded when a list changes, not when a key is typed.
+class PaletteSources
+{
+public:
+    /// The sections for a query, as the store now is.
+    QList<PaletteSection> sections(const AppStore &store, const PaletteMode &mode,
+                                   const QString &query, const IssueList &remote);
+    /// The options of the picker are to be made anew.
+    void forgetOptions() { m_options.reset(); }
+
+private:
+    QList<PaletteSection> root(const AppStore &store, const QString &query,
+                               const IssueList &remote);
+    IssueList found(const AppStore &store, const QString &query, const IssueList &remote);
+    const SearchableItems &actions(const AppStore &store);
+    const SearchableItems &destinations(const AppStore &store);
+    const SearchableItems &options(const AppStore &store, const PaletteMode::Picker &picker);
+
+    std::optional<PaletteActionInputs> m_actionInputs;
+    SearchableItems m_actions;
+    QList<Project> m_projects;
+    Recap::People m_people = Recap::People::Me;
+    std::optional<SearchableItems> m_destinations;
+    std::optional<SearchableItems> m_options;
+    IssueIndex m_openIssues;
+};

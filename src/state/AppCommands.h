@@ -1,0 +1,76 @@
+#pragma once
+
+#include "state/AppStore.h"
+#include "state/CommandTable.h"
+#include "state/ShortcutReference.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+/// A command as a menu shows it.
+class CommandEntry
+{
+    Q_GADGET
+    QML_VALUE_TYPE(commandEntry)
+    Q_PROPERTY(int command MEMBER command CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString shortcut MEMBER shortcut CONSTANT FINAL)
+    Q_PROPERTY(bool isEnabled MEMBER isEnabled CONSTANT FINAL)
+
+public:
+    /// A `Commands.AppCommand`.
+    int command = 0;
+    QString title;
+    /// As this system's user reads it: "Ctrl+Maj+O"; empty without one.
+    QString shortcut;
+    bool isEnabled = true;
+
+    bool operator==(const CommandEntry &) const = default;
+};
+
+/// The commands of the menus, as they are now: what each is called, its shortcut in this system's words, whether it can
+/// be chosen, and how to carry it out.
+class AppCommands : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    Q_PROPERTY(CommandEntry newIssue READ newIssue NOTIFY changed FINAL)
+    // The groups of the menu "Tickets"
+    Q_PROPERTY(QList<CommandEntry> general READ general NOTIFY changed FINAL)
+    Q_PROPERTY(QList<CommandEntry> editing READ editing NOTIFY changed FINAL)
+    Q_PROPERTY(QList<CommandEntry> sharing READ sharing NOTIFY changed FINAL)
+    Q_PROPERTY(QList<CommandEntry> display READ display NOTIFY changed FINAL)
+
+public:
+    using QObject::QObject;
+
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
+
+    CommandEntry newIssue() const { return entry(AppCommand::NewIssue); }
+    QList<CommandEntry> general() const { return entries(CommandGroup::General); }
+    QList<CommandEntry> editing() const { return entries(CommandGroup::Editing); }
+    QList<CommandEntry> sharing() const { return entries(CommandGroup::Sharing); }
+    QList<CommandEntry> display() const { return entries(CommandGroup::Display); }
+
+    /// Carries out a `Commands.AppCommand`, unless it cannot be chosen now.
+    Q_INVOKABLE void run(int command);
+    /// The words with the command's shortcut behind them: "Actualiser (Ctrl+R)".
+    Q_INVOKABLE QString hint(const QString &words, int command) const;
+
+Q_SIGNALS:
+    void storeChanged();
+    void changed();
+
+private:
+    CommandEntry entry(AppCommand command) const;
+    QList<CommandEntry> entries(CommandGroup group) const;
+    bool isEnabled(AppCommand command) const;
+
+    QPointer<AppStore> m_store;
+};
+
+/// Whether a command can be chosen. All of the menu "Tickets" can at all times: one without an issue answers with a toast.
+bool isCommandEnabled(AppCommand command, AppStore::Phase phase);

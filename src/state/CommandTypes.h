@@ -1,0 +1,31 @@
+#pragma once
+
+#include "state/AppCommand.h"
+#include "state/ShortcutReference.h"
+
+#include <QtQml/qqml.h>
+
+/// Names in QML of commands and of what the reference of shortcuts is made of.
+namespace CommandTypes {
+
+struct ShortcutMeaningValue
+{
+    Q_GADGET
+    QML_FOREIGN(ShortcutMeaning)
+    QML_VALUE_TYPE(shortcutMeaning)
+};
+
+struct ShortcutGroupValue
+{
+    Q_GADGET
+    QML_FOREIGN(ShortcutGroup)
+    QML_VALUE_TYPE(shortcutGroup)
+};
+
+} // namespace CommandTypes
+
+namespace CommandEnums {
+Q_NAMESPACE
+QML_FOREIGN_NAMESPACE(Commands)
+QML_NAMED_ELEMENT(Commands)
+} // namespace CommandEnums

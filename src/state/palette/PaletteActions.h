@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Enums.h"
+#include "state/OptionItem.h"
+
+/// What the actions of the palette depend on.
+struct PaletteActionInputs
+{
+    /// Whether there is a screen to make an issue on.
+    enum class Creation { Offered, Withheld };
+
+    /// The keys of the issues that an action applies to.
+    QStringList targets;
+    LayoutMode layout = LayoutMode::List;
+    bool showCompleted = true;
+    AppearanceMode appearance = AppearanceMode::System;
+    Creation creation = Creation::Offered;
+
+    bool operator==(const PaletteActionInputs &) const = default;
+};
+
+/// The actions in their order: those that need an issue only with a target, those that need a single one only with
+/// exactly one.
+QList<OptionItem> paletteActions(const PaletteActionInputs &inputs);

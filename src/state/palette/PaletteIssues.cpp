@@ -1,0 +1,69 @@
+#include "state/palette/PaletteIssues.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first issues of a kind, each key once.
+class FirstIssues
+{
+public:
+    bool isFull() const { return m_issues.size() >= mostPaletteIssues; }
+    void add(const SharedIssue &issue)
+    {
+        if (isFull() || m_keys.contains(issue->key))
+            return;
+        m_keys.insert(issue->key);
+        m_issues.append(issue);
+    }
+    IssueList issues() const { return m_issues; }
+
+private:
+    QSet<QString> m_keys;
+    IssueList m_issues;
+};
+
+void addMatching(FirstIssues &found, const SearchableIssues &list, const QByteArray &needle)
+{
+    const auto hits = list.texts.containing(needle);
+    for (qsizetype i = 0; i < list.issues.size() && !found.isFull(); ++i) {
+        if (hits[i])
+            found.add(list.issues[i]);
+    }
+}
+
+} // namespace
+
+IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lists,
+                        const IssueList &remote)
+{
+    FirstIssues found;
+    if (query.trimmed().isEmpty())
+        return {};
+    // A query of nothing but diacritics folds to nothing, and is contained nowhere.
+    const QByteArray needle = SearchTexts::needle(query);
+    for (const auto &list : lists) {
+        if (!needle.isEmpty())
+            addMatching(found, list, needle);
+    }
+    for (const auto &issue : remote)
+        found.add(issue);
+    return found.issues();
+}
+
+OptionItem issueItem(const Issue &issue)
+{
+    return {.id = u"issue:"_s + issue.key,
+            .title = issue.summary,
+            .subtitle = issue.key,
+            .icon = {issue.status},
+            .run = {OptionAction::OpenIssue{issue.key}}};
+}
+
+std::optional<QString> issueKeyOf(const OptionItem &item)
+{
+    const auto *open = std::get_if<OptionAction::OpenIssue>(&item.run.value);
+    return open ? std::optional(open->key) : std::nullopt;
+}

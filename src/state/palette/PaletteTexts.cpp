@@ -1,0 +1,72 @@
+#include "state/palette/PaletteTexts.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+QString pickerActionTitle(PickerKind kind)
+{
+    switch (kind) {
+    case PickerKind::Status:
+        return u"Changer le statut…"_s;
+    case PickerKind::Priority:
+        return u"Changer la priorité…"_s;
+    case PickerKind::Assignee:
+        return u"Assigner…"_s;
+    case PickerKind::Labels:
+        return u"Étiquettes…"_s;
+    }
+    return {};
+}
+
+QString pickerTitle(PickerKind kind)
+{
+    return pickerActionTitle(kind).chopped(1);
+}
+
+QString pickerPlaceholder(PickerKind kind)
+{
+    switch (kind) {
+    case PickerKind::Status:
+        return u"Statut…"_s;
+    case PickerKind::Priority:
+        return u"Priorité…"_s;
+    case PickerKind::Assignee:
+        return u"Assigner…"_s;
+    case PickerKind::Labels:
+        return u"Ajouter des étiquettes…"_s;
+    }
+    return {};
+}
+
+QStringList keyCapsules(const QStringList &keys)
+{
+    constexpr qsizetype most = 3;
+    QStringList capsules = keys.first(std::min(most, keys.size()));
+    if (keys.size() > most)
+        capsules += u'+' + QString::number(keys.size() - most);
+    return capsules;
+}
+
+QString palettePlaceholder(const PaletteMode &mode)
+{
+    const auto *picker = mode.asPicker();
+    return picker ? pickerPlaceholder(picker->kind)
+                  : u"Rechercher un ticket, une action, un projet…"_s;
+}
+
+QString emptyPaletteText(PaletteSearch search)
+{
+    return search == PaletteSearch::UnderWay ? u"Recherche dans Jira…"_s : u"Aucun résultat"_s;
+}
+
+QString spokenPaletteState(const QList<PaletteRow> &rows, int highlighted)
+{
+    const QString count = rows.size() == 1 ? u"1 résultat"_s : u"%1 résultats"_s.arg(rows.size());
+    if (highlighted < 0 || highlighted >= rows.size())
+        return count;
+    const OptionItem &item = rows[highlighted].option;
+    const QString name = item.subtitle ? item.title + u", "_s + *item.subtitle : item.title;
+    // Put together, not with arg(): a title may hold a "%1" of its own.
+    return count + u". "_s + name + u", %1 sur %2"_s.arg(highlighted + 1).arg(rows.size());
+}

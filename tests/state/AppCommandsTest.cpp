@@ -1,0 +1,128 @@
+#include "state/AppCommands.h"
+
+#include "state/AppStoreFixture.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+class AppCommandsTest : public AppStoreFixture
+{
+protected:
+    AppCommandsTest() { commands.setStore(store.get()); }
+
+    void choose(AppCommand command) { commands.run(int(command)); }
+    QStringList toasts()
+    {
+        QStringList messages;
+        for (const auto &toast : store->toasts())
+            messages += toast.message;
+        return messages;
+    }
+
+    AppCommands commands;
+};
+
+TEST_F(AppCommandsTest, BeforeASessionNewIssueIsDisabledWhileTheItemsOfIssuesAreNot)
+{
+    ASSERT_NE(store->phase(), AppStore::Phase::Ready);
+    EXPECT_FALSE(commands.newIssue().isEnabled);
+    for (const auto &group :
+         {commands.general(), commands.editing(), commands.sharing(), commands.display()}) {
+        for (const auto &entry : group)
+            EXPECT_TRUE(entry.isEnabled) << entry.title.toStdString();
+    }
+}
+
+TEST_F(AppCommandsTest, ADisabledCommandDoesNothing)
+{
+    choose(AppCommand::NewIssue);
+    EXPECT_FALSE(store->isCreating());
+}
+
+TEST_F(AppCommandsTest, WithNoIssueChosenAPickerAsksForOne)
+{
+    startSession();
+    for (const auto command : {AppCommand::ChangeStatus, AppCommand::ChangePriority,
+                               AppCommand::ChangeAssignee, AppCommand::ChangeLabels}) {
+        choose(command);
+        EXPECT_FALSE(store->palette());
+    }
+    EXPECT_EQ(toasts(), QStringList(4, u"Sélectionne d'abord un ticket"_s));
+    EXPECT_EQ(store->toasts().first().symbol, u"hand.point.up.left"_s);
+}
+
+TEST_F(AppCommandsTest, EachPickerOpensForTheTargets)
+{
+    startSession();
+    store->setFocusedKey(u"MOB-1"_s);
+    const QList<std::pair<AppCommand, PickerKind>> pickers{
+        {AppCommand::ChangeStatus, PickerKind::Status},
+        {AppCommand::ChangePriority, PickerKind::Priority},
+        {AppCommand::ChangeAssignee, PickerKind::Assignee},
+        {AppCommand::ChangeLabels, PickerKind::Labels}};
+    for (const auto &[command, kind] : pickers) {
+        choose(command);
+        EXPECT_EQ(store->palette(), PaletteMode::picker(kind, {u"MOB-1"_s}));
+    }
+}
+
+TEST_F(AppCommandsTest, ThePaletteTwiceLeavesItClosed)
+{
+    choose(AppCommand::CommandPalette);
+    EXPECT_EQ(store->palette(), PaletteMode::root());
+    choose(AppCommand::CommandPalette);
+    EXPECT_FALSE(store->palette());
+}
+
+TEST_F(AppCommandsTest, ThePaletteCommandClosesAPickerToo)
+{
+    store->setPalette(PaletteMode::picker(PickerKind::Status, {u"MOB-1"_s}));
+    choose(AppCommand::CommandPalette);
+    EXPECT_FALSE(store->palette());
+}
+
+TEST_F(AppCommandsTest, AssigningToMeAssignsAllCheckedIssues)
+{
+    startSession();
+    reloadWith({sampleIssue(u"MOB-1"_s), sampleIssue(u"MOB-2"_s), sampleIssue(u"MOB-3"_s)});
+    store->setChecked({u"MOB-1"_s, u"MOB-3"_s});
+    choose(AppCommand::AssignToMe);
+    EXPECT_TRUE((*store->issue(u"MOB-1"_s))->assignee);
+    EXPECT_FALSE((*store->issue(u"MOB-2"_s))->assignee);
+    EXPECT_TRUE((*store->issue(u"MOB-3"_s))->assignee);
+    EXPECT_TRUE(store->toasts().isEmpty());
+}
+
+TEST_F(AppCommandsTest, TheItemOfThePreviewFollowsTheInspector)
+{
+    startSession();
+    reloadWith({sampleIssue(u"MOB-1"_s)});
+    QSignalSpy changed(&commands, &AppCommands::changed);
+    choose(AppCommand::TogglePeek);
+    EXPECT_TRUE(store->showInspector());
+    EXPECT_GE(changed.count(), 1);
+    EXPECT_EQ(commands.display().last().title, u"Masquer l'aperçu"_s);
+}
+
+TEST_F(AppCommandsTest, TheLayoutIsChosen)
+{
+    choose(AppCommand::ShowBoard);
+    EXPECT_EQ(store->layout(), LayoutMode::Board);
+    choose(AppCommand::ShowList);
+    EXPECT_EQ(store->layout(), LayoutMode::List);
+}
+
+TEST_F(AppCommandsTest, ShortcutsReadAsOnThisSystem)
+{
+    EXPECT_EQ(commands.general().first().shortcut, u"Ctrl+K"_s);
+    EXPECT_EQ(commands.sharing().at(1).shortcut, u"Ctrl+Maj+."_s);
+    EXPECT_EQ(commands.display().first().shortcut, u"Ctrl+Alt+1"_s);
+    EXPECT_EQ(commands.editing().first().shortcut, QString());
+}
+
+TEST_F(AppCommandsTest, AHintNamesTheShortcut)
+{
+    EXPECT_EQ(commands.hint(u"Rafraîchir"_s, int(AppCommand::Reload)), u"Rafraîchir (Ctrl+R)"_s);
+    EXPECT_EQ(commands.hint(u"Statut"_s, int(AppCommand::ChangeStatus)), u"Statut"_s);
+}
