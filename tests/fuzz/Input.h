@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+
+/// What the fuzzer calls; each of the programs in this folder defines it.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
+{
+    return QByteArray(reinterpret_cast<const char *>(data), qsizetype(size));
+}
+
+inline QString textOf(const std::uint8_t *data, std::size_t size)
+{
+    return QString::fromUtf8(bytesOf(data, size));
+}
