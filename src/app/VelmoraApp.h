@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Outside.h"
+#include "shell/WindowMemory.h"
 #include "state/AppStore.h"
 
 #include <QQmlApplicationEngine>
@@ -24,9 +25,11 @@ public:
 
 private:
     AppStoreContext context();
+    QVariantMap rootProperties();
 
     Outside m_outside;
     AppStore m_store;
+    WindowMemory m_windowMemory;
     // Last, so that the screens go before the store they show.
     QQmlApplicationEngine m_engine;
 };

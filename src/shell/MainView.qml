@@ -1,14 +1,30 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Velmora.Issues
+import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The signed-in screen: the sidebar, and the issues beside it.
+// The signed-in screen: the sidebar, the issues beside it and, at the end, the issue that is open.
 FocusScope {
     id: root
 
     required property AppStore store
+    required property WindowMemory memory
+
+    // The sidebar lies over the issues, because there is no room for it and it was asked for.
+    property bool isSidebarFloating: false
+
+    readonly property mainPlan plan: MainPlans.plan(width, memory.sidebarWidth, memory.inspectorWidth,
+        store.showInspector)
+    // Where the issues begin and end.
+    readonly property int detailLeft: plan.hasSidebar ? plan.sidebar : 0
+    readonly property int detailRight: width - plan.inspector
+    readonly property real detailCentre: plan.coversDetail ? width / 2 : (detailLeft + detailRight) / 2
+
+    onPlanChanged: isSidebarFloating = isSidebarFloating && !plan.hasSidebar
 
     KeyMonitor {
         window: root.Window.window
@@ -19,19 +35,69 @@ FocusScope {
         id: sidebar
         x: Metrics.paneMargin
         y: Metrics.paneMargin
-        width: Metrics.sidebarWidth - Metrics.paneMargin
+        z: 2
+        width: root.plan.sidebar - Metrics.paneMargin
         height: parent.height - 2 * Metrics.paneMargin
+        visible: root.plan.hasSidebar || root.isSidebarFloating
+        isFloating: root.isSidebarFloating
         store: root.store
+        onDismissed: root.isSidebarFloating = false
     }
 
     IssuesView {
-        anchors.left: sidebar.right
-        anchors.leftMargin: 4
-        anchors.right: parent.right
-        anchors.rightMargin: 4
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
+        x: root.detailLeft + 4
+        width: root.detailRight - x - 4
+        height: parent.height
+        visible: !root.plan.coversDetail
         focus: true
         store: root.store
+        hasSidebarButton: !root.plan.hasSidebar
+        onSidebarWanted: root.isSidebarFloating = true
+    }
+
+    // A press beside the floating sidebar only puts it away.
+    MouseArea {
+        anchors.fill: parent
+        z: 1
+        visible: root.isSidebarFloating
+        onPressed: root.isSidebarFloating = false
+        onWheel: event => event.accepted = true
+    }
+
+    When {
+        shown: root.store.showInspector
+
+        InspectorPane {
+            x: root.plan.coversDetail ? Metrics.paneMargin : root.detailRight
+            y: Metrics.paneMargin
+            width: root.width - x - Metrics.paneMargin
+            height: root.height - 2 * Metrics.paneMargin
+            store: root.store
+        }
+    }
+
+    SplitHandle {
+        x: root.plan.sidebar - width / 2
+        height: parent.height
+        visible: root.plan.hasSidebar
+        name: "Largeur de la barre latérale"
+        value: root.plan.sidebar
+        minimum: Metrics.sidebarMinWidth
+        maximum: Metrics.sidebarMaxWidth
+        standard: Metrics.sidebarWidth
+        onMoved: width => root.memory.sidebarWidth = width
+    }
+
+    SplitHandle {
+        x: root.detailRight - width / 2
+        height: parent.height
+        visible: root.plan.inspector > 0 && !root.plan.coversDetail
+        trailing: true
+        name: "Largeur de l'inspecteur"
+        value: root.plan.inspector
+        minimum: Metrics.inspectorMinWidth
+        maximum: Metrics.inspectorMaxWidth
+        standard: Metrics.inspectorWidth
+        onMoved: width => root.memory.inspectorWidth = width
     }
 }

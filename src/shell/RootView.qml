@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Kit
 import Velmora.Palette
+import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
@@ -11,6 +12,10 @@ Window {
     id: root
 
     required property AppStore store
+    required property WindowMemory memory
+
+    // Where the middle of the issues is, over which toasts stand.
+    property real detailCentre: width / 2
 
     title: "Velmora"
     width: 1320
@@ -45,6 +50,10 @@ Window {
             anchors.fill: parent
             focus: true
             store: root.store
+            memory: root.memory
+            onDetailCentreChanged: root.detailCentre = detailCentre
+            Component.onCompleted: root.detailCentre = detailCentre
+            Component.onDestruction: root.detailCentre = Qt.binding(() => root.width / 2)
         }
     }
 
@@ -58,7 +67,7 @@ Window {
         // Over the selection bar while issues are checked, near the edge otherwise.
         bottomGap: root.store.isSelecting ? Metrics.toastBottomAboveBar : Metrics.toastBottom
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.horizontalCenterOffset: root.store.phase === AppStore.Phase.Ready ? Metrics.sidebarWidth / 2 : 0
+        anchors.horizontalCenterOffset: root.detailCentre - root.width / 2
         anchors.bottom: parent.bottom
         onDismissed: id => root.store.dismissToast(id)
     }

@@ -13,6 +13,16 @@ FocusScope {
     id: root
 
     required property AppStore store
+    // Over the issues, not beside them; a choice or Escape puts it away.
+    property bool isFloating: false
+
+    signal dismissed()
+
+    Keys.onEscapePressed: event => {
+        event.accepted = isFloating;
+        dismissed();
+    }
+    onVisibleChanged: if (isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
 
     Workspace {
         id: workspace
@@ -21,6 +31,7 @@ FocusScope {
 
     GlassPanel {
         anchors.fill: parent
+        shadow: root.isFloating ? "popover" : "pane"
 
         PaneGlow {
             anchors.fill: parent
@@ -73,7 +84,10 @@ FocusScope {
 
             width: ListView.view.width
             isFocused: isSelected && list.activeFocus
-            onChosen: root.store.selectInSidebar(scope)
+            onChosen: {
+                root.store.selectInSidebar(scope);
+                root.dismissed();
+            }
             onMenuRequested: menu.popup()
 
             PopupMenu {

@@ -192,6 +192,8 @@ public:
     void copyLink(const std::optional<QString> &key = {});
     void openInBrowser(const std::optional<QString> &key = {});
     Q_INVOKABLE void openSite();
+    /// The address of an issue at the site.
+    std::optional<QUrl> browseURL(const std::optional<QString> &key = {}) const;
 
     // Recap; outside of one nothing of it does anything ------------------------------------------------------------------
     ActivitySummary activitySummary() const;
@@ -269,7 +271,6 @@ private:
     // AppStoreClipboard.cpp
     void copy(const CopiedText &copied);
     std::optional<QString> targetOr(const std::optional<QString> &key) const;
-    std::optional<QUrl> browseURL(const std::optional<QString> &key) const;
     // AppStoreRecap.cpp
     void turnTo(const ActivityPeriod &period);
     void refreshActivityHeader();

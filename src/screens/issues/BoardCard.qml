@@ -16,10 +16,14 @@ Rectangle {
     required property bool isOpen
     required property string dueText
     required property bool isOverdue
+    required property string dueTooltip
     required property string accessibleName
 
     signal clicked(modifiers: int)
     signal menuRequested(x: real, y: real)
+    // The picker of a kind (`PropertyOptions.Kind`) is wanted at a cell.
+    signal pickRequested(kind: int, cell: Item)
+    signal dragBegun(handler: DragHandler)
 
     readonly property bool isStrong: isChecked || isOpen
     // 0 at rest, 1 under the pointer.
@@ -82,6 +86,13 @@ Rectangle {
             : root.clicked(tap.point.modifiers)
     }
 
+    DragHandler {
+        id: drag
+        target: null
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onActiveChanged: if (active) root.dragBegun(drag)
+    }
+
     Column {
         id: content
         x: 12
@@ -92,6 +103,7 @@ Rectangle {
         CardHead {
             width: parent.width
             issue: root.issue
+            onPickRequested: (kind, cell) => root.pickRequested(kind, cell)
         }
 
         AppText {
@@ -107,6 +119,8 @@ Rectangle {
             issue: root.issue
             dueText: root.dueText
             isOverdue: root.isOverdue
+            dueTooltip: root.dueTooltip
+            onPickRequested: (kind, cell) => root.pickRequested(kind, cell)
         }
     }
 }

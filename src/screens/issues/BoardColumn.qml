@@ -21,11 +21,42 @@ Rectangle {
 
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
+    signal pickRequested(kind: int, key: string, cell: Item)
+    signal dragBegun(key: string, handler: DragHandler)
+    // A drag is over the column, or let go there.
+    signal draggedOver(x: real)
+    signal dropped(text: string)
+    signal newIssueRequested()
+
+    readonly property alias isTargeted: drop.containsDrag
 
     readonly property int padding: Metrics.paneMargin
 
     radius: Metrics.radiusPopover
     color: Theme.boardColumn
+
+    ColumnTarget {
+        anchors.fill: parent
+        radius: root.radius
+        isTargeted: root.isTargeted
+    }
+
+    DropArea {
+        id: drop
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = drag.hasText
+        onPositionChanged: drag => root.draggedOver(drag.x)
+        onDropped: drop => {
+            drop.accept(Qt.CopyAction);
+            root.dropped(drop.text);
+        }
+    }
+
+    EdgeScroller {
+        running: drop.containsDrag
+        view: list
+        position: drop.drag.y - list.y
+    }
 
     Item {
         id: head
@@ -48,7 +79,7 @@ Rectangle {
             anchors.left: icon.right
             anchors.leftMargin: Metrics.gap
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, head.width - x - number.implicitWidth - 2 * Metrics.gap)
+            width: Math.min(implicitWidth, head.width - x - number.implicitWidth - 2 * Metrics.gap - Metrics.smallButton)
             weight: Font.DemiBold
             text: root.title
             Accessible.role: Accessible.Heading
@@ -63,6 +94,17 @@ Rectangle {
             tabular: true
             color: Theme.text2
             text: root.count
+        }
+
+        IconButton {
+            anchors.right: parent.right
+            anchors.rightMargin: Metrics.gapSmall
+            anchors.verticalCenter: parent.verticalCenter
+            enabled: CreateScreen.isAvailable
+            name: "Nouveau ticket"
+            symbol: "plus"
+            symbolWeight: "semibold"
+            onClicked: root.newIssueRequested()
         }
     }
 
@@ -92,6 +134,31 @@ Rectangle {
             width: list.width
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
+            onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, cell)
+            onDragBegun: handler => root.dragBegun(issue.key, handler)
+        }
+
+        add: Transition {
+            NumberAnimation {
+                property: "opacity"
+                from: 0
+                to: 1
+                duration: Motion.fadeDuration
+            }
+        }
+
+        displaced: Transition {
+            NumberAnimation {
+                property: "y"
+                duration: Motion.stateDuration
+                easing: Springs.even
+            }
+            // A card that was on its way in stays in.
+            NumberAnimation {
+                property: "opacity"
+                to: 1
+                duration: Motion.fadeDuration
+            }
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {

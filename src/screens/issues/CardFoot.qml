@@ -1,8 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
+import Velmora.Options
 import Velmora.Theme
 
 // The lower line of a card: priority, due date and the first two labels, the last of which gives way to the edge.
@@ -12,21 +14,33 @@ Row {
     required property issue issue
     required property string dueText
     required property bool isOverdue
+    required property string dueTooltip
+
+    signal pickRequested(kind: int, cell: Item)
 
     height: 20
     spacing: Metrics.gapSmall
 
-    Rectangle {
-        width: 22
+    PickerCell {
+        id: priorityCell
         height: 20
-        radius: Metrics.radiusKeyCap
-        color: "transparent"
-        border.color: Theme.ink(0.1)
+        kind: PropertyOptions.Priority
+        hint: Pictures.priorityName(root.issue.priorityLevel)
+        spoken: "Priorité : " + hint
+        onPressed: root.pickRequested(kind, priorityCell)
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Metrics.radiusKeyCap
+            color: "transparent"
+            border.color: Theme.ink(0.1)
+        }
 
         PriorityIcon {
             anchors.centerIn: parent
             level: root.issue.priorityLevel
             size: 12
+            Accessible.ignored: true
         }
     }
 
@@ -37,6 +51,15 @@ Row {
             anchors.verticalCenter: parent?.verticalCenter
             text: root.dueText
             late: root.isOverdue
+
+            HoverHandler {
+                id: overDue
+            }
+
+            HintTip {
+                shown: overDue.hovered
+                text: root.dueTooltip
+            }
         }
     }
 

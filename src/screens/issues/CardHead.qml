@@ -1,8 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
+import Velmora.Options
 import Velmora.Theme
 
 // The upper line of a card: type and key, and who has the issue.
@@ -10,6 +12,8 @@ Item {
     id: root
 
     required property issue issue
+
+    signal pickRequested(kind: int, cell: Item)
 
     implicitHeight: 18
 
@@ -37,11 +41,23 @@ Item {
         }
     }
 
-    Avatar {
+    PickerCell {
+        id: assigneeCell
+        // The picture ends with the card's text, the cell round it reaches beyond.
         anchors.right: parent.right
+        anchors.rightMargin: -2
         anchors.verticalCenter: parent.verticalCenter
-        user: root.issue.assigneeOrEmpty
-        hasUser: root.issue.hasAssignee
-        size: 18
+        kind: PropertyOptions.Assignee
+        hint: ""
+        spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
+        onPressed: root.pickRequested(kind, assigneeCell)
+
+        Avatar {
+            anchors.centerIn: parent
+            user: root.issue.assigneeOrEmpty
+            hasUser: root.issue.hasAssignee
+            size: 18
+            Accessible.ignored: true
+        }
     }
 }

@@ -12,13 +12,11 @@ Item {
     required property AppStore store
 
     property bool isOpen: false
-    property Item returnTo: null
     property point place
 
     // Opens on the issue, at a point of an item.
     function open(key: string, item: Item, x: real, y: real) {
         issueMenu.prepare(key);
-        returnTo = FocusReturn.holder(root);
         place = mapFromItem(item, x, y);
         isOpen = true;
     }
@@ -34,10 +32,7 @@ Item {
         Item {
             IssueContextMenu {
                 content: issueMenu
-                onClosed: {
-                    root.isOpen = false;
-                    FocusReturn.giveBack(root.returnTo);
-                }
+                onClosed: root.isOpen = false
                 Component.onCompleted: popup(root, root.place.x, root.place.y)
             }
         }

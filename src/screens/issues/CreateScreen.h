@@ -1,5 +1,6 @@
 #pragma once
 
+#include "state/AppStore.h"
 #include "state/CreateScreen.h"
 
 #include <QObject>
@@ -18,4 +19,6 @@ public:
     using QObject::QObject;
 
     static constexpr bool isAvailable() { return hasCreateScreen; }
+    /// Asks for it, in a project or, with an empty key, where the list leads to.
+    Q_INVOKABLE static void open(AppStore *store, const QString &projectKey);
 };

@@ -11,16 +11,12 @@ ToolbarCell {
     required property Filters filters
 
     property bool isOpen: false
-    property Item returnTo: null
 
     name: "Filtrer"
     symbol: filters.isEmpty ? "line.3.horizontal.decrease" : "line.3.horizontal.decrease.circle.fill"
     active: !filters.isEmpty
     on: isOpen
-    onClicked: {
-        returnTo = FocusReturn.holder(root);
-        isOpen = true;
-    }
+    onClicked: isOpen = true
 
     When {
         shown: root.isOpen
@@ -28,10 +24,7 @@ ToolbarCell {
         Item {
             FilterMenu {
                 filters: root.filters
-                onClosed: {
-                    root.isOpen = false;
-                    FocusReturn.giveBack(root.returnTo);
-                }
+                onClosed: root.isOpen = false
                 Component.onCompleted: popup(root, 0, root.height + 6)
             }
         }

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -12,6 +13,7 @@ Item {
     property bool isPinned: false
 
     signal toggled()
+    signal newIssueRequested()
 
     Accessible.role: Accessible.Button
     Accessible.name: root.header.accessibleName
@@ -81,6 +83,18 @@ Item {
         color: Theme.text2
         text: root.header.count
         Accessible.ignored: true
+    }
+
+    IconButton {
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        focusPolicy: Qt.NoFocus
+        enabled: CreateScreen.isAvailable
+        name: "Nouveau ticket"
+        symbol: "plus"
+        symbolWeight: "semibold"
+        onClicked: root.newIssueRequested()
     }
 
     TapHandler {

@@ -15,6 +15,8 @@ FocusScope {
 
     required property AppStore store
     required property ContextMenuHost contextMenu
+    required property PickerHost picker
+    required property DragHost drag
 
     readonly property bool isCompact: store.density === Model.RowDensity.Compact
     readonly property int rowHeight: isCompact ? Metrics.rowCompactHeight : Metrics.rowHeight
@@ -24,6 +26,10 @@ FocusScope {
         const row = list.itemAtIndex(store.issueList.rowOfKey(store.focusedKey));
         if (row)
             contextMenu.open(store.focusedKey, row, 68, rowHeight);
+    }
+
+    function newIssueIn(header: issueListHeader) {
+        CreateScreen.open(store, header.hasProject ? header.projectOrEmpty.key : "");
     }
 
     KeyColumn {
@@ -64,6 +70,7 @@ FocusScope {
                     width: list.width
                     height: root.headerHeight
                     onToggled: root.store.toggleGroup(header.groupId)
+                    onNewIssueRequested: root.newIssueIn(header)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
                 }
@@ -82,9 +89,27 @@ FocusScope {
                     onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
+                    onPickRequested: (kind, cell) => root.picker.toggle(kind, issue.key, cell)
+                    onDragBegun: handler => root.drag.begin(issue.key, handler)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
                 }
+            }
+        }
+
+        move: Transition {
+            NumberAnimation {
+                property: "y"
+                duration: Motion.stateDuration
+                easing: Springs.even
+            }
+        }
+
+        moveDisplaced: Transition {
+            NumberAnimation {
+                property: "y"
+                duration: Motion.stateDuration
+                easing: Springs.even
             }
         }
 
@@ -109,6 +134,7 @@ FocusScope {
         isPinned: true
         header: root.store.issueList.headerAt(root.store.issueList.headerRowOf(topRow))
         onToggled: root.store.toggleGroup(header.groupId)
+        onNewIssueRequested: root.newIssueIn(header)
     }
 
     FocusedRowScroller {

@@ -4,6 +4,7 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
+import Velmora.Options
 import Velmora.State
 import Velmora.Theme
 
@@ -28,9 +29,10 @@ Item {
 
     signal clicked(modifiers: int)
     signal checkToggled()
-    // The picker of a kind (`RowPicking.Kind`) is wanted at a cell.
+    // The picker of a kind (`PropertyOptions.Kind`) is wanted at a cell.
     signal pickRequested(kind: int, cell: Item)
     signal menuRequested(x: real, y: real)
+    signal dragBegun(handler: DragHandler)
 
     readonly property RowCell hotCell: hover.hovered ? cellAt(hover.point.position.x) : null
 
@@ -51,7 +53,7 @@ Item {
     readonly property real room: width - trailing.width - leading.width - 3 * gap
     readonly property rowFit fit: RowFitting.fit(room,
         labels.visible ? labels.namesWidth + gap : 0, labels.visible ? labels.dotsWidth + gap : 0,
-        due.visible ? dueMeasure.advanceWidth + 30 + gap : 0, due.visible ? 26 + gap : 0)
+        due.visible ? RowFitting.dueWidth(dueText) + gap : 0, due.visible ? 26 + gap : 0)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -96,6 +98,13 @@ Item {
             : root.press(point.position.x, tap.point.modifiers)
     }
 
+    DragHandler {
+        id: drag
+        target: null
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        onActiveChanged: if (active) root.dragBegun(drag)
+    }
+
     CellHighlight {
         anchors.verticalCenter: parent.verticalCenter
         cell: root.hotCell
@@ -127,7 +136,7 @@ Item {
         RowCell {
             id: priorityCell
             visible: root.display.priority
-            kind: RowPicking.Priority
+            kind: PropertyOptions.Priority
             hint: root.priorityText
             spoken: "Priorité : " + hint
             onPressed: root.pickRequested(kind, priorityCell)
@@ -154,7 +163,7 @@ Item {
 
         RowCell {
             id: statusCell
-            kind: RowPicking.Status
+            kind: PropertyOptions.Status
             hint: root.issue.status.displayName
             spoken: "Statut : " + hint
             onPressed: root.pickRequested(kind, statusCell)
@@ -203,12 +212,6 @@ Item {
         showsNames: root.fit.showsLabelNames
     }
 
-    TextMetrics {
-        id: dueMeasure
-        font: TypeScale.font(TypeScale.Badge, -1, true)
-        text: root.dueText
-    }
-
     DueBadge {
         id: due
         visible: root.display.dueDate && root.issue.hasDueDate
@@ -220,6 +223,11 @@ Item {
         text: root.dueText
         late: root.isOverdue
         compact: !root.fit.showsDueText
+
+        HintTip {
+            shown: hover.hovered && due.contains(due.mapFromItem(root, hover.point.position))
+            text: root.dueTooltip
+        }
     }
 
     Row {
@@ -232,7 +240,7 @@ Item {
         RowCell {
             id: assigneeCell
             visible: root.display.assignee
-            kind: RowPicking.Assignee
+            kind: PropertyOptions.Assignee
             hint: ""
             spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
             onPressed: root.pickRequested(kind, assigneeCell)

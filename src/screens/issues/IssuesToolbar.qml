@@ -12,6 +12,9 @@ Item {
 
     required property AppStore store
     required property Filters filters
+    property bool hasSidebarButton: false
+
+    signal sidebarWanted()
 
     function focusSearch() {
         search.open()
@@ -19,9 +22,25 @@ Item {
 
     implicitHeight: Metrics.toolbarHeight
 
+    GlassCapsule {
+        id: sidebarButton
+        visible: root.hasSidebarButton
+        x: Metrics.gap
+        anchors.verticalCenter: parent.top
+        anchors.verticalCenterOffset: Metrics.toolbarCentre
+        width: Metrics.capsuleCellWidth + 4
+
+        ToolbarCell {
+            anchors.centerIn: parent
+            name: "Afficher la barre latérale"
+            symbol: "shell.sidebar"
+            onClicked: root.sidebarWanted()
+        }
+    }
+
     Column {
         anchors.left: parent.left
-        anchors.leftMargin: 20
+        anchors.leftMargin: root.hasSidebarButton ? sidebarButton.x + sidebarButton.width + Metrics.gapMedium : 20
         anchors.right: commands.left
         anchors.rightMargin: Metrics.gap
         y: 11
@@ -71,6 +90,10 @@ Item {
 
                 FilterButton {
                     filters: root.filters
+                }
+
+                DisplayOptionsButton {
+                    store: root.store
                 }
 
                 ToolbarCell {

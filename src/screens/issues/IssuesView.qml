@@ -12,6 +12,10 @@ FocusScope {
     id: root
 
     required property AppStore store
+    // There is no sidebar beside it, but a button for one.
+    property bool hasSidebarButton: false
+
+    signal sidebarWanted()
 
     IssuesContent {
         id: content
@@ -28,6 +32,8 @@ FocusScope {
         width: parent.width
         store: root.store
         filters: activeFilters
+        hasSidebarButton: root.hasSidebarButton
+        onSidebarWanted: root.sidebarWanted()
     }
 
     Column {
@@ -97,6 +103,8 @@ FocusScope {
                 focus: true
                 store: root.store
                 contextMenu: rowMenu
+                picker: rowPicker
+                drag: rowDrag
             }
         }
 
@@ -110,6 +118,8 @@ FocusScope {
                 focus: true
                 store: root.store
                 contextMenu: rowMenu
+                picker: rowPicker
+                drag: rowDrag
             }
         }
 
@@ -134,6 +144,17 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 20
+        store: root.store
+    }
+
+    PickerHost {
+        id: rowPicker
+        anchors.fill: parent
+        store: root.store
+    }
+
+    DragHost {
+        id: rowDrag
         store: root.store
     }
 

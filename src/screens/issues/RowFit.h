@@ -36,4 +36,8 @@ public:
     /// their cell and are 0 for a cell that is not shown.
     Q_INVOKABLE static RowFit fit(double room, double labelNames, double labelDots, double dueText,
                                   double dueIcon);
+    /// How wide the chips of the first two labels and the number of the others are; 0 without labels.
+    Q_INVOKABLE static double labelsWidth(const QStringList &labels);
+    /// How wide the badge of a due date with this text is.
+    Q_INVOKABLE static double dueWidth(const QString &text);
 };

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
 import Velmora.Theme
@@ -12,8 +13,10 @@ Item {
     required property issue issue
     required property bool showsNames
 
-    readonly property real namesWidth: issue.labels.length > 0 ? names.implicitWidth : 0
-    readonly property real dotsWidth: issue.labels.length > 0 ? dots.implicitWidth : 0
+    readonly property int count: issue.labels.length
+    readonly property int dotCount: Math.min(4, count)
+    readonly property real namesWidth: RowFitting.labelsWidth(issue.labels)
+    readonly property real dotsWidth: count > 0 ? dotCount * 7 + (dotCount - 1) * 3 : 0
 
     implicitWidth: showsNames ? namesWidth : dotsWidth
     implicitHeight: Metrics.chipHeight
@@ -21,10 +24,9 @@ Item {
     Row {
         id: names
         spacing: Metrics.gapTiny
-        opacity: root.showsNames ? 1 : 0
 
         Repeater {
-            model: Math.min(2, root.issue.labels.length)
+            model: root.showsNames ? Math.min(2, root.count) : 0
 
             LabelChip {
                 required property int index
@@ -34,12 +36,12 @@ Item {
         }
 
         AppText {
-            visible: root.issue.labels.length > 2
+            visible: root.showsNames && root.count > 2
             anchors.verticalCenter: parent.verticalCenter
             role: TypeScale.Caption
             color: Theme.text2
             Accessible.ignored: true
-            text: "+" + (root.issue.labels.length - 2)
+            text: "+" + (root.count - 2)
         }
     }
 
@@ -47,10 +49,9 @@ Item {
         id: dots
         anchors.verticalCenter: parent.verticalCenter
         spacing: 3
-        opacity: root.showsNames ? 0 : 1
 
         Repeater {
-            model: Math.min(4, root.issue.labels.length)
+            model: root.showsNames ? 0 : root.dotCount
 
             LabelDot {
                 required property int index

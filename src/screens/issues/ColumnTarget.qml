@@ -1,0 +1,23 @@
+import QtQuick
+import Velmora.Theme
+
+// The sign that what is dragged would land in the column.
+Rectangle {
+    id: root
+
+    required property bool isTargeted
+
+    opacity: isTargeted ? 1 : 0
+    visible: opacity > 0
+    color: Theme.accentAt(0.1)
+    border.width: 1.5
+    border.pixelAligned: false
+    border.color: Theme.accentAt(0.5)
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Motion.scrollDuration
+            easing: Springs.even
+        }
+    }
+}

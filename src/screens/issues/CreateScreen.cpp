@@ -1,0 +1,7 @@
+#include "screens/issues/CreateScreen.h"
+
+void CreateScreen::open(AppStore *store, const QString &projectKey)
+{
+    if (store && isAvailable())
+        store->newIssue(projectKey.isEmpty() ? std::nullopt : std::optional(projectKey));
+}

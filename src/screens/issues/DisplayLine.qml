@@ -1,0 +1,27 @@
+import QtQuick
+import Velmora.Kit
+
+// A name and, at the end of the line, the control that goes by it.
+Item {
+    id: root
+
+    default property alias control: slot.data
+    required property string text
+
+    implicitHeight: 32
+
+    AppText {
+        anchors.verticalCenter: parent.verticalCenter
+        width: root.width - slot.width
+        text: root.text
+        Accessible.ignored: true
+    }
+
+    Item {
+        id: slot
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: childrenRect.width
+        height: childrenRect.height
+    }
+}

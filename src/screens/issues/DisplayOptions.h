@@ -1,0 +1,30 @@
+#pragma once
+
+#include "state/AppStore.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+/// The properties with one of them turned over, by its name: "key", "priority", "type", "labels", "assignee", "dueDate" or
+/// "updated"; any other name changes nothing.
+DisplayProperties toggledDisplay(DisplayProperties display, const QString &name);
+
+/// Changes which columns rows show.
+class DisplayOptions : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store MEMBER m_store NOTIFY storeChanged FINAL REQUIRED)
+
+public:
+    using QObject::QObject;
+
+    Q_INVOKABLE void toggle(const QString &name);
+
+Q_SIGNALS:
+    void storeChanged();
+
+private:
+    QPointer<AppStore> m_store;
+};

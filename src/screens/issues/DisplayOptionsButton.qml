@@ -1,0 +1,53 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+
+// The toolbar's display options, in a popover that exists while it is open.
+ToolbarCell {
+    id: root
+
+    required property AppStore store
+
+    property bool isOpen: false
+
+    signal dismissed()
+
+    name: "Affichage"
+    hint: "Options d'affichage"
+    symbol: "slider.horizontal.3"
+    on: isOpen
+    onClicked: isOpen ? dismissed() : isOpen = true
+
+    When {
+        shown: root.isOpen
+
+        Item {
+            width: root.width
+            height: root.height
+
+            Popover {
+                id: popover
+                name: "Options d'affichage"
+                alignment: PopoverPlacement.Trailing
+                onClosed: root.isOpen = false
+                Component.onCompleted: open()
+
+                DisplayOptionsView {
+                    width: popover.width
+                    store: root.store
+                }
+            }
+
+            Connections {
+                target: root
+
+                function onDismissed() {
+                    popover.close();
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,146 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Model
+import Velmora.State
+import Velmora.Theme
+
+// How the list is grouped and sorted, and which columns its rows show.
+Item {
+    id: root
+
+    required property AppStore store
+
+    implicitHeight: lines.implicitHeight + 2 * 12
+
+    DisplayOptions {
+        id: options
+        store: root.store
+    }
+
+    Column {
+        id: lines
+        x: 16
+        y: 12
+        width: root.width - 2 * x
+
+        DisplayLine {
+            width: parent.width
+            height: 34
+            text: "Regrouper par"
+
+            MenuPicker {
+                name: "Regrouper par"
+                enabled: root.store.layout === Model.LayoutMode.List
+                choices: ["Statut", "Assigné", "Priorité", "Projet", "Aucun"]
+                current: root.store.grouping
+                onChosen: index => root.store.grouping = index
+            }
+        }
+
+        DisplayLine {
+            width: parent.width
+            height: 34
+            text: "Trier par"
+
+            MenuPicker {
+                name: "Trier par"
+                choices: ["Priorité", "Mise à jour", "Création", "Numéro", "Ordre Jira"]
+                current: root.store.ordering
+                onChosen: index => root.store.ordering = index
+            }
+        }
+
+        DisplayLine {
+            width: parent.width
+            text: "Afficher les tickets terminés"
+
+            ToggleSwitch {
+                name: "Afficher les tickets terminés"
+                checked: root.store.showCompleted
+                onClicked: root.store.showCompleted = !root.store.showCompleted
+            }
+        }
+
+        Item {
+            width: parent.width
+            height: 17
+
+            Rectangle {
+                y: 8
+                width: parent.width
+                height: 1
+                color: Theme.divider
+            }
+        }
+
+        AppText {
+            height: 24
+            topPadding: 4
+            role: TypeScale.Caption
+            weight: Font.DemiBold
+            color: Theme.text2
+            text: "Propriétés affichées"
+            Accessible.role: Accessible.Heading
+        }
+
+        PropertyLine {
+            text: "Clé"
+            column: "key"
+            isOn: root.store.display.key
+        }
+
+        PropertyLine {
+            text: "Priorité"
+            column: "priority"
+            isOn: root.store.display.priority
+        }
+
+        PropertyLine {
+            text: "Type"
+            column: "type"
+            isOn: root.store.display.type
+        }
+
+        PropertyLine {
+            text: "Étiquettes"
+            column: "labels"
+            isOn: root.store.display.labels
+        }
+
+        PropertyLine {
+            text: "Assigné"
+            column: "assignee"
+            isOn: root.store.display.assignee
+        }
+
+        PropertyLine {
+            text: "Échéance"
+            column: "dueDate"
+            isOn: root.store.display.dueDate
+        }
+
+        PropertyLine {
+            text: "Mis à jour"
+            column: "updated"
+            isOn: root.store.display.updated
+        }
+    }
+
+    component PropertyLine: DisplayLine {
+        id: line
+
+        required property string column
+        required property bool isOn
+
+        width: lines.width
+
+        ToggleSwitch {
+            name: line.text
+            checked: line.isOn
+            onClicked: options.toggle(line.column)
+        }
+    }
+}

@@ -1,0 +1,41 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Model
+import Velmora.Theme
+
+// The picture of an issue under the pointer while it is dragged.
+GlassPanel {
+    id: root
+
+    required property issue issue
+
+    implicitWidth: Math.min(Math.ceil(line.implicitWidth) + 24, 420)
+    implicitHeight: line.implicitHeight + 16
+    radius: Metrics.radiusRow
+    shadow: "none"
+    color: Theme.elevated
+
+    Row {
+        id: line
+        x: 12
+        y: Metrics.gap
+        spacing: Metrics.gap
+
+        StatusIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            status: root.issue.status
+            size: 13
+        }
+
+        AppText {
+            weight: Font.Medium
+            text: root.issue.key
+        }
+
+        AppText {
+            width: Math.min(implicitWidth, root.width - x - 24)
+            weight: Font.Medium
+            text: root.issue.summary
+        }
+    }
+}

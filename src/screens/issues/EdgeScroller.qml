@@ -1,0 +1,28 @@
+import QtQuick
+import Velmora.Issues
+
+// Scrolls a view while a drag is near its upper or lower end, or at its sides with `isHorizontal`.
+FrameAnimation {
+    id: root
+
+    required property Flickable view
+    // Where the drag is, along the view.
+    required property real position
+    property bool isHorizontal: false
+
+    function bounded(to: real, first: real, span: real): real {
+        return Math.max(first, Math.min(to, first + Math.max(0, span)));
+    }
+
+    function scrollAlong(step: real) {
+        view.contentY = bounded(view.contentY + step, view.originY,
+            view.contentHeight + view.bottomMargin - view.height);
+    }
+
+    function scrollAcross(step: real) {
+        view.contentX = bounded(view.contentX + step, view.originX, view.contentWidth - view.width);
+    }
+
+    onTriggered: isHorizontal ? scrollAcross(BoardScroll.step(position, view.width) * frameTime * 60)
+        : scrollAlong(BoardScroll.step(position, view.height) * frameTime * 60)
+}

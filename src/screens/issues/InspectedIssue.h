@@ -1,0 +1,69 @@
+#pragma once
+
+#include "state/AppStore.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+/// An open issue as the best known record has it, kept up to date.
+class InspectedIssue : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged FINAL REQUIRED)
+    /// The key alone in a list, as what changes issues wants it.
+    Q_PROPERTY(QStringList keys READ keys NOTIFY keyChanged FINAL)
+    /// An empty record while nothing is known of the issue.
+    Q_PROPERTY(Issue issue READ issue NOTIFY changed FINAL)
+    Q_PROPERTY(bool isKnown READ isKnown NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasProject READ hasProject NOTIFY changed FINAL)
+    Q_PROPERTY(Project project READ project NOTIFY changed FINAL)
+    /// The project's name, or what stands before the dash of the key.
+    Q_PROPERTY(QString projectName READ projectName NOTIFY changed FINAL)
+    /// The chips' titles.
+    Q_PROPERTY(QString statusTitle READ statusTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString priorityTitle READ priorityTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString assigneeTitle READ assigneeTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString labelsTitle READ labelsTitle NOTIFY changed FINAL)
+    /// Empty without a due date.
+    Q_PROPERTY(QString dueTitle READ dueTitle NOTIFY changed FINAL)
+
+public:
+    using QObject::QObject;
+
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
+    const QString &key() const { return m_key; }
+    void setKey(const QString &key);
+    QStringList keys() const { return {m_key}; }
+    const Issue &issue() const { return m_issue; }
+    bool isKnown() const { return !m_issue.key.isEmpty(); }
+    bool hasProject() const { return m_project.has_value(); }
+    Project project() const { return m_project.value_or(Project()); }
+    QString projectName() const;
+    QString statusTitle() const { return m_issue.status.displayName(); }
+    QString priorityTitle() const;
+    QString assigneeTitle() const;
+    QString labelsTitle() const;
+    QString dueTitle() const;
+
+    Q_INVOKABLE void openInBrowser();
+    Q_INVOKABLE void openWindow();
+    Q_INVOKABLE void copyLink();
+    Q_INVOKABLE void copyBranch();
+
+Q_SIGNALS:
+    void storeChanged();
+    void keyChanged();
+    void changed();
+
+private:
+    void update();
+
+    QPointer<AppStore> m_store;
+    QString m_key;
+    Issue m_issue;
+    std::optional<Project> m_project;
+};

@@ -1,0 +1,122 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// An open issue: where it belongs, its title and its properties.
+FocusScope {
+    id: root
+
+    required property AppStore store
+    required property string key
+
+    signal closed()
+
+    InspectedIssue {
+        id: open
+        store: root.store
+        key: root.key
+    }
+
+    SummaryToolbar {
+        id: tools
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        y: 6
+        issue: open
+    }
+
+    GlassPanel {
+        id: crumb
+        x: Metrics.gapMedium
+        y: 46
+        width: parent.width - 2 * x
+        height: 36
+        shadow: "capsule"
+        color: Theme.glass
+
+        Row {
+            x: 14
+            height: parent.height
+            spacing: 7
+
+            When {
+                shown: open.hasProject
+
+                ProjectBadge {
+                    y: (crumb.height - height) / 2
+                    project: open.project
+                    Accessible.ignored: true
+                }
+            }
+
+            AppText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: open.projectName
+            }
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.right"
+                size: 9
+                weight: "semibold"
+                color: Theme.text2
+            }
+
+            AppText {
+                anchors.verticalCenter: parent.verticalCenter
+                weight: Font.Medium
+                tabular: true
+                text: root.key
+            }
+        }
+
+        IconButton {
+            anchors.right: parent.right
+            anchors.rightMargin: Metrics.gapSmall
+            anchors.verticalCenter: parent.verticalCenter
+            name: "Fermer l'inspecteur"
+            symbol: "xmark"
+            symbolWeight: "semibold"
+            onClicked: root.closed()
+        }
+    }
+
+    Flickable {
+        anchors.top: crumb.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        contentHeight: page.implicitHeight + 2 * Metrics.gap
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        Column {
+            id: page
+            x: Metrics.pageMargin
+            y: Metrics.gap
+            width: parent.width - 2 * x
+            spacing: Metrics.gapSection
+
+            AppText {
+                width: parent.width
+                role: TypeScale.Title1
+                wrapMode: Text.Wrap
+                text: open.issue.summary
+                Accessible.role: Accessible.Heading
+            }
+
+            SummaryChips {
+                width: parent.width
+                visible: open.isKnown
+                store: root.store
+                issue: open
+            }
+        }
+
+        T.ScrollBar.vertical: OverlayScrollBar {}
+    }
+}

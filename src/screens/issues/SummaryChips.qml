@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+import Velmora.Options
+import Velmora.State
+import Velmora.Theme
+
+// The properties of an open issue, each a chip that changes it.
+FlowLayout {
+    id: root
+
+    required property AppStore store
+    required property InspectedIssue issue
+
+    height: implicitHeight
+    spacing: Metrics.gap
+    lineSpacing: Metrics.gap
+
+    PropertyChip {
+        title: root.issue.statusTitle
+        accessibleName: "Statut : " + title
+        store: root.store
+        kind: PropertyOptions.Status
+        keys: root.issue.keys
+        leading: StatusIcon {
+            status: root.issue.issue.status
+            Accessible.ignored: true
+        }
+    }
+
+    PropertyChip {
+        title: root.issue.priorityTitle
+        accessibleName: "Priorité : " + title
+        store: root.store
+        kind: PropertyOptions.Priority
+        keys: root.issue.keys
+        leading: PriorityIcon {
+            level: root.issue.issue.priorityLevel
+            Accessible.ignored: true
+        }
+    }
+
+    PropertyChip {
+        title: root.issue.assigneeTitle
+        accessibleName: "Assigné : " + title
+        store: root.store
+        kind: PropertyOptions.Assignee
+        keys: root.issue.keys
+        leading: Avatar {
+            user: root.issue.issue.assigneeOrEmpty
+            hasUser: root.issue.issue.hasAssignee
+            size: 16
+            Accessible.ignored: true
+        }
+    }
+
+    PropertyChip {
+        title: root.issue.labelsTitle
+        accessibleName: "Étiquettes : " + title
+        store: root.store
+        kind: PropertyOptions.Labels
+        keys: root.issue.keys
+        leading: Symbol {
+            name: "tag"
+            size: 12
+        }
+    }
+
+    DueBadge {
+        visible: root.issue.dueTitle !== ""
+        implicitHeight: Metrics.propertyChipHeight
+        text: root.issue.dueTitle
+    }
+}
