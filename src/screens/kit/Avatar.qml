@@ -13,7 +13,7 @@ DrawnIcon {
     readonly property string personName: hasUser ? user.name : "Non assigné"
 
     side: size
-    source: !hasUser ? Pictures.nobody(size) : picture.roundSource.toString() ? picture.roundSource : Pictures.avatar(user, size)
+    source: !hasUser ? Pictures.nobody(size) : picture.isLoaded ? picture.roundSource : Pictures.avatar(user, size)
     Accessible.name: personName
 
     RemotePicture {

@@ -15,6 +15,7 @@ class RemotePicture : public QObject
     QML_ELEMENT
     /// Where it is to be had; empty for none.
     Q_PROPERTY(QUrl address READ address WRITE setAddress NOTIFY addressChanged FINAL)
+    Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY sourceChanged FINAL)
     /// What an Image shows; empty while there is nothing to show.
     Q_PROPERTY(QUrl source READ source NOTIFY sourceChanged FINAL)
     /// The same, cut to a disc.
@@ -25,6 +26,7 @@ public:
 
     const QUrl &address() const { return m_address; }
     void setAddress(const QUrl &address);
+    bool isLoaded() const { return m_isLoaded; }
     QUrl source() const;
     QUrl roundSource() const;
 

@@ -1,0 +1,41 @@
+import QtQuick
+import Velmora.Theme
+import Velmora.Kit
+
+/// A day in the grid of a month: on a disc when it is picked, in the accent when it is today. `number` 0 is no day.
+FocusableItem {
+    id: day
+
+    required property int number
+    required property bool picked
+    required property bool current
+    required property bool ringed
+
+    implicitHeight: 28
+    enabled: number > 0
+    focusPolicy: Qt.NoFocus
+    corner: 14
+    Accessible.selectable: true
+    Accessible.selected: picked
+    Accessible.ignored: number === 0
+
+    contentItem: AppText {
+        visible: day.number > 0
+        text: day.number
+        weight: day.picked || day.current ? Font.DemiBold : Font.Normal
+        tabular: true
+        color: day.picked ? Theme.textOnAccent : day.current ? Theme.accentText : Theme.text1
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    background: Item {
+        DayDisc {
+            anchors.centerIn: parent
+            picked: day.picked
+            lit: day.lit
+            ringed: day.ringed
+        }
+    }
+}
