@@ -1,32 +1,8 @@
 import QtQuick
 
-/// Chooses the page by its name: icons, controls or symbols.
-Item {
-    id: root
-
+/// Chooses the page by its name: icons, symbols, states, panels or controls.
+Loader {
     required property string page
 
-    Loader {
-        anchors.fill: parent
-        anchors.margins: 32
-        sourceComponent: root.page === "icons" ? icons : root.page === "controls" ? controls : symbols
-    }
-
-    Component {
-        id: icons
-
-        IconSamples {}
-    }
-
-    Component {
-        id: controls
-
-        ControlSamples {}
-    }
-
-    Component {
-        id: symbols
-
-        SymbolSamples {}
-    }
+    source: Qt.resolvedUrl(page.charAt(0).toUpperCase() + page.slice(1, -1) + "Samples.qml")
 }

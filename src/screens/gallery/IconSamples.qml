@@ -9,7 +9,7 @@ Column {
     spacing: 22
 
     Row {
-        spacing: 60
+        spacing: 24
 
         Repeater {
             model: Samples.statuses
@@ -37,7 +37,7 @@ Column {
     }
 
     Row {
-        spacing: 60
+        spacing: 24
 
         Repeater {
             model: 5
@@ -65,7 +65,7 @@ Column {
     }
 
     Row {
-        spacing: 60
+        spacing: 24
 
         Repeater {
             model: Samples.types
@@ -93,7 +93,7 @@ Column {
     }
 
     Row {
-        spacing: 60
+        spacing: 24
 
         Repeater {
             model: Samples.projects
@@ -121,7 +121,7 @@ Column {
     }
 
     Row {
-        spacing: 60
+        spacing: 24
 
         Repeater {
             model: Samples.people
@@ -216,9 +216,12 @@ Column {
             checked: true
         }
 
-        Spinner {}
+        Spinner {
+            running: false
+        }
 
         Spinner {
+            running: false
             size: 28
         }
     }

@@ -1,6 +1,7 @@
 #include "screens/kit/KitProviders.h"
 #include "screens/theme/Fonts.h"
 
+#include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
@@ -10,34 +11,69 @@
 Q_IMPORT_QML_PLUGIN(Velmora_ModelPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ThemePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 using namespace Qt::StringLiterals;
 
-// usage: gallery [page [dark [picture.png]]]; with a picture it draws one frame, saves it and ends.
+namespace {
+
+// Qt reads it when the application object is made, before the options are parsed.
+void setScale(int argc, char **argv)
+{
+    const auto option = "--scale="_L1;
+    for (int i = 1; i < argc; ++i) {
+        const auto argument = QString::fromLocal8Bit(argv[i]);
+        if (argument.startsWith(option))
+            qputenv("QT_SCALE_FACTOR", argument.mid(option.size()).toLatin1());
+    }
+}
+
+void addOptions(QCommandLineParser &parser)
+{
+    parser.addHelpOption();
+    parser.addOptions(
+        {{u"page"_s, u"icons, symbols, states, panels or controls"_s, u"name"_s, u"icons"_s},
+         {u"dark"_s, u"in the dark appearance"_s},
+         {u"accent"_s, u"from 0, indigo, to 6, graphite"_s, u"number"_s, u"0"_s},
+         {u"scale"_s, u"device pixels per point, 1 to 3"_s, u"factor"_s, u"1"_s},
+         {u"picture"_s, u"leave a picture of the page here, and end"_s, u"file"_s}});
+}
+
+void savePicture(QQuickWindow *window, const QString &file)
+{
+    constexpr int settled = 500;
+    QTimer::singleShot(settled, window, [window, file] {
+        window->grabWindow().save(file);
+        window->close();
+    });
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    setScale(argc, argv);
     const QGuiApplication application(argc, argv);
     if (!Fonts::load())
         qFatal("The fonts of the program are missing.");
-    const auto arguments = QGuiApplication::arguments();
+    QCommandLineParser parser;
+    addOptions(parser);
+    parser.process(application);
     QQmlApplicationEngine engine;
     engine.addImportPath(u":/qt/qml"_s);
     registerKitProviders(engine);
-    engine.setInitialProperties({{u"page"_s, arguments.value(1, u"icons"_s)},
-                                 {u"dark"_s, arguments.value(2) == u"dark"_s}});
+    engine.setInitialProperties({{u"page"_s, parser.value(u"page"_s)},
+                                 {u"dark"_s, parser.isSet(u"dark"_s)},
+                                 {u"accent"_s, parser.value(u"accent"_s).toInt()}});
     engine.load(QUrl(u"qrc:/qt/qml/Velmora/Gallery/Gallery.qml"_s));
     auto *window = engine.rootObjects().isEmpty()
                        ? nullptr
                        : qobject_cast<QQuickWindow *>(engine.rootObjects().first());
     if (!window)
         return 1;
-    const auto picture = arguments.value(3);
-    if (!picture.isEmpty()) {
-        QTimer::singleShot(500, window, [window, picture] {
-            window->grabWindow().save(picture);
-            window->close();
-        });
-    }
+    if (parser.isSet(u"picture"_s))
+        savePicture(window, parser.value(u"picture"_s));
     return QGuiApplication::exec();
 }

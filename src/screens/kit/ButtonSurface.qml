@@ -3,7 +3,7 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// What lies under a button's label: nothing, glass, or the accent (red where it destroys), with the fills of hover and
-/// press over it.
+/// press over it; a flat grey while it is disabled.
 Rectangle {
     id: surface
 
@@ -11,16 +11,17 @@ Rectangle {
     property bool floating: false
     property bool prominent: false
     property bool destructive: false
+    readonly property bool shaped: floating || prominent
     readonly property color strong: destructive ? Theme.redFill : Theme.accentFill
     property bool hovered: false
     property bool pressed: false
 
     radius: corner
-    color: prominent ? strong : floating ? Theme.glass : "transparent"
+    color: !shaped ? "transparent" : !enabled ? Theme.ink(0.07) : prominent ? strong : Theme.glass
 
     GlassFrame {
         anchors.fill: parent
-        visible: surface.floating || surface.prominent
+        visible: surface.shaped && surface.enabled
         dark: Theme.dark
         accent: surface.destructive ? Theme.redFill : Theme.accent
         radius: surface.corner

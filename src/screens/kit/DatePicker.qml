@@ -91,7 +91,7 @@ FocusScope {
                 accessibleName: modelData.name
                 picked: number > 0 && modelData.day === month.day
                 current: number > 0 && modelData.day === month.today
-                ringed: picked && picker.activeFocus
+                marked: picked && picker.activeFocus
                 onClicked: month.day = modelData.day
             }
         }

@@ -12,7 +12,9 @@ T.AbstractButton {
     property string hint
     property real corner: Metrics.radiusRow
     /// Under the pointer or pressed.
-    readonly property bool lit: enabled && (hovered || down)
+    property bool lit: enabled && (hovered || down)
+    /// Shows the keyboard's focus.
+    property bool ringed: visualFocus
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -35,7 +37,7 @@ T.AbstractButton {
     }
 
     FocusRing {
-        shown: control.visualFocus
+        shown: control.ringed
         corner: control.corner
     }
 

@@ -44,7 +44,7 @@ FocusableItem {
     background: ButtonSurface {
         corner: chip.corner
         floating: !chip.prominent
-        prominent: chip.prominent && chip.enabled
+        prominent: chip.prominent
         hovered: chip.lit || chip.isPresented
         pressed: chip.down
     }

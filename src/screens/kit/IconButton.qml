@@ -45,7 +45,7 @@ FocusableItem {
     background: ButtonSurface {
         corner: control.corner
         floating: !control.plain
-        prominent: control.prominent && control.enabled
+        prominent: control.prominent
         hovered: control.lit
         pressed: control.down
     }

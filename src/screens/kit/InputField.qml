@@ -11,6 +11,8 @@ T.TextField {
     property real corner: Metrics.radiusRow
     property bool glass: false
     property int role: TypeScale.Body
+    /// Shows the keyboard's focus.
+    property bool ringed: activeFocus
 
     implicitWidth: 190
     implicitHeight: Metrics.fieldHeight
@@ -35,7 +37,7 @@ T.TextField {
     background: FieldSurface {
         corner: field.corner
         glass: field.glass
-        focused: field.activeFocus
+        focused: field.ringed
     }
 
     AppText {

@@ -40,17 +40,10 @@ FocusableItem {
 
     background: ButtonSurface {
         corner: control.corner
-        floating: control.look === PushButton.Glass && control.enabled
-        prominent: control.prominent && control.enabled
+        floating: control.look === PushButton.Glass
+        prominent: control.prominent
         destructive: control.destructive
         hovered: control.lit
         pressed: control.down
-
-        Rectangle {
-            anchors.fill: parent
-            visible: !control.enabled && !control.plain
-            radius: control.corner
-            color: Theme.ink(0.07)
-        }
     }
 }

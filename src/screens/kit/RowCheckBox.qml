@@ -13,6 +13,7 @@ FocusableItem {
     checkable: true
     corner: Metrics.radiusSquare
     accessibleName: name
+    opacity: enabled ? 1 : 0.45
 
     contentItem: Item {
         Rectangle {

@@ -11,6 +11,7 @@ FocusScope {
     property alias placeholderText: field.placeholderText
     property alias corner: field.corner
     property alias role: field.role
+    property alias ringed: field.ringed
     property alias leftPadding: field.leftPadding
     property alias rightPadding: field.rightPadding
     property alias background: field.background

@@ -17,6 +17,7 @@ FocusableItem {
     rightPadding: 10
     corner: Metrics.radiusRow
     accessibleName: count.length > 0 ? text + ", " + count : text
+    opacity: enabled ? 1 : 0.45
     Accessible.selectable: true
     Accessible.selected: selected
 

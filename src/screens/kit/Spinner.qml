@@ -8,6 +8,7 @@ Image {
 
     property real size: 14
     property color color: Theme.text2
+    property bool running: true
 
     width: size
     height: size
@@ -18,7 +19,7 @@ Image {
     Accessible.name: "Chargement…"
 
     Timer {
-        running: spinner.visible && spinner.Window.visibility !== Window.Hidden
+        running: spinner.running && spinner.visible && spinner.Window.visibility !== Window.Hidden
         interval: 100
         repeat: true
         onTriggered: spinner.rotation = (spinner.rotation + 45) % 360

@@ -13,6 +13,9 @@ FocusScope {
     required property real maximum
     required property real standard
     property bool trailing: false
+    /// Shows the keyboard's focus.
+    property bool ringed: activeFocus
+    property bool lit: grip.containsMouse || grip.pressed
     readonly property int direction: trailing ? -1 : 1
     readonly property bool dragged: grip.pressed
 
@@ -45,8 +48,8 @@ FocusScope {
         width: 2
         height: parent.height
         radius: 1
-        visible: handle.activeFocus || grip.containsMouse || grip.pressed
-        color: handle.activeFocus ? Theme.focusRing : Theme.divider
+        visible: handle.ringed || handle.lit
+        color: handle.ringed ? Theme.focusRing : Theme.divider
     }
 
     MouseArea {

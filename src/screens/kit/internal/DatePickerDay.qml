@@ -9,7 +9,7 @@ FocusableItem {
     required property int number
     required property bool picked
     required property bool current
-    required property bool ringed
+    required property bool marked
 
     implicitHeight: 28
     enabled: number > 0
@@ -35,7 +35,7 @@ FocusableItem {
             anchors.centerIn: parent
             picked: day.picked
             lit: day.lit
-            ringed: day.ringed
+            ringed: day.marked
         }
     }
 }

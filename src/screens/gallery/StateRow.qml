@@ -1,0 +1,34 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora.Gallery
+import Velmora.Kit
+import Velmora.Theme
+
+/// A control in each of its states, side by side: at rest, under the pointer, pressed, focused by the keyboard, disabled.
+Row {
+    id: row
+
+    required property string caption
+    required property Component sample
+    property real cell: 150
+
+    height: 44
+
+    AppText {
+        width: 130
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.caption
+        role: TypeScale.Caption
+        color: Theme.text2
+    }
+
+    Repeater {
+        model: 5
+
+        StateCell {
+            width: row.cell
+            height: row.height
+            sample: row.sample
+        }
+    }
+}

@@ -1,0 +1,194 @@
+#include "screens/Bench.h"
+#include "screens/gallery/PictureDifference.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QStyleHints>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Page
+{
+    QString name;
+    QSize size;
+};
+
+const Page pages[]{{u"icons"_s, {1150, 900}},
+                   {u"symbols"_s, {1270, 960}},
+                   {u"states"_s, {890, 956}},
+                   {u"panels"_s, {930, 680}}};
+
+const QDir stored(QStringLiteral(VELMORA_PICTURES));
+
+int scale()
+{
+    return qRound(qGuiApp->devicePixelRatio());
+}
+
+bool isWriting()
+{
+    return QGuiApplication::arguments().contains(u"--write"_s);
+}
+
+QString fileOf(const Page &page, bool dark)
+{
+    return stored.filePath(
+        u"%1-%2@%3x.png"_s.arg(page.name, dark ? u"dark"_s : u"light"_s).arg(scale()));
+}
+
+QImage drawn(const Page &page, bool dark)
+{
+    Bench bench;
+    bench.setToken("motion", "reduced", true);
+    bench.setToken("theme", "dark", dark);
+    bench.window().setColor(bench.token("theme", "content").value<QColor>());
+    bench.window().resize(page.size);
+    auto *shown = bench.show(
+        u"import Velmora.Gallery\nGalleryPage { x: 24; y: 24; width: %1; height: %2; page: '%3' }"_s
+            .arg(page.size.width() - 48)
+            .arg(page.size.height() - 48)
+            .arg(page.name));
+    EXPECT_NE(shown, nullptr);
+    bench.window().grabWindow();
+    const QImage picture = bench.window().grabWindow();
+    EXPECT_EQ(bench.warnings(), "") << page.name.toStdString();
+    return picture.convertToFormat(QImage::Format_RGB32);
+}
+
+/// With fewer shades than the comparison tells apart: a third of the size on the disk.
+QImage coarse(QImage picture)
+{
+    constexpr int step = 8;
+    const auto rounded = [](int value) { return std::min(255, (value + step / 2) / step * step); };
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            picture.setPixel(
+                x, y, qRgb(rounded(qRed(pixel)), rounded(qGreen(pixel)), rounded(qBlue(pixel))));
+        }
+    }
+    return picture;
+}
+
+std::string placeOf(const PictureDifference &difference)
+{
+    const QRect box = difference.where;
+    return u"%1 pixels within %2, %3, %4 x %5"_s.arg(difference.pixels)
+        .arg(box.x())
+        .arg(box.y())
+        .arg(box.width())
+        .arg(box.height())
+        .toStdString();
+}
+
+/// What is drawn in a part of a picture, without the ground.
+QRect inkWithin(const QImage &picture, const QRect &part)
+{
+    const QRgb ground = picture.pixel(0, 0);
+    QRect ink;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            if (std::abs(qGray(picture.pixel(x, y)) - qGray(ground)) > 60)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+QImage moved(const QImage &picture, const QRect &part, QPoint by)
+{
+    QImage result = picture;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
+            result.setPixel(QPoint(x, y) + by, picture.pixel(x, y));
+    }
+    return result;
+}
+
+std::string nameOf(const std::tuple<int, bool> &param)
+{
+    const QString &page = pages[std::get<0>(param)].name;
+    return (page + (std::get<1>(param) ? u"Dark"_s : u"Light"_s)).toStdString();
+}
+
+} // namespace
+
+class GalleryPictures : public testing::TestWithParam<std::tuple<int, bool>>
+{
+protected:
+    GalleryPictures() { QGuiApplication::styleHints()->setCursorFlashTime(0); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Pages, GalleryPictures,
+                         testing::Combine(testing::Range(0, int(std::size(pages))),
+                                          testing::Bool()),
+                         [](const auto &info) { return nameOf(info.param); });
+
+TEST_P(GalleryPictures, LookAsTheyAreStored)
+{
+    const auto [index, dark] = GetParam();
+    const Page &page = pages[index];
+    const QImage picture = drawn(page, dark);
+    const QString file = fileOf(page, dark);
+    if (isWriting()) {
+        ASSERT_TRUE(coarse(picture).save(file, "png", 0));
+        return;
+    }
+    const auto difference = pictureDifference(picture, QImage(file));
+    const QString found = QDir::temp().filePath(u"found-"_s + QFileInfo(file).fileName());
+    if (!difference.isForgiven())
+        picture.save(found);
+    EXPECT_TRUE(difference.isForgiven())
+        << placeOf(difference) << "; found: " << found.toStdString();
+}
+
+TEST(PictureDifference, AnyIconThatMovesByOnePixelIsSeen)
+{
+    const QImage picture(fileOf(pages[0], false));
+    ASSERT_FALSE(picture.isNull());
+    const int tile = 70 * scale();
+    int icons = 0;
+    for (int y = 1; y + tile < picture.height(); y += tile) {
+        for (int x = 1; x + tile < picture.width(); x += tile) {
+            const QRect ink = inkWithin(picture, {x, y, tile, tile});
+            if (ink.width() < 4 || ink.height() < 4)
+                continue;
+            ++icons;
+            EXPECT_FALSE(pictureDifference(picture, moved(picture, ink, {0, 1})).isForgiven());
+            EXPECT_FALSE(pictureDifference(picture, moved(picture, ink, {1, 0})).isForgiven());
+        }
+    }
+    EXPECT_GT(icons, 40);
+}
+
+TEST(PictureDifference, SmallestIconThatMovesByOnePixelIsSeen)
+{
+    QImage picture(40, 40, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QImage other = picture;
+    // Three pixels on a line: the smallest thing that the sheets show.
+    for (int i = 0; i < 3; ++i) {
+        picture.setPixel(10, 10 + i, qRgb(140, 140, 140));
+        other.setPixel(11, 10 + i, qRgb(140, 140, 140));
+    }
+    EXPECT_FALSE(pictureDifference(picture, other).isForgiven());
+}
+
+TEST(PictureDifference, PicturesOfTwoSizesDiffer)
+{
+    EXPECT_FALSE(pictureDifference(QImage(10, 10, QImage::Format_RGB32), QImage()).isForgiven());
+    EXPECT_FALSE(pictureDifference(QImage(), QImage(10, 10, QImage::Format_RGB32)).isForgiven());
+}
+
+TEST(PictureDifference, ANeighbouringShadeIsForgiven)
+{
+    QImage picture(40, 40, QImage::Format_RGB32);
+    picture.fill(qRgb(100, 100, 100));
+    QImage other = picture;
+    other.fill(qRgb(110, 100, 100));
+    EXPECT_TRUE(pictureDifference(picture, other).isForgiven());
+}

@@ -1,0 +1,38 @@
+#include "screens/gallery/PictureDifference.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+/// Of 255, in any channel.
+constexpr int forgiven = 24;
+
+bool differ(QRgb first, QRgb second)
+{
+    return std::max({std::abs(qRed(first) - qRed(second)), std::abs(qGreen(first) - qGreen(second)),
+                     std::abs(qBlue(first) - qBlue(second))}) > forgiven;
+}
+
+} // namespace
+
+PictureDifference pictureDifference(const QImage &first, const QImage &second)
+{
+    if (first.size() != second.size())
+        return {std::max(first.width() * first.height(), second.width() * second.height()),
+                first.rect() | second.rect()};
+    const QImage left = first.convertToFormat(QImage::Format_RGB32);
+    const QImage right = second.convertToFormat(QImage::Format_RGB32);
+    PictureDifference difference;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            if (!differ(left.pixel(x, y), right.pixel(x, y)))
+                continue;
+            ++difference.pixels;
+            difference.where |= QRect(x, y, 1, 1);
+        }
+    }
+    return difference;
+}
