@@ -2,6 +2,7 @@
 #include "jira/matrix/Fault.h"
 #include "jira/matrix/Operation.h"
 #include "jira/matrix/Scratch.h"
+#include "jira/matrix/Spoken.h"
 #include "simulator/RawServer.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
@@ -128,16 +129,6 @@ std::optional<QString> failureOf(const TaskResult<void> &result)
         return failure.message();
     }
     return std::nullopt;
-}
-
-/// For people to read. What is expected may end with an ellipsis; then as much is as good as all.
-std::string spoken(const std::optional<QString> &text,
-                   const std::optional<QString> &beginning = std::nullopt)
-{
-    const bool isEnough = text && beginning && beginning->endsWith(u'…') &&
-                          text->size() > beginning->size() &&
-                          text->startsWith(beginning->chopped(1));
-    return (isEnough ? beginning : text).value_or(u"(success)"_s).toStdString();
 }
 
 std::string nameOf(const testing::TestParamInfo<FaultMatrix::ParamType> &info)

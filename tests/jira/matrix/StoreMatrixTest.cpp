@@ -1,0 +1,177 @@
+#include "jira/JiraClient.h"
+#include "jira/matrix/Fault.h"
+#include "jira/matrix/Spoken.h"
+#include "jira/matrix/StoreAction.h"
+#include "platform/Preferences.h"
+#include "simulator/SimulatedSite.h"
+#include "simulator/SiteSeed.h"
+#include "support/FakeDesktop.h"
+#include "support/ManualClock.h"
+#include "support/RunUntil.h"
+#include "support/TaskResult.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// As far as it is shown: the records of lists have no documents, but an edit that comes back puts one into every copy.
+IssueList shown(const IssueList &issues)
+{
+    IssueList result;
+    for (const SharedIssue &shared : issues) {
+        Issue issue = *shared;
+        if (!issue.hasDetails)
+            issue.description.reset();
+        result += SharedIssue(issue);
+    }
+    return result;
+}
+
+QHash<IssueScope, IssueList> shown(QHash<IssueScope, IssueList> scopes)
+{
+    for (IssueList &issues : scopes)
+        issues = shown(issues);
+    return scopes;
+}
+
+/// All that a session knows of the site.
+struct Known
+{
+    explicit Known(const AppStore &store)
+        : issues(shown(store.issues())),
+          myOpenIssues(shown(store.myOpenIssues())),
+          scopes(shown(store.scopeCache())),
+          details(store.details()),
+          comments(store.comments()),
+          transitions(store.transitions())
+    {
+    }
+
+    IssueList issues;
+    IssueList myOpenIssues;
+    QHash<IssueScope, IssueList> scopes;
+    AppStoreFields::IssueMap details;
+    AppStoreFields::CommentMap comments;
+    AppStoreFields::TransitionMap transitions;
+
+    bool operator==(const Known &) const = default;
+};
+
+/// What a fault of an answer does to what a person does, in a whole session on a whole site.
+class StoreMatrix : public testing::TestWithParam<std::tuple<StoreAction, Fault>>
+{
+protected:
+    void SetUp() override
+    {
+        const TaskResult<void> started(store->startDemo());
+        ASSERT_TRUE(runUntil([&] { return started.isDone(); }));
+        ASSERT_FALSE(store->issues().isEmpty());
+        key = store->issues().first()->key;
+        const TaskResult<void> opened(store->loadDetails(key));
+        ASSERT_TRUE(runUntil([&] { return opened.isDone(); }));
+        ASSERT_FALSE(store->transitions().value(key).isEmpty());
+    }
+
+    /// What is under way goes on without the store; it ends before the clock does.
+    void TearDown() override
+    {
+        store.reset();
+        EXPECT_TRUE(runUntil([&] { return clock.pending() == 0; })) << "a request never ended";
+    }
+
+    static const StoreAction &action() { return std::get<StoreAction>(GetParam()); }
+    static const Fault &fault() { return std::get<Fault>(GetParam()); }
+
+    /// What the user reads; nothing when the answer is good enough.
+    static std::optional<QString> expected()
+    {
+        return action().kind == Operation::Kind::IgnoresAnswer
+                   ? fault().texts.ignoring.value_or(fault().texts.reading)
+                   : fault().texts.reading;
+    }
+
+    std::optional<QString> toast() const
+    {
+        return store->toasts().isEmpty() ? std::nullopt
+                                         : std::optional(store->toasts().last().message);
+    }
+
+    bool wasAsked() const
+    {
+        const auto &journal = simulated.journal();
+        return std::ranges::any_of(journal, [](const RawRequest &request) {
+            const auto route = routeOf(request);
+            return route && route->operation == action().operation;
+        });
+    }
+
+    std::shared_ptr<IssueService> newSession()
+    {
+        const Site &site = simulated.site();
+        return std::make_shared<JiraClient>(JiraCredentials{site.address, site.email, site.token},
+                                            clock, calendar, folder.filePath(u"attachments"_s));
+    }
+
+    QTemporaryDir folder;
+    ManualClock clock;
+    SimulatedSite simulated{SiteSeed::company(60, clock.now())};
+    Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
+    FakeDesktop desktop;
+    UserCalendar calendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
+    std::optional<AppStore> store{std::in_place,
+                                  AppStoreContext{.clock = clock,
+                                                  .preferences = preferences,
+                                                  .desktop = desktop,
+                                                  .calendar = calendar,
+                                                  .makeDemo = [this] { return newSession(); }}};
+    QString key;
+};
+
+/// The faults of one answer in a session which has begun. Those of certificates and names keep one from beginning, and
+/// a loop of redirects leads away from the operation.
+QList<Fault> laterFaults()
+{
+    QList<Fault> faults = transportFaults() + refusals();
+    faults.removeIf([](const Fault &fault) {
+        return fault.place != Fault::Place::Answer || fault.answer.bytes.contains("Location:");
+    });
+    return faults;
+}
+
+std::string nameOf(const testing::TestParamInfo<StoreMatrix::ParamType> &info)
+{
+    return std::get<StoreAction>(info.param).name + std::string("_") +
+           std::get<Fault>(info.param).name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, StoreMatrix,
+                         testing::Combine(testing::ValuesIn(allStoreActions()),
+                                          testing::ValuesIn(laterFaults())),
+                         nameOf);
+
+TEST_P(StoreMatrix, AFailureLeavesTheSessionAsItWas)
+{
+    const Known before(*store);
+    const qsizetype issuesOfTheSite = simulated.site().issues().size();
+    simulated.server().clearJournal();
+    simulated.answer(action().operation, fault().answer);
+
+    const TaskResult<void> result(action().start(*store, key));
+    const bool isTold = action().outcome == StoreAction::Outcome::Told && expected();
+    ASSERT_TRUE(runUntil([&] {
+        return result.isDone() && wasAsked() && (!isTold || !store->toasts().isEmpty());
+    })) << "it never ended";
+
+    if (isTold)
+        EXPECT_EQ(spoken(toast(), expected()), spoken(expected()));
+    if (expected())
+        EXPECT_TRUE(Known(*store) == before);
+    EXPECT_EQ(simulated.site().issues().size(), issuesOfTheSite);
+}
+
+} // namespace
