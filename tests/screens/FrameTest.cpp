@@ -1,3 +1,4 @@
+#include "Bench.h"
 #include "screens/kit/painters/FramePainter.h"
 
 #include <gtest/gtest.h>
@@ -128,4 +129,32 @@ TEST(SoftShadow, BlurKeepsTheInkAndFollowsTheGaussian)
     // The Gaussian integral over ±9.5 at sigma 6, squared for two directions.
     EXPECT_NEAR(blurred.constScanLine(50)[50] / 255.0,
                 std::pow(std::erf(9.5 / 6 / std::sqrt(2.0)), 2), 0.03);
+}
+
+TEST(Frame, StaysRoundItsPanelWhenThatShrinks)
+{
+    Bench bench;
+    QQuickItem *root = bench.show(uR"(
+        Rectangle {
+            width: 400
+            height: 300
+            color: "white"
+            GlassPanel {
+                objectName: "panel"
+                x: 200
+                y: 120
+                width: 150
+                height: 120
+                radius: 12
+                shadow: "palette"
+            }
+        })"_s);
+    ASSERT_NE(root, nullptr) << bench.warnings();
+    const auto shown = [&bench] { return bench.window().grabWindow(); };
+    EXPECT_EQ(shown().pixelColor(60, 60), QColor(Qt::white));
+    root->findChild<QQuickItem *>(u"panel"_s)->setHeight(60);
+    const QImage after = shown();
+    // Drawn without its place, it would lie at the window's corner.
+    for (int x = 2; x < 150; x += 4)
+        EXPECT_EQ(after.pixelColor(x, 2), QColor(Qt::white)) << x;
 }

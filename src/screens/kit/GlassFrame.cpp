@@ -40,7 +40,9 @@ QRectF part(const Cuts &across, const Cuts &down, int column, int row)
     return {QPointF(across.from(column), down.from(row)), QPointF(across.to(column), down.to(row))};
 }
 
-class FrameNode : public QSGNode
+// A node of transformation, though it moves nothing: the software renderer forgets where a plain node stands, and would
+// draw the parts that come later at the window's corner.
+class FrameNode : public QSGTransformNode
 {
 public:
     void show(QQuickWindow *window, std::shared_ptr<QSGTexture> texture)
