@@ -16,7 +16,7 @@ class OffThread
     using Result = std::invoke_result_t<Function>;
 
 public:
-    explicit OffThread(Function function) : m_function(std::move(function)) {}
+    explicit OffThread(Function function) { m_function.emplace(std::move(function)); }
 
     bool await_ready() const { return false; }
     void await_suspend(std::coroutine_handle<> waiting)
@@ -38,13 +38,15 @@ private:
     void run()
     {
         try {
-            m_result.emplace(m_function());
+            m_result.emplace((*m_function)());
         } catch (...) {
             m_failure = std::current_exception();
         }
+        // What it worked on may take long to take apart, too.
+        m_function.reset();
     }
 
-    Function m_function;
+    std::optional<Function> m_function;
     /// Lives on the thread that waits.
     QObject m_home;
     std::optional<Result> m_result;

@@ -8,6 +8,7 @@ struct BodyDecoder::Inflation
 {
     /// zlib tells gzip and zlib streams apart by itself when 32 is added to the size of its window.
     static constexpr int AnyFormat = 32 + MAX_WBITS;
+    static constexpr std::size_t PieceSize = 65536;
 
     Inflation() { inflateInit2(&stream, AnyFormat); }
     ~Inflation() { inflateEnd(&stream); }
@@ -34,7 +35,7 @@ struct BodyDecoder::Inflation
     bool mayHoldMore() const { return stream.avail_in > 0 || (stream.avail_out == 0 && !isAtEnd); }
 
     z_stream stream{};
-    std::array<Bytef, 64 * 1024> piece{};
+    std::array<Bytef, PieceSize> piece{};
     bool isAtEnd = false;
     /// An empty body is whole, whatever it is said to be packed with.
     bool hasBytes = false;

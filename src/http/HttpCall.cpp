@@ -6,11 +6,11 @@ HttpCall::HttpCall(Clock &clock, std::chrono::milliseconds limit) : m_clock(cloc
     restartIdleTime();
 }
 
-void HttpCall::follow(HttpExchange *exchange)
+void HttpCall::follow(std::unique_ptr<HttpExchange> exchange)
 {
-    m_exchange.reset(exchange);
-    connect(exchange, &HttpExchange::progressed, this, &HttpCall::restartIdleTime);
-    connect(exchange, &HttpExchange::finished, this, &HttpCall::end);
+    m_exchange.reset(exchange.release());
+    connect(m_exchange.get(), &HttpExchange::progressed, this, &HttpCall::restartIdleTime);
+    connect(m_exchange.get(), &HttpExchange::finished, this, &HttpCall::end);
 }
 
 void HttpCall::restartIdleTime()

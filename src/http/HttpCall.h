@@ -26,7 +26,7 @@ public:
     HttpCall(Clock &clock, std::chrono::milliseconds limit);
 
     /// The exchange whose outcome this call waits for. It has not been started.
-    void follow(HttpExchange *exchange);
+    void follow(std::unique_ptr<HttpExchange> exchange);
     /// Ends it with `Cancelled`, at once.
     void cancel();
     /// Ends the exchange at once, and the call with `Cancelled` when events are next handled.

@@ -9,6 +9,13 @@
 #include <QDir>
 #include <QFileInfo>
 
+namespace {
+
+/// Parsers read a little past the end of what they parse, and would copy a body without this room.
+constexpr qsizetype RoomBehind = 64;
+
+} // namespace
+
 HttpExchange::HttpExchange(HttpRequest request, Identity identity)
     : m_request(std::move(request)), m_identity(std::move(identity))
 {
@@ -84,6 +91,8 @@ bool HttpExchange::store(QByteArrayView piece)
         return true;
     if (m_request.saveAs && status() >= 200 && status() < 300)
         return storeInFile(piece);
+    if (m_answer.body.isEmpty())
+        m_answer.body.reserve(announcedSize() + RoomBehind);
     if (m_answer.body.size() + piece.size() > HttpRequest::MaximumInMemory) {
         m_refusal = TransportError::Kind::TooLarge;
         return false;
@@ -165,6 +174,12 @@ void HttpExchange::dropReply()
     m_reply = nullptr;
     if (m_own)
         m_own.release()->deleteLater();
+}
+
+qsizetype HttpExchange::announcedSize() const
+{
+    const qint64 size = m_reply->rawHeader("Content-Length").toLongLong();
+    return qsizetype(std::clamp<qint64>(size, 0, HttpRequest::MaximumInMemory));
 }
 
 int HttpExchange::status() const

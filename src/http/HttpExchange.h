@@ -49,6 +49,7 @@ private:
     void follow(const QByteArray &location);
     void finish(HttpOutcome outcome);
     void dropReply();
+    qsizetype announcedSize() const;
     int status() const;
     QByteArray location() const;
 

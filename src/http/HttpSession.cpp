@@ -43,11 +43,9 @@ void HttpSession::start(HttpCall &call, HttpRequest request)
     connect(this, &HttpSession::closing, &call, &HttpCall::abandon);
     auto exchange = std::make_unique<HttpExchange>(std::move(request), m_identity);
     exchange->moveToThread(&m_thread);
-    call.follow(exchange.get());
+    HttpExchange *const started = exchange.get();
+    call.follow(std::move(exchange));
     QMetaObject::invokeMethod(
-        exchange.get(),
-        [exchange = exchange.get(), manager = m_manager] { exchange->start(*manager); },
+        started, [started, manager = m_manager] { started->start(*manager); },
         Qt::QueuedConnection);
-    // From here on it belongs to the call.
-    exchange.release();
 }

@@ -1,5 +1,6 @@
 #include "jira/JiraClient.h"
 
+#include "async/Settled.h"
 #include "jira/ProjectPages.h"
 #include "jira/SearchPages.h"
 #include "jira/SiteAnswers.h"
@@ -63,15 +64,14 @@ namespace {
 
 QCoro::Task<QList<IssuePriority>> sitePriorities(SiteConnectionPtr connection, std::stop_token stop)
 {
-    try {
-        co_return co_await readMapped<PrioritySearchDTO>(
-            connection, SiteRequests::priorities(),
-            [](const PrioritySearchDTO &page) { return modelsOf(page.values); }, stop);
-    } catch (const Cancelled &) {
-        throw;
-    } catch (const Failure &) {
-        // Not every site has this way to ask; there is another below.
-    }
+    const auto paged = co_await settled(
+        nullptr, readMapped<PrioritySearchDTO>(
+                     connection, SiteRequests::priorities(),
+                     [](const PrioritySearchDTO &page) { return modelsOf(page.values); }, stop));
+    if (paged)
+        co_return *paged;
+    if (paged.error().isCancellation)
+        throw Cancelled();
     co_return co_await readMapped<QList<PriorityDTO>>(
         connection, SiteRequests::prioritiesOfOlderSites(),
         [](const QList<PriorityDTO> &list) { return modelsOf(list); }, stop);

@@ -1,9 +1,12 @@
 #include "jira/SearchPages.h"
 
+#include "async/Settled.h"
 #include "jira/IssueSearch.h"
 #include "jira/SiteAnswers.h"
 #include "jira/SiteRequests.h"
 #include "jira/wire/Models.h"
+
+#include <vector>
 
 namespace {
 
@@ -15,13 +18,7 @@ struct Reading
     std::optional<DateInterval> period;
 };
 
-struct Page
-{
-    IssueList issues;
-    /// How many issues the page brought, wanted or not.
-    qsizetype size = 0;
-    std::optional<QString> nextToken;
-};
+using PagePtr = std::shared_ptr<const SearchResponseDTO>;
 
 IssueList readIssues(const SearchResponseDTO &page, const Reading &reading)
 {
@@ -35,31 +32,42 @@ IssueList readIssues(const SearchResponseDTO &page, const Reading &reading)
     return shared;
 }
 
-QCoro::Task<Page> searchPage(SiteConnectionPtr connection, IssueSearch search, qsizetype gathered,
-                             std::optional<QString> token, Reading reading, std::stop_token stop)
+QCoro::Task<PagePtr> searchPage(SiteConnectionPtr connection, JiraRequest request,
+                                std::stop_token stop)
 {
-    JiraRequest request = pageRequest(search, gathered, token);
-    auto mapping = [search = std::move(search), gathered,
-                    reading = std::move(reading)](const SearchResponseDTO &page) {
-        const qsizetype size = page.issues.size();
-        return Page{readIssues(page, reading), size, nextPageToken(search, page, gathered + size)};
-    };
-    return readMapped<SearchResponseDTO>(std::move(connection), std::move(request),
-                                         std::move(mapping), std::move(stop));
+    return readMapped<SearchResponseDTO>(
+        std::move(connection), std::move(request),
+        [](SearchResponseDTO page) {
+            return PagePtr(std::make_shared<SearchResponseDTO>(std::move(page)));
+        },
+        std::move(stop));
+}
+
+QCoro::Task<IssueList> issuesOf(PagePtr page, Reading reading)
+{
+    return offThread([page = std::move(page), reading = std::move(reading)] {
+        return readIssues(*page, reading);
+    });
 }
 
 QCoro::Task<IssueList> allPages(SiteConnectionPtr connection, IssueSearch search, Reading reading,
                                 std::stop_token stop)
 {
-    IssueList issues;
+    // A page becomes records while the next one is on its way.
+    std::vector<QCoro::Task<IssueList>> parts;
     qsizetype gathered = 0;
     std::optional<QString> token;
     do {
-        const Page page = co_await searchPage(connection, search, gathered, token, reading, stop);
-        issues += page.issues;
-        gathered += page.size;
-        token = page.nextToken;
+        PagePtr page = co_await searchPage(connection, pageRequest(search, gathered, token), stop);
+        gathered += page->issues.size();
+        token = nextPageToken(search, *page, gathered);
+        parts.push_back(issuesOf(std::move(page), reading));
     } while (token);
+    IssueList issues;
+    for (const auto &part : parts)
+        issues += co_await part;
+    if (stop.stop_requested())
+        throw Cancelled();
     co_return issues;
 }
 
@@ -94,14 +102,13 @@ QCoro::Task<IssueList> textIssues(SiteConnectionPtr connection, QString text, QD
     if (!search)
         co_return IssueList();
     if (search->key) {
-        try {
-            Issue issue = co_await fullIssue(connection, *search->key, now, stop);
-            co_return IssueList{Shared<Issue>(std::move(issue))};
-        } catch (const Cancelled &) {
-            throw;
-        } catch (const Failure &) {
-            // A text that only looks like a key.
-        }
+        const auto issue =
+            co_await settled(nullptr, fullIssue(connection, *search->key, now, stop));
+        if (issue)
+            co_return IssueList{Shared<Issue>(*issue)};
+        if (issue.error().isCancellation)
+            throw Cancelled();
+        // The text only looks like a key.
     }
     const Reading reading{now, {}};
     co_return co_await allPages(connection, search->search, reading, stop);

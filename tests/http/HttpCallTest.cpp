@@ -20,7 +20,12 @@ QCoro::Task<HttpAnswer> answerOf(std::shared_ptr<HttpCall> call, std::stop_token
 class HttpCallTest : public testing::Test
 {
 protected:
-    HttpCallTest() { call->follow(exchange); }
+    HttpCallTest()
+    {
+        auto followed = std::make_unique<HttpExchange>(HttpRequest(), Identity());
+        exchange = followed.get();
+        call->follow(std::move(followed));
+    }
 
     Kind failure() const
     {
@@ -35,7 +40,7 @@ protected:
     ManualClock clock;
     std::shared_ptr<HttpCall> call = std::make_shared<HttpCall>(clock, HttpRequest::OrdinaryLimit);
     /// Owned by the call.
-    HttpExchange *exchange = std::make_unique<HttpExchange>(HttpRequest(), Identity()).release();
+    HttpExchange *exchange = nullptr;
     std::stop_source stop;
     TaskResult<HttpAnswer> result{answerOf(call, stop.get_token())};
 };
@@ -102,8 +107,9 @@ TEST(HttpLimits, ATransferMayTakeFiveMinutes)
 {
     ManualClock clock;
     const auto call = std::make_shared<HttpCall>(clock, HttpRequest::TransferLimit);
-    HttpExchange *exchange = std::make_unique<HttpExchange>(HttpRequest(), Identity()).release();
-    call->follow(exchange);
+    auto followed = std::make_unique<HttpExchange>(HttpRequest(), Identity());
+    HttpExchange *const exchange = followed.get();
+    call->follow(std::move(followed));
     const TaskResult<HttpAnswer> result(answerOf(call, {}));
     for (int i = 0; i < 14; ++i) {
         clock.advance(20s);

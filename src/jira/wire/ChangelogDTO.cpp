@@ -29,10 +29,10 @@ void append(QList<ActivityEvent> &events, const History &history)
     const auto date = JiraDate::parse(history.created);
     if (!date || !history.items)
         return;
-    const auto author = modelOf(history.author);
+    // Most histories tell of other fields: their authors are never looked at.
     for (const History::Item &item : *history.items) {
-        if (const auto kind = kindOf(item))
-            events.append({*date, author, *kind});
+        if (auto kind = kindOf(item))
+            events.append({*date, modelOf(history.author), *std::move(kind)});
     }
 }
 

@@ -30,7 +30,7 @@ std::optional<ADFNode> descriptionOf(const IssueDTO &issue)
 }
 
 /// By date; events of one date keep their order.
-QList<ActivityEvent> sortedByDate(const QList<ActivityEvent> &events)
+QList<ActivityEvent> sortedByDate(QList<ActivityEvent> events)
 {
     std::vector<std::pair<qint64, qsizetype>> order;
     order.reserve(size_t(events.size()));
@@ -40,15 +40,16 @@ QList<ActivityEvent> sortedByDate(const QList<ActivityEvent> &events)
     QList<ActivityEvent> sorted;
     sorted.reserve(events.size());
     for (const auto &[date, index] : order)
-        sorted.append(events[index]);
+        sorted.append(std::move(events[index]));
     return sorted;
 }
 
 /// The history with the issue's creation; nothing at all when the history was not asked for.
 QList<ActivityEvent> activityOf(const ChangelogDTO &changelog, const Issue &issue)
 {
-    const ActivityEvent creation{issue.created, issue.reporter, ActivityEvent::Created{}};
-    return sortedByDate(QList{creation} + changelog.events());
+    QList<ActivityEvent> events = changelog.events();
+    events.prepend({issue.created, issue.reporter, ActivityEvent::Created{}});
+    return sortedByDate(std::move(events));
 }
 
 } // namespace

@@ -32,6 +32,21 @@ QString shortened(const QString &text)
     return head.left(finder.position());
 }
 
+/// A parser holds some fifteen times what it last read. One for each thread is kept for what is usual.
+constexpr qsizetype UsualSize = 1024 * 1024;
+
+simdjson::dom::parser &keptParser()
+{
+    thread_local simdjson::dom::parser parser;
+    return parser;
+}
+
+/// A parser for something larger, which goes after it; nothing for what is usual.
+std::unique_ptr<simdjson::dom::parser> parserForOne(qsizetype size)
+{
+    return size > UsualSize ? std::make_unique<simdjson::dom::parser>() : nullptr;
+}
+
 JiraError::Decoding errorOf(const DecodingError &error)
 {
     return {shortened(error.description())};
@@ -42,9 +57,13 @@ JiraError::Decoding errorOf(const DecodingError &error)
 template <typename DTO>
 std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
 {
-    simdjson::dom::parser parser;
+    const std::unique_ptr<simdjson::dom::parser> ownParser = parserForOne(json.size());
+    simdjson::dom::parser &parser = ownParser ? *ownParser : keptParser();
     simdjson::dom::element root;
-    if (const auto error = parser.parse(json.constData(), size_t(json.size())).get(root))
+    // Without room behind the text, the parser works on a copy.
+    const bool hasRoom = json.capacity() - json.size() >= qsizetype(simdjson::SIMDJSON_PADDING);
+    const auto size = size_t(json.size());
+    if (const auto error = parser.parse(json.constData(), size, !hasRoom).get(root))
         return std::unexpected(errorOf({{}, QString::fromUtf8(simdjson::error_message(error))}));
     DTO record;
     if (const auto done = WireReader::read(root, record); !done)

@@ -1,5 +1,6 @@
 #include "jira/wire/WireReader.h"
 
+#include "jira/wire/TextPool.h"
 #include "richtext/ADFCoding.h"
 
 #include <cmath>
@@ -10,7 +11,9 @@ namespace WireReader {
 
 QString textOf(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+    // One for each thread that decodes.
+    thread_local TextPool pool;
+    return pool.text(utf8);
 }
 
 Result failure(const char *message)
