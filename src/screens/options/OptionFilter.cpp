@@ -27,7 +27,7 @@ QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString 
 
 std::optional<QString> createCandidate(const QList<OptionItem> &items, const QString &query)
 {
-    const QString candidate = query.trimmed().replace(u' ', u'-');
+    QString candidate = query.trimmed().replace(u' ', u'-');
     const bool isTaken = std::ranges::any_of(items, [&](const OptionItem &item) {
         return item.title.compare(candidate, Qt::CaseInsensitive) == 0;
     });

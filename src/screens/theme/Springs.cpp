@@ -2,12 +2,57 @@
 
 #include <QPointF>
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
 namespace {
 
-QEasingCurve throughBezier(QPointF first, QPointF second)
+/// A spring of mass 1, let go at 0 and pulling towards 1. Times are in units of its response.
+struct Spring
 {
+    double damping = 1;
+    /// When the curve ends: what is left of the way by then is under a quarter of a hundredth.
+    double length = 1;
+
+    static constexpr double pull = 2 * std::numbers::pi;
+
+    double swing() const { return pull * std::sqrt(std::max(0.0, 1 - damping * damping)); }
+    double place(double time) const
+    {
+        const double fall = std::exp(-damping * pull * time);
+        if (swing() == 0)
+            return 1 - fall * (1 + pull * time);
+        const double phase = swing() * time;
+        return 1 - fall * (std::cos(phase) + damping * pull / swing() * std::sin(phase));
+    }
+    double speed(double time) const
+    {
+        const double fall = std::exp(-damping * pull * time);
+        if (swing() == 0)
+            return fall * pull * pull * time;
+        return fall * pull * pull / swing() * std::sin(swing() * time);
+    }
+};
+
+/// The spring as a curve of cubic pieces that have its places and speeds where they meet.
+QEasingCurve curveOf(const Spring &spring)
+{
+    constexpr int pieces = 8;
+    constexpr double step = 1.0 / pieces;
+    const auto tangent = [&](double progress) {
+        return QPointF(step / 3, spring.speed(progress * spring.length) * spring.length * step / 3);
+    };
     QEasingCurve curve(QEasingCurve::BezierSpline);
-    curve.addCubicBezierSegment(first, second, {1, 1});
+    QPointF from;
+    for (int i = 1; i < pieces; ++i) {
+        const double progress = i * step;
+        const QPointF to(progress, spring.place(progress * spring.length));
+        curve.addCubicBezierSegment(from + tangent(progress - step), to - tangent(progress), to);
+        from = to;
+    }
+    const QPointF rest(1, 1);
+    curve.addCubicBezierSegment(from + tangent(1 - step), rest - QPointF(step / 3, 0), rest);
     return curve;
 }
 
@@ -15,15 +60,18 @@ QEasingCurve throughBezier(QPointF first, QPointF second)
 
 QEasingCurve Springs::even()
 {
-    return throughBezier({0.24, 0.21}, {0.14, 1.16});
+    static const QEasingCurve curve = curveOf({0.85, 1.14});
+    return curve;
 }
 
 QEasingCurve Springs::soft()
 {
-    return throughBezier({0.30, 0.35}, {0.11, 1.28});
+    static const QEasingCurve curve = curveOf({0.7, 1.13});
+    return curve;
 }
 
 QEasingCurve Springs::firm()
 {
-    return throughBezier({0.22, 0.20}, {0.12, 1.04});
+    static const QEasingCurve curve = curveOf({1, 1.22});
+    return curve;
 }

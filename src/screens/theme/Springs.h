@@ -5,7 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// The springs that things move on, as easing curves; each goes with the durations of `Motion` that name it. A curve of
-/// fixed length is within 2 % of the spring and costs nothing per frame.
+/// fixed length is within 1 % of the spring and costs nothing per frame.
 class Springs : public QObject
 {
     Q_OBJECT

@@ -27,8 +27,10 @@ PictureDifference pictureDifference(const QImage &first, const QImage &second)
     const QImage right = second.convertToFormat(QImage::Format_RGB32);
     PictureDifference difference;
     for (int y = 0; y < left.height(); ++y) {
+        const auto *leftRow = reinterpret_cast<const QRgb *>(left.constScanLine(y));
+        const auto *rightRow = reinterpret_cast<const QRgb *>(right.constScanLine(y));
         for (int x = 0; x < left.width(); ++x) {
-            if (!differ(left.pixel(x, y), right.pixel(x, y)))
+            if (leftRow[x] == rightRow[x] || !differ(leftRow[x], rightRow[x]))
                 continue;
             ++difference.pixels;
             difference.where |= QRect(x, y, 1, 1);
