@@ -83,6 +83,8 @@ FocusScope {
         model: list.rows
         boundsBehavior: Flickable.StopAtBounds
         keyNavigationEnabled: false
+        // Rows that are made ahead of time outlive the filter that drops them.
+        cacheBuffer: 0
         currentIndex: -1
         Accessible.role: Accessible.List
         Accessible.name: root.placeholder
