@@ -124,7 +124,7 @@ QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment
                              std::stop_token stop)
 {
     const QString target = AttachmentCache::file(folder, attachment);
-    if (QFileInfo(target).isFile())
+    if (co_await offThread([target] { return QFileInfo(target).isFile(); }))
         co_return QUrl::fromLocalFile(target);
     if (!attachment.contentURL)
         throw JiraError(JiraError::InvalidResponse());

@@ -115,6 +115,28 @@ TEST_F(ClientTransfers, AnUploadReachesTheServerOnce)
     EXPECT_EQ(server.journal().size(), 1);
 }
 
+TEST_F(ClientTransfers, AStopEndsAnUpload)
+{
+    std::stop_source stop;
+    server.answer(RawAnswer::nothing(Ending::Stall));
+    const TaskResult result(
+        client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}, stop.get_token()));
+    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
+    stop.request_stop();
+    EXPECT_THROW(result.value(), Cancelled);
+    EXPECT_TRUE(runUntil([&] { return server.openConnections() == 0; }));
+}
+
+TEST_F(ClientTransfers, AnUploadWithoutAnAnswerEndsInTime)
+{
+    server.answer(RawAnswer::nothing(Ending::Stall));
+    const TaskResult result(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}));
+    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
+    clock.advance(std::chrono::minutes(5));
+    ASSERT_TRUE(result.isDone());
+    EXPECT_THROW(result.value(), TransportError);
+}
+
 TEST_F(ClientTransfers, ADownloadIsKeptUnderItsName)
 {
     server.answer(RawAnswer::http(200, "%PDF", {{"Content-Type", "application/pdf"}}));
