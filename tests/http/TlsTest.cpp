@@ -40,6 +40,20 @@ TEST_F(TlsTest, ATrustedCertificateIsAccepted)
     EXPECT_EQ(server.journal().last().header("Authorization"), Secret);
 }
 
+TEST_F(TlsTest, AWriteReachesTheServerOnceHereToo)
+{
+    answerTo(request("/read"));
+    for (const auto ending : {RawAnswer::Ending::Close, RawAnswer::Ending::Reset}) {
+        server.clearJournal();
+        server.answer(RawAnswer::nothing(ending));
+        EXPECT_EQ(failureOf(write("/a", "POST", "{}")), Kind::ConnectionLost);
+        EXPECT_EQ(failureOf(write("/a", "PUT", "{}")), Kind::ConnectionLost);
+        server.answer(RawAnswer::json("{}"));
+        answerTo(request("/read"));
+        EXPECT_EQ(server.journal().size(), 3);
+    }
+}
+
 TEST_F(OtherHost, ACertificateOfAnotherHostIsRefused)
 {
     EXPECT_EQ(failureOf(request("/a")), Kind::WrongHost);
