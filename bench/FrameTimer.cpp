@@ -30,6 +30,16 @@ void FrameTimer::settle()
 
 qint64 FrameTimer::press(Qt::Key key, const QString &text)
 {
+    return answer([&] {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(&m_window, &press);
+        QCoreApplication::sendEvent(&m_window, &release);
+    });
+}
+
+qint64 FrameTimer::answer(const std::function<void()> &act)
+{
     settle();
     QEventLoop loop;
     qint64 end = 0;
@@ -40,13 +50,10 @@ qint64 FrameTimer::press(Qt::Key key, const QString &text)
         loop.quit();
     };
     QObject::connect(&m_watch, &FrameWatch::swapped, &loop, onFrame);
-    QTimer::singleShot(1s, &loop, [] { qFatal("A key press led to no frame."); });
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QTimer::singleShot(2s, &loop, [] { qFatal("An act led to no frame."); });
     const auto start = monotonicNow();
-    QCoreApplication::sendEvent(&m_window, &press);
+    act();
     m_isArmed = true;
-    QCoreApplication::sendEvent(&m_window, &release);
     loop.exec();
     return end - start;
 }

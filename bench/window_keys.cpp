@@ -8,6 +8,7 @@
 #include "FrameTimer.h"
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"
+#include "async/Spawn.h"
 #include "support/FakeDesktop.h"
 #include "support/ScriptedService.h"
 
@@ -20,6 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Notches = 180;
+/// How often what redraws the whole window is done.
+constexpr int Turns = 40;
 
 /// How often each key is pressed: the first argument.
 int presses()
@@ -29,7 +32,7 @@ int presses()
 }
 
 /// A site with so many issues, all in every list, that answers at once.
-std::shared_ptr<IssueService> siteWith(int count)
+std::shared_ptr<ScriptedService> siteWith(int count)
 {
     auto site = std::make_shared<ScriptedService>();
     const auto issues = samples(count).issues;
@@ -37,10 +40,16 @@ std::shared_ptr<IssueService> siteWith(int count)
     site->projectsCalls.answerWith({});
     site->prioritiesCalls.answerWith({});
     site->issuesCalls.answerWith(issues);
+    site->transitionsCalls.answerWith({{QStringLiteral("1"), QString(), sample(1).status},
+                                       {QStringLiteral("2"), QString(), sample(2).status}});
+    site->performCalls.answerWith();
+    site->statusesCalls.answerWith({});
+    site->assignableUsersCalls.answerWith({});
+    site->projectCalls.answerWith({});
     return site;
 }
 
-Outside outsideWith(int count, const QString &folder)
+Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString &folder)
 {
     Outside outside;
     outside.clock = std::make_unique<BenchClock>();
@@ -49,7 +58,7 @@ Outside outsideWith(int count, const QString &folder)
     outside.preferences->setFlag(u"showCompleted"_s, true);
     outside.desktop = std::make_unique<FakeDesktop>();
     outside.calendar = UserCalendar::system();
-    outside.makeDemo = [count](Clock &, const UserCalendar &) { return siteWith(count); };
+    outside.makeDemo = [site](Clock &, const UserCalendar &) { return site; };
     return outside;
 }
 
@@ -85,16 +94,75 @@ std::vector<qint64> keystrokes(FrameTimer &timer, int count)
     return times;
 }
 
+/// Every tenth issue has another summary, status and time than the turn before.
+IssueList refreshed(IssueList issues, int turn)
+{
+    for (qsizetype i = turn % 10; i < issues.size(); i += 10) {
+        Issue changed = *issues[i];
+        changed.summary += u" bis"_s;
+        changed.status = sample(int(i) + turn).status;
+        changed.updated = changed.updated.addSecs(60);
+        issues[i] = changed;
+    }
+    return issues;
+}
+
+std::vector<qint64> refreshes(FrameTimer &timer, AppStore &store, ScriptedService &site)
+{
+    std::vector<qint64> times;
+    for (int turn = 0; turn < Turns; ++turn) {
+        site.issuesCalls.answerWith(refreshed(store.issues(), turn));
+        times.push_back(timer.answer([&] { spawn(store.reload()); }));
+    }
+    return times;
+}
+
+std::vector<qint64> scopes(FrameTimer &timer, AppStore &store)
+{
+    std::vector<qint64> times;
+    for (int turn = 0; turn <= Turns; ++turn) {
+        const auto scope = turn % 2 == 0 ? IssueScope::reported() : IssueScope::recent();
+        const auto time = timer.answer([&] { store.select(scope); });
+        // The first two are seen for the first time.
+        if (turn > 1)
+            times.push_back(time);
+    }
+    return times;
+}
+
+/// By turns: every other press undoes the one before.
+std::vector<qint64> switches(FrameTimer &timer, Qt::Key key, Qt::Key back)
+{
+    std::vector<qint64> times;
+    for (int turn = 0; turn < Turns; ++turn) {
+        const Qt::Key pressed = turn % 2 == 0 ? key : back;
+        times.push_back(timer.press(pressed, QString(QChar(pressed)).toLower()));
+    }
+    return times;
+}
+
+std::vector<qint64> statusChanges(FrameTimer &timer, AppStore &store)
+{
+    std::vector<qint64> times;
+    for (int turn = 0; turn < Turns; ++turn) {
+        const auto keys = QStringList{*store.focusedKey()};
+        const auto status = sample(turn % 2 == 0 ? 1 : 2).status;
+        times.push_back(timer.answer([&] { store.setStatus(status, keys); }));
+    }
+    return times;
+}
+
 void measureList(FrameTable &table, int count)
 {
     const QTemporaryDir folder;
-    VelmoraApp velmora(outsideWith(count, folder.path()));
+    const auto site = siteWith(count);
+    VelmoraApp velmora(outsideWith(site, folder.path()));
     if (!velmora.open())
         qFatal("The main window does not open.");
     auto &window = *velmora.mainWindow();
     FrameTimer timer(window);
     timer.settle();
-    const auto &store = velmora.store();
+    auto &store = velmora.store();
     if (store.visibleCount() != count)
         qFatal("%d of %d issues are shown.", store.visibleCount(), count);
 
@@ -102,6 +170,11 @@ void measureList(FrameTable &table, int count)
     table.add(size + u"J moves the focus"_s, pressesOf(timer, presses()));
     if (store.flatVisibleKeys().indexOf(*store.focusedKey()) < std::min(count, presses()) - 1)
         qFatal("The focus has not moved.");
+    table.add(size + u"X checks and unchecks"_s, switches(timer, Qt::Key_X, Qt::Key_X));
+    table.add(size + u"a status is set"_s, statusChanges(timer, store));
+    table.add(size + u"list and board by turns"_s, switches(timer, Qt::Key_2, Qt::Key_1));
+    table.add(size + u"a list seen before"_s, scopes(timer, store));
+    table.add(size + u"a refresh with 10 % changes"_s, refreshes(timer, store, *site));
     itemOf(window.contentItem(), "QQuickTextInput")->forceActiveFocus();
     table.add(size + u"a letter in the search"_s, keystrokes(timer, presses()));
     if (count > 1000)

@@ -44,6 +44,19 @@ FocusScope {
         onDismissed: root.isSidebarFloating = false
     }
 
+    SplitHandle {
+        x: root.plan.sidebar - width / 2
+        height: parent.height
+        z: 1
+        visible: root.plan.hasSidebar
+        name: "Largeur de la barre latérale"
+        value: root.plan.sidebar
+        minimum: Metrics.sidebarMinWidth
+        maximum: Metrics.sidebarMaxWidth
+        standard: Metrics.sidebarWidth
+        onMoved: width => root.memory.sidebarWidth = width
+    }
+
     IssuesView {
         x: root.detailLeft + 4
         width: root.detailRight - x - 4
@@ -64,6 +77,20 @@ FocusScope {
         onWheel: event => event.accepted = true
     }
 
+    SplitHandle {
+        x: root.detailRight - width / 2
+        height: parent.height
+        z: 1
+        visible: root.plan.inspector > 0 && !root.plan.coversDetail
+        trailing: true
+        name: "Largeur de l'inspecteur"
+        value: root.plan.inspector
+        minimum: Metrics.inspectorMinWidth
+        maximum: Metrics.inspectorMaxWidth
+        standard: Metrics.inspectorWidth
+        onMoved: width => root.memory.inspectorWidth = width
+    }
+
     When {
         shown: root.store.showInspector
 
@@ -74,30 +101,5 @@ FocusScope {
             height: root.height - 2 * Metrics.paneMargin
             store: root.store
         }
-    }
-
-    SplitHandle {
-        x: root.plan.sidebar - width / 2
-        height: parent.height
-        visible: root.plan.hasSidebar
-        name: "Largeur de la barre latérale"
-        value: root.plan.sidebar
-        minimum: Metrics.sidebarMinWidth
-        maximum: Metrics.sidebarMaxWidth
-        standard: Metrics.sidebarWidth
-        onMoved: width => root.memory.sidebarWidth = width
-    }
-
-    SplitHandle {
-        x: root.detailRight - width / 2
-        height: parent.height
-        visible: root.plan.inspector > 0 && !root.plan.coversDetail
-        trailing: true
-        name: "Largeur de l'inspecteur"
-        value: root.plan.inspector
-        minimum: Metrics.inspectorMinWidth
-        maximum: Metrics.inspectorMaxWidth
-        standard: Metrics.inspectorWidth
-        onMoved: width => root.memory.inspectorWidth = width
     }
 }

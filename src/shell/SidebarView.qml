@@ -81,6 +81,7 @@ FocusScope {
 
             required property issueScope scope
             required property bool isFavorite
+            property bool isMenuOpen: false
 
             width: ListView.view.width
             isFocused: isSelected && list.activeFocus
@@ -88,15 +89,19 @@ FocusScope {
                 root.store.selectInSidebar(scope);
                 root.dismissed();
             }
-            onMenuRequested: menu.popup()
+            onMenuRequested: isMenuOpen = true
 
-            PopupMenu {
-                id: menu
+            When {
+                shown: line.isMenuOpen
 
-                PopupMenuItem {
-                    text: line.isFavorite ? "Retirer des favoris" : "Ajouter aux favoris"
-                    symbol: line.isFavorite ? "star.slash" : "star"
-                    onTriggered: root.store.toggleFavorite(line.project.key)
+                Item {
+                    ProjectMenu {
+                        store: root.store
+                        project: line.project
+                        isFavorite: line.isFavorite
+                        onClosed: line.isMenuOpen = false
+                        Component.onCompleted: popup()
+                    }
                 }
             }
         }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
@@ -19,7 +20,7 @@ Item {
         id: button
         x: Metrics.gapMedium
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, root.width - 2 * x)
+        width: Math.min(implicitWidth, tools.x - x - Metrics.gapSmall)
         height: 28
         padding: 4
         accessibleName: "Espace " + root.store.siteShortName
@@ -33,6 +34,33 @@ Item {
         contentItem: WorkspaceLabel {
             initial: root.workspace.initial
             name: root.store.siteShortName
+        }
+    }
+
+    Row {
+        id: tools
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.gap
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Metrics.gapSmall
+
+        IconButton {
+            look: IconButton.Glass
+            side: 28
+            name: "Rechercher"
+            hint: Words.localized("Rechercher (⌘K)")
+            symbol: "magnifyingglass"
+            onClicked: root.store.togglePalette()
+        }
+
+        IconButton {
+            look: IconButton.Glass
+            side: 28
+            enabled: CreateScreen.isAvailable
+            name: "Nouveau ticket"
+            hint: "Nouveau ticket (C)"
+            symbol: "square.and.pencil"
+            onClicked: CreateScreen.open(root.store, "")
         }
     }
 

@@ -124,6 +124,9 @@ Rectangle {
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 400
         pixelAligned: true
+        // As in the list: the store knows the focused card.
+        currentIndex: -1
+        highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
 
         Accessible.role: Accessible.List

@@ -36,8 +36,8 @@ Item {
     }
 
     function place(corner: point) {
-        anchor.x = corner.x;
-        anchor.y = corner.y;
+        spot.x = corner.x;
+        spot.y = corner.y;
         isOpen = true;
     }
 
@@ -47,7 +47,7 @@ Item {
     }
 
     Item {
-        id: anchor
+        id: spot
         width: root.cell?.width ?? 0
         height: root.cell?.height ?? 0
     }
@@ -58,7 +58,7 @@ Item {
         Item {
             Popover {
                 id: popover
-                parent: anchor
+                parent: spot
                 name: options.placeholder
                 width: 260
                 alignment: root.alignment

@@ -22,6 +22,12 @@ FlowPlan flowPlan(const QList<QSizeF> &children, qreal width, const FlowSpacing 
     return plan;
 }
 
+FlowLayout::~FlowLayout()
+{
+    for (auto *child : childItems())
+        child->disconnect(this);
+}
+
 void FlowLayout::setSpacing(qreal spacing)
 {
     changeSpacing(m_spacing.between, spacing);

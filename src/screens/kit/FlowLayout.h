@@ -37,6 +37,8 @@ class FlowLayout : public QQuickItem
 
 public:
     using QQuickItem::QQuickItem;
+    /// Its children go after it, and tell of it.
+    ~FlowLayout() override;
 
     qreal spacing() const { return m_spacing.between; }
     void setSpacing(qreal spacing);

@@ -41,6 +41,9 @@ void IssueListModel::setRows(QList<IssueListRow> rows)
 {
     m_headerRows = headerRows(rows);
     update(std::move(rows));
+    // Their places among the others.
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {AccessibleNameRole});
     ++m_revision;
     Q_EMIT updated();
 }
@@ -140,6 +143,8 @@ QVariant IssueListModel::data(const QModelIndex &index, int role) const
     const auto &row = rows()[index.row()];
     if (role == KeyRole)
         return row.key;
+    if (role == AccessibleNameRole && row.issue())
+        return accessibleSentence(*row.issue()) + placeWords(index.row());
     return row.issue() ? issueRoleData(*row.issue(), role) : groupData(*row.header(), role);
 }
 
@@ -170,8 +175,6 @@ QVariant IssueListModel::issueRoleData(const Issue &issue, int role) const
         return issue.dueDate ? dueTooltip(*issue.dueDate) : QString();
     case BadgeRole:
         return QVariant::fromValue(IssueListBadge(m_badges(issue)));
-    case AccessibleNameRole:
-        return accessibleSentence(issue);
     }
     return {};
 }
@@ -202,6 +205,13 @@ QVariant IssueListModel::groupData(const IssueListHeader &header, int role) cons
         return QString();
     }
     return {};
+}
+
+QString IssueListModel::placeWords(int row) const
+{
+    const int header = headerRowOf(row);
+    const int count = header < 0 ? rowCount() : rows()[header].header()->count;
+    return u", %1 sur %2"_s.arg(row - header).arg(count);
 }
 
 QString IssueListModel::dueTooltip(const QDate &day) const

@@ -44,7 +44,7 @@ public:
         DueTooltipRole,
         /// `IssueListBadge`: the latest event of an issue in a recap; empty for all others.
         BadgeRole,
-        /// A whole sentence.
+        /// A whole sentence, with the issue's place in its group.
         AccessibleNameRole
     };
     Q_ENUM(Role)
@@ -94,6 +94,8 @@ private:
     void setRows(QList<IssueListRow> rows);
     QVariant issueRoleData(const Issue &issue, int role) const;
     QVariant groupData(const IssueListHeader &header, int role) const;
+    /// The issue's place among those of its group or column: ", 2 sur 5".
+    QString placeWords(int row) const;
     QString dueTooltip(const QDate &day) const;
     bool isOverdue(const Issue &issue) const;
     void moveMark(QString &mark, const QString &key, Role role);

@@ -183,7 +183,7 @@ TEST_F(IssueListModelTest, ARowSaysAWholeSentence)
     model.setGroups(groupsOf({issue}), {});
     EXPECT_EQ(
         at(1, IssueListModel::AccessibleNameRole),
-        u"WEB-203, La recherche globale ignore les accents, À faire, priorité Haute, assigné à Noam Talvère"_s);
+        u"WEB-203, La recherche globale ignore les accents, À faire, priorité Haute, assigné à Noam Talvère, 1 sur 1"_s);
     EXPECT_EQ(at(0, IssueListModel::AccessibleNameRole), u"À faire, 1 ticket"_s);
 }
 

@@ -1,0 +1,151 @@
+#include "app/WindowFixture.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class MainWindow : public WindowFixture
+{
+protected:
+    MainWindow()
+    {
+        Preferences(preferencesPath).setText(u"ordering"_s, u"key"_s);
+        serve({u"MOB-1"_s, u"MOB-2"_s});
+        openOnDemo();
+        desktop->setPrefersReducedMotion(true);
+    }
+
+    void resizeTo(int width, int height = 840)
+    {
+        window().setMinimumSize({0, 0});
+        window().resize(width, height);
+        settle();
+    }
+    bool hasSidebar()
+    {
+        return !spokenIn(window(), QAccessible::List, u"Vues et projets"_s).isEmpty();
+    }
+    QRect row() { return await(QAccessible::ListItem, u"MOB-1,"_s).box; }
+    QRect inspector() { return await(QAccessible::Pane, u"Inspecteur"_s).box; }
+};
+
+TEST_F(MainWindow, TheInspectorShowsTitleAndPropertiesAndClosesByItsCross)
+{
+    click(await(QAccessible::ListItem, u"MOB-1,"_s));
+    EXPECT_EQ(inspector(), QRect(820, 8, 492, 824));
+    EXPECT_EQ(row().right() + 1, 808);
+    await(QAccessible::Heading, u"Résumé de MOB-1"_s);
+    const auto chips = spokenIn(window(), QAccessible::Button, u"Statut : À faire"_s);
+    EXPECT_TRUE(std::ranges::any_of(
+        chips, [&](const Spoken &chip) { return inspector().contains(chip.box); }));
+
+    click(await(QAccessible::Button, u"Fermer l'inspecteur"_s));
+
+    EXPECT_TRUE(isGone(QAccessible::Pane, u"Inspecteur"_s));
+    EXPECT_EQ(row().right() + 1, 1308);
+    EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
+}
+
+TEST_F(MainWindow, TheInspectorFollowsTheFocus)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    await(QAccessible::Heading, u"Résumé de MOB-1"_s);
+    press(Qt::Key_J);
+
+    await(QAccessible::Heading, u"Résumé de MOB-2"_s);
+    EXPECT_TRUE(isGone(QAccessible::Heading, u"Résumé de MOB-1"_s));
+}
+
+TEST_F(MainWindow, Below1122TheSidebarHidesWhileTheInspectorIsOpen)
+{
+    resizeTo(1100);
+    EXPECT_TRUE(hasSidebar());
+    store().setInspectorKey(u"MOB-1"_s);
+    settle();
+
+    EXPECT_FALSE(hasSidebar());
+    EXPECT_EQ(row().left(), 12);
+    store().setInspectorKey(std::nullopt);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hasSidebar(); }));
+}
+
+TEST_F(MainWindow, WhereThereIsNoRoomTheSidebarComesOverTheListAndGoesWithTheChoice)
+{
+    resizeTo(700);
+    ASSERT_FALSE(hasSidebar());
+    click(await(QAccessible::Button, u"Afficher la barre latérale"_s));
+    click(await(QAccessible::ListItem, u"Créés par moi"_s));
+
+    EXPECT_EQ(store().scope(), IssueScope::reported());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !hasSidebar(); }));
+}
+
+TEST_F(MainWindow, APressBesideTheFloatingSidebarOnlyPutsItAway)
+{
+    resizeTo(700);
+    click(await(QAccessible::Button, u"Afficher la barre latérale"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasSidebar(); }));
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, {600, 110});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !hasSidebar(); }));
+    EXPECT_EQ(store().inspectorKey(), std::nullopt);
+}
+
+TEST_F(MainWindow, AtHalfOfASmallScreenTheInspectorTakesTheListsPlace)
+{
+    resizeTo(640);
+    click(await(QAccessible::ListItem, u"MOB-1,"_s));
+
+    EXPECT_EQ(inspector(), QRect(8, 8, 624, 824));
+    EXPECT_TRUE(rowsShown().isEmpty());
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown().size() == 2; }));
+}
+
+TEST_F(MainWindow, TheSearchFieldShortensAndThenFoldsIntoItsSymbol)
+{
+    EXPECT_EQ(await(QAccessible::EditableText, u"Filtrer"_s).box.width(), 190);
+    store().setInspectorKey(u"MOB-1"_s);
+    settle();
+    EXPECT_EQ(await(QAccessible::EditableText, u"Filtrer"_s).box.width(), 120);
+    store().setInspectorKey(std::nullopt);
+    resizeTo(480);
+
+    const auto symbols = spokenIn(window(), QAccessible::Button, u"Filtrer"_s);
+    ASSERT_FALSE(symbols.isEmpty());
+    click(symbols.constLast());
+    type(u"mob-2"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown() == QStringList{u"MOB-2"_s}; }));
+}
+
+TEST_F(MainWindow, TheEdgeOfTheSidebarIsDraggedWithinItsBounds)
+{
+    const auto edge = await(QAccessible::Splitter, u"Largeur de la barre latérale"_s);
+    const QPoint from(240, 500);
+    ASSERT_TRUE(edge.box.contains(from));
+    QTest::mousePress(&window(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(&window(), from + QPoint(20, 0));
+    QTest::mouseMove(&window(), from + QPoint(40, 0));
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, from + QPoint(40, 0));
+    settle();
+    EXPECT_EQ(row().left(), 292);
+
+    QTest::mousePress(&window(), Qt::LeftButton, {}, {280, 500});
+    QTest::mouseMove(&window(), {300, 500});
+    QTest::mouseMove(&window(), {900, 500});
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, {900, 500});
+    settle();
+    EXPECT_EQ(row().left(), 320 + 12);
+}
+
+TEST_F(MainWindow, WithIssuesCheckedTheToastsStandOverTheMiddleOfTheIssues)
+{
+    store().setInspectorKey(u"MOB-1"_s);
+    settle();
+    store().cycleAppearance();
+    const auto toast = await(QAccessible::Button, u"Apparence"_s);
+
+    EXPECT_NEAR(toast.box.center().x(), (240 + 820) / 2, 1);
+}
