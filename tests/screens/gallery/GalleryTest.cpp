@@ -3,7 +3,9 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QSet>
 #include <QStyleHints>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -115,6 +117,31 @@ std::string nameOf(const std::tuple<int, bool> &param)
     return (page + (std::get<1>(param) ? u"Dark"_s : u"Light"_s)).toStdString();
 }
 
+/// What can be pressed or typed into, below an item.
+QList<QQuickItem *> controlsBelow(QQuickItem *item)
+{
+    QList<QQuickItem *> controls;
+    if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextField"))
+        controls += item;
+    for (auto *child : item->childItems())
+        controls += controlsBelow(child);
+    return controls;
+}
+
+/// A part that speaks for this item, itself or one round it: a secret field's inner one is silent on purpose.
+bool isSpokenFor(QQuickItem *item)
+{
+    for (auto *at = item; at; at = at->parentItem()) {
+        auto *accessible = QAccessible::queryAccessibleInterface(at);
+        const bool isNamed = accessible && !accessible->text(QAccessible::Name).isEmpty();
+        if (isNamed && accessible->role() != QAccessible::NoRole)
+            return true;
+        if (at->isFocusScope() && at != item)
+            return false;
+    }
+    return false;
+}
+
 } // namespace
 
 class GalleryPictures : public testing::TestWithParam<std::tuple<int, bool>>
@@ -144,6 +171,60 @@ TEST_P(GalleryPictures, LookAsTheyAreStored)
         picture.save(found);
     EXPECT_TRUE(difference.isForgiven())
         << placeOf(difference) << "; found: " << found.toStdString();
+}
+
+class GalleryControls : public testing::TestWithParam<QString>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Pages, GalleryControls,
+                         testing::Values(u"states"_s, u"panels"_s, u"controls"_s),
+                         [](const auto &info) { return info.param.toStdString(); });
+
+TEST_P(GalleryControls, AllHaveANameAndARole)
+{
+    Bench bench;
+    auto *shown = bench.show(
+        u"import Velmora.Gallery\nGalleryPage { width: 1200; height: 900; page: '%1' }"_s.arg(
+            GetParam()));
+    ASSERT_NE(shown, nullptr);
+    const auto controls = controlsBelow(shown);
+    EXPECT_GT(controls.size(), 10);
+    for (auto *control : controls)
+        EXPECT_TRUE(isSpokenFor(control) || !control->isEnabled())
+            << control->metaObject()->className();
+    EXPECT_EQ(bench.warnings(), "");
+}
+
+class ReachableControls : public testing::TestWithParam<QString>
+{
+};
+
+// Not the page of controls: the menu that is open there keeps the keyboard to itself.
+INSTANTIATE_TEST_SUITE_P(Pages, ReachableControls, testing::Values(u"states"_s, u"panels"_s),
+                         [](const auto &info) { return info.param.toStdString(); });
+
+TEST_P(ReachableControls, AreReachedByTabUnlessTheyAreDisabled)
+{
+    Bench bench;
+    bench.window().resize(1200, 900);
+    auto *shown = bench.show(
+        u"import Velmora.Gallery\nGalleryPage { width: 1200; height: 900; page: '%1' }"_s.arg(
+            GetParam()));
+    ASSERT_NE(shown, nullptr);
+    QSet<QQuickItem *> reached;
+    const auto controls = controlsBelow(shown);
+    for (qsizetype i = 0; i < controls.size() + 10; ++i) {
+        QTest::keyClick(&bench.window(), Qt::Key_Tab);
+        reached.insert(bench.window().activeFocusItem());
+    }
+    for (auto *control : controls) {
+        const bool isWanted = control->isEnabled() && control->isVisible() &&
+                              control->property("focusPolicy").toInt() != Qt::NoFocus;
+        EXPECT_TRUE(!isWanted || reached.contains(control))
+            << control->metaObject()->className() << ' '
+            << control->property("accessibleName").toString().toStdString();
+    }
 }
 
 TEST(PictureDifference, AnyIconThatMovesByOnePixelIsSeen)

@@ -192,6 +192,7 @@ TEST_F(ImageLoaderTest, AThousandHostilePicturesLeaveItAtRest)
         return ImageAnswer{200, pictures.at(request.url.port())};
     });
     std::vector<TaskResult<QImage>> results;
+    results.reserve(size_t(pictures.size()));
     for (int i = 0; i < pictures.size(); ++i)
         results.emplace_back(loader.image(QUrl(u"https://site.example:%1/"_s.arg(i))));
     for (const auto &result : results)
