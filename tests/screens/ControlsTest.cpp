@@ -124,6 +124,23 @@ TEST(Controls, HintOfAButtonComesUnderThePointer)
     EXPECT_EQ(bench.warnings(), "");
 }
 
+TEST(Controls, HoverFillIsThereAtOnceAndLeavesSoftly)
+{
+    Bench bench;
+    bench.setToken("motion", "reduced", false);
+    auto *holder = bench.show(u"Item { width: 100; height: 30; property bool lit: false; "
+                              "HoverFill { shown: parent.lit } }"_s);
+    ASSERT_NE(holder, nullptr) << bench.warnings();
+    const auto *fill = holder->childItems().first();
+    EXPECT_DOUBLE_EQ(fill->opacity(), 0);
+    holder->setProperty("lit", true);
+    EXPECT_DOUBLE_EQ(fill->opacity(), 1);
+    holder->setProperty("lit", false);
+    EXPECT_GT(fill->opacity(), 0.5);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fill->opacity() == 0; }));
+    EXPECT_EQ(bench.warnings(), "");
+}
+
 TEST(Controls, CheckBoxTogglesWithEveryWayOfPressing)
 {
     Bench bench;

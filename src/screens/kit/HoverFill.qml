@@ -10,13 +10,23 @@ Rectangle {
 
     anchors.fill: parent
     color: fill
-    opacity: shown ? 1 : 0
+    opacity: 0
     visible: opacity > 0
 
-    Behavior on opacity {
-        enabled: !hover.shown
+    states: State {
+        name: "shown"
+        when: hover.shown
+
+        PropertyChanges {
+            hover.opacity: 1
+        }
+    }
+
+    transitions: Transition {
+        from: "shown"
 
         NumberAnimation {
+            property: "opacity"
             duration: Motion.fadeDuration
         }
     }

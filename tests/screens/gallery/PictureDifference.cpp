@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Of 255, in any channel.
-constexpr int forgiven = 24;
+/// Of 255, in any channel; the faintest fill makes 9.
+constexpr int forgiven = 6;
 
 bool differ(QRgb first, QRgb second)
 {
