@@ -31,7 +31,7 @@ class Selection(WindowCase):
         wait_until(lambda: self.checked(velmora) == five, 5, 0.1, "five checked rows")
         self.session.key("i")
         for key in five:
-            velmora.app.find(role="list item", name="^%s, .*assigné à Noam Talvère$" % key)
+            velmora.app.find(role="list item", name="^%s, .*assigné à Noam Talvère, " % key)
 
     def test_shift_and_the_arrow_select_on_the_way(self):
         velmora = self.open_sprint()

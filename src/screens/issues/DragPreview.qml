@@ -9,7 +9,7 @@ GlassPanel {
 
     required property issue issue
 
-    implicitWidth: Math.min(Math.ceil(line.implicitWidth) + 24, 420)
+    implicitWidth: Math.ceil(line.implicitWidth) + 24
     implicitHeight: line.implicitHeight + 16
     radius: Metrics.radiusRow
     shadow: "none"
@@ -33,7 +33,7 @@ GlassPanel {
         }
 
         AppText {
-            width: Math.min(implicitWidth, root.width - x - 24)
+            width: Math.min(implicitWidth, 300)
             weight: Font.Medium
             text: root.issue.summary
         }

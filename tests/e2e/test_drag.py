@@ -1,0 +1,49 @@
+"""Dragging issues with the pointer, as the desktop carries them."""
+from driver import wait_until
+from support import WindowCase
+
+
+class Drag(WindowCase):
+    def open_board(self):
+        velmora = self.open_demo(layout="board")
+        velmora.scope("Plateforme web").click()
+        velmora.app.find(role="list item", name="^WEB-204, ")
+        self.session.settle()
+        return velmora
+
+    def column(self, velmora, title):
+        """A free place in a column of the board."""
+        x, y, width, height = velmora.app.find(role="list", name="^%s, " % title).rect
+        return x + width // 2, y + height * 2 // 3
+
+    def take(self, velmora, key):
+        """Where a card can be taken: between its head and its foot."""
+        x, y, width, _ = velmora.row(key).rect
+        return x + width // 2, y + 45
+
+    def wait_status(self, velmora, key, status):
+        velmora.app.find(role="list item", name="^%s, .*, %s, " % (key, status))
+
+    def test_a_card_takes_the_status_of_the_column_it_is_dropped_on_again_and_again(self):
+        velmora = self.open_board()
+        for status in ("En cours", "À faire", "En cours"):
+            self.session.drag(self.take(velmora, "WEB-204"), self.column(velmora, status))
+            self.wait_status(velmora, "WEB-204", status)
+            self.session.settle()
+
+    def test_three_checked_cards_move_together(self):
+        velmora = self.open_board()
+        for key in ("WEB-204", "WEB-203", "WEB-211"):
+            self.session.click(self.take(velmora, key), mods=("ctrl",))
+        velmora.app.find(name="^3 sélectionnés$")
+        self.session.drag(self.take(velmora, "WEB-203"), self.column(velmora, "En cours"))
+        for key in ("WEB-204", "WEB-203", "WEB-211"):
+            self.wait_status(velmora, key, "En cours")
+
+    def test_a_drop_outside_any_column_changes_nothing(self):
+        velmora = self.open_board()
+        before = velmora.row("WEB-204").name
+        self.session.drag(self.take(velmora, "WEB-204"), (100, 600))
+        self.session.settle()
+        self.assertEqual(velmora.row("WEB-204").name, before)
+        wait_until(lambda: velmora.app.running, 1, 0.1, "the program")
