@@ -7,7 +7,7 @@
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QQuickItem>
 
 using namespace Qt::StringLiterals;
@@ -35,8 +35,8 @@ bool holdsRow(const QQuickItem &item)
 int main(int argc, char **argv)
 {
     chooseRenderer();
-    const QGuiApplication application(argc, argv);
-    const auto arguments = QGuiApplication::arguments();
+    const QApplication application(argc, argv);
+    const auto arguments = QApplication::arguments();
     StartReport report(arguments);
     report.mark(u"application"_s);
     VelmoraApp velmora(outside(arguments));
@@ -55,8 +55,8 @@ int main(int argc, char **argv)
         isDone = true;
         report.mark(u"shown"_s, instant);
         report.print(watch.renderer());
-        QGuiApplication::quit();
+        QApplication::quit();
     };
     QObject::connect(&watch, &FrameWatch::swapped, &application, onFrame);
-    return QGuiApplication::exec();
+    return QApplication::exec();
 }

@@ -10,9 +10,10 @@
 #include "app/VelmoraApp.h"
 #include "async/Spawn.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeStatusHost.h"
 #include "support/ScriptedService.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QQuickItem>
 #include <QTemporaryDir>
 
@@ -27,7 +28,7 @@ constexpr int Turns = 40;
 /// How often each key is pressed: the first argument.
 int presses()
 {
-    const auto given = QGuiApplication::arguments().value(1).toInt();
+    const auto given = QApplication::arguments().value(1).toInt();
     return given > 0 ? given : 300;
 }
 
@@ -57,6 +58,7 @@ Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString 
     outside.preferences->setFlag(u"demoMode"_s, true);
     outside.preferences->setFlag(u"showCompleted"_s, true);
     outside.desktop = std::make_unique<FakeDesktop>();
+    outside.statusHost = std::make_unique<FakeStatusHost>();
     outside.calendar = UserCalendar::system();
     outside.makeDemo = [site](Clock &, const UserCalendar &) { return site; };
     return outside;
@@ -198,8 +200,8 @@ void measureEmptyWindow(std::optional<FrameTable> &table)
 int main(int argc, char **argv)
 {
     chooseRenderer();
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    const QGuiApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QApplication application(argc, argv);
     std::optional<FrameTable> table;
     measureEmptyWindow(table);
     measureList(*table, 300);

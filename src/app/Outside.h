@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Preferences.h"
+#include "platform/StatusHost.h"
 
 #include <functional>
 #include <memory>
@@ -14,6 +15,7 @@ struct Outside
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Preferences> preferences;
     std::unique_ptr<Desktop> desktop;
+    std::unique_ptr<StatusHost> statusHost;
     UserCalendar calendar;
     /// Opens a session on made-up data, in the time that the clock tells.
     std::function<std::shared_ptr<IssueService>(Clock &, const UserCalendar &)> makeDemo;

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "app/AppDelegate.h"
 #include "app/Outside.h"
-#include "shell/WindowMemory.h"
 #include "state/AppStore.h"
 
-#include <QQmlApplicationEngine>
-
-class QQuickWindow;
+#include <QQmlEngine>
 
 /// The application object: owns the one store and what the store stands on, for the life of the process, and opens the
 /// windows that show it.
@@ -20,16 +18,18 @@ public:
     bool open();
 
     AppStore &store() { return m_store; }
+    Scenes &scenes() { return m_scenes; }
+    AppDelegate &delegate() { return m_delegate; }
     /// Null before `open`.
-    QQuickWindow *mainWindow() const;
+    QQuickWindow *mainWindow() const { return m_scenes.mainWindow(); }
 
 private:
     AppStoreContext context();
-    QVariantMap rootProperties();
 
     Outside m_outside;
     AppStore m_store;
-    WindowMemory m_windowMemory;
-    // Last, so that the screens go before the store they show.
-    QQmlApplicationEngine m_engine;
+    // After the store, so that the screens go before what they show.
+    QQmlEngine m_engine;
+    Scenes m_scenes;
+    AppDelegate m_delegate;
 };

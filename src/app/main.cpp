@@ -1,14 +1,48 @@
 #include "app/Renderer.h"
+#include "app/SingleInstance.h"
 #include "app/VelmoraApp.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QStandardPaths>
+
+#include <optional>
+
+namespace {
+
+/// Lets the windows that follow come forward in the name of what the desktop knows by this token.
+void takeToken(const QByteArray &token)
+{
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
     chooseRenderer();
-    QGuiApplication::setApplicationName(QStringLiteral("Velmora"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("fr.orvantis.Velmora"));
-    const QGuiApplication application(argc, argv);
-    VelmoraApp velmora;
-    return velmora.open() ? QGuiApplication::exec() : 1;
+    QApplication::setApplicationName(QStringLiteral("Velmora"));
+    QApplication::setDesktopFileName(QStringLiteral("fr.orvantis.Velmora"));
+    const QApplication application(argc, argv);
+    // The delegate decides.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    SystemClock clock;
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation),
+                            clock);
+    std::optional<VelmoraApp> velmora;
+    QObject::connect(&instance, &SingleInstance::isSecond, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
+    QObject::connect(&instance, &SingleInstance::isFirst, &application, [&velmora] {
+        velmora.emplace();
+        if (!velmora->open())
+            QApplication::exit(1);
+    });
+    QObject::connect(&instance, &SingleInstance::asked, &application,
+                     [&velmora](const QByteArray &token) {
+                         takeToken(token);
+                         velmora->delegate().showMainWindow();
+                     });
+    instance.start();
+    return QApplication::exec();
 }

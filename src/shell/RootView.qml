@@ -72,6 +72,21 @@ Window {
         onDismissed: id => root.store.dismissToast(id)
     }
 
+    MenuBarLayer {
+        anchors.fill: parent
+        store: root.store
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+Q"]
+        onActivated: Qt.quit()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+W"]
+        onActivated: root.close()
+    }
+
     Binding {
         target: Theme
         property: "dark"

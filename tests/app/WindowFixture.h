@@ -3,6 +3,7 @@
 #include "app/Spoken.h"
 #include "app/VelmoraApp.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeStatusHost.h"
 #include "support/ManualClock.h"
 #include "support/ScriptedService.h"
 
@@ -53,6 +54,7 @@ protected:
     QString preferencesPath = folder.filePath(QStringLiteral("Velmora.ini"));
     ManualClock *clock = nullptr;
     FakeDesktop *desktop = nullptr;
+    FakeStatusHost *statusHost = nullptr;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();
     std::unique_ptr<VelmoraApp> app;
 

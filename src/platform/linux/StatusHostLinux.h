@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/StatusHost.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+
+class QDBusPendingCallWatcher;
+
+/// Asks the watcher of status notifier items on a bus whether a host shows them.
+class StatusHostLinux final : public StatusHost
+{
+    Q_OBJECT
+
+public:
+    explicit StatusHostLinux(const QDBusConnection &bus);
+
+    bool isPresent() const override { return m_isPresent; }
+
+private Q_SLOTS:
+    void ask();
+
+private:
+    void answer(QDBusPendingCallWatcher *call);
+    void setIsPresent(bool present);
+
+    QDBusConnection m_bus;
+    QDBusServiceWatcher m_watcher;
+    bool m_isPresent = false;
+};

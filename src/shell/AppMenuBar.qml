@@ -1,0 +1,130 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
+import Velmora.Theme
+
+// The program's menus, above the window's content while the keyboard asked for them.
+T.MenuBar {
+    id: root
+
+    required property AppStore store
+    required property MenuBarKeys keys
+
+    implicitHeight: 34
+    padding: Metrics.gapTiny
+    Accessible.role: Accessible.MenuBar
+    Accessible.name: "Menus"
+
+    Component.onCompleted: (root.itemAt(0) as T.MenuBarItem).triggered()
+
+    Binding {
+        target: root.keys
+        property: "hasOpenMenu"
+        value: file.opened || issues.opened || view.opened
+    }
+
+    AppCommands {
+        id: commands
+        store: root.store
+    }
+
+    delegate: MenuBarTitle {}
+
+    contentItem: Row {
+        spacing: 2
+
+        Repeater {
+            model: root.contentModel
+        }
+    }
+
+    background: Rectangle {
+        color: Theme.elevatedGlass
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.divider
+        }
+    }
+
+    PopupMenu {
+        id: file
+        title: "Fichier"
+
+        CommandMenuItem {
+            modelData: commands.newIssue
+            keys: root.keys
+        }
+
+        PopupMenuItem {
+            text: "Réglages…"
+            onTriggered: root.store.settingsRequested()
+        }
+
+        PopupMenuSeparator {}
+
+        PopupMenuItem {
+            text: "Quitter"
+            shortcut: "Ctrl+Q"
+            onTriggered: Qt.quit()
+        }
+    }
+
+    PopupMenu {
+        id: issues
+        title: "Tickets"
+
+        Repeater {
+            model: commands.general
+
+            CommandMenuItem {
+                keys: root.keys
+            }
+        }
+
+        PopupMenuSeparator {}
+
+        Repeater {
+            model: commands.editing
+
+            CommandMenuItem {
+                keys: root.keys
+            }
+        }
+
+        PopupMenuSeparator {}
+
+        Repeater {
+            model: commands.sharing
+
+            CommandMenuItem {
+                keys: root.keys
+            }
+        }
+
+        PopupMenuSeparator {}
+
+        Repeater {
+            model: commands.display
+
+            CommandMenuItem {
+                keys: root.keys
+            }
+        }
+    }
+
+    PopupMenu {
+        id: view
+        title: "Affichage"
+
+        AppearanceMenu {
+            store: root.store
+        }
+    }
+}

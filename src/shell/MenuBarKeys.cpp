@@ -1,0 +1,95 @@
+#include "shell/MenuBarKeys.h"
+
+#include <QKeyEvent>
+
+void MenuBarKeys::setWindow(QQuickWindow *window)
+{
+    if (m_window == window)
+        return;
+    if (m_window)
+        m_window->removeEventFilter(this);
+    m_window = window;
+    if (m_window)
+        m_window->installEventFilter(this);
+    Q_EMIT windowChanged();
+}
+
+bool MenuBarKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_window)
+        return false;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return takesPress(static_cast<const QKeyEvent &>(*event));
+    case QEvent::KeyRelease: {
+        const auto &release = static_cast<const QKeyEvent &>(*event);
+        if (!release.isAutoRepeat() && m_altTap.keyReleased(Qt::Key(release.key())))
+            toggle();
+        return false;
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::FocusOut:
+        m_altTap.interrupt();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool MenuBarKeys::takesPress(const QKeyEvent &event)
+{
+    if (!event.isAutoRepeat())
+        m_altTap.keyPressed(Qt::Key(event.key()), event.modifiers());
+    const bool isF10 = event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier;
+    if (isF10)
+        toggle();
+    return isF10;
+}
+
+void MenuBarKeys::setHasOpenMenu(bool open)
+{
+    if (std::exchange(m_hasOpenMenu, open) == open)
+        return;
+    Q_EMIT hasOpenMenuChanged();
+    // A step from one menu to the next closes the first before it opens the second.
+    if (!open)
+        QMetaObject::invokeMethod(this, &MenuBarKeys::closeWithItsMenus, Qt::QueuedConnection);
+}
+
+void MenuBarKeys::closeWithItsMenus()
+{
+    if (!m_hasOpenMenu)
+        close();
+}
+
+void MenuBarKeys::toggle()
+{
+    if (m_isOpen)
+        close();
+    else
+        open();
+}
+
+void MenuBarKeys::open()
+{
+    m_before = m_window->activeFocusItem();
+    m_isOpen = true;
+    Q_EMIT isOpenChanged();
+}
+
+void MenuBarKeys::close()
+{
+    if (!m_isOpen)
+        return;
+    m_isOpen = false;
+    Q_EMIT isOpenChanged();
+    if (m_before)
+        m_before->forceActiveFocus(Qt::MenuBarFocusReason);
+    m_before = nullptr;
+}
+
+void MenuBarKeys::choose(int command)
+{
+    close();
+    Q_EMIT chosen(command);
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/AltTap.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtQml/qqmlregistration.h>
+
+/// Shows the menu bar of a window at a tap of Alt and at F10, and hides it in the same way. While the bar is shown it
+/// has the keyboard; what is chosen there is carried out when the bar is gone and the focus is back where it was, so that
+/// commands find the window as the user left it.
+class MenuBarKeys : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL REQUIRED)
+    /// One of the bar's menus is open; when none is any more, the bar closes.
+    Q_PROPERTY(
+        bool hasOpenMenu READ hasOpenMenu WRITE setHasOpenMenu NOTIFY hasOpenMenuChanged FINAL)
+    Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged FINAL)
+
+public:
+    using QObject::QObject;
+
+    QQuickWindow *window() const { return m_window; }
+    void setWindow(QQuickWindow *window);
+    bool isOpen() const { return m_isOpen; }
+    bool hasOpenMenu() const { return m_hasOpenMenu; }
+    void setHasOpenMenu(bool open);
+
+    Q_INVOKABLE void close();
+    /// Closes the bar and then tells `chosen`.
+    Q_INVOKABLE void choose(int command);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void windowChanged();
+    void isOpenChanged();
+    void hasOpenMenuChanged();
+    /// A `Commands.AppCommand` is to be carried out.
+    void chosen(int command);
+
+private:
+    bool takesPress(const QKeyEvent &event);
+    void toggle();
+    void open();
+    void closeWithItsMenus();
+
+    QPointer<QQuickWindow> m_window;
+    AltTap m_altTap;
+    bool m_isOpen = false;
+    bool m_hasOpenMenu = false;
+    QPointer<QQuickItem> m_before;
+};

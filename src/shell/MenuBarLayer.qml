@@ -1,0 +1,34 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
+
+// The menu bar of a window, made when it is asked for and gone afterwards.
+Item {
+    id: root
+
+    required property AppStore store
+
+    MenuBarKeys {
+        id: barKeys
+        window: root.Window.window
+        onChosen: command => commands.run(command)
+    }
+
+    AppCommands {
+        id: commands
+        store: root.store
+    }
+
+    When {
+        shown: barKeys.isOpen
+
+        AppMenuBar {
+            width: root.width
+            store: root.store
+            keys: barKeys
+        }
+    }
+}

@@ -1,0 +1,130 @@
+#include "shell/Scenes.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void bringForward(QQuickWindow *window)
+{
+    if (window->windowStates().testFlag(Qt::WindowMinimized))
+        window->setWindowStates(window->windowStates() & ~Qt::WindowStates(Qt::WindowMinimized));
+    // A window that comes anew comes on top.
+    if (window->isVisible())
+        window->raise();
+    window->show();
+    window->requestActivate();
+}
+
+} // namespace
+
+Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences)
+    : m_engine(engine), m_store(store), m_memory(preferences), m_tabs(preferences)
+{
+    QQmlEngine::setObjectOwnership(&m_memory, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(&m_tabs, QQmlEngine::CppOwnership);
+    connect(&m_store, &AppStore::openWindowRequested, this, &Scenes::showIssue);
+    connect(&m_store, &AppStore::settingsRequested, this, &Scenes::showSettings);
+}
+
+Scenes::~Scenes()
+{
+    // What windows tell on their way out is told to nobody.
+    if (m_main)
+        m_main->disconnect(this);
+    QList<QQuickWindow *> others = m_issues.values();
+    if (m_settings)
+        others.append(m_settings);
+    for (auto *window : others)
+        window->disconnect(this);
+    qDeleteAll(others);
+    // Before what they show.
+    for (const auto &window : m_leaving)
+        delete window;
+}
+
+bool Scenes::showMain()
+{
+    if (!m_main) {
+        m_main.reset(make(u"RootView"_s, mainProperties()));
+        if (!m_main)
+            return false;
+        m_memory.follow(m_main.get());
+        watch(m_main.get());
+    }
+    bringForward(m_main.get());
+    return true;
+}
+
+void Scenes::showIssue(const QString &key)
+{
+    auto *&window = m_issues[key];
+    if (!window) {
+        window = make(u"IssueWindow"_s, {{u"key"_s, key}});
+        watch(window);
+    }
+    bringForward(window);
+}
+
+void Scenes::showSettings()
+{
+    if (!m_settings) {
+        m_settings = make(u"SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)}});
+        watch(m_settings);
+    }
+    bringForward(m_settings);
+}
+
+bool Scenes::isAllClosed() const
+{
+    const auto isSeen = [](const QQuickWindow *window) { return window && window->isVisible(); };
+    return !isSeen(m_main.get()) && !isSeen(m_settings) && std::ranges::none_of(m_issues, isSeen);
+}
+
+QVariantMap Scenes::mainProperties()
+{
+    QList<QRect> screens;
+    for (const auto *screen : QGuiApplication::screens())
+        screens += screen->availableGeometry();
+    auto properties = m_memory.initialProperties(screens);
+    properties.insert(u"memory"_s, QVariant::fromValue(&m_memory));
+    return properties;
+}
+
+QQuickWindow *Scenes::make(const QString &file, const QVariantMap &properties)
+{
+    QQmlComponent component(&m_engine, QUrl(u"qrc:/qt/qml/Velmora/Shell/"_s + file + u".qml"_s));
+    QVariantMap all = properties;
+    all.insert(u"store"_s, QVariant::fromValue(&m_store));
+    QObject *made = component.createWithInitialProperties(all);
+    if (!made)
+        qWarning().noquote() << component.errorString();
+    return qobject_cast<QQuickWindow *>(made);
+}
+
+void Scenes::watch(QQuickWindow *window)
+{
+    connect(window, &QWindow::visibleChanged, this, [this, window](bool isVisible) {
+        if (isVisible)
+            return;
+        forget(window);
+        if (isAllClosed())
+            Q_EMIT allClosed();
+    });
+}
+
+void Scenes::forget(QQuickWindow *window)
+{
+    if (window == m_main.get())
+        return;
+    if (window == m_settings)
+        m_settings = nullptr;
+    m_issues.removeIf([window](const auto &entry) { return entry.value() == window; });
+    // Its own code may be running.
+    window->deleteLater();
+    m_leaving.removeAll(nullptr);
+    m_leaving.append(window);
+}

@@ -1,0 +1,59 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
+import Velmora.Theme
+
+// The settings, in a window of their own.
+Window {
+    id: root
+
+    required property AppStore store
+    required property SettingsTabs tabs
+
+    title: "Réglages"
+    width: 600
+    height: 560
+    minimumWidth: 600
+    minimumHeight: 560
+    maximumWidth: 600
+    maximumHeight: 560
+    color: Theme.pane
+
+    Shortcut {
+        sequences: ["Ctrl+W", "Escape"]
+        onActivated: root.close()
+    }
+
+    Row {
+        id: bar
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Metrics.gapMedium
+        spacing: Metrics.gapTiny
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: "Réglages"
+
+        Repeater {
+            model: root.tabs.tabs
+
+            SettingsTabButton {
+                isChosen: root.tabs.tab === modelData.value
+                onClicked: root.tabs.tab = modelData.value
+            }
+        }
+    }
+
+    When {
+        shown: root.tabs.tab === "shortcuts"
+
+        ShortcutsPane {
+            y: 72
+            width: root.width
+            height: root.height - y
+            tabs: root.tabs
+            focus: true
+        }
+    }
+}

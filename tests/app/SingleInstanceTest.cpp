@@ -1,0 +1,82 @@
+#include "app/SingleInstance.h"
+
+#include "support/ManualClock.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <QUuid>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class SingleInstanceTest : public testing::Test
+{
+protected:
+    QString profile = QUuid::createUuid().toString();
+    ManualClock clock;
+};
+
+TEST_F(SingleInstanceTest, AProcessAloneIsTheFirst)
+{
+    SingleInstance alone(profile, clock);
+    QSignalSpy first(&alone, &SingleInstance::isFirst);
+    alone.start();
+    EXPECT_EQ(first.count(), 1);
+    clock.advance(1h);
+    EXPECT_EQ(first.count(), 1);
+}
+
+TEST_F(SingleInstanceTest, ASecondOneAsksTheFirstToShowItself)
+{
+    qputenv("XDG_ACTIVATION_TOKEN", "jeton");
+    SingleInstance one(profile, clock);
+    one.start();
+    QSignalSpy asked(&one, &SingleInstance::asked);
+    SingleInstance two(profile, clock);
+    QSignalSpy first(&two, &SingleInstance::isFirst);
+    QSignalSpy second(&two, &SingleInstance::isSecond);
+    two.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return second.count() == 1; }));
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+    EXPECT_EQ(first.count(), 0);
+    ASSERT_EQ(asked.count(), 1);
+    EXPECT_EQ(asked.first().first().toByteArray(), "jeton");
+}
+
+TEST_F(SingleInstanceTest, ProfilesDoNotKnowOfEachOther)
+{
+    SingleInstance one(profile, clock);
+    one.start();
+    SingleInstance two(profile + u"2"_s, clock);
+    QSignalSpy first(&two, &SingleInstance::isFirst);
+    two.start();
+    EXPECT_EQ(first.count(), 1);
+}
+
+TEST_F(SingleInstanceTest, AfterTheFirstHasEndedTheNextOneIsTheFirst)
+{
+    {
+        SingleInstance one(profile, clock);
+        one.start();
+    }
+    SingleInstance two(profile, clock);
+    QSignalSpy first(&two, &SingleInstance::isFirst);
+    two.start();
+    EXPECT_EQ(first.count(), 1);
+}
+
+TEST_F(SingleInstanceTest, AFirstThatDoesNotAnswerCountsAsGone)
+{
+    // It holds the profile, but nothing turns its event loop here.
+    SingleInstance one(profile, clock);
+    one.start();
+    SingleInstance two(profile, clock);
+    QSignalSpy first(&two, &SingleInstance::isFirst);
+    two.start();
+    clock.advance(1999ms);
+    EXPECT_EQ(first.count(), 0);
+    clock.advance(1ms);
+    EXPECT_EQ(first.count(), 1);
+}

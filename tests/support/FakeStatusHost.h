@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/StatusHost.h"
+
+/// A desktop that shows status items, or none, as a test sets it.
+class FakeStatusHost final : public StatusHost
+{
+public:
+    bool isPresent() const override { return m_isPresent; }
+    void setIsPresent(bool present)
+    {
+        m_isPresent = present;
+        Q_EMIT isPresentChanged();
+    }
+
+private:
+    bool m_isPresent = false;
+};
