@@ -70,7 +70,7 @@ TEST(BodyDecoder, ASinkThatWantsNoMoreEndsIt)
 {
     BodyDecoder decoder("gzip");
     int pieces = 0;
-    EXPECT_FALSE(decoder.feed(packed(QByteArray(10 * 1024 * 1024, ' ')),
+    EXPECT_FALSE(decoder.feed(packed(QByteArray(10LL * 1024 * 1024, ' ')),
                               [&](QByteArrayView) { return ++pieces < 3; }));
     EXPECT_EQ(pieces, 3);
 }

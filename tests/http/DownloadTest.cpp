@@ -71,7 +71,7 @@ TEST_F(DownloadTest, AFileThatWasCutShortIsNotKept)
 
 TEST_F(DownloadTest, AFileMayBeLongerThanWhatIsHeldInMemory)
 {
-    constexpr qint64 size = HttpRequest::MaximumInMemory + 1024 * 1024;
+    constexpr qint64 size = HttpRequest::MaximumInMemory + 1024LL * 1024;
     server.answer(RawAnswer::large(size, size, "application/zip"));
     const HttpAnswer answer = answerTo(download());
     EXPECT_EQ(answer.file->size(), size);

@@ -148,14 +148,14 @@ TEST_F(HttpFaults, AnEmptyBodyIsWholeThoughItSaysThatItIsPacked)
 
 TEST_F(HttpFaults, ABodyOf100MegabytesEndsBeforeItIsHeld)
 {
-    constexpr qint64 size = 100 * 1024 * 1024;
+    constexpr qint64 size = 100LL * 1024 * 1024;
     server.answer(RawAnswer::large(size, size, "application/json"));
     EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);
 }
 
 TEST_F(HttpFaults, ASmallBodyThatUnpacksTo100Megabytes)
 {
-    const QByteArray bytes = packed(QByteArray(100 * 1024 * 1024, ' '));
+    const QByteArray bytes = packed(QByteArray(100LL * 1024 * 1024, ' '));
     ASSERT_LT(bytes.size(), 1024 * 1024);
     server.answer(RawAnswer::http(200, bytes, {{"Content-Encoding", "gzip"}}));
     EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);

@@ -104,7 +104,7 @@ TEST_F(SessionTest, AReadMayBeSentAgainWhenItsConnectionIsDead)
 TEST_F(SessionTest, ALargeWriteArrivesWhole)
 {
     server.answer(RawAnswer::json("{}"));
-    const QByteArray body(8 * 1024 * 1024, 'x');
+    const QByteArray body(8LL * 1024 * 1024, 'x');
     answerTo(write("/write", "POST", body));
     EXPECT_EQ(server.journal().first().body, body);
 }

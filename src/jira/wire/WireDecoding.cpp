@@ -33,7 +33,7 @@ QString shortened(const QString &text)
 }
 
 /// A parser holds some fifteen times what it last read. One for each thread is kept for what is usual.
-constexpr qsizetype UsualSize = 1024 * 1024;
+constexpr qsizetype UsualSize = 1024LL * 1024;
 
 simdjson::dom::parser &keptParser()
 {
