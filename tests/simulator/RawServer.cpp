@@ -81,7 +81,7 @@ struct RawServer::Connection
     }
 };
 
-RawServer::RawServer(std::optional<Certificates::Kind> certificate)
+RawServer::RawServer(std::optional<Certificates::Kind> certificate, quint16 port)
     : m_isSecure(certificate.has_value()),
       m_answering([](const RawRequest &) { return RawAnswer::http(404, {}); })
 {
@@ -93,7 +93,8 @@ RawServer::RawServer(std::optional<Certificates::Kind> certificate)
         m_server = std::make_unique<QTcpServer>();
     }
     connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, this, &RawServer::accept);
-    if (!m_server->listen(QHostAddress::LocalHost))
+    if (!m_server->listen(QHostAddress::LocalHost, port) &&
+        !m_server->listen(QHostAddress::LocalHost))
         qFatal("No port to listen on: %s", qPrintable(m_server->errorString()));
     m_port = m_server->serverPort();
 }

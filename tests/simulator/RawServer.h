@@ -32,8 +32,8 @@ class RawServer : public QObject
 public:
     using Answering = std::function<RawAnswer(const RawRequest &)>;
 
-    /// Listens on a free port of 127.0.0.1; over TLS when there is a certificate.
-    explicit RawServer(std::optional<Certificates::Kind> certificate = {});
+    /// Listens on 127.0.0.1; over TLS when there is a certificate. At `port` if that is free, else at any.
+    explicit RawServer(std::optional<Certificates::Kind> certificate = {}, quint16 port = 0);
     ~RawServer() override;
 
     /// "http://127.0.0.1:<port>" or, over TLS, "https://localhost:<port>".

@@ -82,6 +82,14 @@ TEST(RawServerTest, QueuedAnswersGoBeforeTheLastingOne)
     EXPECT_EQ(server.connections(), 2);
 }
 
+TEST(RawServerTest, APortThatIsTakenIsReplacedByAnother)
+{
+    const RawServer first;
+    const RawServer second({}, first.port());
+    EXPECT_NE(second.port(), 0);
+    EXPECT_NE(second.port(), first.port());
+}
+
 TEST(RawServerTest, AResetAfterTheRequestSendsNoByte)
 {
     RawServer server;

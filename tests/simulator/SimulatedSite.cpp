@@ -2,8 +2,8 @@
 
 #include "simulator/SiteRest.h"
 
-SimulatedSite::SimulatedSite(Site site, std::optional<Certificates::Kind> certificate)
-    : m_site(std::move(site)), m_server(certificate), m_files(certificate)
+SimulatedSite::SimulatedSite(Site site, std::optional<Certificates::Kind> certificate, quint16 port)
+    : m_site(std::move(site)), m_server(certificate, port), m_files(certificate)
 {
     m_site.address = m_server.url();
     m_site.media = m_files.url();

@@ -17,8 +17,10 @@
 class SimulatedSite
 {
 public:
-    /// Over TLS when there is a certificate. The site's addresses are set to those of the servers.
-    explicit SimulatedSite(Site site, std::optional<Certificates::Kind> certificate = {});
+    /// Over TLS when there is a certificate; at `port` if that is free. The site's addresses are set to those of the
+    /// servers.
+    explicit SimulatedSite(Site site, std::optional<Certificates::Kind> certificate = {},
+                           quint16 port = 0);
     SimulatedSite(const SimulatedSite &) = delete;
     SimulatedSite &operator=(const SimulatedSite &) = delete;
 

@@ -10,6 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Where the sites are unless something else is there; so a session that was kept finds its site again.
+constexpr quint16 smallPort = 8300;
+constexpr quint16 largePort = 8500;
+
 /// A site that lives in the present.
 Site presentCompany(int issues)
 {
@@ -31,8 +35,8 @@ void tell(SimulatedSite &simulated)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    SimulatedSite small(presentCompany(300));
-    SimulatedSite large(presentCompany(5000));
+    SimulatedSite small(presentCompany(300), {}, smallPort);
+    SimulatedSite large(presentCompany(5000), {}, largePort);
     tell(small);
     tell(large);
     std::printf("E-mail                %s (none: the token is taken as a personal access token)\n"

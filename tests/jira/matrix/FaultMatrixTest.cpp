@@ -1,5 +1,6 @@
 #include "jira/JiraClient.h"
 #include "jira/matrix/Fault.h"
+#include "jira/matrix/Moment.h"
 #include "jira/matrix/Operation.h"
 #include "jira/matrix/Scratch.h"
 #include "jira/matrix/Spoken.h"
@@ -8,8 +9,6 @@
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDirIterator>
 
 #include <gtest/gtest.h>
@@ -80,14 +79,6 @@ protected:
             clock.advance(31s);
         }
         return true;
-    }
-
-    /// What the server has sent may take a moment to the client's thread; so short that nothing else depends on it.
-    static void letPartsArrive()
-    {
-        const QDeadlineTimer moment(3ms);
-        while (!moment.hasExpired())
-            QCoreApplication::processEvents();
     }
 
     static QStringList filesInCache()
