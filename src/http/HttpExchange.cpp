@@ -91,12 +91,13 @@ bool HttpExchange::store(QByteArrayView piece)
         return true;
     if (m_request.saveAs && status() >= 200 && status() < 300)
         return storeInFile(piece);
-    if (m_answer.body.isEmpty())
-        m_answer.body.reserve(announcedSize() + RoomBehind);
-    if (m_answer.body.size() + piece.size() > HttpRequest::MaximumInMemory) {
+    if (std::max(announcedSize(), m_answer.body.size() + piece.size()) >
+        HttpRequest::MaximumInMemory) {
         m_refusal = TransportError::Kind::TooLarge;
         return false;
     }
+    if (m_answer.body.isEmpty())
+        m_answer.body.reserve(announcedSize() + RoomBehind);
     m_answer.body.append(piece);
     return true;
 }
@@ -178,8 +179,7 @@ void HttpExchange::dropReply()
 
 qsizetype HttpExchange::announcedSize() const
 {
-    const qint64 size = m_reply->rawHeader("Content-Length").toLongLong();
-    return qsizetype(std::clamp<qint64>(size, 0, HttpRequest::MaximumInMemory));
+    return std::max<qsizetype>(m_reply->rawHeader("Content-Length").toLongLong(), 0);
 }
 
 int HttpExchange::status() const

@@ -149,7 +149,14 @@ TEST_F(HttpFaults, AnEmptyBodyIsWholeThoughItSaysThatItIsPacked)
 TEST_F(HttpFaults, ABodyOf100MegabytesEndsBeforeItIsHeld)
 {
     constexpr qint64 size = 100LL * 1024 * 1024;
-    server.answer(RawAnswer::large(size, size, "application/json"));
+    server.answer(RawAnswer::largeOfUnknownLength(size, "application/json"));
+    EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);
+}
+
+TEST_F(HttpFaults, ABodyThatIsSaidToHave100MegabytesEndsAtItsFirstBytes)
+{
+    constexpr qint64 size = 100LL * 1024 * 1024;
+    server.answer(RawAnswer::large(size, 1000, "application/json").withEnding(Ending::Stall));
     EXPECT_EQ(failureOf(request("/a")), Kind::TooLarge);
 }
 

@@ -49,6 +49,12 @@ RawAnswer RawAnswer::large(qint64 announced, qint64 sent, const QByteArray &cont
     return {.bytes = headOf(200, headers), .ending = Ending::KeepOpen, .blanks = sent};
 }
 
+RawAnswer RawAnswer::largeOfUnknownLength(qint64 sent, const QByteArray &contentType)
+{
+    const QByteArray head = headOf(200, {{"Content-Type", contentType}});
+    return {.bytes = head, .ending = Ending::Close, .blanks = sent};
+}
+
 RawAnswer RawAnswer::cut(qsizetype missing, Ending then) const
 {
     return {bytes.chopped(std::min(missing, bytes.size())), then, blanks};

@@ -35,6 +35,9 @@ struct RawAnswer
     /// A well-formed head that announces this many blanks, then as many of them as `sent`.
     static RawAnswer large(qint64 announced, qint64 sent, const QByteArray &contentType);
 
+    /// The same without announcing a length: it ends with the connection.
+    static RawAnswer largeOfUnknownLength(qint64 sent, const QByteArray &contentType);
+
     /// The same with the last bytes left off, then this ending.
     RawAnswer cut(qsizetype missing, Ending then) const;
     RawAnswer withEnding(Ending then) const;
