@@ -17,13 +17,16 @@ Item {
             scrollTo(targetFor(row));
     }
 
-    // Where the list stands once the row is in view. For a row that it holds no item of, the list knows by going there.
+    // Where the list stands once the row is in view. For a row that it holds no item of, the list knows by going there;
+    // one that is not laid out yet makes none even then.
     function targetFor(row: int): real {
         const item = list.itemAtIndex(row);
         return item ? targetForItem(item) : targetByGoing(row);
     }
 
     function targetForItem(item: Item): real {
+        if (!item)
+            return list.contentY;
         const lowest = Math.max(list.originY, item.y - headerHeight);
         const highest = item.y + item.height - list.height;
         return Math.max(highest, Math.min(list.contentY, lowest));
