@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+#include <QList>
 #include <QObject>
 #include <QUrl>
 
@@ -26,6 +28,10 @@ public:
     virtual void open(const QUrl &address) = 0;
     /// Replaces the general pasteboard by a plain text.
     virtual void copyText(const QString &text) = 0;
+    /// The local files on the general pasteboard, in their order.
+    virtual QList<QUrl> pastedFiles() const = 0;
+    /// The picture on the general pasteboard; null when there is none.
+    virtual QImage pastedImage() const = 0;
 
 Q_SIGNALS:
     /// `prefersDark` or `prefersReducedMotion` has changed.

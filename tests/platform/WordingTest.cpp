@@ -40,6 +40,9 @@ INSTANTIATE_TEST_SUITE_P(
                            u"Le token reste dans le trousseau du système."_s},
                     Wanted{u"macOS n'a pas donné accès au token enregistré (code -25293)."_s,
                            u"Le système n'a pas donné accès au token enregistré (code -25293)."_s},
+                    Wanted{u"Clique sur « Réessayer » puis « Toujours autoriser », ou ressaisis."_s,
+                           u"Clique sur « Réessayer » puis déverrouille ton trousseau, ou "
+                           u"ressaisis."_s},
                     Wanted{u"La version 2.0 nécessite macOS 27."_s,
                            u"La version 2.0 nécessite le système en version 27."_s}));
 

@@ -12,6 +12,9 @@ public:
     /// Every address given to the browser and every text given to the pasteboard, in order.
     QList<QUrl> opened;
     QStringList copied;
+    /// What is on the pasteboard beside texts.
+    QList<QUrl> files;
+    QImage image;
 
     void setPrefersDark(bool dark)
     {
@@ -29,6 +32,8 @@ public:
     bool prefersReducedMotion() const override { return m_prefersReducedMotion; }
     void open(const QUrl &address) override { opened += address; }
     void copyText(const QString &text) override { copied += text; }
+    QList<QUrl> pastedFiles() const override { return files; }
+    QImage pastedImage() const override { return image; }
 
 private:
     bool m_prefersDark = false;

@@ -1,11 +1,14 @@
 #include "platform/linux/DesktopLinux.h"
 
+#include "platform/PastedFiles.h"
+
 #include <QClipboard>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPalette>
 
 using namespace Qt::StringLiterals;
@@ -94,6 +97,16 @@ void DesktopLinux::open(const QUrl &address)
 void DesktopLinux::copyText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
+}
+
+QList<QUrl> DesktopLinux::pastedFiles() const
+{
+    return localFilesOf(QGuiApplication::clipboard()->mimeData());
+}
+
+QImage DesktopLinux::pastedImage() const
+{
+    return QGuiApplication::clipboard()->image();
 }
 
 void DesktopLinux::ask(const QString &group, const QString &key)

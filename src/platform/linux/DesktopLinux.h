@@ -23,6 +23,8 @@ public:
     bool prefersReducedMotion() const override;
     void open(const QUrl &address) override;
     void copyText(const QString &text) override;
+    QList<QUrl> pastedFiles() const override;
+    QImage pastedImage() const override;
 
 private:
     Q_SLOT void takeSetting(const QString &group, const QString &key, const QDBusVariant &value);

@@ -18,6 +18,8 @@ public:
     bool prefersReducedMotion() const override;
     void open(const QUrl &address) override;
     void copyText(const QString &text) override;
+    QList<QUrl> pastedFiles() const override;
+    QImage pastedImage() const override;
 
 private:
     class Observers;

@@ -1,5 +1,7 @@
 #include "platform/macos/DesktopMac.h"
 
+#include "platform/PastedFiles.h"
+
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QGuiApplication>
@@ -66,6 +68,16 @@ void DesktopMac::open(const QUrl &address)
 void DesktopMac::copyText(const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
+}
+
+QList<QUrl> DesktopMac::pastedFiles() const
+{
+    return localFilesOf(QGuiApplication::clipboard()->mimeData());
+}
+
+QImage DesktopMac::pastedImage() const
+{
+    return QGuiApplication::clipboard()->image();
 }
 
 std::unique_ptr<Desktop> Desktop::ofThisSystem()
