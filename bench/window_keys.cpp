@@ -10,6 +10,7 @@
 #include "app/VelmoraApp.h"
 #include "async/Spawn.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeKeychain.h"
 #include "support/FakeStatusHost.h"
 #include "support/ScriptedService.h"
 
@@ -59,6 +60,7 @@ Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString 
     outside.preferences->setFlag(u"showCompleted"_s, true);
     outside.desktop = std::make_unique<FakeDesktop>();
     outside.statusHost = std::make_unique<FakeStatusHost>();
+    outside.keychain = std::make_unique<FakeKeychain>();
     outside.calendar = UserCalendar::system();
     outside.makeDemo = [site](Clock &, const UserCalendar &) { return site; };
     return outside;

@@ -1,6 +1,8 @@
 #include "app/Outside.h"
 
 #include "demo/DemoService.h"
+#include "jira/AttachmentCache.h"
+#include "jira/JiraClient.h"
 
 Outside Outside::system()
 {
@@ -9,9 +11,15 @@ Outside Outside::system()
     outside.preferences = std::make_unique<Preferences>();
     outside.desktop = Desktop::ofThisSystem();
     outside.statusHost = StatusHost::ofThisSystem();
+    outside.keychain = Keychain::ofThisSystem(*outside.clock);
     outside.calendar = UserCalendar::system();
     outside.makeDemo = [](Clock &clock, const UserCalendar &calendar) {
         return std::make_shared<DemoService>(clock, calendar);
+    };
+    outside.makeClient = [](const JiraCredentials &credentials, Clock &clock,
+                            const UserCalendar &calendar) {
+        return std::make_shared<JiraClient>(credentials, clock, calendar,
+                                            AttachmentCache::systemFolder());
     };
     return outside;
 }

@@ -17,6 +17,10 @@ Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 
 VelmoraApp::VelmoraApp(Outside outside)
     : m_outside(std::move(outside)),
+      m_sessions(*m_outside.preferences, *m_outside.keychain,
+                 [this](const JiraCredentials &credentials) {
+                     return m_outside.makeClient(credentials, *m_outside.clock, m_outside.calendar);
+                 }),
       m_store(context()),
       m_scenes(m_engine, m_store, *m_outside.preferences),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)
@@ -32,7 +36,11 @@ VelmoraApp::VelmoraApp(Outside outside)
 
 AppStoreContext VelmoraApp::context()
 {
-    return {*m_outside.clock, *m_outside.preferences, *m_outside.desktop, m_outside.calendar,
+    return {*m_outside.clock,
+            *m_outside.preferences,
+            *m_outside.desktop,
+            m_sessions,
+            m_outside.calendar,
             [this] { return m_outside.makeDemo(*m_outside.clock, m_outside.calendar); }};
 }
 
@@ -40,6 +48,17 @@ bool VelmoraApp::open()
 {
     if (!m_scenes.showMain())
         return false;
-    spawn(m_store.bootstrap());
+    bootstrap();
     return true;
+}
+
+/// The system's store of secrets may ask the user something, for which the window stands first.
+void VelmoraApp::bootstrap()
+{
+    if (m_store.startsWithDemo())
+        spawn(m_store.bootstrap());
+    else
+        QObject::connect(
+            mainWindow(), &QQuickWindow::frameSwapped, &m_store,
+            [this] { spawn(m_store.bootstrap()); }, Qt::SingleShotConnection);
 }

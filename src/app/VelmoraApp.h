@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/JiraSessions.h"
 #include "app/Outside.h"
 #include "state/AppStore.h"
 
@@ -25,8 +26,10 @@ public:
 
 private:
     AppStoreContext context();
+    void bootstrap();
 
     Outside m_outside;
+    JiraSessions m_sessions;
     AppStore m_store;
     // After the store, so that the screens go before what they show.
     QQmlEngine m_engine;

@@ -63,7 +63,21 @@ public:
     QCoro::Task<> startDemo();
     /// `startDemo` for a button, which does not wait.
     Q_INVOKABLE void openDemo();
+    /// Deletes the token, and goes back to the first screen.
     Q_INVOKABLE void signOut();
+    /// Whether `bootstrap` will open the demo, which asks nobody for anything.
+    bool startsWithDemo() const;
+    /// Opens the session that is saved, if there is one and the system hands it over. A session that was begun or ended
+    /// in the meantime stands.
+    QCoro::Task<> restoreSavedSession();
+    /// `restoreSavedSession` for a button, which does not wait.
+    Q_INVOKABLE void retrySavedSession();
+    /// Signs in: tries the credentials, keeps them, and leaves whatever session there is for theirs. Fails with the
+    /// words to show beside the form, and then nothing has changed.
+    QCoro::Task<> connect(QString site, QString email, QString token);
+    using QObject::connect;
+    /// What the form offers: the site and the e-mail of the last sign-in.
+    SignIn lastSignIn() const { return m_context.sessions.lastSignIn(); }
 
     // Loading ---------------------------------------------------------------------------------------------------------
     /// Shows another list: its last known state at once, and a fresh one when the service has answered.
@@ -147,6 +161,15 @@ public:
     /// Users that the service finds; none on any failure.
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {});
 
+    // Attachments: what fails ends in a toast -------------------------------------------------------------------------------
+    /// Gives what was stored; nothing when it failed. All files go together or not at all.
+    QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files);
+    /// Uploads the files on the pasteboard, else the picture on it, as a dated capture.
+    QCoro::Task<> uploadFromPasteboard(QString key);
+    /// A file with the attachment's content; nothing when it cannot be had.
+    QCoro::Task<std::optional<QUrl>> localFile(Attachment attachment);
+    void deleteAttachment(const Attachment &attachment, const QString &key);
+
     // Selection -------------------------------------------------------------------------------------------------------
     Q_INVOKABLE void toggleGroup(const QString &id);
     /// Moves the focus by `delta` rows, without wrapping; an open inspector follows.
@@ -194,6 +217,8 @@ public:
     Q_INVOKABLE void openSite();
     /// The address of an issue at the site.
     std::optional<QUrl> browseURL(const std::optional<QString> &key = {}) const;
+    /// Gives an address that the program itself knows to the browser.
+    void openAddress(const QUrl &address);
 
     // Recap; outside of one nothing of it does anything ------------------------------------------------------------------
     ActivitySummary activitySummary() const;
@@ -258,6 +283,9 @@ private:
     void mutate(const IssueChanges &changes);
     // AppStoreOptions.cpp
     OptionInputs optionInputs(const QStringList &keys) const;
+    // AppStoreAttachments.cpp
+    void countUploads(const QString &key, int change);
+    void takeUploaded(const QString &key, const QList<Attachment> &attachments);
     // AppStoreSelection.cpp
     Selection selection() const;
     void setSelection(const Selection &selection);
@@ -288,6 +316,8 @@ private:
 
     AppStoreContext m_context;
     bool m_didBootstrap = false;
+    /// Grows when a session begins or ends; tells whether one did during a wait.
+    int m_sessionCount = 0;
     /// Grows with each reload and each end of a session; tells a late list from a wanted one.
     int m_generation = 0;
     QHash<IssueScope, IssueList> m_scopeCache;

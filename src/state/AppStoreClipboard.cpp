@@ -55,3 +55,8 @@ std::optional<QUrl> AppStore::browseURL(const std::optional<QString> &key) const
     const auto target = targetOr(key);
     return target && *m_service ? (*m_service)->browseURL(*target) : std::nullopt;
 }
+
+void AppStore::openAddress(const QUrl &address)
+{
+    m_context.desktop.open(address);
+}

@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Preferences.h"
+#include "state/SiteSessions.h"
 
 #include <functional>
 #include <memory>
@@ -15,6 +16,8 @@ struct AppStoreContext
     Clock &clock;
     Preferences &preferences;
     Desktop &desktop;
+    /// Sessions on real sites.
+    SiteSessions &sessions;
     UserCalendar calendar;
     /// Opens a session on made-up data.
     std::function<std::shared_ptr<IssueService>()> makeDemo;

@@ -20,8 +20,11 @@ QList<OptimisticEdit> neededEdits(const IssueList &issues, const MakeEdit &makeE
 QCoro::Task<> sent(std::shared_ptr<IssueService> service, OptimisticEdit edit)
 {
     const auto *assignment = std::get_if<FieldEdit<&Issue::assignee>>(&edit.change);
+    const auto *removal = std::get_if<AttachmentRemoval>(&edit.change);
     if (assignment)
         co_await service->assign(edit.key, assignment->after);
+    else if (removal)
+        co_await service->deleteAttachment(removal->attachment.id);
     else if (const auto update = edit.fieldUpdate())
         co_await service->update(edit.key, *update);
 }

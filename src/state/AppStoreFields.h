@@ -31,6 +31,10 @@ class AppStoreFields : public QObject, public Batched
     Q_PROPERTY(QList<IssuePriority> priorities READ priorities NOTIFY prioritiesChanged FINAL)
     Q_PROPERTY(QString siteName READ siteName NOTIFY serviceChanged FINAL)
     Q_PROPERTY(QString siteShortName READ siteShortName NOTIFY serviceChanged FINAL)
+    Q_PROPERTY(
+        bool hasCredentialsIssue READ hasCredentialsIssue NOTIFY credentialsIssueChanged FINAL)
+    Q_PROPERTY(
+        QString credentialsIssue READ credentialsIssueOrEmpty NOTIFY credentialsIssueChanged FINAL)
     // Loading
     Q_PROPERTY(IssueScope scope READ scope NOTIFY scopeChanged FINAL)
     Q_PROPERTY(IssueScope sidebarSelection READ sidebarSelection NOTIFY scopeChanged FINAL)
@@ -52,6 +56,7 @@ class AppStoreFields : public QObject, public Batched
                    projectDetailsChanged FINAL)
     Q_PROPERTY(IssueList myOpenIssues READ myOpenIssues NOTIFY myOpenIssuesChanged FINAL)
     Q_PROPERTY(int myOpenCount READ myOpenCount NOTIFY myOpenIssuesChanged FINAL)
+    Q_PROPERTY(AppStoreFields::CountMap uploading READ uploading NOTIFY uploadingChanged FINAL)
     // Selection and search
     Q_PROPERTY(QString focusedKey READ focusedKeyOrEmpty NOTIFY focusedKeyChanged FINAL)
     Q_PROPERTY(QSet<QString> checked READ checked NOTIFY checkedChanged FINAL)
@@ -76,6 +81,7 @@ public:
     using TextMap = QHash<QString, QString>;
     using CommentMap = QHash<QString, QList<Comment>>;
     using TransitionMap = QHash<QString, QList<WorkflowTransition>>;
+    using CountMap = QHash<QString, int>;
     /// By project key.
     using StatusMap = QHash<QString, QList<IssueStatus>>;
     using UserMap = QHash<QString, QList<JiraUser>>;
@@ -86,6 +92,8 @@ public:
     const std::optional<JiraUser> &me() const { return *m_me; }
     const QList<Project> &projects() const { return *m_projects; }
     const QList<IssuePriority> &priorities() const { return *m_priorities; }
+    /// Why saved credentials could not be read.
+    const std::optional<QString> &credentialsIssue() const { return *m_credentialsIssue; }
     /// The service's name of the site; empty without a service.
     QString siteName() const;
     /// The same without the suffix that all Jira Cloud sites share.
@@ -108,6 +116,9 @@ public:
     /// The user's open issues, the most urgent first.
     const IssueList &myOpenIssues() const { return *m_myOpenIssues; }
     int myOpenCount() const { return int(m_myOpenIssues->size()); }
+
+    /// How many files are on their way up, by issue; 0 once they have arrived.
+    const CountMap &uploading() const { return *m_uploading; }
 
     const std::optional<QString> &focusedKey() const { return *m_focusedKey; }
     void setFocusedKey(const std::optional<QString> &key) { m_focusedKey.set(key); }
@@ -143,6 +154,7 @@ Q_SIGNALS:
     void meChanged();
     void projectsChanged();
     void prioritiesChanged();
+    void credentialsIssueChanged();
     void scopeChanged();
     void issuesChanged();
     void isLoadingChanged();
@@ -155,6 +167,7 @@ Q_SIGNALS:
     void assignablesChanged();
     void projectDetailsChanged();
     void myOpenIssuesChanged();
+    void uploadingChanged();
     void focusedKeyChanged();
     void checkedChanged();
     void inspectorKeyChanged();
@@ -189,6 +202,7 @@ protected:
     Field<std::optional<JiraUser>> m_me{this, &This::meChanged, List};
     Field<QList<Project>> m_projects{this, &This::projectsChanged, List | Sidebar};
     Field<QList<IssuePriority>> m_priorities{this, &This::prioritiesChanged};
+    Field<std::optional<QString>> m_credentialsIssue{this, &This::credentialsIssueChanged};
     Field<IssueScope> m_scope{this, &This::scopeChanged, List | Sidebar};
     Field<IssueList> m_issues{this, &This::issuesChanged, List};
     Field<bool> m_isLoading{this, &This::isLoadingChanged, Captions};
@@ -201,6 +215,7 @@ protected:
     Field<UserMap> m_assignables{this, &This::assignablesChanged, People};
     Field<ProjectMap> m_projectDetails{this, &This::projectDetailsChanged, List};
     Field<IssueList> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
+    Field<CountMap> m_uploading{this, &This::uploadingChanged};
     Field<std::optional<QString>> m_focusedKey{this, &This::focusedKeyChanged, Marks};
     Field<QSet<QString>> m_checked{this, &This::checkedChanged, Marks};
     Field<std::optional<QString>> m_inspectorKey{this, &This::inspectorKeyChanged, Marks};
@@ -215,6 +230,8 @@ protected:
 private:
     bool hasMe() const { return m_me->has_value(); }
     JiraUser meOrEmpty() const { return m_me->value_or(JiraUser()); }
+    bool hasCredentialsIssue() const { return m_credentialsIssue->has_value(); }
+    QString credentialsIssueOrEmpty() const { return m_credentialsIssue->value_or(QString()); }
     bool hasIssues() const { return !m_issues->isEmpty(); }
     bool hasLoadError() const { return m_loadError->has_value(); }
     QString loadErrorOrEmpty() const { return m_loadError->value_or(QString()); }

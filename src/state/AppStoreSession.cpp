@@ -16,10 +16,15 @@ QCoro::Task<> AppStore::bootstrap()
 {
     if (std::exchange(m_didBootstrap, true))
         co_return;
-    if (m_context.preferences.flag(DemoModeKey).value_or(false))
+    if (startsWithDemo())
         co_await whileAlive(this, activate(m_context.makeDemo(), SessionKind::Demo, std::nullopt));
     else
-        m_phase.set(Phase::SignedOut);
+        co_await whileAlive(this, restoreSavedSession());
+}
+
+bool AppStore::startsWithDemo() const
+{
+    return m_context.preferences.flag(DemoModeKey).value_or(false);
 }
 
 QCoro::Task<> AppStore::startDemo()
@@ -34,9 +39,45 @@ void AppStore::openDemo()
     spawn(startDemo());
 }
 
+QCoro::Task<> AppStore::restoreSavedSession()
+{
+    const int sessionCount = m_sessionCount;
+    const auto saved = co_await whileAlive(this, m_context.sessions.restore());
+    if (sessionCount != m_sessionCount)
+        co_return;
+    if (const auto *service = std::get_if<SiteSessions::Service>(&saved)) {
+        m_credentialsIssue.set(std::nullopt);
+        co_await whileAlive(this, activate(*service, SessionKind::Real, std::nullopt));
+        co_return;
+    }
+    if (const auto *blocked = std::get_if<SiteSessions::Blocked>(&saved))
+        m_credentialsIssue.set(blocked->text);
+    m_phase.set(Phase::SignedOut);
+}
+
+void AppStore::retrySavedSession()
+{
+    spawn(restoreSavedSession());
+}
+
+QCoro::Task<> AppStore::connect(QString site, QString email, QString token)
+{
+    const SignIn signIn{site, email.trimmed(), token.trimmed()};
+    const auto service = m_context.sessions.open(signIn);
+    const JiraUser user = co_await whileAlive(this, service->currentUser());
+    co_await whileAlive(this, m_context.sessions.keep(signIn));
+    m_credentialsIssue.set(std::nullopt);
+    m_context.preferences.setFlag(DemoModeKey, false);
+    resetData();
+    co_await whileAlive(this, activate(service, SessionKind::Real, user));
+}
+
 void AppStore::signOut()
 {
+    if (!*m_isDemo)
+        spawn(m_context.sessions.forget());
     const Batch batch(*this);
+    ++m_sessionCount;
     m_context.preferences.setFlag(DemoModeKey, false);
     resetData();
     m_service.set(nullptr);
@@ -93,6 +134,7 @@ QCoro::Task<> AppStore::activate(std::shared_ptr<IssueService> service, SessionK
 void AppStore::open(std::shared_ptr<IssueService> service, SessionKind kind)
 {
     const Batch batch(*this);
+    ++m_sessionCount;
     m_service.set(std::move(service));
     m_isDemo.set(kind == SessionKind::Demo);
     m_phase.set(Phase::Ready);

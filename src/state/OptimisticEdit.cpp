@@ -30,6 +30,18 @@ void StatusEdit::revert(Issue &issue) const
     updated.revert(issue);
 }
 
+void AttachmentRemoval::apply(Issue &issue) const
+{
+    issue.attachments.removeIf([&](const Attachment &other) { return other.id == attachment.id; });
+}
+
+void AttachmentRemoval::revert(Issue &issue) const
+{
+    const auto isPresent = [&](const Attachment &other) { return other.id == attachment.id; };
+    if (std::ranges::none_of(issue.attachments, isPresent))
+        issue.attachments += attachment;
+}
+
 void OptimisticEdit::apply(Issue &issue) const
 {
     std::visit([&](const auto &edit) { edit.apply(issue); }, change);
@@ -46,6 +58,7 @@ std::optional<IssueFieldUpdate> OptimisticEdit::fieldUpdate() const
     return std::visit(Overloaded{
                           [](const StatusEdit &) { return Update(); },
                           [](const FieldEdit<&Issue::assignee> &) { return Update(); },
+                          [](const AttachmentRemoval &) { return Update(); },
                           [](const FieldEdit<&Issue::priority> &edit) {
                               return edit.after ? Update({IssueFieldUpdate::Priority{*edit.after}})
                                                 : Update();

@@ -34,6 +34,17 @@ struct StatusEdit
     bool operator==(const StatusEdit &) const = default;
 };
 
+/// An attachment that goes. It comes back at the end, not at its old place.
+struct AttachmentRemoval
+{
+    Attachment attachment;
+
+    void apply(Issue &issue) const;
+    void revert(Issue &issue) const;
+
+    bool operator==(const AttachmentRemoval &) const = default;
+};
+
 /// An edit that shows before the service has taken it: it can be applied to every copy of the issue, and undone there
 /// without touching any other field.
 struct OptimisticEdit
@@ -41,7 +52,7 @@ struct OptimisticEdit
     using Change =
         std::variant<StatusEdit, FieldEdit<&Issue::priority>, FieldEdit<&Issue::assignee>,
                      FieldEdit<&Issue::labels>, FieldEdit<&Issue::summary>,
-                     FieldEdit<&Issue::description>, FieldEdit<&Issue::dueDate>>;
+                     FieldEdit<&Issue::description>, FieldEdit<&Issue::dueDate>, AttachmentRemoval>;
 
     /// The issue's key.
     QString key;
@@ -50,7 +61,7 @@ struct OptimisticEdit
     void apply(Issue &issue) const;
     /// Puts the field back to what it was before the edit, whatever it is now.
     void revert(Issue &issue) const;
-    /// What the service is told; nothing for a status or an assignee, which have operations of their own.
+    /// What the service is told; nothing for a status, an assignee or an attachment, which have operations of their own.
     std::optional<IssueFieldUpdate> fieldUpdate() const;
 
     bool operator==(const OptimisticEdit &) const = default;

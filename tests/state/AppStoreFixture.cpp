@@ -22,6 +22,7 @@ AppStoreFixture::~AppStoreFixture()
 {
     store.reset();
     service->cancelPending();
+    sessions.cancelPending();
 }
 
 void AppStoreFixture::makeStore()
@@ -32,8 +33,9 @@ void AppStoreFixture::makeStore()
         ++demosMade;
         return service;
     };
+    sessions.service = service;
     store = std::make_unique<AppStore>(
-        AppStoreContext{clock, preferences, desktop, calendar, makeDemo});
+        AppStoreContext{clock, preferences, desktop, sessions, calendar, makeDemo});
 }
 
 void AppStoreFixture::startSession()

@@ -2,6 +2,7 @@
 
 #include "platform/Preferences.h"
 #include "state/AppStore.h"
+#include "state/ScriptedSessions.h"
 #include "support/FakeDesktop.h"
 #include "support/ManualClock.h"
 #include "support/ScriptedService.h"
@@ -43,6 +44,8 @@ protected:
     Preferences preferences{preferencesPath};
     ManualClock clock;
     FakeDesktop desktop;
+    /// Real sessions, which are on `service` too.
+    ScriptedSessions sessions;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();
     int demosMade = 0;
     std::unique_ptr<AppStore> store;

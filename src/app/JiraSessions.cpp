@@ -1,0 +1,50 @@
+#include "app/JiraSessions.h"
+
+#include "model/JiraError.h"
+
+namespace {
+
+JiraCredentials credentialsOf(const SignIn &signIn)
+{
+    const auto site = JiraCredentials::normalizeSite(signIn.site);
+    if (!site)
+        throw JiraError(JiraError::InvalidSite{});
+    return {*site, signIn.email, signIn.token};
+}
+
+} // namespace
+
+JiraSessions::JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient)
+    : m_credentials(preferences, keychain), m_makeClient(std::move(makeClient))
+{
+}
+
+SignIn JiraSessions::lastSignIn() const
+{
+    return {m_credentials.site(), m_credentials.email(), {}};
+}
+
+QCoro::Task<SiteSessions::Saved> JiraSessions::restore()
+{
+    const CredentialsStore::Stored stored = co_await m_credentials.load();
+    if (const auto *blocked = std::get_if<CredentialsStore::Blocked>(&stored))
+        co_return Blocked{blocked->text};
+    if (const auto *credentials = std::get_if<JiraCredentials>(&stored))
+        co_return m_makeClient(*credentials);
+    co_return None();
+}
+
+SiteSessions::Service JiraSessions::open(const SignIn &signIn) const
+{
+    return m_makeClient(credentialsOf(signIn));
+}
+
+QCoro::Task<> JiraSessions::keep(SignIn signIn)
+{
+    return m_credentials.save(credentialsOf(signIn));
+}
+
+QCoro::Task<> JiraSessions::forget()
+{
+    return m_credentials.removeToken();
+}

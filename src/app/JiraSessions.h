@@ -1,0 +1,27 @@
+#pragma once
+
+#include "jira/CredentialsStore.h"
+#include "state/SiteSessions.h"
+
+#include <functional>
+
+/// Sessions on Jira sites.
+class JiraSessions final : public SiteSessions
+{
+public:
+    /// Opens a back end on a site.
+    using MakeClient = std::function<Service(const JiraCredentials &)>;
+
+    /// Both stores outlive this object and what it began.
+    JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient);
+
+    SignIn lastSignIn() const override;
+    QCoro::Task<Saved> restore() override;
+    Service open(const SignIn &signIn) const override;
+    QCoro::Task<> keep(SignIn signIn) override;
+    QCoro::Task<> forget() override;
+
+private:
+    CredentialsStore m_credentials;
+    MakeClient m_makeClient;
+};

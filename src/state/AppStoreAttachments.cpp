@@ -1,0 +1,94 @@
+#include "async/WhileAlive.h"
+#include "platform/CaptureFile.h"
+#include "state/AppStore.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString uploadedText(const QString &key, const QList<Attachment> &attachments)
+{
+    if (attachments.size() >= 2)
+        return QString::number(attachments.size()) + u" fichiers joints à "_s + key;
+    const QString name = attachments.isEmpty() ? u"Fichier"_s : attachments.first().filename;
+    return u"« "_s + name + u" » joint à "_s + key;
+}
+
+/// What the users of the site see as the name of a pasted picture.
+QString captureName(const QDateTime &now, const UserCalendar &calendar)
+{
+    return u"Capture "_s +
+           calendar.locale.toString(now.toTimeZone(calendar.zone), u"yyyy-MM-dd 'à' HH.mm.ss"_s) +
+           u".png"_s;
+}
+
+} // namespace
+
+QCoro::Task<QList<Attachment>> AppStore::uploadAttachments(QString key, QList<QUrl> files)
+{
+    const auto service = *m_service;
+    if (!service || files.isEmpty())
+        co_return QList<Attachment>();
+    countUploads(key, int(files.size()));
+    const auto stored =
+        co_await whileAlive(this, settled(service, service->uploadAttachments(key, files)));
+    const Batch batch(*this);
+    if (stored)
+        takeUploaded(key, *stored);
+    else
+        report(stored.error());
+    countUploads(key, -int(files.size()));
+    co_return stored.value_or(QList<Attachment>());
+}
+
+QCoro::Task<> AppStore::uploadFromPasteboard(QString key)
+{
+    const QList<QUrl> files = m_context.desktop.pastedFiles();
+    if (!files.isEmpty()) {
+        co_await whileAlive(this, uploadAttachments(key, files));
+        co_return;
+    }
+    const QByteArray png =
+        co_await whileAlive(this, CaptureFile::png(m_context.desktop.pastedImage()));
+    if (png.isEmpty()) {
+        toast(u"Rien à joindre dans le presse-papiers"_s, u"doc.on.clipboard"_s, ToastKind::Error);
+        co_return;
+    }
+    const QString name = captureName(m_context.clock.now(), m_context.calendar);
+    const auto file = co_await whileAlive(
+        this, settled(nullptr, CaptureFile::store(png, name, QDir::tempPath())));
+    if (file)
+        co_await whileAlive(this, uploadAttachments(key, {*file}));
+    else
+        report(file.error());
+}
+
+QCoro::Task<std::optional<QUrl>> AppStore::localFile(Attachment attachment)
+{
+    const auto service = *m_service;
+    if (!service)
+        co_return std::nullopt;
+    const auto file = co_await whileAlive(this, settled(service, service->download(attachment)));
+    if (file)
+        co_return *file;
+    report(file.error());
+    co_return std::nullopt;
+}
+
+void AppStore::deleteAttachment(const Attachment &attachment, const QString &key)
+{
+    carryOut({OptimisticEdit{key, AttachmentRemoval{attachment}}});
+}
+
+void AppStore::countUploads(const QString &key, int change)
+{
+    m_uploading.insert(key, std::max(0, m_uploading->value(key) + change));
+}
+
+void AppStore::takeUploaded(const QString &key, const QList<Attachment> &attachments)
+{
+    mutate({{key, [&attachments](Issue &issue) { issue.attachments += attachments; }}});
+    toast(uploadedText(key, attachments), u"paperclip"_s);
+}
