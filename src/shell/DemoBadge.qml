@@ -1,31 +1,25 @@
 import QtQuick
 import Velmora.Kit
+import Velmora.Shell
 import Velmora.Theme
 
-// Says that the data is made up.
-GlassPanel {
+// Says that the data is made up, and leads to the form that takes real ones.
+FocusableItem {
     id: root
 
     implicitHeight: 47
-    radius: Metrics.radiusBubble
-    shadow: "capsule"
-    color: Theme.glass
+    corner: Metrics.radiusBubble
+    accessibleName: "Mode démo, connecter Jira"
+    contentItem: DemoBadgeLabel {}
 
-    Symbol {
-        id: sparkles
-        x: 12
-        anchors.verticalCenter: parent.verticalCenter
-        name: "sparkles"
-        size: 14
-        color: Theme.accent
-    }
+    background: GlassPanel {
+        radius: root.corner
+        shadow: "capsule"
+        color: Theme.glass
 
-    AppText {
-        anchors.left: sparkles.right
-        anchors.leftMargin: Metrics.gap
-        anchors.verticalCenter: parent.verticalCenter
-        role: TypeScale.Small
-        weight: Font.DemiBold
-        text: "Mode démo"
+        HoverFill {
+            radius: root.corner
+            shown: root.lit
+        }
     }
 }

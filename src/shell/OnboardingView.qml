@@ -1,16 +1,22 @@
 import QtQuick
 import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
 import Velmora.Theme
 
-// What someone signed out sees: one card.
+// What someone signed out sees: one card on a slowly moving field of colours.
 FocusScope {
     id: root
 
-    signal demoChosen()
+    required property AppStore store
 
-    Rectangle {
+    Keys.onReturnPressed: form.form.connect()
+    Keys.onEnterPressed: form.form.connect()
+    Keys.onEscapePressed: form.form.dismissError()
+
+    AnimatedMeshBackground {
         anchors.fill: parent
-        color: Theme.pane
+        still: Motion.reduced
     }
 
     GlassPanel {
@@ -19,7 +25,9 @@ FocusScope {
         anchors.centerIn: parent
         radius: Metrics.radiusOnboarding
         shadow: "onboarding"
-        color: Theme.elevated
+        color: Theme.onboardingCard
+        hairline: "#38FFFFFF"
+        edgeLight: "#80FFFFFF"
 
         Column {
             id: content
@@ -32,7 +40,7 @@ FocusScope {
                 size: 76
             }
 
-            Item { width: 1; height: 20 }
+            Item { width: 1; height: 18 }
 
             AppText {
                 width: parent.width
@@ -40,7 +48,6 @@ FocusScope {
                 role: TypeScale.Display
                 text: "Jira au bout des doigts"
                 Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
             Item { width: 1; height: Metrics.gap }
@@ -52,20 +59,33 @@ FocusScope {
                 color: Theme.text2
                 wrapMode: Text.Wrap
                 text: "Connecte ton espace Atlassian pour retrouver tes tickets dans une app native, rapide et pensée pour le clavier."
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
             }
 
-            Item { width: 1; height: 24 }
+            Item { width: 1; height: 22 }
+
+            ConnectFormView {
+                id: form
+                width: parent.width
+                focus: true
+                store: root.store
+            }
+
+            Item { width: 1; height: 18 }
+
+            SeparatorWord {
+                width: parent.width
+                text: "ou"
+            }
+
+            Item { width: 1; height: 16 }
 
             PushButton {
                 width: parent.width
-                focus: true
                 large: true
                 look: PushButton.Glass
                 symbol: "sparkles"
                 text: "Explorer en mode démo"
-                onClicked: root.demoChosen()
+                onClicked: root.store.openDemo()
             }
         }
     }

@@ -39,7 +39,7 @@ Window {
         OnboardingView {
             anchors.fill: parent
             focus: true
-            onDemoChosen: root.store.openDemo()
+            store: root.store
         }
     }
 

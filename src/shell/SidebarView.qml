@@ -121,6 +121,7 @@ FocusScope {
             id: badge
             width: parent.width
             visible: root.store.isDemo
+            onClicked: root.store.signOut()
         }
     }
 }

@@ -16,11 +16,12 @@ TEST_F(Phases, WithNothingStoredTheFirstScreenOffersTheDemo)
     find(QAccessible::Button, u"Explorer en mode démo"_s);
 }
 
-TEST_F(Phases, ReturnOnTheFirstScreenEntersTheDemo)
+TEST_F(Phases, ReturnOnTheDemoButtonEntersTheDemo)
 {
     openSignedOut();
     serve({u"MOB-1"_s});
 
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
     press(Qt::Key_Return);
 
     EXPECT_EQ(store().phase(), AppStore::Phase::Ready);

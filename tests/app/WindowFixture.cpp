@@ -72,6 +72,16 @@ void WindowFixture::open()
     outside.statusHost = std::move(ownStatusHost);
     outside.preferences = std::make_unique<Preferences>(preferencesPath);
     outside.calendar = {QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
+    auto ownKeychain = std::make_unique<FakeKeychain>();
+    keychain = ownKeychain.get();
+    keychain->items = secrets;
+    if (beforeOpening)
+        beforeOpening();
+    outside.keychain = std::move(ownKeychain);
+    outside.makeClient = [this](const JiraCredentials &credentials, Clock &, const UserCalendar &) {
+        clientsMade += credentials;
+        return service;
+    };
     outside.makeDemo = [this](Clock &, const UserCalendar &) { return service; };
     app = std::make_unique<VelmoraApp>(std::move(outside));
     ASSERT_TRUE(app->open());
@@ -89,6 +99,16 @@ void WindowFixture::openSignedOut()
 {
     answerEverything();
     open();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() != AppStore::Phase::Launching; }));
+}
+
+void WindowFixture::saveCredentials(const QString &site, const QString &email, const QString &token)
+{
+    Preferences preferences(preferencesPath);
+    preferences.setText(u"jira.site"_s, site);
+    preferences.setText(u"jira.email"_s, email);
+    if (!token.isEmpty())
+        secrets[site] = token;
 }
 
 void WindowFixture::answerEverything()

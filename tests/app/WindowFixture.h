@@ -3,6 +3,7 @@
 #include "app/Spoken.h"
 #include "app/VelmoraApp.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeKeychain.h"
 #include "support/FakeStatusHost.h"
 #include "support/ManualClock.h"
 #include "support/ScriptedService.h"
@@ -25,6 +26,8 @@ protected:
     /// Opens the window; with `demoMode` stored, straight on a session whose service answers at once.
     void openOnDemo();
     void openSignedOut();
+    /// What an earlier start left behind; without a token as after a sign-out. To be called before opening.
+    void saveCredentials(const QString &site, const QString &email, const QString &token);
     /// The list that the service gives from now on; shown after the next reload.
     void serve(const QStringList &keys, const QString &statusName = QStringLiteral("À faire"));
     void serveIssues(const IssueList &issues);
@@ -55,10 +58,17 @@ protected:
     ManualClock *clock = nullptr;
     FakeDesktop *desktop = nullptr;
     FakeStatusHost *statusHost = nullptr;
+    FakeKeychain *keychain = nullptr;
+    /// Scripts the world that the window is about to open on.
+    std::function<void()> beforeOpening;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();
+    /// The credentials that sessions on sites were opened with, in order.
+    QList<JiraCredentials> clientsMade;
     std::unique_ptr<VelmoraApp> app;
 
 private:
+    std::map<QString, QString> secrets;
+
     void open();
     void answerEverything();
 };

@@ -23,6 +23,7 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     font: TypeScale.font(role)
     color: enabled ? Theme.text1 : Theme.text4
+    placeholderTextColor: Theme.text3
     selectionColor: Theme.textSelection
     selectedTextColor: Theme.text1
     selectByMouse: true
@@ -48,7 +49,7 @@ T.TextField {
         visible: field.length === 0 && field.preeditText.length === 0
         text: field.placeholderText
         role: field.role
-        color: Theme.text3
+        color: field.placeholderTextColor
         Accessible.ignored: true
     }
 }

@@ -33,6 +33,8 @@ QtObject {
     readonly property color window: dark ? "#26262C" : "#FFFFFF"
     /// Cards of a board and of a form.
     readonly property color card: dark ? "#202025" : "#FFFFFF"
+    /// The first screen's card, over its moving colours.
+    readonly property color onboardingCard: dark ? "#C71E1D28" : "#DBFCFCFF"
     /// Sheets.
     readonly property color elevated: dark ? "#26262C" : "#FFFFFF"
 

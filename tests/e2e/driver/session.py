@@ -163,6 +163,13 @@ class Session:
             self._a11y = A11y(self)
         return self._a11y
 
+    # services
+    def start_keyring(self):
+        """The real keyring of a desktop, unlocked, with its files in the session's home."""
+        self._spawn(["sh", "-c", "printf 'a password' | exec gnome-keyring-daemon --foreground --unlock "
+                     "--components=secrets"])
+        self._wait_name("org.freedesktop.secrets")
+
     # programs
     def launch(self, argv, env=None, cwd=None, name=None):
         """Starts a program; argv is a list or one path."""

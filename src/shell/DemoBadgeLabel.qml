@@ -1,0 +1,35 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// The words of the demo's badge, with its symbol.
+Item {
+    Symbol {
+        id: sparkles
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        name: "sparkles"
+        size: 14
+        color: Theme.accent
+    }
+
+    Column {
+        anchors.left: sparkles.right
+        anchors.leftMargin: Metrics.gap
+        anchors.verticalCenter: parent.verticalCenter
+
+        AppText {
+            role: TypeScale.Small
+            weight: Font.DemiBold
+            text: "Mode démo"
+            Accessible.ignored: true
+        }
+
+        AppText {
+            role: TypeScale.Caption
+            color: Theme.text2
+            text: "Connecter Jira…"
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.State
+import Velmora.Theme
+
+// The form that takes a Jira site, an e-mail and a token.
+FocusScope {
+    id: root
+
+    required property AppStore store
+    readonly property ConnectForm form: connectForm
+
+    implicitHeight: content.height
+    Component.onCompleted: (connectForm.site === "" ? siteField : tokenField).focus = true
+
+    ConnectForm {
+        id: connectForm
+        store: root.store
+    }
+
+    Column {
+        id: content
+        width: parent.width
+        spacing: Metrics.gapMedium
+
+        Item {
+            width: parent.width
+            height: notice.height + 4
+            visible: root.store.hasCredentialsIssue
+
+            CredentialsNotice {
+                id: notice
+                width: parent.width
+                reason: root.store.credentialsIssue
+                onRetried: root.store.retrySavedSession()
+            }
+        }
+
+        GlassField {
+            id: siteField
+            width: parent.width
+            symbol: "globe"
+            placeholder: "mon-equipe.atlassian.net"
+            typed: connectForm.site
+            onEdited: text => connectForm.site = text
+        }
+
+        GlassField {
+            width: parent.width
+            symbol: "at"
+            placeholder: "E-mail du compte Atlassian"
+            typed: connectForm.email
+            onEdited: text => connectForm.email = text
+        }
+
+        GlassField {
+            id: tokenField
+            width: parent.width
+            symbol: "key.fill"
+            placeholder: "Token API"
+            secure: true
+            typed: connectForm.token
+            onEdited: text => connectForm.token = text
+        }
+
+        ConnectError {
+            width: parent.width
+            visible: connectForm.error !== ""
+            text: connectForm.error
+        }
+
+        Item {
+            width: parent.width
+            height: 4 + submit.height
+
+            PushButton {
+                id: submit
+                y: 4
+                width: parent.width
+                enabled: connectForm.canConnect
+                large: true
+                look: PushButton.Prominent
+                text: connectForm.connecting ? "" : "Se connecter"
+                accessibleName: "Se connecter"
+                onClicked: connectForm.connect()
+
+                Spinner {
+                    anchors.centerIn: parent
+                    visible: connectForm.connecting
+                    size: 16
+                }
+            }
+        }
+
+        TokenLine {
+            width: parent.width
+            hint: connectForm.keychainHint
+            onRequested: connectForm.openTokenPage()
+        }
+    }
+}

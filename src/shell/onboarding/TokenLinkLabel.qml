@@ -1,0 +1,32 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// The words of the link to the page of tokens.
+Item {
+    id: root
+
+    property bool lit: false
+
+    implicitWidth: words.x + words.implicitWidth
+    implicitHeight: 16
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        name: "arrow.up.right.square"
+        size: 11
+        color: Theme.accentText
+    }
+
+    AppText {
+        id: words
+        x: 19
+        anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
+        weight: Font.Medium
+        color: Theme.accentText
+        font.underline: root.lit
+        text: "Créer un token API"
+        Accessible.ignored: true
+    }
+}
