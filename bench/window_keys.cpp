@@ -15,6 +15,7 @@
 #include "support/ScriptedService.h"
 
 #include <QApplication>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
 
@@ -33,13 +34,31 @@ int presses()
     return given > 0 ? given : 300;
 }
 
+QList<Project> projects(int count)
+{
+    QList<Project> list;
+    for (int number = 0; number < count; ++number) {
+        Project project;
+        project.id = project.key = u"P"_s + QString::number(number);
+        project.name = u"Équipe "_s + QString::number(number);
+        list.append(project);
+    }
+    return list;
+}
+
+struct SiteSize
+{
+    int issues = 0;
+    int projects = 0;
+};
+
 /// A site with so many issues, all in every list, that answers at once.
-std::shared_ptr<ScriptedService> siteWith(int count)
+std::shared_ptr<ScriptedService> siteWith(SiteSize size)
 {
     auto site = std::make_shared<ScriptedService>();
-    const auto issues = samples(count).issues;
+    const auto issues = samples(size.issues).issues;
     site->currentUserCalls.answerWith(issues.first()->assignee.value());
-    site->projectsCalls.answerWith({});
+    site->projectsCalls.answerWith(projects(size.projects));
     site->prioritiesCalls.answerWith({});
     site->issuesCalls.answerWith(issues);
     site->transitionsCalls.answerWith({{QStringLiteral("1"), QString(), sample(1).status},
@@ -48,6 +67,8 @@ std::shared_ptr<ScriptedService> siteWith(int count)
     site->statusesCalls.answerWith({});
     site->assignableUsersCalls.answerWith({});
     site->projectCalls.answerWith({});
+    // What the palette's search on the server finds.
+    site->searchCalls.answerWith(issues.first(20));
     return site;
 }
 
@@ -161,7 +182,7 @@ std::vector<qint64> statusChanges(FrameTimer &timer, AppStore &store)
 void measureList(FrameTable &table, int count)
 {
     const QTemporaryDir folder;
-    const auto site = siteWith(count);
+    const auto site = siteWith({.issues = count});
     VelmoraApp velmora(outsideWith(site, folder.path()));
     if (!velmora.open())
         qFatal("The main window does not open.");
@@ -187,6 +208,23 @@ void measureList(FrameTable &table, int count)
         table.add(size + u"between frames of a scroll"_s, timer.scroll(Notches));
 }
 
+/// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change.
+void measurePalette(FrameTable &table, SiteSize size)
+{
+    const QTemporaryDir folder;
+    VelmoraApp velmora(outsideWith(siteWith(size), folder.path()));
+    if (!velmora.open())
+        qFatal("The main window does not open.");
+    FrameTimer timer(*velmora.mainWindow());
+    timer.settle();
+    velmora.store().togglePalette();
+    timer.settle();
+    const auto what = u"%1 issues, %2 projects: a letter in the palette"_s;
+    table.add(what.arg(size.issues).arg(size.projects), keystrokes(timer, presses()));
+    if (!velmora.store().palette())
+        qFatal("The palette has closed.");
+}
+
 void measureEmptyWindow(std::optional<FrameTable> &table)
 {
     QQmlApplicationEngine engine;
@@ -208,6 +246,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     std::optional<FrameTable> table;
     measureEmptyWindow(table);
+    measurePalette(*table, {.issues = 10000, .projects = 500});
     measureList(*table, 300);
     measureList(*table, 10000);
     // Once more, to tell how far the machine itself has changed meanwhile.
