@@ -6,6 +6,7 @@
 #include "platform/Preferences.h"
 #include "simulator/SimulatedSite.h"
 #include "simulator/SiteSeed.h"
+#include "state/ScriptedSessions.h"
 #include "support/FakeDesktop.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
@@ -123,11 +124,13 @@ protected:
     SimulatedSite simulated{SiteSeed::company(60, clock.now())};
     Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
     FakeDesktop desktop;
+    ScriptedSessions sessions;
     UserCalendar calendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
     std::optional<AppStore> store{std::in_place,
                                   AppStoreContext{.clock = clock,
                                                   .preferences = preferences,
                                                   .desktop = desktop,
+                                                  .sessions = sessions,
                                                   .calendar = calendar,
                                                   .makeDemo = [this] { return newSession(); }}};
     QString key;
