@@ -42,8 +42,7 @@ Scenes::~Scenes()
         window->disconnect(this);
     qDeleteAll(others);
     // Before what they show.
-    for (const auto &window : m_leaving)
-        delete window;
+    qDeleteAll(m_leaving);
 }
 
 bool Scenes::showMain()

@@ -62,7 +62,7 @@ QString emptyPaletteText(PaletteSearch search)
 
 QString spokenPaletteState(const QList<PaletteRow> &rows, int highlighted)
 {
-    const QString count = rows.size() == 1 ? u"1 résultat"_s : u"%1 résultats"_s.arg(rows.size());
+    QString count = rows.size() == 1 ? u"1 résultat"_s : u"%1 résultats"_s.arg(rows.size());
     if (highlighted < 0 || highlighted >= rows.size())
         return count;
     const OptionItem &item = rows[highlighted].option;
