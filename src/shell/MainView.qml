@@ -91,15 +91,12 @@ FocusScope {
         onMoved: width => root.memory.inspectorWidth = width
     }
 
-    When {
+    LatePart {
+        x: root.plan.coversDetail ? Metrics.paneMargin : root.detailRight
+        y: Metrics.paneMargin
+        width: root.width - x - Metrics.paneMargin
+        height: root.height - 2 * Metrics.paneMargin
         shown: root.store.showInspector
-
-        InspectorPane {
-            x: root.plan.coversDetail ? Metrics.paneMargin : root.detailRight
-            y: Metrics.paneMargin
-            width: root.width - x - Metrics.paneMargin
-            height: root.height - 2 * Metrics.paneMargin
-            store: root.store
-        }
+        onWanted: setSource("InspectorPane.qml", { store: root.store })
     }
 }

@@ -22,13 +22,9 @@ Item {
         store: root.store
     }
 
-    When {
+    LatePart {
+        width: root.width
         shown: barKeys.isOpen
-
-        AppMenuBar {
-            width: root.width
-            store: root.store
-            keys: barKeys
-        }
+        onWanted: setSource("AppMenuBar.qml", { store: root.store, keys: barKeys })
     }
 }

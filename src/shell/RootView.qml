@@ -33,14 +33,11 @@ Window {
         }
     }
 
-    When {
+    LatePart {
+        anchors.fill: parent
+        focus: shown
         shown: root.store.phase === AppStore.Phase.SignedOut
-
-        OnboardingView {
-            anchors.fill: parent
-            focus: true
-            store: root.store
-        }
+        onWanted: setSource("OnboardingView.qml", { store: root.store, focus: true })
     }
 
     When {

@@ -41,19 +41,17 @@ FocusScope {
         anchors.top: toolbar.bottom
         width: parent.width
 
-        When {
-            shown: content.isRecap
+        Item {
+            visible: recap.shown
+            width: parent.width
+            height: recap.height + Metrics.gapMedium
 
-            Item {
-                width: heads.width
-                height: recap.height + Metrics.gapMedium
-
-                RecapHeader {
-                    id: recap
-                    x: Metrics.paneMargin
-                    width: parent.width - 2 * x
-                    store: root.store
-                }
+            LatePart {
+                id: recap
+                x: Metrics.paneMargin
+                width: parent.width - 2 * x
+                shown: content.isRecap
+                onWanted: setSource("RecapHeader.qml", { store: root.store })
             }
         }
 
@@ -94,18 +92,12 @@ FocusScope {
             }
         }
 
-        When {
+        LatePart {
+            anchors.fill: parent
+            focus: shown
             shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
-
-            BoardView {
-                width: body.width
-                height: body.height
-                focus: true
-                store: root.store
-                contextMenu: rowMenu
-                picker: rowPicker
-                drag: rowDrag
-            }
+            onWanted: setSource("BoardView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
+                                                   picker: rowPicker, drag: rowDrag })
         }
 
         When {

@@ -45,21 +45,18 @@ FocusScope {
         onClicked: logic.close()
     }
 
-    When {
+    LatePart {
+        x: (root.width - width) / 2
+        y: Metrics.paletteTop
+        focus: true
         shown: root.wasShown
+        onWanted: setSource("PalettePanel.qml", { commandPalette: logic, isDemo: Qt.binding(() => root.store.isDemo) })
+        scale: root.shown ? 1 : Motion.paletteScale
 
-        PalettePanel {
-            x: (root.width - width) / 2
-            y: Metrics.paletteTop
-            commandPalette: logic
-            isDemo: root.store.isDemo
-            scale: root.shown ? 1 : Motion.paletteScale
-
-            Behavior on scale {
-                NumberAnimation {
-                    duration: Motion.paletteDuration
-                    easing: Springs.even
-                }
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.paletteDuration
+                easing: Springs.even
             }
         }
     }
