@@ -14,8 +14,11 @@ JiraCredentials credentialsOf(const SignIn &signIn)
 
 } // namespace
 
-JiraSessions::JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient)
-    : m_credentials(preferences, keychain), m_makeClient(std::move(makeClient))
+JiraSessions::JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient,
+                           OnBegin onBegin)
+    : m_credentials(preferences, keychain),
+      m_makeClient(std::move(makeClient)),
+      m_onBegin(std::move(onBegin))
 {
 }
 
@@ -29,8 +32,10 @@ QCoro::Task<SiteSessions::Saved> JiraSessions::restore()
     const CredentialsStore::Stored stored = co_await m_credentials.load();
     if (const auto *blocked = std::get_if<CredentialsStore::Blocked>(&stored))
         co_return Blocked{blocked->text};
-    if (const auto *credentials = std::get_if<JiraCredentials>(&stored))
+    if (const auto *credentials = std::get_if<JiraCredentials>(&stored)) {
+        m_onBegin(*credentials);
         co_return m_makeClient(*credentials);
+    }
     co_return None();
 }
 
@@ -41,7 +46,9 @@ SiteSessions::Service JiraSessions::open(const SignIn &signIn) const
 
 QCoro::Task<> JiraSessions::keep(SignIn signIn)
 {
-    return m_credentials.save(credentialsOf(signIn));
+    const JiraCredentials credentials = credentialsOf(signIn);
+    co_await m_credentials.save(credentials);
+    m_onBegin(credentials);
 }
 
 QCoro::Task<> JiraSessions::forget()

@@ -11,9 +11,12 @@ class JiraSessions final : public SiteSessions
 public:
     /// Opens a back end on a site.
     using MakeClient = std::function<Service(const JiraCredentials &)>;
+    /// Is told of the credentials with which a session begins.
+    using OnBegin = std::function<void(const JiraCredentials &)>;
 
     /// Both stores outlive this object and what it began.
-    JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient);
+    JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient,
+                 OnBegin onBegin);
 
     SignIn lastSignIn() const override;
     QCoro::Task<Saved> restore() override;
@@ -24,4 +27,5 @@ public:
 private:
     CredentialsStore m_credentials;
     MakeClient m_makeClient;
+    OnBegin m_onBegin;
 };

@@ -17,10 +17,13 @@ Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 
 VelmoraApp::VelmoraApp(Outside outside)
     : m_outside(std::move(outside)),
-      m_sessions(*m_outside.preferences, *m_outside.keychain,
-                 [this](const JiraCredentials &credentials) {
-                     return m_outside.makeClient(credentials, *m_outside.clock, m_outside.calendar);
-                 }),
+      m_images(ImageLoader::shared(), *m_outside.clock),
+      m_sessions(
+          *m_outside.preferences, *m_outside.keychain,
+          [this](const JiraCredentials &credentials) {
+              return m_outside.makeClient(credentials, *m_outside.clock, m_outside.calendar);
+          },
+          [this](const JiraCredentials &credentials) { m_images.showCredentials(credentials); }),
       m_store(context()),
       m_scenes(m_engine, m_store, *m_outside.preferences),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)

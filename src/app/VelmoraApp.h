@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/JiraSessions.h"
 #include "app/Outside.h"
+#include "app/SiteImages.h"
 #include "state/AppStore.h"
 
 #include <QQmlEngine>
@@ -29,6 +30,7 @@ private:
     void bootstrap();
 
     Outside m_outside;
+    SiteImages m_images;
     JiraSessions m_sessions;
     AppStore m_store;
     // After the store, so that the screens go before what they show.

@@ -1,0 +1,46 @@
+#include "app/SiteImages.h"
+
+namespace {
+
+/// Holds its session while the request is under way.
+QCoro::Task<ImageAnswer> fetched(std::shared_ptr<HttpSession> session, HttpRequest request)
+{
+    const HttpAnswer answer = co_await session->send(std::move(request));
+    co_return ImageAnswer{answer.status, answer.body};
+}
+
+} // namespace
+
+SiteImages::SiteImages(ImageLoader &loader, Clock &clock) : m_loader(loader), m_clock(clock)
+{
+    m_loader.setFetcher(this);
+}
+
+SiteImages::~SiteImages()
+{
+    m_loader.setFetcher(nullptr);
+    for (const auto &session : {m_site, m_elsewhere}) {
+        if (session)
+            session->close();
+    }
+}
+
+void SiteImages::showCredentials(const JiraCredentials &credentials)
+{
+    const QByteArray header = credentials.authorizationHeader();
+    m_identity = {Origin::of(credentials.site), header};
+    m_site.reset();
+    m_loader.setAuthHost(credentials.site.host(QUrl::FullyEncoded));
+    m_loader.setAuthHeader(QString::fromLatin1(header));
+}
+
+QCoro::Task<ImageAnswer> SiteImages::fetch(ImageRequest request)
+{
+    auto &session = request.authorization ? m_site : m_elsewhere;
+    if (!session)
+        session =
+            std::make_shared<HttpSession>(request.authorization ? m_identity : Identity{}, m_clock);
+    HttpRequest outgoing{
+        .url = request.url, .headers = {}, .body = {}, .limit = request.timeout, .saveAs = {}};
+    return fetched(session, std::move(outgoing));
+}

@@ -1,0 +1,77 @@
+#include "app/SiteImages.h"
+
+#include "simulator/RawServer.h"
+#include "support/ManualClock.h"
+#include "support/RunUntil.h"
+#include "support/TaskResult.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray redPicture()
+{
+    QImage image(4, 4, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+class SiteImagesTest : public testing::Test
+{
+protected:
+    SiteImagesTest()
+    {
+        for (RawServer *server : {&site, &elsewhere})
+            server->answer(RawAnswer::http(200, redPicture(), {{"Content-Type", "image/png"}}));
+        images.showCredentials({site.url(), u"alice@exemple.fr"_s, u"s3cret"_s});
+    }
+
+    QImage load(const QUrl &url)
+    {
+        const TaskResult<QImage> result(loader.image(url));
+        EXPECT_TRUE(runUntil([&] { return result.isDone(); }));
+        return result.value();
+    }
+
+    RawServer site;
+    RawServer elsewhere;
+    ManualClock clock;
+    ImageLoader loader;
+    SiteImages images{loader, clock};
+};
+
+} // namespace
+
+TEST_F(SiteImagesTest, PictureOfTheSiteIsFetchedWithItsCredentials)
+{
+    EXPECT_EQ(load(site.url().resolved(QUrl(u"/avatar.png"_s))).size(), QSize(4, 4));
+    EXPECT_EQ(site.journal().last().header("Authorization"),
+              "Basic " + QByteArray("alice@exemple.fr:s3cret").toBase64());
+}
+
+TEST_F(SiteImagesTest, PictureOfAnotherServerOnTheSameHostSeesNoCredentials)
+{
+    EXPECT_EQ(load(elsewhere.url().resolved(QUrl(u"/avatar.png"_s))).size(), QSize(4, 4));
+    EXPECT_EQ(elsewhere.journal().last().header("Authorization"), QByteArray());
+}
+
+TEST_F(SiteImagesTest, NextSignInTakesItsOwnCredentials)
+{
+    load(site.url().resolved(QUrl(u"/a.png"_s)));
+    images.showCredentials({site.url(), QString(), u"other"_s});
+    load(site.url().resolved(QUrl(u"/b.png"_s)));
+    EXPECT_EQ(site.journal().last().header("Authorization"), "Bearer other");
+}
+
+TEST_F(SiteImagesTest, NoPictureIsHadFromASiteThatIsGone)
+{
+    site.stopListening();
+    EXPECT_TRUE(load(site.url().resolved(QUrl(u"/avatar.png"_s))).isNull());
+}
