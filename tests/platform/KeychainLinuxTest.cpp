@@ -2,10 +2,10 @@
 
 #include "platform/FakePrompter.h"
 #include "platform/KeyringDaemon.h"
+#include "platform/SilentService.h"
 #include "support/ManualClock.h"
 #include "support/TaskResult.h"
 
-#include <QDBusMessage>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -17,34 +17,6 @@ namespace {
 
 const auto Site = u"https://exemple.atlassian.net"_s;
 const auto OtherSite = u"https://jira.exemple.fr"_s;
-
-/// Holds the name of the store of secrets and never answers.
-class SilentService : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Secret.Service")
-
-public:
-    explicit SilentService(QDBusConnection bus) : m_bus(std::move(bus))
-    {
-        m_bus.registerObject(u"/org/freedesktop/secrets"_s, this,
-                             QDBusConnection::ExportScriptableContents);
-        m_bus.registerService(u"org.freedesktop.secrets"_s);
-    }
-    ~SilentService() override { m_bus.unregisterService(u"org.freedesktop.secrets"_s); }
-
-    bool wasAsked = false;
-
-    Q_SCRIPTABLE QDBusVariant OpenSession(const QString &, const QDBusVariant &)
-    {
-        wasAsked = true;
-        setDelayedReply(true);
-        return {};
-    }
-
-private:
-    QDBusConnection m_bus;
-};
 
 /// One for all tests: GLib holds on to its connection for longer than a test.
 PrivateBus &sharedBus()
@@ -336,5 +308,3 @@ TEST_F(KeychainLinuxTest, theEndOfTheBusDoesNotEndTheProgram)
 }
 
 } // namespace
-
-#include "KeychainLinuxTest.moc"

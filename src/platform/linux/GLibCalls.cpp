@@ -62,7 +62,8 @@ QCoro::Task<GLibPointer<GAsyncResult>> GLibCalls::run(std::shared_ptr<GLibCalls>
             Call::giveUp(late, std::make_exception_ptr(TimedOut()));
     });
     // The callback owns this reference, and always comes, if only after the call was given up.
-    start(call->cancellable.get(), &GLibCalls::takeResult, new std::shared_ptr<Call>(call));
+    start(call->cancellable.get(), &GLibCalls::takeResult,
+          std::make_unique<std::shared_ptr<Call>>(call).release());
     const Answer answer(call);
     co_return co_await answer;
 }
@@ -71,7 +72,7 @@ void GLibCalls::takeResult(GObject *, GAsyncResult *result, gpointer data)
 {
     const std::unique_ptr<std::shared_ptr<Call>> reference(
         static_cast<std::shared_ptr<Call> *>(data));
-    const auto call = *reference;
+    const std::shared_ptr<Call> &call = *reference;
     if (call->isOver())
         return;
     call->result.reset(G_ASYNC_RESULT(g_object_ref(result)));

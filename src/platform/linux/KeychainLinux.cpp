@@ -82,8 +82,9 @@ QCoro::Task<> KeychainLinux::remove(QString account)
     const auto turn = co_await m_turns.next();
     try {
         co_await removeThrough(calls, account);
-    } catch (const KeychainRefusal &) {
+    } catch (const KeychainRefusal &refusal) {
         // It stays: there is nothing that the user could do about it here.
+        Q_UNUSED(refusal)
     }
 }
 

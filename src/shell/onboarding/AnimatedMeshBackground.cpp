@@ -5,13 +5,15 @@
 #include <QDateTime>
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRendererInterface>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-/// Between two pictures: a thirtieth of a second, rounded up.
+/// Between two pictures: a thirtieth of a second, rounded up; twice that where the processor draws the whole window.
 constexpr auto FramePeriod = 34ms;
+constexpr auto SoftwareFramePeriod = 67ms;
 constexpr QSize FieldSize(96, 64);
 /// Where the field stands while it is still, in seconds.
 constexpr double StillTime = 10;
@@ -23,7 +25,6 @@ constexpr qint64 ReferenceMilliseconds = 978307200000;
 AnimatedMeshBackground::AnimatedMeshBackground(QQuickItem *parent) : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
-    m_timer.setInterval(FramePeriod);
     connect(&m_timer, &QTimer::timeout, this, &QQuickItem::update);
     connect(this, &QQuickItem::visibleChanged, this, &AnimatedMeshBackground::refreshMoving);
 }
@@ -59,8 +60,12 @@ void AnimatedMeshBackground::follow(QQuickWindow *window)
     if (m_window)
         m_window->removeEventFilter(this);
     m_window = window;
-    if (m_window)
+    if (m_window) {
         m_window->installEventFilter(this);
+        const auto api = m_window->rendererInterface()->graphicsApi();
+        m_timer.setInterval(api == QSGRendererInterface::Software ? SoftwareFramePeriod
+                                                                  : FramePeriod);
+    }
     refreshMoving();
 }
 
