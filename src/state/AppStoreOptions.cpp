@@ -53,6 +53,7 @@ void AppStore::run(const OptionAction &action)
 {
     using A = OptionAction;
     // A copy: carrying it out changes the rows that it may belong to.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const OptionAction kept = action;
     std::visit(
         Overloaded{

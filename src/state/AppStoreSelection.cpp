@@ -26,6 +26,8 @@ void AppStore::toggleCheck(const QString &key)
 
 void AppStore::openInInspector(const QString &key)
 {
+    // A copy: the key may be the one of a field that changes below.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QString opened = key;
     const Batch batch(*this);
     m_focusedKey.set(opened);
