@@ -53,6 +53,7 @@ FocusScope {
         currentIndex: -1
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
+        // No move transitions: one that another change interrupts leaves its rows half-way, one over the other.
 
         Keys.onMenuPressed: root.openFocusedMenu()
 
@@ -94,22 +95,6 @@ FocusScope {
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
                 }
-            }
-        }
-
-        move: Transition {
-            NumberAnimation {
-                property: "y"
-                duration: Motion.stateDuration
-                easing: Springs.even
-            }
-        }
-
-        moveDisplaced: Transition {
-            NumberAnimation {
-                property: "y"
-                duration: Motion.stateDuration
-                easing: Springs.even
             }
         }
 

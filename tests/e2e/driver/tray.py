@@ -9,7 +9,7 @@ from gi.repository import Gio, GLib  # noqa: E402
 
 from .a11y import PROPERTIES
 from .bus import connected_to
-from .waiting import DriverError
+from .waiting import DriverError, wait_until
 
 
 _SNW_XML = """<node><interface name="org.kde.StatusNotifierWatcher">
@@ -109,14 +109,15 @@ class TrayItem:
         return conv(root)["children"]
 
     def choose(self, label):
-        """Clicks the first entry whose label matches the regular expression."""
+        """Clicks the first entry whose label matches the regular expression; the menu may be about to be told anew."""
         def flat(es):
             for e in es:
                 yield e
                 yield from flat(e["children"])
-        for e in flat(self.menu()):
-            if re.search(label, e["label"]):
-                self._call(self._menu, "com.canonical.dbusmenu", "Event",
-                           GLib.Variant("(isvu)", (e["id"], "clicked", GLib.Variant("i", 0), 0)))
-                return e
-        raise DriverError("no tray entry %r" % label)
+
+        def entry():
+            return next((e for e in flat(self.menu()) if re.search(label, e["label"])), None)
+        found = wait_until(entry, 5, 0.1, "the tray entry %r" % label)
+        self._call(self._menu, "com.canonical.dbusmenu", "Event",
+                   GLib.Variant("(isvu)", (found["id"], "clicked", GLib.Variant("i", 0), 0)))
+        return found
