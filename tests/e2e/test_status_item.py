@@ -15,7 +15,8 @@ class StatusItem(WindowCase):
     def open_with_item(self):
         velmora = self.open_demo()
         item = self.session.tray()
-        wait_until(lambda: len(item.menu()) > len(COMMANDS), 10, 0.1, "the open issues in the menu")
+        wait_until(lambda: any(entry["label"].startswith("MOB-101") for entry in item.menu()), 10, 0.1,
+                   "the open issues in the menu")
         return velmora, item
 
     def test_the_menu_lists_the_open_issues_with_their_icons(self):
