@@ -92,8 +92,9 @@ private:
             m_json += "null";
         else if (number == std::trunc(number) && std::abs(number) < exactBound)
             m_json += QByteArray::number(qint64(number));
-        else
-            m_json += QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
+        else // A whole number beyond 64 bits is read as a number only when it is told with an exponent.
+            m_json += QByteArray::number(number, std::abs(number) < exactBound ? 'g' : 'e',
+                                         QLocale::FloatingPointShortest);
     }
 
     void write(const QString &text)

@@ -173,6 +173,14 @@ TEST(ADFCoding, ShortestDecimalFormReadsBackAsTheSameNumber)
             << number;
 }
 
+TEST(ADFCoding, WholeNumberBeyond64BitsReadsBackAsTheSameNumber)
+{
+    for (const double number :
+         {9e18, 9223372036854775808.0, 18446744073709551616.0, 1111111111111111111115.6, -1e20})
+        EXPECT_EQ(ADFCoding::decodeValue(ADFCoding::encode(JSONValue(number))), JSONValue(number))
+            << number;
+}
+
 TEST(ADFCoding, NodeAsAValue)
 {
     const JSONValue value =
