@@ -1,13 +1,15 @@
 #!/usr/bin/python3
-"""Runs the tests that drive the built program in a window, with each renderer in turn.
+"""Runs the tests that drive the built program in a window, with each renderer, as many at once as there are processors.
 
 Usage: tests/e2e/run.py <program> [--renderer software|opengl] [--results <folder>] [-k <part of a test's name>]
 
-Each test has a desktop and a home of its own. What a failed test saw (picture, accessible tree, what the program wrote)
-is left in the folder of results. Run it with the system's python3.
+Each test has a process, a desktop and a home of its own. What a failed test saw (picture, accessible tree, what the
+program wrote) is left in the folder of results. Run it with the system's python3.
 """
 import argparse
+import concurrent.futures
 import os
+import subprocess
 import sys
 import unittest
 
@@ -16,6 +18,8 @@ sys.path.insert(0, HERE)
 
 import support  # noqa: E402
 
+PASSED, FAILED, SKIPPED = range(3)
+
 
 def arguments():
     parser = argparse.ArgumentParser(description="Drives the built program in a window.")
@@ -23,35 +27,62 @@ def arguments():
     parser.add_argument("--renderer", choices=["software", "opengl"], action="append")
     parser.add_argument("--results", default="build/reports/e2e-cases")
     parser.add_argument("-k", dest="patterns", action="append")
+    parser.add_argument("--only", help=argparse.SUPPRESS)  # the one test of a process
     return parser.parse_args()
 
 
-def suite(patterns):
+def single_tests(suite):
+    for test in suite:
+        if isinstance(test, unittest.TestSuite):
+            yield from single_tests(test)
+        else:
+            yield test
+
+
+def names(patterns):
     loader = unittest.TestLoader()
     if patterns:
         loader.testNamePatterns = ["*%s*" % pattern for pattern in patterns]
-    return loader.discover(HERE, pattern="test_*.py", top_level_dir=HERE)
+    return [test.id() for test in single_tests(loader.discover(HERE, pattern="test_*.py", top_level_dir=HERE))]
 
 
-def tests_with_faults(result):
-    """Each once, however often it failed: in its parts, in its body, when it was cleared away."""
-    return {getattr(test, "test_case", test).id() for test, _ in result.failures + result.errors}
+def run_here(given):
+    """Runs the one test that this process is for."""
+    support.RUN.set(program=given.program, renderer=given.renderer[0], results=given.results)
+    test = unittest.defaultTestLoader.loadTestsFromName(given.only)
+    result = unittest.TextTestRunner(verbosity=2, warnings="error").run(test)
+    if not result.wasSuccessful() or result.testsRun != 1:
+        return FAILED
+    return SKIPPED if result.skipped else PASSED
+
+
+def run_apart(given, renderer, name):
+    """Runs a test in a process of its own; how it went and what it said."""
+    done = subprocess.run([sys.executable, os.path.abspath(__file__), given.program, "--renderer", renderer,
+                           "--results", given.results, "--only", name],
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
+    return done.returncode, done.stdout
 
 
 def main():
     given = arguments()
-    passed = failed = 0
+    if given.only:
+        return run_here(given)
     os.makedirs(given.results, exist_ok=True)
-    for renderer in given.renderer or ["software", "opengl"]:
-        print("--- %s" % renderer, file=sys.stderr)
-        support.RUN.set(program=given.program, renderer=renderer, results=given.results)
-        result = unittest.TextTestRunner(verbosity=2, warnings="error").run(suite(given.patterns))
-        faulty = len(tests_with_faults(result))
-        passed += result.testsRun - faulty - len(result.skipped)
-        failed += faulty
+    counts = {PASSED: 0, FAILED: 0, SKIPPED: 0}
+    with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as pool:
+        runs = [(renderer, name, pool.submit(run_apart, given, renderer, name))
+                for renderer in given.renderer or ["software", "opengl"] for name in names(given.patterns)]
+        for renderer, name, run in runs:
+            status, said = run.result()
+            outcome = status if status in counts else FAILED
+            counts[outcome] += 1
+            print("%-8s %-70s %s" % (renderer, name, ("ok", "FAILED", "skipped")[outcome]), flush=True)
+            if outcome == FAILED:
+                print(said, flush=True)
     with open(os.path.join(given.results, "e2e.counts"), "w") as file:
-        file.write("%d %d\n" % (passed, failed))
-    return 1 if failed or not passed else 0
+        file.write("%d %d\n" % (counts[PASSED], counts[FAILED]))
+    return 1 if counts[FAILED] or not counts[PASSED] else 0
 
 
 if __name__ == "__main__":
