@@ -151,3 +151,24 @@ TEST_F(Board, AColumnWithoutCardsSaysSo)
         [&] { return spokenIn(window(), QAccessible::StaticText, u"Déposer ici"_s).size() == 1; }));
     find(QAccessible::List, u"En cours, 0 ticket"_s);
 }
+
+TEST_F(Board, TheFocusedCardIsInViewWhenTheBoardTakesTheListsPlace)
+{
+    press(Qt::Key_1);
+    serveManyColumns(9);
+    store().setFocusedKey(u"MOB-9"_s);
+    press(Qt::Key_2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isInView(u"MOB-9"_s); }));
+}
+
+TEST_F(Board, TheFocusedCardStaysInViewWhenTheInspectorTakesRoomFromTheBoard)
+{
+    serveManyColumns(4);
+    store().setFocusedKey(u"MOB-3"_s);
+    settle();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const auto card = spokenIn(window(), QAccessible::ListItem, u"MOB-3,"_s);
+        return !card.isEmpty() && card.first().box.right() < 816 && card.first().box.left() > 244;
+    }));
+}

@@ -101,3 +101,36 @@ TEST_F(Keyboard, AFarFocusIsScrolledIntoView)
     EXPECT_EQ(focus(), "MOB-100");
     EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown().contains(u"MOB-100"_s); }));
 }
+
+TEST_F(Keyboard, TheFocusedRowIsInViewWhenTheListTakesTheBoardsPlace)
+{
+    QStringList many;
+    for (int i = 1; i <= 100; ++i)
+        many += u"MOB-%1"_s.arg(i);
+    serve(many);
+    reload();
+    press(Qt::Key_2);
+    press(Qt::Key_Up);
+    press(Qt::Key_1);
+
+    ASSERT_EQ(focus(), "MOB-100");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown().contains(u"MOB-100"_s); }));
+}
+
+TEST_F(Keyboard, TheSelectionBarDoesNotHideTheFocusedRow)
+{
+    QStringList many;
+    for (int i = 1; i <= 100; ++i)
+        many += u"MOB-%1"_s.arg(i);
+    serve(many);
+    reload();
+    press(Qt::Key_Up);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rowsShown().contains(u"MOB-100"_s); }));
+    press(Qt::Key_X);
+
+    const auto bar = await(QAccessible::ToolBar, u"1 sélectionné"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return find(QAccessible::ListItem, u"MOB-100,"_s).box.bottom() <
+               window().height() - 20 - bar.box.height();
+    }));
+}

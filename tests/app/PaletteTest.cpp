@@ -281,3 +281,14 @@ TEST_F(Palette, TheCountAndTheHighlightedRowAreSpoken)
     const auto field = find(QAccessible::EditableText, u"Rechercher un ticket"_s);
     EXPECT_EQ(field.description, u"1 résultat. Afficher en tableau, 1 sur 1"_s);
 }
+
+TEST_F(Palette, InALowWindowItEndsAboveTheWindowsEdge)
+{
+    window().resize(940, 580);
+    press(Qt::Key_K, Qt::ControlModifier);
+    const auto panel = await(QAccessible::Dialog, u"Palette de commandes"_s);
+    EXPECT_EQ(panel.box.top(), 112);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return find(QAccessible::Dialog, u"Palette de commandes"_s).box.bottom() < 580 - 8;
+    })) << find(QAccessible::Dialog, u"Palette de commandes"_s).box.bottom();
+}

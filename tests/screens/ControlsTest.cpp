@@ -124,6 +124,25 @@ TEST(Controls, HintOfAButtonComesUnderThePointer)
     EXPECT_EQ(bench.warnings(), "");
 }
 
+TEST(Controls, HintOfAPressedButtonWaitsUntilThePointerComesAgain)
+{
+    Bench bench;
+    auto *button = bench.show(u"IconButton { x: 100; y: 100; name: 'Ajouter'; symbol: 'plus' }"_s);
+    ASSERT_NE(button, nullptr);
+    const auto hintIsThere = [&] {
+        const auto *overlay = bench.window().property("_q_QQuickOverlay").value<QQuickItem *>();
+        return overlay && !overlay->childItems().isEmpty();
+    };
+    QTest::mouseMove(&bench.window(), {300, 300});
+    QTest::mouseMove(&bench.window(), middle(button));
+    QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, middle(button));
+    EXPECT_FALSE(QTest::qWaitFor(hintIsThere, 1500));
+
+    QTest::mouseMove(&bench.window(), {300, 300});
+    QTest::mouseMove(&bench.window(), middle(button));
+    EXPECT_TRUE(QTest::qWaitFor(hintIsThere, 3000));
+}
+
 TEST(Controls, HoverFillIsThereAtOnceAndLeavesSoftly)
 {
     Bench bench;

@@ -18,6 +18,8 @@ Rectangle {
     required property IssueListModel cards
     required property string accessibleName
     required property string focusedKey
+    // What the bar over the board's lower edge hides.
+    property int clearance: 0
 
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
@@ -182,5 +184,6 @@ Rectangle {
         rows: root.cards
         focusedKey: root.focusedKey
         headerHeight: 0
+        clearance: root.clearance
     }
 }

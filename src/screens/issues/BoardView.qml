@@ -55,6 +55,7 @@ FocusScope {
                     width: root.columnWidth
                     height: columns.height
                     focusedKey: root.store.focusedKey
+                    clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
                     onCardClicked: (key, modifiers) => root.store.handleClick(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, cell) => root.picker.toggle(kind, key, cell)

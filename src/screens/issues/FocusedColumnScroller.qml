@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.State
 import Velmora.Theme
 
-// Brings the column of the focused card into view each time the focus moves to another issue, with a margin beside it.
+// Brings the column of the focused card into view each time the focus moves to another issue, with a margin beside it,
+// when the board comes into sight, and when it gets less room, as when the inspector opens.
 Item {
     id: root
 
@@ -13,6 +14,8 @@ Item {
     required property int firstLeft
     required property int columnWidth
     required property int columnGap
+
+    readonly property real room: flickable.width
 
     function reveal() {
         const column = board.columnOfKey(focusedKey);
@@ -32,7 +35,8 @@ Item {
     }
 
     onFocusedKeyChanged: reveal()
-    Component.onCompleted: reveal()
+    onRoomChanged: reveal()
+    Component.onCompleted: Qt.callLater(reveal)
 
     NumberAnimation {
         id: animation

@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.State
 import Velmora.Theme
 
-// Brings the focused row into view each time the focus moves to another issue, clear of the header pinned above.
+// Brings the focused row into view each time the focus moves to another issue and when the list comes, clear of the header
+// pinned above.
 Item {
     id: root
 
@@ -10,6 +11,8 @@ Item {
     required property IssueListModel rows
     required property string focusedKey
     required property int headerHeight
+    // What a bar over the list's lower edge hides.
+    property int clearance: 0
 
     function reveal() {
         const row = rows.rowOfKey(focusedKey);
@@ -28,7 +31,7 @@ Item {
         if (!item)
             return list.contentY;
         const lowest = Math.max(list.originY, item.y - headerHeight);
-        const highest = item.y + item.height - list.height;
+        const highest = item.y + item.height + clearance - list.height;
         return Math.max(highest, Math.min(list.contentY, lowest));
     }
 
@@ -45,7 +48,16 @@ Item {
         animation.restart();
     }
 
+    // A row that is in sight stays so when a bar comes over it; one that was scrolled away is left there.
+    function keepInSight() {
+        const item = list.itemAtIndex(rows.rowOfKey(focusedKey));
+        if (item && item.y < list.contentY + list.height && item.y + item.height > list.contentY)
+            reveal();
+    }
+
     onFocusedKeyChanged: reveal()
+    onClearanceChanged: keepInSight()
+    Component.onCompleted: Qt.callLater(reveal)
 
     NumberAnimation {
         id: animation

@@ -45,6 +45,8 @@ FocusScope {
         clip: true
         model: root.store.issueList
         boundsBehavior: Flickable.StopAtBounds
+        // The last row can be scrolled clear of the selection bar.
+        bottomMargin: Metrics.toastBottomAboveBar
         reuseItems: true
         cacheBuffer: 400
         pixelAligned: true
@@ -127,5 +129,6 @@ FocusScope {
         rows: root.store.issueList
         focusedKey: root.store.focusedKey
         headerHeight: root.headerHeight
+        clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
     }
 }

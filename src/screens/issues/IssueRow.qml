@@ -262,16 +262,21 @@ Item {
             }
         }
 
-        AppText {
+        Item {
             visible: root.display.updated && !root.badge.isShown
-            anchors.verticalCenter: parent.verticalCenter
             width: 54
-            horizontalAlignment: Text.AlignRight
-            role: TypeScale.Small
-            tabular: true
-            color: Theme.text2
-            text: root.updatedText
-            Accessible.ignored: true
+            height: Metrics.smallButton
+
+            // "à l'instant" is wider than the column, and takes of the gap before it.
+            AppText {
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                role: TypeScale.Small
+                tabular: true
+                color: Theme.text2
+                text: root.updatedText
+                Accessible.ignored: true
+            }
         }
     }
 }

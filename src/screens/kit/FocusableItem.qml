@@ -15,10 +15,14 @@ T.AbstractButton {
     property bool lit: enabled && (hovered || down)
     /// Shows the keyboard's focus.
     property bool ringed: visualFocus
+    /// A press puts the hint away until the pointer comes again: it would lie over what the press has opened.
+    property bool hushed: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
     hoverEnabled: true
+    onDownChanged: hushed = hushed || down
+    onHoveredChanged: hushed = hushed && hovered
     focusPolicy: Qt.TabFocus
     Keys.onReturnPressed: activate()
     Keys.onEnterPressed: activate()
@@ -42,7 +46,7 @@ T.AbstractButton {
     }
 
     HintTip {
-        shown: control.hovered && !control.down
+        shown: control.hovered && !control.hushed
         text: control.hint
     }
 }

@@ -13,6 +13,8 @@ GlassPanel {
     required property bool isDemo
 
     readonly property bool hasHead: commandPalette.capsules.length > 0
+    // What a low window leaves to the rows, between the field and the footer.
+    readonly property real room: Window.height - Metrics.paletteTop - field.y - field.height - footer.height - Metrics.gapLarge
 
     width: Metrics.paletteWidth
     height: footer.y + footer.height
@@ -81,6 +83,7 @@ GlassPanel {
         anchors.top: field.bottom
         width: parent.width
         height: implicitHeight
+        maxHeight: Math.min(Metrics.paletteMaxHeight, root.room)
         enabled: root.commandPalette.isOpen
         commandPalette: root.commandPalette
     }

@@ -11,12 +11,14 @@ Item {
     id: root
 
     required property CommandPalette commandPalette
+    // At most so high; what is more is scrolled to.
+    property real maxHeight: Metrics.paletteMaxHeight
 
     // Told, not measured: a view only guesses at rows that it has not made.
     readonly property int rowsHeight: commandPalette.rowCount * Metrics.optionRowHeight
         + commandPalette.titleCount * Metrics.paletteTitleHeight + list.topMargin + list.bottomMargin
 
-    implicitHeight: commandPalette.rowCount === 0 ? 54 : Math.min(Metrics.paletteMaxHeight, rowsHeight)
+    implicitHeight: commandPalette.rowCount === 0 ? 54 : Math.min(maxHeight, rowsHeight)
 
     ListView {
         id: list
