@@ -219,3 +219,37 @@ TEST_F(BoardDrag, TheBoardScrollsWhileADragIsNearItsSide)
     QDragLeaveEvent leave;
     QCoreApplication::sendEvent(&window(), &leave);
 }
+
+TEST_F(BoardDrag, ADropGoesToTheColumnThatTheBoardHasScrolledUnderTheRestingDrag)
+{
+    IssueList wide;
+    for (int i = 1; i <= 9; ++i)
+        wide += issueWithKey(u"MOB-%1"_s.arg(i), u"Étape %1"_s.arg(i));
+    serveIssues(wide);
+    reload();
+    service->transitionsCalls.answerWith(
+        {{u"19"_s, u"Finir"_s, IssueStatus::guessed(u"Étape 9"_s)}});
+    content.setText(u"MOB-1"_s);
+    const QPoint atTheSide(window().width() - 40, 400);
+    dragOver(atTheSide);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        const auto last = spokenIn(window(), QAccessible::List, u"Étape 9,"_s);
+        return !last.isEmpty() && last.first().box.left() < atTheSide.x() &&
+               last.first().box.right() > atTheSide.x();
+    }));
+
+    dropAt(atTheSide);
+
+    EXPECT_EQ(status(u"MOB-1"_s), u"Étape 9"_s);
+}
+
+TEST_F(BoardDrag, ADropBetweenTwoColumnsChangesNothing)
+{
+    content.setText(u"MOB-1"_s);
+    const QPoint gap(inColumn(u"En cours"_s).x() - 140 - 8 - 6, 400);
+    dragOver(gap);
+    dropAt(gap);
+
+    EXPECT_EQ(service->transitionsCalls.count(), 0);
+    EXPECT_EQ(status(u"MOB-1"_s), u"À faire"_s);
+}

@@ -20,17 +20,15 @@ Rectangle {
     required property string focusedKey
     // What the bar over the board's lower edge hides.
     property int clearance: 0
+    // A drag would land here; and how far down it is.
+    property bool isTargeted: false
+    property real dragY: 0
 
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
     signal pickRequested(kind: int, key: string, cell: Item)
     signal dragBegun(key: string, handler: DragHandler)
-    // A drag is over the column, or let go there.
-    signal draggedOver(x: real)
-    signal dropped(text: string)
     signal newIssueRequested()
-
-    readonly property alias isTargeted: drop.containsDrag
 
     readonly property int padding: Metrics.paneMargin
 
@@ -43,21 +41,10 @@ Rectangle {
         isTargeted: root.isTargeted
     }
 
-    DropArea {
-        id: drop
-        anchors.fill: parent
-        onEntered: drag => drag.accepted = drag.hasText
-        onPositionChanged: drag => root.draggedOver(drag.x)
-        onDropped: drop => {
-            drop.accept(Qt.CopyAction);
-            root.dropped(drop.text);
-        }
-    }
-
     EdgeScroller {
-        running: drop.containsDrag
+        running: root.isTargeted
         view: list
-        position: drop.drag.y - list.y
+        position: root.dragY - list.y
     }
 
     Item {

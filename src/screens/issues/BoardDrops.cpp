@@ -1,5 +1,7 @@
 #include "screens/issues/BoardDrops.h"
 
+#include <cmath>
+
 QStringList movedKeys(const QStringList &dropped, const QSet<QString> &checked)
 {
     QStringList all(checked.begin(), checked.end());
@@ -24,8 +26,24 @@ QStringList droppedKeys(const QString &text)
     return keys;
 }
 
-void BoardDrops::drop(const QString &text, const IssueStatus &status)
+int columnAt(double x, int width, int gap, int count)
 {
-    if (m_store)
-        m_store->setStatus(status, movedKeys(droppedKeys(text), m_store->checked()));
+    const int column = int(std::floor(x / (width + gap)));
+    const bool isInside = column >= 0 && column < count && x - column * (width + gap) < width;
+    return isInside ? column : -1;
+}
+
+int BoardDrops::columnAt(double x, int width, int gap) const
+{
+    return m_store ? ::columnAt(x, width, gap, m_store->board()->rowCount()) : -1;
+}
+
+bool BoardDrops::dropOn(const QString &text, int column)
+{
+    const auto place = m_store ? m_store->board()->index(column, 0) : QModelIndex();
+    if (!place.isValid())
+        return false;
+    const auto status = place.data(BoardModel::StatusRole).value<IssueStatus>();
+    m_store->setStatus(status, movedKeys(droppedKeys(text), m_store->checked()));
+    return true;
 }

@@ -11,6 +11,8 @@
 QStringList movedKeys(const QStringList &dropped, const QSet<QString> &checked);
 /// The keys in a dropped text: one on a line.
 QStringList droppedKeys(const QString &text);
+/// The column at a place across the board, of `count` columns of one width with a gap after each; -1 beside them.
+int columnAt(double x, int width, int gap, int count);
 /// What happens when issues are dropped on a column of the board.
 class BoardDrops : public QObject
 {
@@ -21,8 +23,10 @@ class BoardDrops : public QObject
 public:
     using QObject::QObject;
 
-    /// Takes the issues of a dropped text to a status.
-    Q_INVOKABLE void drop(const QString &text, const IssueStatus &status);
+    /// The column of the store's board at a place, counted from the left edge of the first one; -1 beside them.
+    Q_INVOKABLE int columnAt(double x, int width, int gap) const;
+    /// Takes the issues of a dropped text to the status of a column; false if there is no such column.
+    Q_INVOKABLE bool dropOn(const QString &text, int column);
 
 Q_SIGNALS:
     void storeChanged();

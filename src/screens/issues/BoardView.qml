@@ -51,7 +51,8 @@ FocusScope {
                 model: root.store.board
 
                 BoardColumn {
-                    id: column
+                    required property int index
+
                     width: root.columnWidth
                     height: columns.height
                     focusedKey: root.store.focusedKey
@@ -60,9 +61,8 @@ FocusScope {
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, cell) => root.picker.toggle(kind, key, cell)
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)
-                    onDropped: text => drops.drop(text, status)
-                    onDraggedOver: x => sideways.position = mapToItem(board, x, 0).x
-                    onIsTargetedChanged: sideways.target(column)
+                    isTargeted: index === drop.column
+                    dragY: drop.drag.y - y
                     onNewIssueRequested: CreateScreen.open(root.store, "")
                 }
             }
@@ -71,19 +71,26 @@ FocusScope {
         T.ScrollBar.horizontal: OverlayScrollBar {}
     }
 
-    EdgeScroller {
-        id: sideways
+    // One for all columns: the board scrolls under a drag that rests, and nothing tells the columns of it.
+    DropArea {
+        id: drop
 
-        property BoardColumn over: null
+        // The column under the drag, or -1.
+        readonly property int column: containsDrag
+            ? drops.columnAt(drag.x + board.contentX - root.sidePadding, root.columnWidth, root.columnGap) : -1
 
-        // Columns tell that a drag comes before the last one tells that it goes.
-        function target(column: BoardColumn) {
-            over = column.isTargeted ? column : over === column ? null : over;
+        anchors.fill: board
+        onEntered: drag => drag.accepted = drag.hasText
+        onDropped: drop => {
+            if (drops.dropOn(drop.text, column))
+                drop.accept(Qt.CopyAction);
         }
+    }
 
-        running: over !== null
+    EdgeScroller {
+        running: drop.containsDrag
         view: board
-        position: 0
+        position: drop.drag.x
         isHorizontal: true
     }
 

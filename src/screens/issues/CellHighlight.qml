@@ -8,6 +8,11 @@ Rectangle {
 
     required property RowCell cell
 
+    // Pressed: its hint would lie over the picker that it opened.
+    property RowCell hushed: null
+
+    onCellChanged: hushed = null
+
     visible: cell !== null
     x: cell ? cell.parent.x + cell.x : 0
     width: Metrics.smallButton
@@ -16,7 +21,15 @@ Rectangle {
     color: Theme.buttonHoverFill
 
     HintTip {
-        shown: root.visible
+        shown: root.visible && root.cell !== root.hushed
         text: root.cell?.hint ?? ""
+    }
+
+    Connections {
+        target: root.cell
+
+        function onPressed() {
+            root.hushed = root.cell;
+        }
     }
 }

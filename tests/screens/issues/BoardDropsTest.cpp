@@ -28,6 +28,21 @@ TEST(DroppedKeys, EachLineIsAKey)
     EXPECT_TRUE(droppedKeys({}).isEmpty());
 }
 
+TEST(ColumnAt, EachColumnEndsWhereItsGapBegins)
+{
+    EXPECT_EQ(columnAt(0, 296, 12, 3), 0);
+    EXPECT_EQ(columnAt(295, 296, 12, 3), 0);
+    EXPECT_EQ(columnAt(296, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(308, 296, 12, 3), 1);
+}
+
+TEST(ColumnAt, BesideTheColumnsThereIsNone)
+{
+    EXPECT_EQ(columnAt(-1, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(3 * 308 + 1, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(10, 296, 12, 0), -1);
+}
+
 TEST(EdgeScrollStep, NothingScrollsInTheMiddle)
 {
     EXPECT_EQ(edgeScrollStep(300, 600), 0);
