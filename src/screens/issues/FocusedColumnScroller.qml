@@ -36,7 +36,13 @@ Item {
 
     onFocusedKeyChanged: reveal()
     onRoomChanged: reveal()
-    Component.onCompleted: Qt.callLater(reveal)
+
+    // Once what it is for stands in its place.
+    Timer {
+        interval: 0
+        running: true
+        onTriggered: root.reveal()
+    }
 
     NumberAnimation {
         id: animation

@@ -57,7 +57,13 @@ Item {
 
     onFocusedKeyChanged: reveal()
     onClearanceChanged: keepInSight()
-    Component.onCompleted: Qt.callLater(reveal)
+
+    // Once what it is for stands in its place.
+    Timer {
+        interval: 0
+        running: true
+        onTriggered: root.reveal()
+    }
 
     NumberAnimation {
         id: animation
