@@ -55,6 +55,8 @@ Window {
     }
 
     PaletteLayer {
+        id: layer
+
         anchors.fill: parent
         store: root.store
     }
@@ -100,5 +102,11 @@ Window {
         target: Motion
         property: "reduced"
         value: root.store.prefersReducedMotion
+    }
+
+    Binding {
+        target: Motion
+        property: "scales"
+        value: layer.GraphicsInfo.api !== GraphicsInfo.Software
     }
 }

@@ -24,6 +24,8 @@ void PrintTo(const Component &component, std::ostream *out)
 const Component components[]{
     {"AppGlyph", u"AppGlyph {}"_s, QAccessible::Graphic, u"Velmora"_s},
     {"AppText", u"AppText { text: 'Mes tickets' }"_s, QAccessible::StaticText, u"Mes tickets"_s},
+    {"CheckBox", u"CheckBox { text: 'Ticket interne'; checked: true }"_s, QAccessible::CheckBox,
+     u"Ticket interne"_s},
     {"DisclosureButton", u"DisclosureButton { text: 'Détails' }"_s, QAccessible::Button,
      u"Détails"_s},
     {"DueBadge", u"DueBadge { text: 'Hier'; late: true }"_s, QAccessible::StaticText,
@@ -96,6 +98,7 @@ const QString silent[]{
     u"HoverFill { shown: true }"_s,
     u"SkeletonBar { width: 100 }"_s,
     u"PopupMenuSeparator {}"_s,
+    u"InputArea { name: 'Description'; problem: 'Trop long'; enabled: false; text: 'Un texte' }"_s,
     u"Item { property issueStatus s; StatusIcon { status: parent.s } }"_s,
     u"Item { property issueType t; TypeIcon { type: parent.t } }"_s,
     u"Item { property project p; ProjectBadge { project: parent.p } }"_s,
@@ -167,6 +170,7 @@ TEST(Components, GrowWithTheirText)
         {u"PopupMenuItem { text: '%1' }"_s, u"Copier"_s},
         {u"ToastCard { symbol: 'link'; isError: false; message: '%1' }"_s, u"Copié"_s},
         {u"GlassChip { title: '%1' }"_s, u"Statut"_s},
+        {u"CheckBox { text: '%1' }"_s, u"Interne"_s},
         {u"DisclosureButton { text: '%1' }"_s, u"Détails"_s},
         {u"MenuPicker { name: 'Trier'; choices: ['%1']; current: 0 }"_s, u"Clé"_s},
     };
@@ -196,6 +200,7 @@ TEST(Components, HaveTheHeightsOfTheMetrics)
          36},
         {u"Symbol { name: 'plus'; size: 13 }"_s, 15},
         {u"IconButton { name: 'Ajouter'; symbol: 'plus' }"_s, 22},
+        {u"CheckBox { text: 'Ticket interne' }"_s, 22},
     };
     for (const auto &[qml, height] : heights) {
         Bench bench;

@@ -17,6 +17,7 @@ const QString pressable[]{
     u"SidebarRow { text: 'Mes tickets'; width: 200; focus: true }"_s,
     u"ToastCard { message: 'Copié'; symbol: 'link'; isError: false; focus: true }"_s,
     u"RowCheckBox { name: 'Sélectionner'; focus: true }"_s,
+    u"CheckBox { text: 'Ticket interne'; focus: true }"_s,
     u"GlassChip { title: 'Statut'; focus: true }"_s,
     u"MenuPicker { name: 'Trier par'; choices: ['Clé']; current: 0; focus: true }"_s,
     u"ToggleSwitch { name: 'Afficher'; focus: true }"_s,

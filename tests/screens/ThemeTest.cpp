@@ -72,3 +72,15 @@ TEST(Motion, ReducedMovesEndAtOnceAndFadesStay)
     EXPECT_EQ(bench.token("motion", "fadeDuration").toInt(), 120);
     EXPECT_EQ(bench.warnings(), "");
 }
+
+TEST(Motion, NothingIsScaledWhereTheRendererWouldShowSeams)
+{
+    Bench bench;
+    EXPECT_DOUBLE_EQ(bench.token("motion", "pressScale").toDouble(), 0.97);
+    bench.setToken("motion", "scales", false);
+    EXPECT_DOUBLE_EQ(bench.token("motion", "pressScale").toDouble(), 1);
+    EXPECT_DOUBLE_EQ(bench.token("motion", "popoverScale").toDouble(), 1);
+    EXPECT_DOUBLE_EQ(bench.token("motion", "paletteScale").toDouble(), 1);
+    EXPECT_EQ(bench.token("motion", "stateDuration").toInt(), 570);
+    EXPECT_EQ(bench.warnings(), "");
+}

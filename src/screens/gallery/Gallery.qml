@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
@@ -9,13 +10,15 @@ Window {
     required property string page
     required property bool dark
     required property int accent
-    readonly property list<string> pages: ["icons", "symbols", "states", "panels", "controls"]
+    readonly property list<string> pages: ["icons", "symbols", "states", "fields", "controls", "panels", "overlays", "sheets"]
+    readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Commandes", "Panneaux",
+        "Menus et bulles", "Feuille"]
 
     width: 1320
     height: 1060
     visible: true
     color: Theme.content
-    title: "Velmora"
+    title: "Velmora : galerie"
 
     Binding {
         target: Theme
@@ -29,14 +32,22 @@ Window {
         value: window.accent
     }
 
+    Binding {
+        target: Motion
+        property: "scales"
+        value: tools.GraphicsInfo.api !== GraphicsInfo.Software
+    }
+
     Row {
+        id: tools
+
         x: 32
         y: 14
         spacing: 16
 
         SegmentedPicker {
             name: "Page"
-            choices: window.pages
+            choices: window.titles
             current: window.pages.indexOf(window.page)
             onChosen: index => window.page = window.pages[index]
         }
@@ -57,10 +68,23 @@ Window {
         }
     }
 
-    GalleryPage {
+    Flickable {
         anchors.fill: parent
-        anchors.margins: 32
         anchors.topMargin: 64
-        page: window.page
+        contentWidth: page.width
+        contentHeight: page.height + 64
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        GalleryPage {
+            id: page
+
+            x: 32
+            width: window.width - 64
+            height: Math.max(implicitHeight, window.height - 128)
+            page: window.page
+        }
+
+        T.ScrollBar.vertical: OverlayScrollBar {}
     }
 }

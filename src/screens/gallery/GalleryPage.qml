@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Chooses the page by its name: icons, symbols, states, panels or controls.
+/// Chooses the page by its name: icons, symbols, states, fields, controls, panels, overlays or sheets.
 Loader {
     required property string page
 

@@ -1,28 +1,10 @@
 import QtQuick
 import Velmora.Gallery
 import Velmora.Kit
-import Velmora.Theme
 
-/// Every control in each of its states.
+/// What can be pressed, in each of its states.
 Column {
-    Row {
-        x: 130
-        height: 24
-
-        Repeater {
-            model: ["repos", "survol", "pressé", "clavier", "inactif"]
-
-            AppText {
-                required property string modelData
-
-                width: 150
-                text: modelData
-                role: TypeScale.Caption
-                weight: Font.DemiBold
-                color: Theme.text3
-            }
-        }
-    }
+    StateNames {}
 
     StateRow {
         caption: "Bouton"
@@ -85,6 +67,11 @@ Column {
     }
 
     StateRow {
+        caption: "choix en segments"
+        sample: Component { SegmentedPicker { name: "Vue"; choices: ["Liste", "Carte"]; current: 1 } }
+    }
+
+    StateRow {
         caption: "interrupteur"
         sample: Component { ToggleSwitch { name: "Clé"; checked: true } }
     }
@@ -105,27 +92,17 @@ Column {
     }
 
     StateRow {
+        caption: "case et texte, cochée"
+        sample: Component { CheckBox { text: "Interne"; checked: true } }
+    }
+
+    StateRow {
+        caption: "case et texte"
+        sample: Component { CheckBox { text: "Interne" } }
+    }
+
+    StateRow {
         caption: "dépliage"
         sample: Component { DisclosureButton { text: "Détails"; expanded: true } }
-    }
-
-    StateRow {
-        caption: "champ"
-        sample: Component { InputField { name: "Canal"; text: "Canal"; width: 130 } }
-    }
-
-    StateRow {
-        caption: "champ secret"
-        sample: Component { SecureField { name: "Token"; secret: "secret"; width: 130 } }
-    }
-
-    StateRow {
-        caption: "recherche"
-        sample: Component { SearchField { name: "Filtrer"; placeholderText: "Filtrer"; width: 130 } }
-    }
-
-    StateRow {
-        caption: "ligne latérale"
-        sample: Component { SidebarRow { text: "Mes tickets"; symbol: "tray.full"; count: "7"; width: 140 } }
     }
 }

@@ -4,6 +4,8 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
+#include <initializer_list>
+
 /// Puts a control into one of its states for a picture, which otherwise only a pointer or a key would.
 class States : public QObject
 {
@@ -15,22 +17,44 @@ public:
     enum State { Rest, Hovered, Pressed, Focused, Disabled };
     Q_ENUM(State)
 
-    /// What a control doesn't have (a field cannot be pressed) stays at rest.
-    Q_INVOKABLE void show(QQuickItem *control, int state) const
+    /// What a control doesn't have (a field cannot be pressed) stays at rest. Of a group of controls the first one shows
+    /// the state.
+    Q_INVOKABLE void show(QQuickItem *sample, int state) const
     {
+        auto *control = sample ? firstControl(sample) : nullptr;
+        if (!control)
+            return;
         if (state == Hovered || state == Pressed)
-            set(control, "lit");
+            setOneOf(control, {"lit", "highlighted", "active"});
         if (state == Pressed)
-            set(control, "down");
+            setOneOf(control, {"down", "pressed"});
         if (state == Focused)
-            set(control, "ringed");
-        control->setEnabled(state != Disabled);
+            setOneOf(control, {"ringed", "highlighted"});
+        sample->setEnabled(state != Disabled);
     }
 
 private:
-    static void set(QQuickItem *control, const char *property)
+    static bool has(const QObject *control, const char *property)
     {
-        if (control->metaObject()->indexOfProperty(property) >= 0)
-            control->setProperty(property, true);
+        return control->metaObject()->indexOfProperty(property) >= 0;
+    }
+    static QQuickItem *firstControl(QQuickItem *item)
+    {
+        if (has(item, "lit") || has(item, "highlighted") || has(item, "active"))
+            return item;
+        for (auto *part : item->childItems()) {
+            if (auto *control = firstControl(part))
+                return control;
+        }
+        return nullptr;
+    }
+    static void setOneOf(QQuickItem *control, std::initializer_list<const char *> properties)
+    {
+        for (const auto *property : properties) {
+            if (has(control, property)) {
+                control->setProperty(property, true);
+                return;
+            }
+        }
     }
 };

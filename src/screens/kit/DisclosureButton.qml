@@ -27,5 +27,6 @@ FocusableItem {
     background: HoverFill {
         radius: control.corner
         shown: control.lit
+        fill: control.down ? Theme.openFill : Theme.hoverFill
     }
 }

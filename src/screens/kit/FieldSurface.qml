@@ -2,13 +2,17 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What lies under a text field: a quiet fill with a hairline, or floating glass; in focus an inner line and a glow.
+/// What lies under a text field: a quiet fill with a hairline, or floating glass; in focus an inner line and a glow. The
+/// line is red, and there without the focus too, where what was typed is `invalid`.
 Rectangle {
     id: surface
 
     required property real corner
     property bool glass: false
+    property bool hovered: false
     property bool focused: false
+    property bool invalid: false
+    readonly property color mark: invalid ? Theme.red : Theme.accent
 
     radius: corner
     color: glass ? Theme.glass : Theme.field
@@ -22,6 +26,12 @@ Rectangle {
         edgeLight: surface.glass ? Theme.edgeLight : "transparent"
     }
 
+    HoverFill {
+        radius: surface.corner
+        shown: surface.hovered && !surface.focused
+        fill: Theme.hoverFill
+    }
+
     Rectangle {
         anchors.fill: parent
         anchors.margins: -3
@@ -29,15 +39,15 @@ Rectangle {
         radius: surface.corner + 3
         color: "transparent"
         border.width: 3
-        border.color: Theme.accentAt(0.22)
+        border.color: Qt.rgba(surface.mark.r, surface.mark.g, surface.mark.b, 0.22)
     }
 
     Rectangle {
         anchors.fill: parent
-        visible: surface.focused
+        visible: surface.focused || surface.invalid
         radius: surface.corner
         color: "transparent"
         border.width: 1
-        border.color: Theme.accentAt(0.7)
+        border.color: Qt.rgba(surface.mark.r, surface.mark.g, surface.mark.b, 0.7)
     }
 }

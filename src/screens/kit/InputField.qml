@@ -4,6 +4,7 @@ import QtQuick.Templates as T
 import Velmora.Theme
 
 /// A text field of one line. `name` is what screen readers call it; the placeholder is what it shows while empty.
+/// `problem` says what is wrong with what was typed: the field turns red, and screen readers say it; show it beside it.
 T.TextField {
     id: field
 
@@ -11,6 +12,9 @@ T.TextField {
     property real corner: Metrics.radiusRow
     property bool glass: false
     property int role: TypeScale.Body
+    property string problem
+    /// Under the pointer.
+    property bool lit: enabled && hovered
     /// Shows the keyboard's focus.
     property bool ringed: activeFocus
 
@@ -23,13 +27,14 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     font: TypeScale.font(role)
     color: enabled ? Theme.text1 : Theme.text4
-    placeholderTextColor: Theme.text3
+    placeholderTextColor: enabled ? Theme.text3 : Theme.text4
     selectionColor: Theme.textSelection
     selectedTextColor: Theme.text1
     selectByMouse: true
     hoverEnabled: true
     Accessible.role: Accessible.EditableText
     Accessible.name: name
+    Accessible.description: problem
 
     cursorDelegate: TextCaret {
         shown: field.activeFocus && field.selectionStart === field.selectionEnd
@@ -38,7 +43,9 @@ T.TextField {
     background: FieldSurface {
         corner: field.corner
         glass: field.glass
+        hovered: field.lit
         focused: field.ringed
+        invalid: field.enabled && field.problem.length > 0
     }
 
     AppText {

@@ -13,4 +13,6 @@ class MenuMeasure : public QObject
 public:
     /// The width that the widest row of a menu would like, in logical pixels.
     Q_INVOKABLE qreal widest(QObject *menu) const;
+    /// Makes all rows keep room for a tick where one of them has one.
+    Q_INVOKABLE void alignMarks(QObject *menu) const;
 };

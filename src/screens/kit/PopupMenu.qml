@@ -21,6 +21,7 @@ T.Menu {
     onAboutToHide: FocusReturn.giveBack(returnTo)
 
     function begin() {
+        MenuMeasure.alignMarks(menu)
         widest = MenuMeasure.widest(menu)
         returnTo = FocusReturn.holder(parent)
     }

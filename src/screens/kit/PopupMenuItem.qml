@@ -2,13 +2,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Theme
 
-/// A row of a menu: a symbol or a drawn icon before the title, a tick or an arrow behind it.
+/// A row of a menu: a tick and a symbol or a drawn icon before the title, an arrow behind it.
 T.MenuItem {
     id: item
 
     property string symbol
     property Item leading: null
     property string shortcut
+    /// The menu sets it where one of its rows has a tick, so that all titles begin in one line.
+    property bool hasMarkRoom: checked
     readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
     readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2
 
@@ -37,7 +39,9 @@ T.MenuItem {
         symbol: item.symbol
         leading: item.leading
         shortcut: item.shortcut
-        mark: item.subMenu ? "chevron.right" : item.checked ? "checkmark" : ""
+        hasMarkRoom: item.hasMarkRoom
+        isMarked: item.checked
+        opensMenu: item.subMenu !== null
         ink: item.ink
         quietInk: item.quietInk
     }
@@ -45,5 +49,12 @@ T.MenuItem {
     background: Rectangle {
         radius: 7
         color: item.highlighted ? Theme.accentFill : "transparent"
+
+        PressShade {
+            radius: 7
+            accented: true
+            hovered: item.highlighted && item.down
+            pressed: true
+        }
     }
 }

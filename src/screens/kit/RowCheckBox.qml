@@ -16,30 +16,17 @@ FocusableItem {
     opacity: enabled ? 1 : 0.45
 
     contentItem: Item {
-        Rectangle {
+        CheckMark {
             anchors.centerIn: parent
-            width: 14
-            height: 14
-            radius: Metrics.radiusCheckBox
-            color: control.checked ? Theme.accent : "transparent"
-            border.width: control.checked ? 0 : 1.2
-            border.pixelAligned: false
-            border.color: Qt.rgba(Theme.neutral.r, Theme.neutral.g, Theme.neutral.b, 0.7)
+            checked: control.checked
+            hovered: control.lit
+            pressed: control.down
             opacity: control.shown || control.checked || control.visualFocus ? 1 : 0
 
             Behavior on opacity {
                 NumberAnimation {
                     duration: Motion.fadeDuration
                 }
-            }
-
-            Symbol {
-                anchors.centerIn: parent
-                visible: control.checked
-                name: "checkmark"
-                size: 8
-                weight: "bold"
-                color: Theme.textOnAccent
             }
         }
     }

@@ -16,7 +16,7 @@ InputField {
         anchors.verticalCenter: parent.verticalCenter
         name: "magnifyingglass"
         size: 11.5
-        color: Theme.text3
+        color: field.enabled ? Theme.text3 : Theme.text4
     }
 
     IconButton {

@@ -11,6 +11,8 @@ FocusScope {
     property alias placeholderText: field.placeholderText
     property alias corner: field.corner
     property alias role: field.role
+    property alias problem: field.problem
+    property alias lit: field.lit
     property alias ringed: field.ringed
     property alias leftPadding: field.leftPadding
     property alias rightPadding: field.rightPadding
@@ -23,7 +25,7 @@ FocusScope {
     implicitHeight: field.implicitHeight
     Accessible.role: Accessible.EditableText
     Accessible.name: name
-    Accessible.description: "Texte masqué"
+    Accessible.description: problem.length > 0 ? "Texte masqué. " + problem : "Texte masqué"
     Accessible.focusable: true
     Accessible.focused: field.activeFocus
 

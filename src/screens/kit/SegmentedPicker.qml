@@ -50,7 +50,7 @@ Rectangle {
                 background: Rectangle {
                     radius: segment.corner
                     color: segment.on ? (Theme.dark ? "#24FFFFFF" : Theme.card)
-                                      : segment.lit ? Theme.hoverFill : "transparent"
+                                      : segment.down ? Theme.highlightFill : segment.lit ? Theme.hoverFill : "transparent"
                     border.width: segment.on && !Theme.dark ? 1 / Screen.devicePixelRatio : 0
                     border.pixelAligned: false
                     border.color: Theme.ink(0.08)
@@ -60,7 +60,7 @@ Rectangle {
                     text: segment.text
                     role: TypeScale.Small
                     weight: Font.Medium
-                    color: segment.on ? Theme.text1 : Theme.text2
+                    color: !segment.enabled ? Theme.text4 : segment.on ? Theme.text1 : Theme.text2
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                     Accessible.ignored: true

@@ -35,8 +35,8 @@ FocusableItem {
 
         HoverFill {
             radius: row.corner
-            shown: row.lit && !row.selected
-            fill: Theme.hoverFill
+            shown: row.lit && (row.down || !row.selected)
+            fill: row.down ? Theme.openFill : Theme.hoverFill
         }
     }
 }

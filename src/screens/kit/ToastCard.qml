@@ -27,5 +27,11 @@ FocusableItem {
         radius: toast.corner
         color: Theme.glassStrong
         shadow: "bar"
+
+        HoverFill {
+            radius: toast.corner
+            shown: toast.lit
+            fill: toast.down ? Theme.openFill : Theme.hoverFill
+        }
     }
 }

@@ -16,7 +16,14 @@ FocusableItem {
 
     background: Rectangle {
         radius: control.corner
-        color: control.checked ? Theme.accent : Theme.ink(control.lit ? 0.22 : 0.16)
+        color: control.checked ? Theme.accent : Theme.ink(0.16)
+
+        PressShade {
+            radius: control.corner
+            accented: control.checked
+            hovered: control.lit
+            pressed: control.down
+        }
     }
 
     contentItem: Item {

@@ -6,6 +6,10 @@ import QtQuick
 QtObject {
     /// The desktop asks for less motion.
     property bool reduced: false
+    /// Shapes may be scaled. The renderer without graphics hardware draws round shapes in parts, and a scaled one shows
+    /// its seams; the composition root writes it.
+    property bool scales: true
+    readonly property bool shrinks: scales && !reduced
 
     // Durations in milliseconds
     /// Changes of state, group folding, filter bar, board moves, optimistic edits; with `Springs.even`.
@@ -23,11 +27,11 @@ QtObject {
     readonly property int toastOutDuration: reduced ? 0 : 610
     /// A pressed glass button shrinking to `pressScale`.
     readonly property int pressDuration: reduced ? 0 : 100
-    readonly property real pressScale: reduced ? 1 : 0.97
+    readonly property real pressScale: shrinks ? 0.97 : 1
     /// A popover coming in from `popoverScale`.
     readonly property int popoverDuration: 140
-    readonly property real popoverScale: reduced ? 1 : 0.97
-    readonly property real paletteScale: reduced ? 1 : 0.98
+    readonly property real popoverScale: shrinks ? 0.97 : 1
+    readonly property real paletteScale: shrinks ? 0.98 : 1
     /// Hover fills leaving (they appear at once), and every fade that stands for a move.
     readonly property int fadeDuration: 120
 

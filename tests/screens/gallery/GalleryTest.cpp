@@ -19,10 +19,10 @@ struct Page
     QSize size;
 };
 
-const Page pages[]{{u"icons"_s, {1150, 900}},
-                   {u"symbols"_s, {1270, 960}},
-                   {u"states"_s, {890, 1010}},
-                   {u"panels"_s, {930, 680}}};
+const Page pages[]{{u"icons"_s, {1150, 900}},    {u"symbols"_s, {1270, 960}},
+                   {u"states"_s, {930, 960}},    {u"fields"_s, {930, 960}},
+                   {u"controls"_s, {1270, 420}}, {u"panels"_s, {930, 680}},
+                   {u"overlays"_s, {870, 530}},  {u"sheets"_s, {620, 440}}};
 
 const QDir stored(QStringLiteral(VELMORA_PICTURES));
 
@@ -42,6 +42,20 @@ QString fileOf(const Page &page, bool dark)
         u"%1-%2@%3x.png"_s.arg(page.name, dark ? u"dark"_s : u"light"_s).arg(scale()));
 }
 
+/// Nothing that floats is on its way any more.
+bool isSettled(QQuickWindow &window)
+{
+    for (const auto *object : window.findChildren<QObject *>()) {
+        const bool isPopup = object->inherits("QQuickPopup");
+        if (isPopup && object->property("visible").toBool() && !object->property("opened").toBool())
+            return false;
+    }
+    const auto *overlay = window.property("_q_QQuickOverlay").value<QQuickItem *>();
+    const auto layers = overlay ? overlay->childItems() : QList<QQuickItem *>();
+    return std::all_of(layers.begin(), layers.end(),
+                       [](const auto *layer) { return layer->opacity() == 1; });
+}
+
 QImage drawn(const Page &page, bool dark)
 {
     Bench bench;
@@ -56,6 +70,8 @@ QImage drawn(const Page &page, bool dark)
             .arg(page.name));
     EXPECT_NE(shown, nullptr);
     bench.window().grabWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSettled(bench.window()); }))
+        << page.name.toStdString();
     const QImage picture = bench.window().grabWindow();
     EXPECT_EQ(bench.warnings(), "") << page.name.toStdString();
     return picture.convertToFormat(QImage::Format_RGB32);
@@ -121,7 +137,8 @@ std::string nameOf(const std::tuple<int, bool> &param)
 QList<QQuickItem *> controlsBelow(QQuickItem *item)
 {
     QList<QQuickItem *> controls;
-    if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextField"))
+    if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextField") ||
+        item->inherits("QQuickTextArea"))
         controls += item;
     for (auto *child : item->childItems())
         controls += controlsBelow(child);
@@ -178,7 +195,7 @@ class GalleryControls : public testing::TestWithParam<QString>
 };
 
 INSTANTIATE_TEST_SUITE_P(Pages, GalleryControls,
-                         testing::Values(u"states"_s, u"panels"_s, u"controls"_s),
+                         testing::Values(u"states"_s, u"fields"_s, u"panels"_s, u"controls"_s),
                          [](const auto &info) { return info.param.toStdString(); });
 
 TEST_P(GalleryControls, AllHaveANameAndARole)
@@ -200,8 +217,9 @@ class ReachableControls : public testing::TestWithParam<QString>
 {
 };
 
-// Not the page of controls: the menu that is open there keeps the keyboard to itself.
-INSTANTIATE_TEST_SUITE_P(Pages, ReachableControls, testing::Values(u"states"_s, u"panels"_s),
+// Not the pages of what floats: what is open there keeps the keyboard to itself.
+INSTANTIATE_TEST_SUITE_P(Pages, ReachableControls,
+                         testing::Values(u"states"_s, u"fields"_s, u"panels"_s, u"controls"_s),
                          [](const auto &info) { return info.param.toStdString(); });
 
 TEST_P(ReachableControls, AreReachedByTabUnlessTheyAreDisabled)

@@ -18,6 +18,7 @@ Item {
         width: label.leading ? label.leading.implicitWidth : 0
         height: parent.height
         content: label.leading
+        opacity: label.enabled ? 1 : 0.45
     }
 
     AppText {

@@ -19,7 +19,7 @@ Item {
         name: "chevron.right"
         size: 9
         weight: "bold"
-        color: Theme.text2
+        color: label.enabled ? Theme.text2 : Theme.text4
         rotation: label.expanded ? 90 : 0
 
         Behavior on rotation {

@@ -10,16 +10,16 @@ T.ToolTip {
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + 6 : 0
     margins: 6
-    leftPadding: 10
-    rightPadding: 10
+    leftPadding: 9
+    rightPadding: 9
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Metrics.tooltipHeight
-    delay: HintWarmth.warm ? 0 : Motion.tooltipDelay
     onAboutToHide: HintWarmth.restart()
 
-    function showAt(owner: Item, words: string) {
+    function showAt(owner: Item, words: string, wait: int) {
         parent = owner
         text = words
+        delay = wait
         open()
     }
 
@@ -27,6 +27,7 @@ T.ToolTip {
         text: tip.text
         role: TypeScale.Badge
         weight: Font.Normal
+        verticalAlignment: Text.AlignVCenter
         Accessible.role: Accessible.ToolTip
     }
 

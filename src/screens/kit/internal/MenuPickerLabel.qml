@@ -29,6 +29,6 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: "shell.popup"
         size: 10
-        color: Theme.text2
+        color: label.enabled ? Theme.text2 : Theme.text4
     }
 }

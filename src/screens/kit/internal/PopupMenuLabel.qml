@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What a row of a menu shows. `mark` is the symbol at its end, a tick or an arrow.
+/// What a row of a menu shows. `hasMarkRoom` keeps the place of a tick before everything else.
 Item {
     id: label
 
@@ -10,15 +10,29 @@ Item {
     required property string symbol
     required property Item leading
     required property string shortcut
-    required property string mark
+    required property bool hasMarkRoom
+    required property bool isMarked
+    required property bool opensMenu
     required property color ink
     required property color quietInk
     readonly property bool hasLeading: symbol.length > 0 || leading !== null
+    readonly property real start: hasMarkRoom ? 21 : 0
 
     implicitWidth: title.x + title.implicitWidth + (tail.width > 0 ? tail.width + 16 : 0)
     implicitHeight: title.implicitHeight
 
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 12
+        visible: label.isMarked
+        name: "checkmark"
+        size: 9.5
+        weight: "medium"
+        color: label.ink
+    }
+
     ItemSlot {
+        x: label.start
         width: 16
         height: parent.height
         content: label.leading
@@ -35,7 +49,7 @@ Item {
     AppText {
         id: title
 
-        x: label.hasLeading ? 25 : 0
+        x: label.start + (label.hasLeading ? 25 : 0)
         width: parent.width - x - tail.width
         anchors.verticalCenter: parent.verticalCenter
         text: label.text
@@ -60,11 +74,11 @@ Item {
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            visible: label.mark.length > 0
-            name: label.mark
-            size: name === "checkmark" ? 10 : 8
+            visible: label.opensMenu
+            name: "chevron.right"
+            size: 8
             weight: "bold"
-            color: label.ink
+            color: label.quietInk
         }
     }
 }

@@ -1,0 +1,28 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// The head of a table of states.
+Row {
+    id: names
+
+    property real cell: 150
+
+    leftPadding: 130
+    height: 24
+
+    Repeater {
+        model: ["repos", "survol", "pressé", "clavier", "inactif"]
+
+        AppText {
+            required property string modelData
+
+            width: names.cell
+            text: modelData
+            role: TypeScale.Caption
+            weight: Font.DemiBold
+            color: Theme.text3
+        }
+    }
+}

@@ -1,0 +1,57 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Theme
+import Velmora.Kit
+
+/// The text of an `InputArea`, with its caret and its placeholder.
+T.TextArea {
+    id: editor
+
+    required property string name
+    required property string problem
+    property int role: TypeScale.Body
+    /// With the room round it.
+    readonly property real wholeHeight: contentHeight + topPadding + bottomPadding
+
+    leftPadding: 9
+    rightPadding: 9
+    topPadding: 6
+    bottomPadding: 6
+    wrapMode: TextEdit.Wrap
+    textFormat: TextEdit.PlainText
+    font: TypeScale.font(role)
+    color: enabled ? Theme.text1 : Theme.text4
+    placeholderTextColor: enabled ? Theme.text3 : Theme.text4
+    selectionColor: Theme.textSelection
+    selectedTextColor: Theme.text1
+    selectByMouse: true
+    hoverEnabled: true
+    focus: true
+    Keys.onTabPressed: leave(true)
+    Keys.onBacktabPressed: leave(false)
+    Accessible.role: Accessible.EditableText
+    Accessible.multiLine: true
+    Accessible.name: name
+    Accessible.description: problem
+
+    function leave(forwards: bool) {
+        nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
+    cursorDelegate: TextCaret {
+        shown: editor.activeFocus && editor.selectionStart === editor.selectionEnd
+    }
+
+    AppText {
+        x: editor.leftPadding
+        y: editor.topPadding - leading
+        width: editor.width - editor.leftPadding - editor.rightPadding
+        visible: editor.length === 0 && editor.preeditText.length === 0
+        text: editor.placeholderText
+        wrapMode: Text.Wrap
+        role: editor.role
+        color: editor.placeholderTextColor
+        Accessible.ignored: true
+    }
+}
