@@ -1,9 +1,12 @@
 #include "screens/theme/TypeScale.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 
 #include <array>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -77,9 +80,15 @@ QFont makeFont(TypeScale::Role role, int weight, bool tabular)
 
 } // namespace
 
+// Each text of a screen asks for its font, and few differ.
 QFont TypeScale::font(Role role, int weight, bool tabular) const
 {
-    return makeFont(role, weight, tabular);
+    static std::map<std::tuple<int, int, bool>, QFont> fonts;
+    const std::tuple key{static_cast<int>(role), weight, tabular};
+    const auto known = fonts.find(key);
+    if (known != fonts.end())
+        return known->second;
+    return fonts.emplace(key, makeFont(role, weight, tabular)).first->second;
 }
 
 qreal TypeScale::lineHeight(Role role) const
@@ -89,8 +98,13 @@ qreal TypeScale::lineHeight(Role role) const
 
 qreal TypeScale::halfLeading(Role role) const
 {
+    static QHash<int, qreal> leadings;
+    const auto known = leadings.constFind(role);
+    if (known != leadings.cend())
+        return *known;
     // Qt Quick gives a line the whole number of pixels above its font's height.
-    return (styles[role].line - std::ceil(QFontMetricsF(fontOf(role)).height())) / 2;
+    const qreal height = std::ceil(QFontMetricsF(fontOf(role)).height());
+    return *leadings.insert(role, (styles[role].line - height) / 2);
 }
 
 QFont TypeScale::fontOf(Role role)
