@@ -292,3 +292,20 @@ TEST_F(Palette, InALowWindowItEndsAboveTheWindowsEdge)
         return find(QAccessible::Dialog, u"Palette de commandes"_s).box.bottom() < 580 - 8;
     })) << find(QAccessible::Dialog, u"Palette de commandes"_s).box.bottom();
 }
+
+TEST_F(Palette, AfterAJumpToAnotherListTheKeysAreTheListsAgain)
+{
+    service->issuesCalls.hold();
+    press(Qt::Key_K, Qt::ControlModifier);
+    type(u"créés"_s);
+    ASSERT_TRUE(offers({u"Créés par moi"_s})) << options().join(u", ").toStdString();
+    press(Qt::Key_Return);
+    ASSERT_EQ(store().scope(), IssueScope::reported());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rowsShown().isEmpty(); }));
+    service->issuesCalls.last().finish({issueWithKey(u"MOB-1"_s), issueWithKey(u"MOB-2"_s)});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rowsShown().size() == 2; }));
+
+    EXPECT_TRUE(find(QAccessible::List, u"Créés par moi"_s).state.focused);
+    press(Qt::Key_Down);
+    EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
+}

@@ -29,7 +29,7 @@ Rectangle {
     Accessible.name: root.title
     Accessible.description: root.subtitle
     Accessible.focusable: true
-    Accessible.focused: root.isHighlighted
+    Accessible.focused: root.isHighlighted && root.visible
     Accessible.selectable: true
     Accessible.selected: root.isSelected
     Accessible.onPressAction: root.picked()

@@ -45,8 +45,11 @@ void PaletteFocus::end()
 {
     m_isHolding = false;
     m_window->removeEventFilter(this);
-    const auto left = std::ranges::find_if(m_before, [](const QPointer<QQuickItem> &item) {
-        return item && item->isVisible() && item->isEnabled();
+    // What the palette did may have taken the holder away: it is out of the window before it is gone. Then a scope round
+    // it gives the focus to what comes in its place.
+    const auto left = std::ranges::find_if(m_before, [&](const QPointer<QQuickItem> &item) {
+        return item && item->window() == m_window && item->isVisible() && item->isEnabled() &&
+               (item == m_before.constFirst() || item->isFocusScope());
     });
     if (left != m_before.end())
         (*left)->forceActiveFocus(Qt::PopupFocusReason);
