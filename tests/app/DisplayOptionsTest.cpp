@@ -80,6 +80,21 @@ TEST_F(DisplayOptionsPopover, FinishedIssuesAreSwitchedByKeyboard)
     EXPECT_TRUE(isGone(QAccessible::Dialog, {}));
 }
 
+TEST_F(DisplayOptionsPopover, OpenedByKeyboardItBeginsAtItsFirstChoice)
+{
+    const auto isAt = [&](const QString &name) {
+        const auto found = spokenIn(window(), QAccessible::Button, name);
+        return !found.isEmpty() && found.first().state.focused;
+    };
+    for (int i = 0; i < 30 && !isAt(u"Affichage"_s); ++i)
+        press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(u"Regrouper par"_s); }));
+
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(u"Affichage"_s); }));
+}
+
 TEST_F(DisplayOptionsPopover, ASecondPressOnTheButtonClosesIt)
 {
     openPopover();

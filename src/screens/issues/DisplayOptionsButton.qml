@@ -30,12 +30,18 @@ ToolbarCell {
 
             Popover {
                 id: popover
+
+                property bool isByKeys: false
+
                 name: "Options d'affichage"
                 alignment: PopoverPlacement.Trailing
+                onAboutToShow: isByKeys = root.visualFocus
+                onActiveFocusChanged: if (activeFocus && isByKeys) view.focusFirst()
                 onClosed: root.isOpen = false
                 Component.onCompleted: open()
 
                 DisplayOptionsView {
+                    id: view
                     width: popover.width
                     store: root.store
                 }

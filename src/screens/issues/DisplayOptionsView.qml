@@ -13,6 +13,12 @@ Item {
 
     required property AppStore store
 
+    // For those who came by keyboard.
+    function focusFirst() {
+        const first = grouping.enabled ? grouping : ordering;
+        first.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitHeight: lines.implicitHeight + 2 * 12
 
     DisplayOptions {
@@ -32,6 +38,7 @@ Item {
             text: "Regrouper par"
 
             MenuPicker {
+                id: grouping
                 name: "Regrouper par"
                 enabled: root.store.layout === Model.LayoutMode.List
                 choices: ["Statut", "Assigné", "Priorité", "Projet", "Aucun"]
@@ -46,6 +53,7 @@ Item {
             text: "Trier par"
 
             MenuPicker {
+                id: ordering
                 name: "Trier par"
                 choices: ["Priorité", "Mise à jour", "Création", "Numéro", "Ordre Jira"]
                 current: root.store.ordering
