@@ -49,7 +49,11 @@ Window {
             store: root.store
             memory: root.memory
             onDetailCentreChanged: root.detailCentre = detailCentre
-            Component.onCompleted: root.detailCentre = detailCentre
+            // The first screen goes with the keyboard's focus in one of its fields.
+            Component.onCompleted: {
+                root.detailCentre = detailCentre;
+                forceActiveFocus();
+            }
             Component.onDestruction: root.detailCentre = Qt.binding(() => root.width / 2)
         }
     }

@@ -95,6 +95,21 @@ TEST_F(Onboarding, TypingSiteEmailAndTokenAndReturnSignsIn)
     EXPECT_FALSE(store().isDemo());
 }
 
+TEST_F(Onboarding, AfterTheSignInTheKeyboardBelongsToTheListAlsoAfterThePalette)
+{
+    openSignedOut();
+    serve({u"MOB-1"_s, u"MOB-2"_s});
+    fill(u"exemple"_s, u"noam@exemple.fr"_s, u"jeton"_s);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rowsShown().size() == 2; }));
+    EXPECT_TRUE(find(QAccessible::List, u"Mes tickets"_s).state.focused);
+
+    press(Qt::Key_K, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    press(Qt::Key_2);
+    EXPECT_EQ(store().layout(), LayoutMode::Board);
+}
+
 TEST_F(Onboarding, AnEmptyEmailWithSiteAndTokenSignsIn)
 {
     openSignedOut();

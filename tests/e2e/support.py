@@ -135,13 +135,14 @@ def faults(result):
 
 class WindowCase(unittest.TestCase):
     """A test with a desktop of its own. It fails too if the program has written anything; what it saw is kept then."""
+    screen = SCREEN
 
     def run(self, result=None):
         self._result, self._faults_before = result, faults(result)
         return super().run(result)
 
     def setUp(self):
-        self.session = Session(size=SCREEN, renderer=RUN.renderer)
+        self.session = Session(size=self.screen, renderer=RUN.renderer)
         self.addCleanup(self.session.stop)
         self.programs = []
 

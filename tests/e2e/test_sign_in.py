@@ -3,57 +3,16 @@ import os
 import re
 
 from driver import wait_until
-from support import ISSUE, RUN, WindowCase
+from site_case import SiteCase
+from support import ISSUE
 
 
-class Simulator:
-    """A made-up Jira site, running."""
-
-    def __init__(self, session):
-        build = os.path.dirname(os.path.dirname(os.path.dirname(RUN.program)))
-        self._app = session.launch([os.path.join(build, "tests", "simulator", "simulator")], name="simulator")
-        self._app.wait_log("Ctrl\\+C")
-        said = self._app.log()
-        self.address = re.search(r"\b300 issues\s+(\S+)", said).group(1)
-        self.email = re.search(r"E-mail\s+(\S+)", said).group(1)
-        self.token = re.search(r"Token\s+(\S+)", said).group(1)
-
-    def cut(self):
-        self._app.stop()
-
-
-class SignIn(WindowCase):
-    def setUp(self):
-        super().setUp()
-        self.session.start_keyring()
-        self.site = Simulator(self.session)
-        self.addCleanup(self.site.cut)
-
-    # what a person does
-    def open_card(self):
-        velmora = self.open()
-        velmora.app.find(role="push button", name="^Se connecter$", timeout=15)
-        return velmora
-
-    def fill(self, site, email, token):
-        """The fields from the first to the last; the first one has the focus."""
-        for number, text in enumerate((site, email, token)):
-            if number:
-                self.session.key("Tab")
-            self.session.type(text)
-
-    def sign_in(self, velmora, email, token=None, site=None):
-        self.fill(site or self.site.address, email, token or self.site.token)
-        self.session.key("Return")
-
+class SignIn(SiteCase):
     def sign_out(self, velmora):
         velmora.app.find(role="push button", name="^Espace ").click()
         velmora.app.find(role="menu item", name="^Se déconnecter$").click()
 
     # what a person sees
-    def wait_issues(self, velmora):
-        velmora.app.find(role="list item", name=ISSUE.pattern, timeout=15)
-
     def wait_sentence(self, velmora, sentence):
         velmora.app.find(name=re.escape(sentence), timeout=15)
         self.assertEqual(velmora.app.all(role="list item", name=ISSUE.pattern), [])

@@ -53,6 +53,9 @@ void PaletteFocus::end()
     });
     if (left != m_before.end())
         (*left)->forceActiveFocus(Qt::PopupFocusReason);
+    // Whatever is typed from now on is not for the palette.
+    if (m_field->hasActiveFocus())
+        m_field->setFocus(false);
     m_before.clear();
 }
 
