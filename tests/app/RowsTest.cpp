@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/issues/RowLine.h"
 
 #include <QQuickItem>
 #include <QTest>
@@ -46,13 +47,27 @@ protected:
         }
         return found;
     }
-    /// The QML item of a row's due badge.
-    QQuickItem *dueBadge(const QString &key)
+    /// The row whose due date reads like that.
+    RowLine *rowDue(const QString &text)
     {
-        return itemIn(window().contentItem(), [&](QQuickItem *item) {
-            return QByteArray(item->metaObject()->className()).startsWith("DueBadge") &&
-                   item->isVisible() && item->property("text").toString() == key;
+        auto *seen = itemIn(window().contentItem(), [&](QQuickItem *item) {
+            return item->inherits("QQuickText") && item->isVisible() &&
+                   item->property("text").toString() == text;
         });
+        return seen ? qobject_cast<RowLine *>(seen->parentItem()) : nullptr;
+    }
+    RowLine *anyRow()
+    {
+        return qobject_cast<RowLine *>(itemIn(window().contentItem(), [](QQuickItem *item) {
+            return qobject_cast<RowLine *>(item) && item->isVisible();
+        }));
+    }
+    bool showsParent()
+    {
+        return itemIn(window().contentItem(), [](QQuickItem *item) {
+                   return QByteArray(item->metaObject()->className()).startsWith("RowParent") &&
+                          item->isVisible();
+               }) != nullptr;
     }
     template <typename Test>
     static QQuickItem *itemIn(QQuickItem *root, Test test)
@@ -113,7 +128,7 @@ TEST_F(Rows, AnIssueDueYesterdayIsLateUnlessItIsClosed)
         return color.hsvSaturation() > 60 && (color.hue() < 20 || color.hue() > 340);
     };
 
-    EXPECT_NE(dueBadge(u"Hier"_s), nullptr);
+    EXPECT_NE(rowDue(u"Hier"_s), nullptr);
     EXPECT_TRUE(redIn(u"MOB-1"_s));
     EXPECT_FALSE(redIn(u"MOB-2"_s));
 }
@@ -123,9 +138,9 @@ TEST_F(Rows, AnIssueDueTodayIsNotLate)
     const QDate day = UserCalendar::system().day(ManualClock().now());
     openWith({due(u"MOB-1"_s, u"À faire"_s, day)});
 
-    const auto *badge = dueBadge(u"Aujourd'hui"_s);
-    ASSERT_NE(badge, nullptr);
-    EXPECT_FALSE(badge->property("late").toBool());
+    const auto *row = rowDue(u"Aujourd'hui"_s);
+    ASSERT_NE(row, nullptr);
+    EXPECT_FALSE(row->property("isOverdue").toBool());
 }
 
 TEST_F(Rows, ANarrowWindowDropsParentThenLabelNamesThenTheDueText)
@@ -137,31 +152,24 @@ TEST_F(Rows, ANarrowWindowDropsParentThenLabelNamesThenTheDueText)
     issue.parent->summary = u"Refonte de la page"_s;
     openWith({issue});
     window().setMinimumSize({0, 0});
-    const auto shows = [&](const char *kind, const QString &property, const QVariant &value) {
-        return itemIn(window().contentItem(), [&](QQuickItem *item) {
-                   return QByteArray(item->metaObject()->className()).startsWith(kind) &&
-                          item->isVisible() &&
-                          item->property(property.toLatin1().constData()) == value;
-               }) != nullptr;
-    };
     const auto at = [&](int width) {
         window().resize(width, 840);
         settle();
     };
 
     at(1320);
-    EXPECT_TRUE(shows("RowSummary", u"showsParent"_s, true));
-    EXPECT_TRUE(shows("RowLabels", u"showsNames"_s, true));
-    EXPECT_TRUE(shows("DueBadge", u"compact"_s, false));
+    EXPECT_TRUE(showsParent());
+    EXPECT_TRUE(anyRow()->plan().showsLabelNames);
+    EXPECT_NE(rowDue(u"24 déc."_s), nullptr);
     at(1040);
-    EXPECT_TRUE(shows("RowSummary", u"showsParent"_s, false));
-    EXPECT_TRUE(shows("RowLabels", u"showsNames"_s, true));
+    EXPECT_FALSE(showsParent());
+    EXPECT_TRUE(anyRow()->plan().showsLabelNames);
     at(860);
-    EXPECT_TRUE(shows("RowLabels", u"showsNames"_s, false));
-    EXPECT_TRUE(shows("DueBadge", u"compact"_s, false));
+    EXPECT_FALSE(anyRow()->plan().showsLabelNames);
+    EXPECT_NE(rowDue(u"24 déc."_s), nullptr);
     at(530);
-    EXPECT_TRUE(shows("DueBadge", u"compact"_s, true));
-    EXPECT_TRUE(shows("RowLabels", u"dotCount"_s, 4)) << "at most four dots";
+    EXPECT_FALSE(anyRow()->plan().showsDueText);
+    EXPECT_EQ(rowDue(u"24 déc."_s), nullptr);
 }
 
 TEST_F(Rows, ACompactListHasLowerRowsAndHeaders)

@@ -32,9 +32,25 @@ FocusScope {
         CreateScreen.open(store, header.hasProject ? header.projectOrEmpty.key : "");
     }
 
+    // The row under the pointer.
+    property IssueRow hotRow: null
+
     KeyColumn {
         id: keyColumn
         store: root.store
+    }
+
+    RowStyle {
+        id: rowStyle
+        display: root.store.display
+        keyWidth: keyColumn.width
+        ink: Theme.text1
+        faint: Theme.neutral
+        quiet: Theme.text2
+        done: Theme.done
+        outline: Theme.chipOutline
+        late: Theme.redText
+        lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
     }
 
     ListView {
@@ -86,9 +102,9 @@ FocusScope {
                     id: row
                     width: list.width
                     height: root.rowHeight
-                    display: root.store.display
-                    keyWidth: keyColumn.width
+                    style: rowStyle
                     isSelecting: root.store.isSelecting
+                    onIsHoveredChanged: if (isHovered) root.hotRow = row
                     onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
@@ -101,6 +117,10 @@ FocusScope {
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {}
+    }
+
+    RowHover {
+        row: root.hotRow
     }
 
     // The header of the rows at the top, pushed away by the next one.

@@ -5,6 +5,8 @@ import Velmora.Theme
 RowCell {
     id: root
 
+    property string hint
+
     Rectangle {
         anchors.fill: parent
         visible: pointer.hovered

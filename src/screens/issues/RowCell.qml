@@ -5,9 +5,9 @@ import Velmora.Theme
 Item {
     id: root
 
-    required property int kind
-    required property string hint
     required property string spoken
+    // Of the picker (`PropertyOptions.Kind`).
+    property int kind: -1
 
     signal pressed()
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/issues/RowSpot.h"
+
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -40,4 +42,6 @@ public:
     Q_INVOKABLE static double labelsWidth(const QStringList &labels);
     /// How wide the badge of a due date with this text is.
     Q_INVOKABLE static double dueWidth(const QString &text);
+    /// What is under no pointer.
+    Q_INVOKABLE static RowSpot noSpot() { return {}; }
 };

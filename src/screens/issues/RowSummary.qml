@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
@@ -8,45 +11,31 @@ Item {
 
     required property string summary
     required property string parentSummary
+    property alias font: title.font
+    property alias leading: title.leading
+    property alias color: title.color
 
+    property real parentWidth: 0
     readonly property bool showsParent: parentSummary !== ""
-        && title.implicitWidth + Metrics.gapSmall + parentGroup.implicitWidth <= width
+        && title.implicitWidth + Metrics.gapSmall + parentWidth <= width
 
     implicitHeight: title.implicitHeight
 
-    AppText {
+    RowText {
         id: title
-        anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, root.width)
-        role: TypeScale.Body
-        weight: Font.Medium
         text: root.summary
-        Accessible.ignored: true
-        elide: Text.ElideRight
     }
 
-    Row {
-        id: parentGroup
-        visible: root.showsParent
-        anchors.left: title.right
-        anchors.leftMargin: Metrics.gapSmall
-        anchors.verticalCenter: parent.verticalCenter
-        spacing: 3
+    When {
+        shown: root.parentSummary !== ""
 
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            name: "chevron.right"
-            size: 8
-            weight: "bold"
-            color: Theme.text3
-        }
-
-        AppText {
-            anchors.verticalCenter: parent.verticalCenter
-            role: TypeScale.Small
-            color: Theme.text3
-            text: root.parentSummary
-            Accessible.ignored: true
+        RowParent {
+            x: title.width + Metrics.gapSmall
+            anchors.verticalCenter: parent?.verticalCenter
+            visible: root.showsParent
+            summary: root.parentSummary
+            onImplicitWidthChanged: root.parentWidth = implicitWidth
         }
     }
 }

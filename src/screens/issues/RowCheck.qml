@@ -1,0 +1,34 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Issues
+import Velmora.Kit
+
+// The check box of a row, in a target of 22. It can be clicked before it is seen, and exists only while it is.
+RowCell {
+    id: root
+
+    required property bool isChecked
+    required property bool isShown
+
+    property bool isDrawn: false
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: root.isChecked
+    Accessible.onToggleAction: root.pressed()
+
+    onIsShownChanged: if (isShown) isDrawn = true
+
+    When {
+        shown: root.isDrawn
+
+        RowCheckMark {
+            x: 4
+            y: 4
+            isChecked: root.isChecked
+            isShown: root.isShown
+            onGone: root.isDrawn = false
+        }
+    }
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+// The summary of an issue's parent, beside its own.
+Row {
+    id: root
+
+    required property string summary
+
+    spacing: 3
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron.right"
+        size: 8
+        weight: "bold"
+        color: Theme.text3
+    }
+
+    AppText {
+        anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
+        color: Theme.text3
+        text: root.summary
+        Accessible.ignored: true
+    }
+}
