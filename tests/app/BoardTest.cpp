@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
 
+#include <QQuickItem>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,26 @@ protected:
         }
         service->issuesCalls.answerWith(issues);
         reload();
+    }
+    /// The outline of a card, at the middle of its left side.
+    QColor outline(const QString &key)
+    {
+        const auto box = await(QAccessible::ListItem, key + u',').box;
+        return window().grabWindow().pixelColor(box.left(), box.center().y());
+    }
+    /// The visible items of a kind whose property has a value.
+    QList<QQuickItem *> itemsWith(const char *kind, const char *property, const QString &value)
+    {
+        QList<QQuickItem *> found;
+        QList<QQuickItem *> left{window().contentItem()};
+        while (!left.isEmpty()) {
+            auto *item = left.takeFirst();
+            left += item->childItems();
+            if (item->isVisible() && item->property(property).toString() == value &&
+                QByteArray(item->metaObject()->className()).startsWith(kind))
+                found += item;
+        }
+        return found;
     }
     bool isInView(const QString &key)
     {
@@ -171,4 +192,38 @@ TEST_F(Board, TheFocusedCardStaysInViewWhenTheInspectorTakesRoomFromTheBoard)
         const auto card = spokenIn(window(), QAccessible::ListItem, u"MOB-3,"_s);
         return !card.isEmpty() && card.first().box.right() < 816 && card.first().box.left() > 244;
     }));
+}
+
+TEST_F(Board, AFocusedCardThatIsAlsoCheckedHasTheStrongerOutline)
+{
+    store().setChecked({u"MOB-1"_s, u"MOB-2"_s});
+    store().setFocusedKey(u"MOB-1"_s);
+    settle();
+    const QColor both = outline(u"MOB-1"_s);
+    EXPECT_EQ(both, outline(u"MOB-2"_s));
+
+    store().setFocusedKey(u"MOB-3"_s);
+    settle();
+    EXPECT_GT(both.hsvSaturation(), outline(u"MOB-3"_s).hsvSaturation() + 30);
+}
+
+TEST_F(Board, WithoutADueDateThereIsNoBadgeAndTheLabelsStandInItsPlace)
+{
+    Issue due = issueWithKey(u"MOB-1"_s);
+    due.dueDate = QDate(2026, 12, 24);
+    due.labels = {u"avec"_s};
+    Issue free = issueWithKey(u"MOB-2"_s);
+    free.labels = {u"sans"_s};
+    serveIssues({due, free});
+    reload();
+    settle();
+
+    const auto badges = itemsWith("DueBadge", "text", u"24 déc."_s);
+    const auto with = itemsWith("LabelChip", "name", u"avec"_s);
+    const auto without = itemsWith("LabelChip", "name", u"sans"_s);
+    ASSERT_EQ(badges.size(), 1);
+    ASSERT_EQ(with.size(), 1);
+    ASSERT_EQ(without.size(), 1);
+    EXPECT_EQ(without.first()->x(), badges.first()->x());
+    EXPECT_GT(with.first()->x(), badges.first()->x() + badges.first()->width());
 }

@@ -67,6 +67,17 @@ TEST_F(Content, EmptyAfterASearchOffersToClearIt)
     EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown() == QStringList{u"MOB-1"_s}; }));
 }
 
+TEST_F(Content, EmptyAfterASearchSaysSoEvenInARecap)
+{
+    serve({u"MOB-1"_s});
+    openOnDemo();
+    store().select(IssueScope::activity({ActivityRange::Week, 0, false}));
+    store().setFilterText(u"introuvable"_s);
+
+    find(QAccessible::StaticText, u"Aucun ticket ne correspond"_s);
+    EXPECT_TRUE(spokenIn(window(), QAccessible::StaticText, u"Aucune activité"_s).isEmpty());
+}
+
 TEST_F(Content, AnEmptyRecapOffersThePeriodBefore)
 {
     serve({});

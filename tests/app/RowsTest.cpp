@@ -133,6 +133,24 @@ TEST_F(Rows, AnIssueDueYesterdayIsLateUnlessItIsClosed)
     EXPECT_FALSE(redIn(u"MOB-2"_s));
 }
 
+TEST_F(Rows, InARecapAnIssueWithoutAnEventShowsItsRelativeDateInTheColumnOf54)
+{
+    serveIssues({issueWithKey(u"MOB-1"_s)});
+    openOnDemo();
+    store().select(IssueScope::activity({ActivityRange::Week, 0, false}));
+    const auto box = row(u"MOB-1"_s);
+    const auto *text = itemIn(window().contentItem(), [&](QQuickItem *item) {
+        return item->isVisible() && item->inherits("QQuickText") &&
+               item->property("text").toString() == u"1 j"_s;
+    });
+    ASSERT_TRUE(text);
+
+    const auto *column = text->parentItem();
+    EXPECT_EQ(column->width(), 54);
+    EXPECT_EQ(column->mapRectToScene(column->boundingRect()).right(), box.right() + 1 - 12);
+    EXPECT_EQ(text->mapRectToScene(text->boundingRect()).right(), box.right() + 1 - 12);
+}
+
 TEST_F(Rows, AnIssueDueTodayIsNotLate)
 {
     const QDate day = UserCalendar::system().day(ManualClock().now());
