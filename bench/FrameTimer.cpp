@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+#include <optional>
+
 using namespace std::chrono_literals;
 
 FrameTimer::FrameTimer(QQuickWindow &window)
@@ -58,29 +60,40 @@ qint64 FrameTimer::answer(const std::function<void()> &act)
     return end - start;
 }
 
-std::vector<qint64> FrameTimer::scroll(int notches)
+std::vector<qint64> FrameTimer::scroll(int steps)
 {
     settle();
     QEventLoop loop;
-    std::vector<qint64> instants;
-    QObject::connect(&m_watch, &FrameWatch::swapped, &loop,
-                     [&instants](qint64 instant) { instants.push_back(instant); });
+    std::vector<qint64> times;
+    std::optional<qint64> begun;
+    QObject::connect(&m_watch, &FrameWatch::swapped, &loop, [&](qint64 instant) {
+        if (begun)
+            times.push_back(instant - *std::exchange(begun, std::nullopt));
+    });
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
-    const QPointF middle(m_window.width() * 0.6, m_window.height() * 0.5);
     const auto turn = [&] {
-        QWheelEvent notch(middle, m_window.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        notch.setTimestamp(quint64(monotonicNow() / 1'000'000));
-        QCoreApplication::sendEvent(&m_window, &notch);
-        if (--notches == 0)
-            loop.quit();
+        if (--steps < 0)
+            return loop.quit();
+        begun = monotonicNow();
+        scrollBy(PixelsPerStep, Qt::ScrollUpdate);
     };
+    scrollBy(0, Qt::ScrollBegin);
     QObject::connect(&timer, &QTimer::timeout, &loop, turn);
     timer.start(16ms);
     loop.exec();
-    std::vector<qint64> gaps;
-    for (std::size_t i = 1; i < instants.size(); ++i)
-        gaps.push_back(instants[i] - instants[i - 1]);
-    return gaps;
+    scrollBy(0, Qt::ScrollEnd);
+    return times;
+}
+
+// As a touchpad does it: each notch of a wheel would begin a glide anew, and how many of those are seen before the next
+// one hangs on chance.
+void FrameTimer::scrollBy(int pixels, Qt::ScrollPhase phase)
+{
+    const QPointF middle(m_window.width() * 0.6, m_window.height() * 0.5);
+    QWheelEvent event(middle, m_window.mapToGlobal(middle), {0, -pixels}, {0, -pixels},
+                      Qt::NoButton, Qt::NoModifier, phase, false,
+                      Qt::MouseEventSynthesizedBySystem);
+    event.setTimestamp(quint64(monotonicNow() / 1'000'000));
+    QCoreApplication::sendEvent(&m_window, &event);
 }

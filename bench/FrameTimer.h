@@ -9,6 +9,9 @@
 class FrameTimer
 {
 public:
+    /// About a row and a half of a list: 3,600 pixels in a second.
+    static constexpr int PixelsPerStep = 60;
+
     explicit FrameTimer(QQuickWindow &window);
 
     const QString &renderer() const { return m_watch.renderer(); }
@@ -19,10 +22,13 @@ public:
     qint64 press(Qt::Key key, const QString &text);
     /// The same from any act that changes what the window shows.
     qint64 answer(const std::function<void()> &act);
-    /// Turns the wheel downwards by one notch each sixtieth of a second. Gives the nanoseconds between the frames.
-    std::vector<qint64> scroll(int notches);
+    /// Scrolls down by `PixelsPerStep` each sixtieth of a second. Gives the nanoseconds from each step to the swap of the
+    /// next frame, without the steps that no frame had shown when the next step came: those were dropped.
+    std::vector<qint64> scroll(int steps);
 
 private:
+    void scrollBy(int pixels, Qt::ScrollPhase phase);
+
     QQuickWindow &m_window;
     /// The next frame to take over the items' state is the answer to the last event.
     bool m_isArmed = false;

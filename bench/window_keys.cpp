@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Notches = 180;
+constexpr int Steps = 180;
 /// How often what redraws the whole window is done.
 constexpr int Turns = 40;
 
@@ -205,7 +205,7 @@ void measureList(FrameTable &table, int count)
     itemOf(window.contentItem(), "QQuickTextInput")->forceActiveFocus();
     table.add(size + u"a letter in the search"_s, keystrokes(timer, presses()));
     if (count > 1000)
-        table.add(size + u"between frames of a scroll"_s, timer.scroll(Notches));
+        table.add(size + u"a step of a scroll"_s, timer.scroll(Steps));
 }
 
 /// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change.

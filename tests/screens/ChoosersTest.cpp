@@ -35,7 +35,10 @@ TEST(MenuPicker, SaysWhatItChoosesAndWhatIsChosen)
     auto *picker = bench.show(menuPicker);
     ASSERT_NE(picker, nullptr) << bench.warnings();
     EXPECT_EQ(accessible(picker)->text(QAccessible::Name), u"Regrouper par"_s);
-    EXPECT_EQ(accessible(picker)->text(QAccessible::Description), u"Assigné"_s);
+    const auto description = [&] { return accessible(picker)->text(QAccessible::Description); };
+    EXPECT_EQ(description(), u"Assigné, ouvre un menu"_s);
+    QTest::keyClick(&bench.window(), Qt::Key_Space);
+    EXPECT_EQ(description(), u"Assigné, menu ouvert"_s);
     EXPECT_DOUBLE_EQ(picker->implicitHeight(), 26);
     EXPECT_EQ(bench.warnings(), "");
 }
@@ -233,4 +236,57 @@ TEST(ProgressBar, IsNamedAndFilledByItsShare)
     EXPECT_DOUBLE_EQ(filled->width(), 4) << "its ends stay round";
     EXPECT_EQ(accessible(bar)->role(), QAccessible::ProgressBar);
     EXPECT_EQ(accessible(bar)->text(QAccessible::Description), u"0 %"_s);
+}
+
+TEST(SegmentedPicker, IsAGroupOfRadioButtonsOfWhichOneIsChecked)
+{
+    Bench bench;
+    auto *picker =
+        bench.show(u"SegmentedPicker { name: 'Vue'; choices: ['Liste', 'Tableau']; current: 1 }"_s);
+    ASSERT_NE(picker, nullptr) << bench.warnings();
+    auto *group = accessible(picker);
+    EXPECT_EQ(group->role(), QAccessible::Grouping);
+    EXPECT_EQ(group->text(QAccessible::Name), u"Vue"_s);
+    ASSERT_EQ(group->childCount(), 2);
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(group->child(i)->role(), QAccessible::RadioButton);
+        EXPECT_EQ(group->child(i)->state().checked, i == 1);
+    }
+    EXPECT_EQ(group->child(0)->text(QAccessible::Name), u"Liste"_s);
+    EXPECT_EQ(bench.warnings(), "");
+}
+
+TEST(SegmentedPicker, EachSegmentIsChosenByAClickAndByKeys)
+{
+    Bench bench;
+    auto *picker =
+        bench.show(u"SegmentedPicker { name: 'Vue'; choices: ['Liste', 'Tableau']; current: 1 }"_s);
+    ASSERT_NE(picker, nullptr) << bench.warnings();
+    QSignalSpy chosen(picker, SIGNAL(chosen(int)));
+    QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, {15, 14});
+    QTest::keyClick(&bench.window(), Qt::Key_Tab);
+    QTest::keyClick(&bench.window(), Qt::Key_Tab);
+    QTest::keyClick(&bench.window(), Qt::Key_Space);
+    ASSERT_EQ(chosen.count(), 2);
+    EXPECT_EQ(chosen[0].first().toInt(), 0);
+    EXPECT_EQ(chosen[1].first().toInt(), 1);
+    EXPECT_EQ(bench.warnings(), "");
+}
+
+TEST(SegmentedPicker, ArrowsChooseTheNeighbourAndStopAtTheEnds)
+{
+    Bench bench;
+    auto *picker = bench.show(u"SegmentedPicker { name: 'Vue'; choices: ['Liste', 'Tableau']; "
+                              "current: 0; onChosen: index => current = index }"_s);
+    ASSERT_NE(picker, nullptr) << bench.warnings();
+    const auto current = [&] { return picker->property("current").toInt(); };
+    QTest::keyClick(&bench.window(), Qt::Key_Tab);
+    QTest::keyClick(&bench.window(), Qt::Key_Left);
+    EXPECT_EQ(current(), 0);
+    QTest::keyClick(&bench.window(), Qt::Key_Right);
+    EXPECT_EQ(current(), 1);
+    QTest::keyClick(&bench.window(), Qt::Key_Right);
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(accessible(bench.window().activeFocusItem())->text(QAccessible::Name), u"Tableau"_s);
+    EXPECT_EQ(bench.warnings(), "");
 }

@@ -189,6 +189,14 @@ TEST(Controls, SearchFieldIsEmptiedByItsButton)
     EXPECT_EQ(bench.warnings(), "");
 }
 
+TEST(Controls, SearchFieldIsKnownAsOne)
+{
+    Bench bench;
+    auto *field = bench.show(u"SearchField { name: 'Filtrer' }"_s);
+    ASSERT_NE(field, nullptr);
+    EXPECT_TRUE(Bench::accessible(field)->state().searchEdit);
+}
+
 TEST(Controls, MenuIsAsWideAsItsWidestRow)
 {
     Bench bench;

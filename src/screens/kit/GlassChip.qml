@@ -22,6 +22,8 @@ FocusableItem {
     rightPadding: 11
     corner: height / 2
     accessibleName: title
+    // The template keeps the role of a button.
+    Accessible.description: isPresented ? "Liste ouverte" : "Ouvre une liste"
     scale: down ? Motion.pressScale : 1
     onClicked: popover.toggle()
 

@@ -21,7 +21,8 @@ FocusableItem {
     rightPadding: 8
     corner: height / 2
     accessibleName: name
-    Accessible.description: currentChoice
+    // The template keeps the role of a button.
+    Accessible.description: currentChoice + (opened ? ", menu ouvert" : ", ouvre un menu")
     Keys.onDownPressed: opened = true
     onClicked: opened = true
 

@@ -9,6 +9,7 @@ InputField {
     corner: height / 2
     glass: true
     leftPadding: 32
+    Accessible.searchEdit: true
     rightPadding: clear.visible ? 30 : 12
 
     Symbol {

@@ -33,9 +33,11 @@ TEST(GlassChip, SpaceOpensWhatItHoldsEscapeClosesItAndTheFocusReturns)
     ASSERT_NE(chip, nullptr) << bench.warnings();
     EXPECT_DOUBLE_EQ(chip->implicitHeight(), 28);
     EXPECT_FALSE(chip->property("made").toBool()) << "what is costly waits";
+    EXPECT_EQ(Bench::accessible(chip)->text(QAccessible::Description), u"Ouvre une liste"_s);
     QTest::keyClick(&bench.window(), Qt::Key_Space);
     EXPECT_TRUE(chip->property("isPresented").toBool());
     EXPECT_TRUE(chip->property("made").toBool());
+    EXPECT_EQ(Bench::accessible(chip)->text(QAccessible::Description), u"Liste ouverte"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !chip->hasActiveFocus(); }));
     QTest::keyClick(&bench.window(), Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !chip->property("isPresented").toBool(); }));

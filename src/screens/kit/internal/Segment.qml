@@ -1,0 +1,57 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Theme
+import Velmora.Kit
+
+/// One of the words of a `SegmentedPicker`. No `FocusableItem`: a template keeps its role, and this one is a radio button.
+T.RadioButton {
+    id: segment
+
+    required property bool on
+    property bool lit: enabled && (hovered || down)
+    /// Shows the keyboard's focus.
+    property bool ringed: visualFocus
+
+    signal chosen()
+
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    leftPadding: 12
+    rightPadding: 12
+    // Which one is chosen is the picker's to say.
+    checkable: false
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    onClicked: chosen()
+    Keys.onReturnPressed: chosen()
+    Keys.onEnterPressed: chosen()
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: on
+    Accessible.onPressAction: chosen()
+    Accessible.onToggleAction: chosen()
+
+    background: Rectangle {
+        radius: height / 2
+        color: segment.on ? (Theme.dark ? "#24FFFFFF" : Theme.card)
+             : segment.down ? Theme.highlightFill : segment.lit ? Theme.hoverFill : "transparent"
+        border.width: segment.on && !Theme.dark ? 1 / Screen.devicePixelRatio : 0
+        border.pixelAligned: false
+        border.color: Theme.ink(0.08)
+    }
+
+    contentItem: AppText {
+        text: segment.text
+        role: TypeScale.Small
+        weight: Font.Medium
+        color: !segment.enabled ? Theme.text4 : segment.on ? Theme.text1 : Theme.text2
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+
+    FocusRing {
+        shown: segment.ringed
+        corner: segment.height / 2
+    }
+}
