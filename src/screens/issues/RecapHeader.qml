@@ -19,7 +19,7 @@ GlassPanel {
     color: Theme.glass
     shadow: "capsule"
 
-    Flow {
+    FlowLayout {
         id: flow
         anchors.left: parent.left
         anchors.right: copy.left
@@ -27,7 +27,8 @@ GlassPanel {
         anchors.leftMargin: 12
         anchors.rightMargin: Metrics.gapLarge
         anchors.topMargin: 12
-        spacing: Metrics.gapLarge
+        spacing: 16
+        lineSpacing: 12
 
         Row {
             height: 28
@@ -50,21 +51,15 @@ GlassPanel {
             height: 28
             spacing: 2
 
-            IconButton {
+            PeriodButton {
                 name: root.content.previousHelp
                 symbol: "chevron.left"
-                symbolWeight: "bold"
-                side: 28
-                corner: 14
                 onClicked: root.store.showPreviousPeriod()
             }
 
-            IconButton {
+            PeriodButton {
                 name: root.content.nextHelp
                 symbol: "chevron.right"
-                symbolWeight: "bold"
-                side: 28
-                corner: 14
                 enabled: root.content.hasNext
                 onClicked: root.store.showNextPeriod()
             }
@@ -85,8 +80,9 @@ GlassPanel {
         }
 
         Row {
-            height: 28
-            spacing: 18
+            topPadding: 5
+            bottomPadding: 5
+            spacing: 20
 
             Repeater {
                 model: root.content.pills
@@ -105,12 +101,30 @@ GlassPanel {
     PushButton {
         id: copy
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: 14
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 11
+        anchors.bottomMargin: 12
+        height: 28
+        leftPadding: 12
         symbol: "doc.on.clipboard"
         text: "Copier le récap"
         hint: "Copie un résumé Markdown, prêt pour Slack ou un compte rendu"
         onClicked: root.store.copyActivityRecap()
+    }
+
+    component PeriodButton: IconButton {
+        anchors.verticalCenter: parent?.verticalCenter
+        side: 26
+        corner: 13
+        symbolSize: 10
+        symbolWeight: "bold"
+        ink: Theme.text1
+
+        Rectangle {
+            z: -1
+            anchors.fill: parent
+            radius: 13
+            color: Theme.ink(0.05)
+        }
     }
 }

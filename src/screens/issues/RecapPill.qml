@@ -36,6 +36,7 @@ Row {
 
     AppText {
         anchors.verticalCenter: parent.verticalCenter
+        role: TypeScale.Small
         color: Theme.text2
         text: root.label
         Accessible.ignored: true
