@@ -13,8 +13,9 @@ Item {
     implicitHeight: 22
 
     Rectangle {
-        width: 22
-        height: 22
+        // Whole device pixels: without graphics hardware Qt frays round corners that end between two of them.
+        width: Math.round(22 * Screen.devicePixelRatio) / Screen.devicePixelRatio
+        height: width
         radius: Metrics.radiusSquare
         color: Theme.accent
 

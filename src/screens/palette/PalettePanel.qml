@@ -16,7 +16,7 @@ GlassPanel {
     // What a low window leaves to the rows, between the field and the footer.
     readonly property real room: Window.height - Metrics.paletteTop - field.y - field.height - footer.height - Metrics.gapLarge
 
-    width: Metrics.paletteWidth
+    width: Math.min(Metrics.paletteWidth, Math.max(320, Window.width - 2 * Metrics.paneMargin))
     height: footer.y + footer.height
     radius: Metrics.radiusPalette
     shadow: "palette"
