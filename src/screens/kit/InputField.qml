@@ -13,6 +13,8 @@ T.TextField {
     property bool glass: false
     property int role: TypeScale.Body
     property string problem
+    /// What screen readers say of it besides its name.
+    property string spoken: problem
     /// Under the pointer.
     property bool lit: enabled && hovered
     /// Shows the keyboard's focus.
@@ -34,7 +36,8 @@ T.TextField {
     hoverEnabled: true
     Accessible.role: Accessible.EditableText
     Accessible.name: name
-    Accessible.description: problem
+    // Not bound above: when the field is complete, the template takes its placeholder for the description.
+    Component.onCompleted: Accessible.description = Qt.binding(() => field.spoken)
 
     cursorDelegate: TextCaret {
         shown: field.activeFocus && field.selectionStart === field.selectionEnd

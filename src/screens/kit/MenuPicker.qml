@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Velmora.Kit
 import Velmora.Theme
 
 /// One choice out of a menu: shows the current one, and opens the others on a press, on Space, Return and the down key.

@@ -3,35 +3,37 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Options
 import Velmora.Kit
+import Velmora.Model
 import Velmora.Theme
 
-/// The icon of an option, centred in a square of 20.
+/// The icon of an option, centred in a square of 20. Most kinds are one picture that takes another address when the icon
+/// changes: lists give their rows other options while somebody types.
 Item {
     id: root
 
     required property optionIcon icon
+    readonly property string meaning: OptionPictures.meaning(icon)
 
     implicitWidth: 20
     implicitHeight: 20
 
-    When {
-        shown: root.icon.kind === OptionIcons.Status
-
-        StatusIcon {
-            anchors.centerIn: parent
-            status: root.icon.status
-            size: 14
-        }
+    function ink(): color {
+        if (root.icon.kind === OptionIcons.Status)
+            return Theme.done
+        if (root.icon.kind !== OptionIcons.Priority)
+            return Theme.text2
+        return root.icon.level === Model.PriorityLevel.None ? Theme.neutral : Theme.text1
     }
 
-    When {
-        shown: root.icon.kind === OptionIcons.Priority
-
-        PriorityIcon {
-            anchors.centerIn: parent
-            level: root.icon.level
-            size: 14
-        }
+    Image {
+        anchors.centerIn: parent
+        width: sourceSize.width
+        height: sourceSize.height
+        sourceSize: OptionPictures.size(root.icon)
+        source: OptionPictures.source(root.icon, root.ink())
+        Accessible.role: Accessible.Graphic
+        Accessible.name: root.meaning
+        Accessible.ignored: root.meaning === ""
     }
 
     When {
@@ -52,37 +54,6 @@ Item {
             anchors.centerIn: parent
             name: root.icon.label
             size: 8
-        }
-    }
-
-    When {
-        shown: root.icon.kind === OptionIcons.Type
-
-        TypeIcon {
-            anchors.centerIn: parent
-            type: root.icon.type
-            size: 12
-        }
-    }
-
-    When {
-        shown: root.icon.kind === OptionIcons.Project
-
-        ProjectBadge {
-            anchors.centerIn: parent
-            project: root.icon.project
-            size: 16
-        }
-    }
-
-    When {
-        shown: root.icon.kind === OptionIcons.Symbol
-
-        Symbol {
-            anchors.centerIn: parent
-            name: root.icon.symbol
-            size: 13
-            color: Theme.text2
         }
     }
 }

@@ -59,7 +59,7 @@ FocusScope {
         placeholderText: root.placeholder
         text: list.query
         onTextEdited: list.query = text
-        Accessible.description: list.spoken
+        spoken: list.spoken
     }
 
     Rectangle {

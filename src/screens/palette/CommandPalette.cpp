@@ -72,6 +72,7 @@ void CommandPalette::begin(const PaletteMode &mode)
     setHighlighted(0);
     Q_EMIT modeChanged();
     refresh();
+    Q_EMIT begun();
 }
 
 void CommandPalette::setIsOpen(bool open)
@@ -86,7 +87,7 @@ void CommandPalette::refresh()
         return;
     const auto *picker = m_mode.asPicker();
     m_capsules = keyCapsules(picker ? picker->keys : m_store->actionTargets());
-    m_rows.update(paletteRows(m_sources.sections(*m_store, m_mode, m_query, m_remote.found())));
+    m_rows = paletteRows(m_sources.sections(*m_store, m_mode, m_query, m_remote.found()));
     Q_EMIT updated();
 }
 
@@ -121,6 +122,7 @@ void CommandPalette::setQuery(const QString &query)
     setHighlighted(0);
     searchRemote();
     refresh();
+    Q_EMIT begun();
 }
 
 void CommandPalette::searchRemote()
@@ -143,32 +145,26 @@ void CommandPalette::point(int row)
         setHighlighted(row);
 }
 
-int CommandPalette::titleCount() const
-{
-    return int(std::ranges::count_if(
-        m_rows.rows(), [](const PaletteRow &row) { return !row.sectionTitle.isEmpty(); }));
-}
-
 QString CommandPalette::emptyText() const
 {
-    if (!m_rows.rows().isEmpty())
+    if (!m_rows.isEmpty())
         return {};
     return emptyPaletteText(isSearching() ? PaletteSearch::UnderWay : PaletteSearch::Done);
 }
 
 QString CommandPalette::spokenState() const
 {
-    if (m_rows.rows().isEmpty())
+    if (m_rows.isEmpty())
         return emptyText();
-    return spokenPaletteState(m_rows.rows(), m_highlighted);
+    return spokenPaletteState(m_rows, m_highlighted);
 }
 
 void CommandPalette::activate(int row)
 {
-    if (!m_isOpen || row < 0 || row >= m_rows.rowCount())
+    if (!m_isOpen || row < 0 || row >= rowCount())
         return;
     // A copy: carrying it out changes the rows.
-    const OptionItem option = m_rows.rows()[row].option;
+    const OptionItem option = m_rows[row].option;
     m_store->run(option.run);
     if (std::holds_alternative<OptionAction::AddLabel>(option.run.value))
         setQuery({});
@@ -178,8 +174,8 @@ void CommandPalette::activate(int row)
 
 void CommandPalette::activateInWindow(int row)
 {
-    const bool isRow = m_isOpen && row >= 0 && row < m_rows.rowCount();
-    const auto key = isRow ? issueKeyOf(m_rows.rows()[row].option) : std::nullopt;
+    const bool isRow = m_isOpen && row >= 0 && row < rowCount();
+    const auto key = isRow ? issueKeyOf(m_rows[row].option) : std::nullopt;
     if (!key)
         return activate(row);
     m_store->run({OptionAction::OpenWindow{*key}});
@@ -224,7 +220,7 @@ bool CommandPalette::handle(const KeyPress &press)
 
 void CommandPalette::moveHighlight(int delta)
 {
-    setHighlighted(delta > 0 ? std::min(m_highlighted + delta, std::max(m_rows.rowCount() - 1, 0))
+    setHighlighted(delta > 0 ? std::min(m_highlighted + delta, std::max(rowCount() - 1, 0))
                              : std::max(m_highlighted + delta, 0));
 }
 
@@ -240,10 +236,10 @@ void CommandPalette::goBack()
 
 bool CommandPalette::activateDigit(int digit)
 {
-    const auto row = std::ranges::find(m_rows.rows(), std::optional(QString::number(digit)),
+    const auto row = std::ranges::find(m_rows, std::optional(QString::number(digit)),
                                        [](const PaletteRow &r) { return r.option.shortcut; });
-    if (row == m_rows.rows().end())
+    if (row == m_rows.end())
         return false;
-    activate(int(row - m_rows.rows().begin()));
+    activate(int(row - m_rows.begin()));
     return true;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "screens/palette/PaletteModel.h"
 #include "screens/palette/PaletteSources.h"
 #include "screens/palette/RemoteSearch.h"
 #include "state/palette/PaletteKeys.h"
+#include "state/palette/PaletteRow.h"
 
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
@@ -29,11 +29,7 @@ class CommandPalette : public QObject
     /// The position of the highlighted row; it may lie behind the last one when rows went.
     Q_PROPERTY(
         int highlighted READ highlighted WRITE setHighlighted NOTIFY highlightedChanged FINAL)
-    Q_PROPERTY(PaletteModel *rows READ rows CONSTANT FINAL)
-    /// How many rows there are, told at once; a view's own count comes with its next frame.
     Q_PROPERTY(int rowCount READ rowCount NOTIFY updated FINAL)
-    /// How many sections have a title.
-    Q_PROPERTY(int titleCount READ titleCount NOTIFY updated FINAL)
     /// The issues that it acts on: up to three keys, and how many more.
     Q_PROPERTY(QStringList capsules READ capsules NOTIFY updated FINAL)
     Q_PROPERTY(bool isSearching READ isSearching NOTIFY isSearchingChanged FINAL)
@@ -57,9 +53,9 @@ public:
     void setQuery(const QString &query);
     int highlighted() const { return m_highlighted; }
     void setHighlighted(int row);
-    PaletteModel *rows() { return &m_rows; }
-    int rowCount() const { return m_rows.rowCount(); }
-    int titleCount() const;
+    /// The rows in order; the highlight counts them.
+    const QList<PaletteRow> &rows() const { return m_rows; }
+    int rowCount() const { return int(m_rows.size()); }
     const QStringList &capsules() const { return m_capsules; }
     bool isSearching() const { return m_remote.isSearching(); }
     QString emptyText() const;
@@ -83,6 +79,8 @@ Q_SIGNALS:
     void highlightedChanged();
     void isSearchingChanged();
     void updated();
+    /// The rows are now those of another query or mode, to be shown from the first one.
+    void begun();
     void spokenStateChanged();
 
 private:
@@ -107,6 +105,6 @@ private:
     bool m_isPointing = false;
     RemoteSearch m_remote;
     PaletteSources m_sources;
-    PaletteModel m_rows;
+    QList<PaletteRow> m_rows;
     QStringList m_capsules;
 };

@@ -17,6 +17,6 @@ InputField {
     rightPadding: 0
     background: null
     text: commandPalette.query
-    Accessible.description: commandPalette.spokenState
+    spoken: commandPalette.spokenState
     onTextEdited: commandPalette.query = text
 }

@@ -14,34 +14,42 @@ Item {
     // At most so high; what is more is scrolled to.
     property real maxHeight: Metrics.paletteMaxHeight
 
-    // Told, not measured: a view only guesses at rows that it has not made.
-    readonly property int rowsHeight: commandPalette.rowCount * Metrics.optionRowHeight
-        + commandPalette.titleCount * Metrics.paletteTitleHeight + list.topMargin + list.bottomMargin
+    implicitHeight: commandPalette.rowCount === 0 ? 54 : places.viewHeight
 
-    implicitHeight: commandPalette.rowCount === 0 ? 54 : Math.min(maxHeight, rowsHeight)
+    RowPlaces {
+        id: places
+        palette: root.commandPalette
+        rowHeight: Metrics.optionRowHeight
+        titleHeight: Metrics.paletteTitleHeight
+        above: Metrics.gapTiny
+        below: Metrics.gap
+        highest: root.maxHeight
+        onTopChanged: list.contentY = top
+    }
 
-    ListView {
+    Flickable {
         id: list
         anchors.fill: parent
         anchors.leftMargin: Metrics.gap
         anchors.rightMargin: Metrics.gap
-        topMargin: Metrics.gapTiny
-        bottomMargin: Metrics.gap
         clip: true
-        model: root.commandPalette.rows
+        contentHeight: places.contentHeight
         boundsBehavior: Flickable.StopAtBounds
-        keyNavigationEnabled: false
-        currentIndex: root.commandPalette.highlighted
-        highlightMoveDuration: 0
+        visible: root.commandPalette.rowCount > 0
+        onContentYChanged: places.top = contentY
 
         Accessible.role: Accessible.List
         Accessible.name: root.commandPalette.isPicker ? root.commandPalette.title : "Résultats"
 
-        delegate: PaletteSlot {
-            width: ListView.view.width
-            isHighlighted: index === root.commandPalette.highlighted
-            onPointed: root.commandPalette.point(index)
-            onPicked: root.commandPalette.activate(index)
+        Repeater {
+            model: places
+
+            PaletteSlot {
+                width: list.width
+                isHighlighted: row === root.commandPalette.highlighted
+                onPointed: root.commandPalette.point(row)
+                onPicked: root.commandPalette.activate(row)
+            }
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {

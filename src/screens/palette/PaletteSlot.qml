@@ -5,11 +5,14 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
 
-// One row of the palette, with the title of its section above the first.
+// One row of the palette, with the title of its section above the first. It takes other rows while somebody types, so
+// what one row has and another has not is hidden and not destroyed.
 Item {
     id: root
 
-    required property int index
+    required property int row
+    required property real place
+    required property bool isShown
     required property string sectionTitle
     required property string title
     required property string subtitle
@@ -23,26 +26,25 @@ Item {
 
     readonly property bool isFirst: sectionTitle !== ""
 
-    implicitHeight: Metrics.optionRowHeight + (isFirst ? Metrics.paletteTitleHeight : 0)
+    y: place
+    visible: isShown
+    height: Metrics.optionRowHeight + (isFirst ? Metrics.paletteTitleHeight : 0)
 
-    When {
-        shown: root.isFirst
-
-        AppText {
-            x: Metrics.gapMedium
-            y: 10
-            role: TypeScale.Caption
-            weight: Font.DemiBold
-            color: Theme.text3
-            text: root.sectionTitle
-            Accessible.role: Accessible.Heading
-        }
+    AppText {
+        visible: root.isFirst
+        x: Metrics.gapMedium
+        y: 10
+        role: TypeScale.Caption
+        weight: Font.DemiBold
+        color: Theme.text3
+        text: root.sectionTitle
+        Accessible.role: Accessible.Heading
     }
 
     OptionRow {
         y: root.height - height
         width: root.width
-        index: root.index
+        index: root.row
         title: root.title
         subtitle: root.subtitle
         icon: root.icon

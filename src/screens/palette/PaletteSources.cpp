@@ -38,7 +38,9 @@ IssueList PaletteSources::found(const AppStore &store, const QString &query,
     if (query.trimmed().isEmpty())
         return {};
     const auto &derivation = store.derivation();
-    m_openIssues.update(store.myOpenIssues());
+    // Even an update with nothing new walks the whole list.
+    if (m_openIssues.issues() != store.myOpenIssues())
+        m_openIssues.update(store.myOpenIssues());
     return paletteIssues(query,
                          {{derivation.inputs().issues, derivation.searchTexts()},
                           {m_openIssues.issues(), m_openIssues.texts()}},

@@ -26,14 +26,23 @@ protected:
     QStringList titles()
     {
         QStringList list;
-        for (const auto &row : palette.rows()->rows())
+        for (const auto &row : palette.rows())
             list += row.option.title;
+        return list;
+    }
+    QStringList sectionTitles()
+    {
+        QStringList list;
+        for (const auto &row : palette.rows()) {
+            if (!row.sectionTitle.isEmpty())
+                list += row.sectionTitle;
+        }
         return list;
     }
     QStringList ids()
     {
         QStringList list;
-        for (const auto &row : palette.rows()->rows())
+        for (const auto &row : palette.rows())
             list += row.option.id;
         return list;
     }

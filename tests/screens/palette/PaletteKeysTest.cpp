@@ -20,7 +20,7 @@ TEST_F(PaletteKeyTest, TheHighlightStopsAtBothEnds)
     EXPECT_EQ(palette.highlighted(), 0);
     for (int i = 0; i < 40; ++i)
         EXPECT_TRUE(press(Qt::Key_Down));
-    EXPECT_EQ(palette.highlighted(), palette.rows()->rowCount() - 1);
+    EXPECT_EQ(palette.highlighted(), palette.rowCount() - 1);
 }
 
 TEST_F(PaletteKeyTest, WithoutRowsDownStaysAtTheTopAndReturnIsConsumed)
@@ -109,7 +109,7 @@ TEST_F(PaletteKeyTest, KeypadEnterRunsTheHighlightedRow)
 TEST_F(PaletteKeyTest, AtTheRootDigitsAreTyped)
 {
     openRoot();
-    ASSERT_EQ(palette.rows()->rows().first().option.shortcut, u"2"_s);
+    ASSERT_EQ(palette.rows().first().option.shortcut, u"2"_s);
     EXPECT_FALSE(press(Qt::Key_2, {}, u"2"_s));
     EXPECT_EQ(store->layout(), LayoutMode::List);
 }
