@@ -1,8 +1,38 @@
 #include "app/WindowFixture.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QSGRendererInterface>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isShown(const QImage &picture, const QColor &color)
+{
+    const QRgb wanted = color.rgb();
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == wanted)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// What the window's screens take their durations from.
+QObject *motionTokens(const QQuickWindow &window)
+{
+    QQmlComponent component(qmlEngine(&window));
+    component.setData("import QtQml\nimport Velmora.Theme\n"
+                      "QtObject { property QtObject motion: Motion }",
+                      QUrl(u"qrc:/motion.qml"_s));
+    const std::unique_ptr<QObject> holder(component.create());
+    return holder ? holder->property("motion").value<QObject *>() : nullptr;
+}
+
+} // namespace
 
 class Phases : public WindowFixture
 {
@@ -80,6 +110,48 @@ TEST_F(Phases, TheDesktopsDarkAppearanceIsFollowedLive)
 
     EXPECT_EQ(light, QColor(0xFF, 0xFF, 0xFF));
     EXPECT_EQ(window().color(), QColor(0x14, 0x14, 0x17));
+}
+
+TEST_F(Phases, TheAccentThatTheUserChoosesIsShownAtOnce)
+{
+    serve({u"MOB-1"_s}, u"Terminé"_s);
+    openOnDemo();
+    settle();
+    const auto has = [this](const QColor &color) { return isShown(window().grabWindow(), color); };
+    const QColor indigo(94, 106, 210);
+    const QColor orange = QColor::fromRgbF(0.95F, 0.5F, 0.16F);
+    EXPECT_TRUE(has(indigo));
+    EXPECT_FALSE(has(orange));
+
+    store().setAccentChoice(AccentChoice::Orange);
+    settle();
+
+    EXPECT_TRUE(has(orange));
+    EXPECT_FALSE(has(indigo));
+}
+
+TEST_F(Phases, TheDesktopsWishForLessMotionIsFollowedLive)
+{
+    serve({});
+    openOnDemo();
+    auto *motion = motionTokens(window());
+    ASSERT_NE(motion, nullptr);
+    const auto duration = [motion] { return motion->property("stateDuration").toInt(); };
+    EXPECT_EQ(duration(), 570);
+
+    desktop->setPrefersReducedMotion(true);
+    EXPECT_EQ(duration(), 0);
+
+    desktop->setPrefersReducedMotion(false);
+    EXPECT_EQ(duration(), 570);
+}
+
+TEST_F(Phases, TheProcessorsRendererScalesNoShapes)
+{
+    serve({});
+    openOnDemo();
+    ASSERT_EQ(window().rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
+    EXPECT_DOUBLE_EQ(motionTokens(window())->property("pressScale").toDouble(), 1);
 }
 
 TEST_F(Phases, AChosenAppearanceStandsAgainstTheDesktop)

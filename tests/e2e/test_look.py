@@ -1,5 +1,10 @@
 """Light and dark, and what the window looks like where a glance can tell."""
+from driver import wait_until
+from gi.repository import GLib
 from support import WindowCase
+
+COLOR_SCHEME = ("org.freedesktop.appearance", "color-scheme")
+DARK, LIGHT = GLib.Variant("u", 1), GLib.Variant("u", 2)
 
 
 class Appearance(WindowCase):
@@ -19,3 +24,20 @@ class Appearance(WindowCase):
     def test_an_appearance_that_nobody_knows_is_that_of_the_system(self):
         unknown = self.luminance_of_the_list(self.open_demo(appearance="mauve"))
         self.assertTrue(unknown < 60 or unknown > 220, unknown)
+
+    def test_the_desktops_appearance_is_followed_while_the_window_is_open(self):
+        portal = self.session.start_portal({COLOR_SCHEME: DARK})
+        self.addCleanup(portal.stop)
+        velmora = self.open_demo(appearance="system")
+        wait_until(lambda: self.luminance_of_the_list(velmora) < 60, 5, 0.1, "a dark window")
+        portal.change(*COLOR_SCHEME, LIGHT)
+        wait_until(lambda: self.luminance_of_the_list(velmora) > 220, 5, 0.1, "a light window")
+        portal.change(*COLOR_SCHEME, DARK)
+        wait_until(lambda: self.luminance_of_the_list(velmora) < 60, 5, 0.1, "a dark window again")
+
+    def test_a_chosen_appearance_stands_against_the_desktops(self):
+        portal = self.session.start_portal({COLOR_SCHEME: LIGHT})
+        self.addCleanup(portal.stop)
+        velmora = self.open_demo(appearance="light")
+        portal.change(*COLOR_SCHEME, DARK)
+        self.assertGreater(self.luminance_of_the_list(velmora), 220)

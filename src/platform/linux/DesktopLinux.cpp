@@ -66,6 +66,8 @@ bool themePrefersDark()
 DesktopLinux::DesktopLinux(QDBusConnection bus, QObject *parent)
     : Desktop(parent), m_bus(std::move(bus))
 {
+    // Qt finds the slot only once it knows the type by its name, and tells nobody when it does not.
+    qRegisterMetaType<QDBusVariant>();
     // No service name: naming it would make Qt look its owner up on the bus and wait for the answer.
     m_bus.connect({}, PortalPath, PortalSettings, u"SettingChanged"_s, this,
                   SLOT(takeSetting(QString, QString, QDBusVariant)));

@@ -15,6 +15,7 @@ from .a11y import A11y, Node
 from .app import App
 from .bus import connected_to
 from .keys import MODIFIERS, keysyms
+from .portal import SettingsPortal
 from .process import die_with_parent, marked, read_line
 from .tray import TrayHost, TrayItem
 from .waiting import wait_until
@@ -169,6 +170,12 @@ class Session:
         self._spawn(["sh", "-c", "printf 'a password' | exec gnome-keyring-daemon --foreground --unlock "
                      "--components=secrets"])
         self._wait_name("org.freedesktop.secrets")
+
+    def start_portal(self, values):
+        """The desktop's settings, as (group, key) to GLib.Variant; gives the portal, which can change them."""
+        portal = SettingsPortal(self.env["DBUS_SESSION_BUS_ADDRESS"], values)
+        self._wait_name("org.freedesktop.portal.Desktop")
+        return portal
 
     # programs
     def launch(self, argv, env=None, cwd=None, name=None):

@@ -125,6 +125,26 @@ TEST(OptionListView, ADigitRunsARowAndIsNotTyped)
     EXPECT_EQ(bench.window().activeFocusItem()->property("text").toString(), u"9"_s);
 }
 
+TEST(OptionListView, ReturnOnTheCreateRowEmptiesTheFieldWhichKeepsTheFocus)
+{
+    offer(1);
+    source().creates = true;
+    Bench bench;
+    auto *list = bench.show(view);
+    QSignalSpy done(list, SIGNAL(done()));
+    type(bench, u"bug fix"_s);
+    ASSERT_NE(row(bench, list, u"Créer bug-fix"_s), nullptr);
+    QTest::keyClick(&bench.window(), Qt::Key_Return);
+    source().creates = false;
+    EXPECT_EQ(source().created, QStringList{u"bug-fix"_s});
+    EXPECT_EQ(done.count(), 0);
+    auto *field = bench.window().activeFocusItem();
+    ASSERT_TRUE(field->inherits("QQuickTextField"));
+    EXPECT_EQ(field->property("text").toString(), QString());
+    EXPECT_NE(row(bench, list, u"bug-fix"_s), nullptr) << "what was made is there to be seen";
+    EXPECT_EQ(bench.warnings(), "");
+}
+
 TEST(OptionListView, TheRowsAreAtMost340HighAndTheHighlightStaysInSight)
 {
     offer(40);
