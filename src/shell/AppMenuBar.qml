@@ -64,6 +64,7 @@ T.MenuBar {
 
         PopupMenuItem {
             text: "Réglages…"
+            shortcut: "Ctrl+,"
             onTriggered: root.store.settingsRequested()
         }
 

@@ -85,6 +85,12 @@ Window {
         onActivated: Qt.quit()
     }
 
+    // Where the desktop has no key of its own for a program's settings, this one is the custom.
+    Shortcut {
+        sequences: ["Ctrl+,"]
+        onActivated: root.store.settingsRequested()
+    }
+
     Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: root.close()

@@ -155,3 +155,19 @@ TEST_F(ContextMenu, AReloadThatTakesTheIssueAwayLeavesAMenuThatHarmsNothing)
 
     EXPECT_EQ(lastCopied(), u"MOB-3"_s);
 }
+
+TEST_F(ContextMenu, TheRowItWasOpenedOnStaysMarkedWhileThePointerIsOnTheMenu)
+{
+    const auto fill = [&](const QString &key) {
+        const auto box = await(QAccessible::ListItem, key + u',').box;
+        return window().grabWindow().pixelColor(box.left() + 30, box.top() + 4);
+    };
+    rightClick(await(QAccessible::ListItem, u"MOB-2,"_s));
+    const auto entry = await(QAccessible::MenuItem, u"Copier la clé"_s);
+    QTest::mouseMove(&window(), entry.box.center());
+    settle();
+    EXPECT_NE(fill(u"MOB-2"_s), fill(u"MOB-1"_s));
+
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fill(u"MOB-2"_s) == fill(u"MOB-1"_s); }));
+}

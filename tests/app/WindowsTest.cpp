@@ -100,3 +100,11 @@ TEST_F(Windows, ThePaletteOpensAnIssueInAWindow)
     EXPECT_TRUE(scenes().issueWindow(u"MOB-2"_s));
     EXPECT_FALSE(store().showInspector());
 }
+
+TEST_F(Windows, ControlAndTheCommaOpenTheSettings)
+{
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    ASSERT_TRUE(scenes().settingsWindow());
+    QTest::keyClick(scenes().settingsWindow(), Qt::Key_Escape);
+    EXPECT_FALSE(scenes().settingsWindow());
+}

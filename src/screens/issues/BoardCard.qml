@@ -18,6 +18,8 @@ Rectangle {
     required property bool isOverdue
     required property string dueTooltip
     required property string accessibleName
+    // Its menu is open: it looks as under the pointer, which is on the menu.
+    property bool hasMenu: false
 
     signal clicked(modifiers: int)
     signal menuRequested(x: real, y: real)
@@ -27,7 +29,7 @@ Rectangle {
 
     readonly property bool isStrong: isChecked || isOpen
     // 0 at rest, 1 under the pointer.
-    property real lift: hover.hovered ? 1 : 0
+    property real lift: hover.hovered || hasMenu ? 1 : 0
 
     Behavior on lift {
         NumberAnimation {

@@ -18,6 +18,8 @@ Rectangle {
     required property IssueListModel cards
     required property string accessibleName
     required property string focusedKey
+    // The issue whose menu is open.
+    property string menuKey: ""
     // What the bar over the board's lower edge hides.
     property int clearance: 0
     // A drag would land here; and how far down it is.
@@ -124,6 +126,7 @@ Rectangle {
         delegate: BoardCard {
             id: card
             width: list.width
+            hasMenu: root.menuKey === issue.key
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
             onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, cell)

@@ -61,6 +61,7 @@ FocusScope {
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, cell) => root.picker.toggle(kind, key, cell)
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)
+                    menuKey: root.contextMenu.key
                     isTargeted: index === drop.column
                     dragY: drop.drag.y - y
                     onNewIssueRequested: CreateScreen.open(root.store, "")

@@ -12,13 +12,21 @@ Item {
     required property AppStore store
 
     property bool isOpen: false
+    // The issue on which it was opened; empty while it is closed.
+    property string key: ""
     property point place
 
     // Opens on the issue, at a point of an item.
     function open(key: string, item: Item, x: real, y: real) {
         issueMenu.prepare(key);
+        root.key = key;
         place = mapFromItem(item, x, y);
         isOpen = true;
+    }
+
+    function forget() {
+        isOpen = false;
+        key = "";
     }
 
     IssueMenu {
@@ -32,7 +40,7 @@ Item {
         Item {
             IssueContextMenu {
                 content: issueMenu
-                onClosed: root.isOpen = false
+                onClosed: root.forget()
                 Component.onCompleted: popup(root, root.place.x, root.place.y)
             }
         }

@@ -104,6 +104,7 @@ FocusScope {
                     height: root.rowHeight
                     style: rowStyle
                     isSelecting: root.store.isSelecting
+                    hasMenu: root.contextMenu.key === issue.key
                     onIsHoveredChanged: if (isHovered) root.hotRow = row
                     onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)

@@ -19,6 +19,8 @@ RowLine {
     required property issueListBadge badge
     // Any issue is checked: every check box shows.
     required property bool isSelecting
+    // Its menu is open: it looks as under the pointer, which is on the menu.
+    property bool hasMenu: false
 
     signal clicked(modifiers: int)
     signal checkToggled()
@@ -55,7 +57,7 @@ RowLine {
         radius: Metrics.radiusRow
         color: root.isChecked ? Theme.checkedFill
             : root.isOpen ? Theme.openFill
-            : root.isFocused || root.isHovered ? Theme.hoverFill : "transparent"
+            : root.isFocused || root.isHovered || root.hasMenu ? Theme.hoverFill : "transparent"
     }
 
     Rectangle {
@@ -89,7 +91,7 @@ RowLine {
         y: root.cellTop
         spoken: "Sélectionner " + root.issue.key
         isChecked: root.isChecked
-        isShown: root.isChecked || root.isSelecting || root.isHovered
+        isShown: root.isChecked || root.isSelecting || root.isHovered || root.hasMenu
         onPressed: root.checkToggled()
     }
 
