@@ -66,9 +66,11 @@ void AppStore::flush(unsigned what)
 void AppStore::feedLists()
 {
     m_derivation.setInputs(derivationInputs());
-    m_issueList.setGroups(groups(), *m_collapsedGroups);
+    // The other layout is out of sight.
     if (*m_layout == LayoutMode::Board)
         m_board.setColumns(boardColumns());
+    else
+        m_issueList.setGroups(groups(), *m_collapsedGroups);
 }
 
 void AppStore::feedMarks()

@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/issues/GlideOffset.h"
 #include "screens/issues/RowLine.h"
 
 #include <QQuickItem>
@@ -232,4 +233,114 @@ TEST_F(Rows, AChangeOfGroupEndsWithTheRowInItsNewPlace)
         [&] { return rowsShown() == QStringList{u"MOB-2"_s, u"MOB-3"_s, u"MOB-1"_s}; }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return row(u"MOB-2"_s) == QRect(252, 92, 1056, 38); }));
     EXPECT_TRUE(QTest::qWaitFor([&] { return row(u"MOB-1"_s) == QRect(252, 204, 1056, 38); }));
+}
+
+class Motion : public Rows
+{
+protected:
+    void openWithMotion()
+    {
+        openWith({issueWithKey(u"MOB-1"_s), issueWithKey(u"MOB-2"_s), issueWithKey(u"MOB-3"_s),
+                  issueWithKey(u"MOB-4"_s, u"En cours"_s)});
+        desktop->setPrefersReducedMotion(false);
+        settle();
+        service->performCalls.answerWith();
+        service->transitionsCalls.answerWith(
+            {{u"11"_s, u"Commencer"_s, IssueStatus::guessed(u"En cours"_s)},
+             {u"12"_s, u"Reprendre"_s, IssueStatus::guessed(u"À faire"_s)}});
+    }
+    void take(const QString &key, const QString &status)
+    {
+        store().setStatus(IssueStatus::guessed(status), {key});
+    }
+    /// How far a row is drawn from its place.
+    double offset(const QString &key)
+    {
+        auto *item = itemIn(window().contentItem(), [&](QQuickItem *candidate) {
+            return candidate->isVisible() && candidate->property("glideKey").toString() == key;
+        });
+        return item ? GlideOffset::of(*item).offset().y() : 0;
+    }
+    bool isAtRest()
+    {
+        return std::ranges::all_of(QStringList{u"MOB-1"_s, u"MOB-2"_s, u"MOB-3"_s, u"MOB-4"_s},
+                                   [this](const QString &key) { return offset(key) == 0; });
+    }
+};
+
+TEST_F(Motion, ARowThatChangesItsGroupIsDrawnFromItsOldPlaceToTheNew)
+{
+    openWithMotion();
+    const QRect before = row(u"MOB-2"_s);
+    take(u"MOB-2"_s, u"En cours"_s);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-2"_s) > 0; }));
+    EXPECT_LE(offset(u"MOB-2"_s), before.top() - 92);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAtRest(); }));
+    EXPECT_EQ(row(u"MOB-2"_s), QRect(252, 92, 1056, 38));
+}
+
+TEST_F(Motion, TwoChangesInQuickSuccessionEndWithEveryRowAtItsPlace)
+{
+    openWithMotion();
+    take(u"MOB-2"_s, u"En cours"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-2"_s) != 0; }));
+    take(u"MOB-3"_s, u"En cours"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-3"_s) != 0; }));
+    EXPECT_FALSE(isAtRest());
+    take(u"MOB-2"_s, u"À faire"_s);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return rowsShown() == QStringList{u"MOB-3"_s, u"MOB-4"_s, u"MOB-1"_s, u"MOB-2"_s};
+    }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAtRest(); }));
+    EXPECT_EQ(row(u"MOB-3"_s), QRect(252, 92, 1056, 38));
+    EXPECT_EQ(row(u"MOB-4"_s), QRect(252, 130, 1056, 38));
+    EXPECT_EQ(row(u"MOB-1"_s), QRect(252, 204, 1056, 38));
+    EXPECT_EQ(row(u"MOB-2"_s), QRect(252, 242, 1056, 38));
+}
+
+TEST_F(Motion, AnInterruptedMoveGoesOnFromWhereTheRowIsSeen)
+{
+    openWithMotion();
+    take(u"MOB-2"_s, u"En cours"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-2"_s) > 0 && offset(u"MOB-2"_s) < 60; }));
+    const int seen = row(u"MOB-2"_s).top();
+    take(u"MOB-2"_s, u"À faire"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-2"_s) < 0; }));
+
+    EXPECT_NEAR(row(u"MOB-2"_s).top(), seen, 40);
+}
+
+TEST_F(Motion, FoldingAGroupMovesTheRowsBelowIt)
+{
+    openWithMotion();
+    const auto group = store().groups().first().id;
+    store().toggleGroup(group);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return offset(u"MOB-1"_s) > 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAtRest(); }));
+    EXPECT_EQ(row(u"MOB-1"_s).top(), 128);
+}
+
+TEST_F(Motion, WhoWantsLessMotionSeesNone)
+{
+    openWithMotion();
+    desktop->setPrefersReducedMotion(true);
+    settle();
+    take(u"MOB-2"_s, u"En cours"_s);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return rowsShown() == QStringList{u"MOB-2"_s, u"MOB-4"_s, u"MOB-1"_s, u"MOB-3"_s};
+    }));
+    EXPECT_TRUE(isAtRest());
+}
+
+TEST_F(Motion, ASearchMovesNothing)
+{
+    openWithMotion();
+    store().setFilterText(u"MOB-3"_s);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return rowsShown() == QStringList{u"MOB-3"_s}; }));
+    EXPECT_TRUE(isAtRest());
 }

@@ -125,35 +125,13 @@ Rectangle {
 
         delegate: BoardCard {
             id: card
+            readonly property string glideKey: issue.key
             width: list.width
             hasMenu: root.menuKey === issue.key
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
             onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, cell)
             onDragBegun: handler => root.dragBegun(issue.key, handler)
-        }
-
-        add: Transition {
-            NumberAnimation {
-                property: "opacity"
-                from: 0
-                to: 1
-                duration: Motion.fadeDuration
-            }
-        }
-
-        displaced: Transition {
-            NumberAnimation {
-                property: "y"
-                duration: Motion.stateDuration
-                easing: Springs.even
-            }
-            // A card that was on its way in stays in.
-            NumberAnimation {
-                property: "opacity"
-                to: 1
-                duration: Motion.fadeDuration
-            }
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {

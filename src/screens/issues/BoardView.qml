@@ -95,6 +95,13 @@ FocusScope {
         isHorizontal: true
     }
 
+    Glide {
+        store: root.store
+        view: board
+        columns: root.store.board
+        duration: Motion.stateDuration
+    }
+
     FocusedColumnScroller {
         flickable: board
         board: root.store.board

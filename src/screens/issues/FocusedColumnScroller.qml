@@ -18,7 +18,7 @@ Item {
     readonly property real room: flickable.width
 
     function reveal() {
-        const column = board.columnOfKey(focusedKey);
+        const column = root.visible ? board.columnOfKey(focusedKey) : -1;
         if (column >= 0)
             scrollTo(targetFor(column * (columnWidth + columnGap)));
     }
@@ -37,8 +37,11 @@ Item {
     onFocusedKeyChanged: reveal()
     onRoomChanged: reveal()
 
+    onVisibleChanged: if (visible) coming.restart()
+
     // Once what it is for stands in its place.
     Timer {
+        id: coming
         interval: 0
         running: true
         onTriggered: root.reveal()

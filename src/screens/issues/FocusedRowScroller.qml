@@ -15,7 +15,7 @@ Item {
     property int clearance: 0
 
     function reveal() {
-        const row = rows.rowOfKey(focusedKey);
+        const row = root.visible ? rows.rowOfKey(focusedKey) : -1;
         if (row >= 0)
             scrollTo(targetFor(row));
     }
@@ -58,8 +58,11 @@ Item {
     onFocusedKeyChanged: reveal()
     onClearanceChanged: keepInSight()
 
+    onVisibleChanged: if (visible) coming.restart()
+
     // Once what it is for stands in its place.
     Timer {
+        id: coming
         interval: 0
         running: true
         onTriggered: root.reveal()

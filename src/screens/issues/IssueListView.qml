@@ -71,7 +71,7 @@ FocusScope {
         currentIndex: -1
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
-        // No move transitions: one that another change interrupts leaves its rows half-way, one over the other.
+        // No move transitions: one that another change interrupts leaves its rows half-way. See `Glide` below.
 
         Keys.onMenuPressed: root.openFocusedMenu()
 
@@ -86,6 +86,7 @@ FocusScope {
                 roleValue: IssueListEnums.Header
 
                 GroupHeader {
+                    readonly property string glideKey: "h:" + header.groupId
                     width: list.width
                     height: root.headerHeight
                     onToggled: root.store.toggleGroup(header.groupId)
@@ -100,6 +101,7 @@ FocusScope {
 
                 IssueRow {
                     id: row
+                    readonly property string glideKey: issue.key
                     width: list.width
                     height: root.rowHeight
                     style: rowStyle
@@ -118,6 +120,13 @@ FocusScope {
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {}
+    }
+
+    Glide {
+        store: root.store
+        view: list
+        rows: root.store.issueList
+        duration: Motion.stateDuration
     }
 
     RowHover {

@@ -92,27 +92,25 @@ FocusScope {
             }
         }
 
-        LatePart {
+        LayoutPart {
+            id: boardPart
             anchors.fill: parent
-            focus: shown
-            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
+            inSight: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
+            other: listPart
             onWanted: setSource("BoardView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
                                                    picker: rowPicker, drag: rowDrag })
         }
 
-        When {
-            shown: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.List
-
-            IssueListView {
-                x: Metrics.paneMargin
-                width: body.width - 2 * x
-                height: body.height
-                focus: true
-                store: root.store
-                contextMenu: rowMenu
-                picker: rowPicker
-                drag: rowDrag
-            }
+        LayoutPart {
+            id: listPart
+            x: Metrics.paneMargin
+            width: body.width - 2 * x
+            height: body.height
+            focus: true
+            inSight: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.List
+            other: boardPart
+            onWanted: setSource("IssueListView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
+                                                       picker: rowPicker, drag: rowDrag })
         }
 
         When {

@@ -12,6 +12,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,7 +34,7 @@ constexpr double avatarSide = 18;
 /// Where something stands that is centred in a height, on a whole pixel as Qt Quick places it.
 double centred(double room, double height)
 {
-    const auto half = [](double length) { return double((int(length) + 1) / 2); };
+    const auto half = [](double length) { return std::ceil(std::floor(length) / 2); };
     return half(room) - half(height);
 }
 

@@ -28,11 +28,13 @@ BoardModel::BoardModel(UserCalendar calendar, QDateTime now, QObject *parent)
 
 void BoardModel::setColumns(const QList<IssueGroup> &columns)
 {
+    Q_EMIT aboutToUpdate();
     // Cards first: a column is never seen without its own.
     for (const auto &column : columns)
         cardsOfColumn(column.id)->setIssues(column.issues);
     update(columnRows(columns));
     forgetCardsWithoutColumn();
+    Q_EMIT updated();
 }
 
 IssueListModel *BoardModel::cardsOfColumn(const QString &id)

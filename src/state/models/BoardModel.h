@@ -65,6 +65,11 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+Q_SIGNALS:
+    /// The columns and their cards are about to become others; and they have.
+    void aboutToUpdate();
+    void updated();
+
 private:
     IssueListModel *cardsOfColumn(const QString &id);
     void mark(IssueListModel &cards) const;

@@ -39,6 +39,7 @@ void IssueListModel::setIssues(const IssueList &issues)
 
 void IssueListModel::setRows(QList<IssueListRow> rows)
 {
+    Q_EMIT aboutToUpdate();
     m_headerRows = headerRows(rows);
     update(std::move(rows));
     // Their places among the others.

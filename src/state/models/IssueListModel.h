@@ -88,6 +88,8 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
+    /// The rows are about to become others; and they have.
+    void aboutToUpdate();
     void updated();
 
 private:

@@ -1,0 +1,125 @@
+#include "screens/issues/Glide.h"
+
+#include "screens/issues/GlideOffset.h"
+#include "screens/theme/Springs.h"
+
+#include <QQuickWindow>
+
+namespace {
+
+constexpr auto keyProperty = "glideKey";
+
+QString keyOf(const QQuickItem &item)
+{
+    return item.property(keyProperty).toString();
+}
+
+bool takesPart(const QQuickItem &item)
+{
+    return item.metaObject()->indexOfProperty(keyProperty) >= 0;
+}
+
+void collect(std::vector<QQuickItem *> &found, const QQuickItem &root)
+{
+    for (auto *child : root.childItems()) {
+        if (!child->isVisible())
+            continue;
+        if (takesPart(*child))
+            found.push_back(child);
+        else
+            collect(found, *child);
+    }
+}
+
+} // namespace
+
+Glide::Glide(QObject *parent) : QObject(parent)
+{
+    m_run.setStartValue(0.0);
+    m_run.setEndValue(1.0);
+    m_run.setEasingCurve(Springs::even());
+    connect(&m_run, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &value) { draw(value.toDouble()); });
+    connect(&m_run, &QAbstractAnimation::finished, this, &Glide::rest);
+    connect(&m_run, &QAbstractAnimation::stateChanged, this, &Glide::runningChanged);
+}
+
+Glide::Occasion Glide::occasion() const
+{
+    return {m_store->scope(), m_store->filterText(), m_store->filters(), m_store->layout()};
+}
+
+std::vector<QQuickItem *> Glide::seenItems() const
+{
+    std::vector<QQuickItem *> items;
+    if (m_view && m_view->isVisible())
+        collect(items, *m_view);
+    return items;
+}
+
+void Glide::remember()
+{
+    const bool isMotion =
+        m_store && std::exchange(m_occasion, occasion()) == m_occasion && m_duration > 0;
+    if (m_isPending && isMotion)
+        return;
+    m_places.clear();
+    if (isMotion) {
+        for (const auto *item : seenItems())
+            m_places.insert(keyOf(*item), item->mapToItem(m_view, QPointF()));
+    }
+    m_run.stop();
+    rest();
+}
+
+void Glide::playLater()
+{
+    auto *window = m_view ? m_view->window() : nullptr;
+    if (m_places.isEmpty() || m_isPending || !window)
+        return;
+    m_isPending = true;
+    // Then the view has laid its rows out anew, and nothing is drawn yet.
+    connect(window, &QQuickWindow::afterAnimating, this, &Glide::play, Qt::SingleShotConnection);
+    window->update();
+}
+
+void Glide::play()
+{
+    m_isPending = false;
+    const auto places = std::exchange(m_places, {});
+    for (auto *item : seenItems()) {
+        const QString key = keyOf(*item);
+        const auto place = places.constFind(key);
+        const bool isNew = place == places.cend();
+        const QPointF from = isNew ? QPointF() : *place - item->mapToItem(m_view, QPointF());
+        if (isNew || !from.isNull())
+            m_riders.push_back({item, key, from, isNew});
+    }
+    const bool hasKnown =
+        qsizetype(m_riders.size()) < places.size() ||
+        std::ranges::any_of(m_riders, [](const Rider &rider) { return !rider.isNew; });
+    if (m_riders.empty() || !hasKnown)
+        return m_riders.clear();
+    m_run.setDuration(m_duration);
+    draw(0);
+    m_run.start();
+}
+
+void Glide::draw(double progress)
+{
+    for (const auto &rider : m_riders) {
+        if (!rider.item)
+            continue;
+        // An item that shows another issue by now stands still.
+        const bool rides = keyOf(*rider.item) == rider.key;
+        GlideOffset::of(*rider.item).setOffset(rides ? rider.from * (1 - progress) : QPointF());
+        if (rider.isNew)
+            rider.item->setOpacity(rides ? std::clamp(progress, 0.0, 1.0) : 1);
+    }
+}
+
+void Glide::rest()
+{
+    draw(1);
+    m_riders.clear();
+}
