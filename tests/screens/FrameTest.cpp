@@ -56,8 +56,8 @@ TEST_P(FrameAtScale, LightEdgeIsOneDevicePixelInsideTheTopOnly)
 TEST_P(FrameAtScale, ShadowLiesOutsideAndMostlyBelow)
 {
     const int scale = GetParam();
-    for (const auto &name :
-         {u"capsule"_s, u"pane"_s, u"bar"_s, u"popover"_s, u"sheet"_s, u"card"_s, u"palette"_s}) {
+    for (const auto &name : {u"capsule"_s, u"pane"_s, u"bar"_s, u"popover"_s, u"sheet"_s, u"card"_s,
+                             u"palette"_s, u"segment"_s, u"knob"_s}) {
         const auto frame = capsule(name);
         const auto image = frameImage(frame, scale);
         const int margin = frameMargin(frame.shadows) * scale;

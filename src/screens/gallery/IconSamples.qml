@@ -22,7 +22,7 @@ Column {
                 spacing: 12
 
                 Repeater {
-                    model: [10, 14, 28, 42, 56]
+                    model: [10, 14, 28, 56]
 
                     StatusIcon {
                         required property int modelData
@@ -50,7 +50,7 @@ Column {
                 spacing: 12
 
                 Repeater {
-                    model: [10, 14, 28, 42, 56]
+                    model: [10, 14, 28, 56]
 
                     PriorityIcon {
                         required property int modelData

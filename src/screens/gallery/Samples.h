@@ -47,8 +47,8 @@ public:
     }
     QList<JiraUser> people() const
     {
-        return {person("noam", "Noam Talvère"), person("nora", "Nora Valmy"),
-                person("basile", "Basile Rochat")};
+        return {person("u-me", "Noam Talvère"), person("u-nora", "Nora Valmy"),
+                person("u-basile", "Basile Rochat"), person("u-maud", "Maud Ferrand")};
     }
     QStringList labels() const
     {

@@ -35,9 +35,15 @@ T.RadioButton {
         radius: height / 2
         color: segment.on ? (Theme.dark ? "#24FFFFFF" : Theme.card)
              : segment.down ? Theme.highlightFill : segment.lit ? Theme.hoverFill : "transparent"
-        border.width: segment.on && !Theme.dark ? 1 / Screen.devicePixelRatio : 0
-        border.pixelAligned: false
-        border.color: Theme.ink(0.08)
+
+        GlassFrame {
+            anchors.fill: parent
+            visible: segment.on
+            dark: Theme.dark
+            radius: parent.radius
+            shadow: "segment"
+            hairline: Theme.dark ? "transparent" : Theme.ink(0.08)
+        }
     }
 
     contentItem: AppText {

@@ -21,6 +21,6 @@ Rectangle {
     GlassFrame {
         anchors.fill: parent
         radius: knob.radius
-        shadow: "card"
+        shadow: "knob"
     }
 }

@@ -39,7 +39,7 @@ std::vector<SoftShadow> sameInBoth(const QString &name)
     static const QHash<QString, std::vector<SoftShadow>> shadows{
         {u"card"_s, {{1, 6, black(0.06)}}},     {u"cardHover"_s, {{3, 16, black(0.14)}}},
         {u"palette"_s, {{6, 36, black(0.28)}}}, {u"onboarding"_s, {{0, 40, black(0.20)}}},
-        {u"mention"_s, {{0, 12, black(0.18)}}},
+        {u"mention"_s, {{0, 12, black(0.18)}}}, {u"knob"_s, {{1, 2, black(0.25)}}},
     };
     return shadows.value(name);
 }
@@ -47,6 +47,7 @@ std::vector<SoftShadow> sameInBoth(const QString &name)
 std::vector<SoftShadow> inLight(const QString &name)
 {
     static const QHash<QString, std::vector<SoftShadow>> shadows{
+        {u"segment"_s, {{1, 3, black(0.12)}}},
         {u"capsule"_s, {{1, 2, tinted(0.06)}, {3, 10, tinted(0.05)}}},
         {u"pane"_s, {{1, 3, tinted(0.05)}, {6, 24, tinted(0.05)}}},
         {u"bar"_s, {{2, 6, tinted(0.08)}, {10, 30, tinted(0.14)}}},
@@ -59,6 +60,7 @@ std::vector<SoftShadow> inLight(const QString &name)
 std::vector<SoftShadow> inDark(const QString &name)
 {
     static const QHash<QString, std::vector<SoftShadow>> shadows{
+        {u"segment"_s, {{1, 3, black(0.30)}}},
         {u"capsule"_s, {{1, 2, black(0.28)}, {3, 10, black(0.20)}}},
         {u"pane"_s, {{1, 3, black(0.30)}, {8, 28, black(0.28)}}},
         {u"bar"_s, {{2, 6, black(0.30)}, {12, 36, black(0.50)}}},
