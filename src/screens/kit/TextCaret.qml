@@ -11,6 +11,10 @@ Rectangle {
     radius: 0.75
     color: Theme.accent
     visible: shown && blink.lit
+    // Between the letters, and not on the one that follows.
+    transform: Translate {
+        x: -1
+    }
 
     Timer {
         id: blink
