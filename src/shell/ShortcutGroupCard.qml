@@ -48,11 +48,10 @@ Column {
                     Accessible.role: Accessible.ListItem
                     Accessible.name: row.modelData.meaning + " : " + row.modelData.keys
 
-                    Rectangle {
+                    Hairline {
                         visible: row.index > 0
                         x: Metrics.gapLarge
                         width: parent.width - 2 * x
-                        height: root.hair
                         color: Theme.divider
                     }
 

@@ -62,10 +62,9 @@ FocusScope {
         spoken: list.spoken
     }
 
-    Rectangle {
+    Hairline {
         anchors.bottom: field.bottom
         width: parent.width
-        height: 1 / Screen.devicePixelRatio
         color: Theme.divider
     }
 
