@@ -126,6 +126,18 @@ std::vector<qint64> keystrokes(FrameTimer &timer, int count)
     return times;
 }
 
+/// The caret alone moves: a frame of the same window in which no row changes.
+std::vector<qint64> caretMoves(FrameTimer &timer, int count)
+{
+    timer.press(Qt::Key_E, u"e"_s);
+    std::vector<qint64> times;
+    times.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i)
+        times.push_back(timer.press(i % 2 == 0 ? Qt::Key_Left : Qt::Key_Right, {}));
+    timer.press(Qt::Key_Backspace, u"\b"_s);
+    return times;
+}
+
 /// Every tenth issue has another summary, status and time than the turn before.
 IssueList refreshed(IssueList issues, int turn)
 {
@@ -215,7 +227,8 @@ void measureList(FrameTable &table, int count)
         table.add(size + u"a step of a scroll"_s, timer.scroll(Steps));
 }
 
-/// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change.
+/// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change. A frame
+/// costs what the window costs; what a letter costs beyond that, the row before tells.
 void measurePalette(FrameTable &table, SiteSize size)
 {
     const QTemporaryDir folder;
@@ -226,8 +239,8 @@ void measurePalette(FrameTable &table, SiteSize size)
     timer.settle();
     velmora.store().togglePalette();
     timer.settle();
-    const auto what = u"%1 issues, %2 projects: a letter in the palette"_s;
-    table.add(what.arg(size.issues).arg(size.projects), keystrokes(timer, presses()));
+    table.add(u"palette: the caret moves"_s, caretMoves(timer, presses()));
+    table.add(u"palette: a letter"_s, keystrokes(timer, presses()));
     if (!velmora.store().palette())
         qFatal("The palette has closed.");
 }

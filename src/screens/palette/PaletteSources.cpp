@@ -38,13 +38,23 @@ IssueList PaletteSources::found(const AppStore &store, const QString &query,
     if (query.trimmed().isEmpty())
         return {};
     const auto &derivation = store.derivation();
-    // Even an update with nothing new walks the whole list.
-    if (m_openIssues.issues() != store.myOpenIssues())
-        m_openIssues.update(store.myOpenIssues());
+    prepareOpenIssues(store);
     return paletteIssues(query,
                          {{derivation.inputs().issues, derivation.searchTexts()},
                           {m_openIssues.issues(), m_openIssues.texts()}},
                          remote);
+}
+
+void PaletteSources::prepareOpenIssues(const AppStore &store)
+{
+    const auto &listed = store.derivation().inputs().issues;
+    // Not whether they are equal: that may take a walk through both.
+    if (m_listed.constData() == listed.constData() &&
+        m_open.constData() == store.myOpenIssues().constData())
+        return;
+    m_listed = listed;
+    m_open = store.myOpenIssues();
+    m_openIssues.update(notYetSearched(m_open, m_listed));
 }
 
 const SearchableItems &PaletteSources::actions(const AppStore &store)

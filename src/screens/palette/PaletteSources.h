@@ -19,6 +19,7 @@ private:
     QList<PaletteSection> root(const AppStore &store, const QString &query,
                                const IssueList &remote);
     IssueList found(const AppStore &store, const QString &query, const IssueList &remote);
+    void prepareOpenIssues(const AppStore &store);
     const SearchableItems &actions(const AppStore &store);
     const SearchableItems &destinations(const AppStore &store);
     const SearchableItems &options(const AppStore &store, const PaletteMode::Picker &picker);
@@ -29,5 +30,9 @@ private:
     Recap::People m_people = Recap::People::Me;
     std::optional<SearchableItems> m_destinations;
     std::optional<SearchableItems> m_options;
+    /// What `m_openIssues` was made for.
+    IssueList m_listed;
+    IssueList m_open;
+    /// The open issues that are not found among the listed ones.
     IssueIndex m_openIssues;
 };

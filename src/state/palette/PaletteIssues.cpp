@@ -1,5 +1,6 @@
 #include "state/palette/PaletteIssues.h"
 
+#include <QHash>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +52,22 @@ IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lis
     for (const auto &issue : remote)
         found.add(issue);
     return found.issues();
+}
+
+IssueList notYetSearched(const IssueList &issues, const IssueList &searched)
+{
+    if (issues.isEmpty())
+        return {};
+    QHash<QStringView, const Issue *> byKey;
+    byKey.reserve(searched.size());
+    for (const auto &issue : searched)
+        byKey.insert(issue->key, &*issue);
+    IssueList left = issues;
+    left.removeIf([&](const SharedIssue &issue) {
+        const auto *same = byKey.value(issue->key);
+        return same && (same == &*issue || SearchTexts::sameTexts(*same, *issue));
+    });
+    return left;
 }
 
 OptionItem issueItem(const Issue &issue)

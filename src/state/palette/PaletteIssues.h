@@ -19,6 +19,10 @@ struct SearchableIssues
 IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lists,
                         const IssueList &remote);
 
+/// The issues of a list that a search of `searched` cannot find for it: those whose key is not there, or with other texts.
+/// For the same queries they are found once, and half the texts are kept.
+IssueList notYetSearched(const IssueList &issues, const IssueList &searched);
+
 /// The row that opens an issue.
 OptionItem issueItem(const Issue &issue);
 /// The key of the issue that a row opens; nothing for other rows.

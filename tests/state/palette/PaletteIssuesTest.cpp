@@ -125,3 +125,16 @@ TEST(PaletteIssues, ARowOpensItsIssue)
     EXPECT_EQ(issueKeyOf(row), u"MOB-1"_s);
     EXPECT_EQ(issueKeyOf(OptionItem{.id = u"issue:MOB-1"_s}), std::nullopt);
 }
+
+TEST(PaletteIssues, WhatIsListedWithTheSameTextsNeedsNoSecondSearch)
+{
+    const SharedIssue shared = issue(u"MOB-1"_s);
+    Issue elsewhere = issue(u"MOB-3"_s, u"Ailleurs"_s);
+    Issue later = issue(u"MOB-2"_s);
+    later.updated = QDateTime::currentDateTimeUtc();
+    const IssueList listed{shared, issue(u"MOB-2"_s), issue(u"MOB-3"_s)};
+    EXPECT_EQ(keys(notYetSearched({shared, later, elsewhere, issue(u"MOB-4"_s)}, listed)),
+              (QStringList{u"MOB-3"_s, u"MOB-4"_s}));
+    EXPECT_TRUE(notYetSearched({}, listed).isEmpty());
+    EXPECT_EQ(keys(notYetSearched({shared}, {})), QStringList{u"MOB-1"_s});
+}
