@@ -1,6 +1,7 @@
 #include "screens/Bench.h"
 
 #include <QQuickItem>
+#include <QSGTextureProvider>
 
 #include <gtest/gtest.h>
 
@@ -157,6 +158,28 @@ TEST(Components, NobodyIsCalledNonAssigne)
         u"Avatar { id: a; hasUser: false; user: o.u; property QtObject o: QtObject { id: o; property jiraUser u } }"_s);
     ASSERT_NE(item, nullptr) << bench.warnings();
     EXPECT_EQ(Bench::accessible(item)->text(QAccessible::Name), u"Non assigné"_s);
+}
+
+TEST(Components, IconsThatLookTheSameShareOneTexture)
+{
+    Bench bench;
+    auto *holder =
+        bench.show(u"Row { property issueStatus s; property project p; "
+                   "StatusIcon { status: parent.s } StatusIcon { status: parent.s } "
+                   "PriorityIcon { level: 1 } PriorityIcon { level: 1 } "
+                   "ProjectBadge { project: parent.p } ProjectBadge { project: parent.p } "
+                   "PriorityIcon { level: 2 } }"_s);
+    ASSERT_NE(holder, nullptr) << bench.warnings();
+    bench.window().grabWindow();
+    QList<QSGTexture *> textures;
+    for (const auto *icon : holder->childItems())
+        textures += icon->textureProvider()->texture();
+    ASSERT_EQ(textures.size(), 7);
+    EXPECT_EQ(textures[0], textures[1]);
+    EXPECT_EQ(textures[2], textures[3]);
+    EXPECT_EQ(textures[4], textures[5]);
+    EXPECT_EQ(QSet<QSGTexture *>(textures.begin(), textures.end()).size(), 4);
+    EXPECT_EQ(bench.warnings(), "");
 }
 
 TEST(Components, GrowWithTheirText)
