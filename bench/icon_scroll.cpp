@@ -1,14 +1,17 @@
-// What the icons of the rows cost while a list scrolls: 10,000 rows with every icon that a row of issues has, beside
-// 10,000 empty ones, in windows of one size and one process. Every other row is shaded: where nothing changes on the
-// screen there are no frames to time.
+// What the icons of the rows cost while a list scrolls: 10,000 rows with every icon that a row of issues has, each an item
+// of the kit, and 10,000 rows of the list itself, which draws them in one, beside 10,000 empty ones, in windows of one size
+// and one process. Every other row is shaded: where nothing changes on the screen there are no frames to time.
 
+#include "BenchIssues.h"
 #include "FrameTable.h"
 #include "FrameTimer.h"
 #include "screens/kit/KitProviders.h"
 #include "screens/theme/Fonts.h"
+#include "state/models/IssueListModel.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <optional>
@@ -18,6 +21,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_ThemePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_IssuesPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 using namespace Qt::StringLiterals;
@@ -26,30 +30,48 @@ namespace {
 
 constexpr int Steps = 180;
 
-/// A window with a list of 10,000 rows, each 38 high with this in it.
-QByteArray listOf(const QByteArray &row)
+/// A window with a list of 10,000 rows, each 38 high. `delegate` shades every other row.
+QByteArray listOf(const QByteArray &model, const QByteArray &delegate)
 {
     return R"(import QtQuick
 import Velmora.Gallery
+import Velmora.Issues
 import Velmora.Kit
+import Velmora.State
 import Velmora.Theme
 Window {
+    RowStyle { id: rowStyle; keyWidth: 60; ink: Theme.text1; quiet: Theme.text2; outline: Theme.chipOutline }
     width: 1320; height: 840; visible: true; color: Theme.content
     ListView {
+        id: list
         anchors.fill: parent
-        model: 10000
-        delegate: Item {
-            id: cell
-            required property int index
-            width: ListView.view.width
-            height: 38
-            Rectangle { anchors.fill: parent; visible: cell.index % 2 === 0; color: Theme.hoverFill }
-            )" +
-           row + R"(
-        }
+        model: )" +
+           model + R"(
+        delegate: )" +
+           delegate + R"(
     }
 })";
 }
+
+/// A row that is shaded by turns, with this in it.
+QByteArray rowOf(const QByteArray &content)
+{
+    return R"(Item {
+            id: cell
+            required property int index
+            width: list.width; height: 38
+            Rectangle { anchors.fill: parent; visible: cell.index % 2 === 0; color: Theme.hoverFill }
+            )" +
+           content + "}";
+}
+
+// The row that the list of issues shows, with its texts.
+constexpr auto issueRow = R"(IssueRow {
+            id: cell
+            required property int index
+            width: list.width; height: 38; style: rowStyle; isSelecting: false
+            Rectangle { anchors.fill: parent; visible: cell.index % 2 === 0; color: Theme.hoverFill }
+        })";
 
 // Values vary by row as they would in a list of issues.
 constexpr auto icons = R"(Row {
@@ -64,12 +86,28 @@ constexpr auto icons = R"(Row {
     Avatar { user: Samples.people[cell.index % 3]; hasUser: cell.index % 4 > 0 }
 })";
 
-void measure(std::optional<FrameTable> &table, const QString &what, const QByteArray &row)
+/// Every third has a due date, and all have labels.
+IssueList manyIssues()
+{
+    IssueList list;
+    for (int number = 0; number < 10000; ++number) {
+        auto issue = sample(number);
+        issue.type = IssueType(u"1"_s, u"Bug"_s);
+        if (number % 3 == 0)
+            issue.dueDate = QDate(2023, 11, 20);
+        list.append(issue);
+    }
+    return list;
+}
+
+void measure(std::optional<FrameTable> &table, IssueListModel &issues, const QString &what,
+             const QByteArray &list)
 {
     QQmlApplicationEngine engine;
     engine.addImportPath(u":/qt/qml"_s);
     registerKitProviders(engine);
-    engine.loadData(listOf(row));
+    engine.rootContext()->setContextProperty(u"issues"_s, &issues);
+    engine.loadData(list);
     if (engine.rootObjects().isEmpty())
         qFatal("The list does not open.");
     FrameTimer timer(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()));
@@ -90,9 +128,14 @@ int main(int argc, char **argv)
     if (!Fonts::load())
         qFatal("The fonts of the program are missing.");
     std::optional<FrameTable> table;
-    measure(table, u"10000 empty rows"_s, {});
-    measure(table, u"10000 rows of icons"_s, icons);
+    IssueListModel issues(UserCalendar::system(),
+                          QDateTime::fromMSecsSinceEpoch(1'700'600'000'000));
+    issues.setIssues(manyIssues());
+    const auto empty = listOf("10000", rowOf({}));
+    measure(table, issues, u"empty rows"_s, empty);
+    measure(table, issues, u"rows of icons"_s, listOf("10000", rowOf(icons)));
+    measure(table, issues, u"rows of issues"_s, listOf("issues", issueRow));
     // Once more, to tell how far the machine itself has changed meanwhile.
-    measure(table, u"10000 empty rows"_s, {});
+    measure(table, issues, u"empty rows"_s, empty);
     return 0;
 }

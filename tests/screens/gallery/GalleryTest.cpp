@@ -117,14 +117,34 @@ QRect inkWithin(const QImage &picture, const QRect &part)
     return ink;
 }
 
+/// The picture with one part of it somewhere else; where it stood is the ground.
 QImage moved(const QImage &picture, const QRect &part, QPoint by)
 {
     QImage result = picture;
+    const QRgb ground = picture.pixel(0, 0);
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
+            result.setPixel(x, y, ground);
+    }
     for (int y = part.top(); y <= part.bottom(); ++y) {
         for (int x = part.left(); x <= part.right(); ++x)
             result.setPixel(QPoint(x, y) + by, picture.pixel(x, y));
     }
     return result;
+}
+
+/// A shift of the ink in a part of a picture by one pixel is told, unless the ink goes through the part from end to end:
+/// a bar that moves along itself stays as it is.
+bool isShiftSeen(const QImage &picture, const QRect &part, const QRect &ink)
+{
+    const QRect room = part.adjusted(-1, -1, 1, 1);
+    const QImage before = picture.copy(room);
+    const QRect local = ink.translated(-room.topLeft());
+    const auto isSeen = [&](QPoint by) {
+        return !pictureDifference(before, moved(before, local, by)).isForgiven();
+    };
+    return (ink.width() == part.width() || isSeen({1, 0})) &&
+           (ink.height() == part.height() || isSeen({0, 1}));
 }
 
 std::string nameOf(const std::tuple<int, bool> &param)
@@ -245,23 +265,33 @@ TEST_P(ReachableControls, AreReachedByTabUnlessTheyAreDisabled)
     }
 }
 
-TEST(PictureDifference, AnyIconThatMovesByOnePixelIsSeen)
+class PictureShift : public testing::TestWithParam<std::tuple<int, bool>>
 {
-    const QImage picture(fileOf(pages[0], false));
+};
+
+INSTANTIATE_TEST_SUITE_P(Pages, PictureShift,
+                         testing::Combine(testing::Range(0, int(std::size(pages))),
+                                          testing::Bool()),
+                         [](const auto &info) { return nameOf(info.param); });
+
+TEST_P(PictureShift, WhatMovesByOnePixelIsSeenWhereverItStands)
+{
+    const auto [index, dark] = GetParam();
+    const QImage picture(fileOf(pages[index], dark));
     ASSERT_FALSE(picture.isNull());
     const int tile = 70 * scale();
-    int icons = 0;
+    int parts = 0;
     for (int y = 1; y + tile < picture.height(); y += tile) {
         for (int x = 1; x + tile < picture.width(); x += tile) {
-            const QRect ink = inkWithin(picture, {x, y, tile, tile});
+            const QRect place(x, y, tile, tile);
+            const QRect ink = inkWithin(picture, place);
             if (ink.width() < 4 || ink.height() < 4)
                 continue;
-            ++icons;
-            EXPECT_FALSE(pictureDifference(picture, moved(picture, ink, {0, 1})).isForgiven());
-            EXPECT_FALSE(pictureDifference(picture, moved(picture, ink, {1, 0})).isForgiven());
+            ++parts;
+            EXPECT_TRUE(isShiftSeen(picture, place, ink));
         }
     }
-    EXPECT_GT(icons, 40);
+    EXPECT_GT(parts, 15);
 }
 
 TEST(PictureDifference, SmallestIconThatMovesByOnePixelIsSeen)
