@@ -57,7 +57,15 @@ FocusScope {
         onMoved: width => root.memory.sidebarWidth = width
     }
 
+    // Not while the palette has the keyboard.
+    Shortcut {
+        sequences: ["Ctrl+F"]
+        enabled: root.activeFocus && issues.visible
+        onActivated: issues.focusSearch()
+    }
+
     IssuesView {
+        id: issues
         x: root.detailLeft + 4
         width: root.detailRight - x - 4
         height: parent.height

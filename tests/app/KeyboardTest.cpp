@@ -57,9 +57,55 @@ TEST_F(Keyboard, EscapeLeavesTheSearchFieldAndThenClearsIt)
 
     press(Qt::Key_Escape);
     EXPECT_EQ(store().filterText(), u"mob"_s);
+    EXPECT_TRUE(find(QAccessible::List, u"Mes tickets"_s).state.focused);
     press(Qt::Key_Escape);
 
     EXPECT_EQ(store().filterText(), QString());
+}
+
+TEST_F(Keyboard, ReturnLeavesTheSearchFieldToTheRowsThatItFound)
+{
+    click(searchField());
+    type(u"mob-2"_s);
+    press(Qt::Key_Return);
+    press(Qt::Key_J);
+
+    EXPECT_EQ(focus(), "MOB-2");
+    EXPECT_EQ(store().filterText(), u"mob-2"_s);
+}
+
+TEST_F(Keyboard, AClickOnARowTakesTheKeyboardOutOfTheSearchField)
+{
+    click(searchField());
+    type(u"mob"_s);
+    click(await(QAccessible::ListItem, u"MOB-2,"_s));
+    press(Qt::Key_X);
+
+    EXPECT_EQ(store().filterText(), u"mob"_s);
+    EXPECT_EQ(store().checked(), QSet<QString>{u"MOB-2"_s});
+}
+
+TEST_F(Keyboard, AClickOnACardTakesTheKeyboardOutOfTheSearchField)
+{
+    press(Qt::Key_2);
+    click(searchField());
+    type(u"mob"_s);
+    click(await(QAccessible::ListItem, u"MOB-2,"_s));
+    press(Qt::Key_X);
+
+    EXPECT_EQ(store().filterText(), u"mob"_s);
+    EXPECT_EQ(store().checked(), QSet<QString>{u"MOB-2"_s});
+}
+
+TEST_F(Keyboard, ControlFGoesToTheSearchFieldUnlessThePaletteHasTheKeyboard)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(searchField().state.focused);
+    press(Qt::Key_Escape);
+
+    press(Qt::Key_K, Qt::ControlModifier);
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_FALSE(searchField().state.focused);
 }
 
 TEST_F(Keyboard, TheRowsOfAFoldedGroupAreNotOnThePath)

@@ -90,9 +90,10 @@ class Velmora:
         """Presses Tab until something of that name has the focus."""
         seen = []
         for _ in range(30):
-            focused = self.app.focused()
-            seen.append(focused.name if focused else None)
-            if focused and re.search(name, focused.name):
+            # Beside the control that has the keyboard, the focused issue says so too.
+            focused = [node.name for node in self.app.all(states=("focused",))]
+            seen.append(focused)
+            if any(re.search(name, each) for each in focused):
                 return
             self.session.key("Tab")
             self.session.settle()

@@ -20,6 +20,12 @@ FocusScope {
     readonly property int columnGap: 12
     readonly property int sidePadding: 16
 
+    // Takes the keyboard out of any text field: key commands work at once after a click.
+    function click(key: string, modifiers: int) {
+        board.forceActiveFocus(Qt.MouseFocusReason);
+        store.handleClick(key, modifiers);
+    }
+
     BoardDrops {
         id: drops
         store: root.store
@@ -57,7 +63,7 @@ FocusScope {
                     height: columns.height
                     focusedKey: root.store.focusedKey
                     clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
-                    onCardClicked: (key, modifiers) => root.store.handleClick(key, modifiers)
+                    onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, cell) => root.picker.toggle(kind, key, cell)
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)

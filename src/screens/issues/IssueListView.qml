@@ -28,6 +28,12 @@ FocusScope {
             contextMenu.open(store.focusedKey, row, 68, rowHeight);
     }
 
+    // Takes the keyboard out of any text field: key commands work at once after a click.
+    function click(key: string, modifiers: int) {
+        list.forceActiveFocus(Qt.MouseFocusReason);
+        store.handleClick(key, modifiers);
+    }
+
     function newIssueIn(header: issueListHeader) {
         CreateScreen.open(store, header.hasProject ? header.projectOrEmpty.key : "");
     }
@@ -108,7 +114,7 @@ FocusScope {
                     isSelecting: root.store.isSelecting
                     hasMenu: root.contextMenu.key === issue.key
                     onIsHoveredChanged: if (isHovered) root.hotRow = row
-                    onClicked: modifiers => root.store.handleClick(issue.key, modifiers)
+                    onClicked: modifiers => root.click(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
                     onPickRequested: (kind, cell) => root.picker.toggle(kind, issue.key, cell)

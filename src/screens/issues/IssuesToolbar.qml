@@ -15,6 +15,7 @@ Item {
     property bool hasSidebarButton: false
 
     signal sidebarWanted()
+    signal searchLeft()
 
     function focusSearch() {
         search.open()
@@ -118,6 +119,7 @@ Item {
             id: search
             store: root.store
             room: root.width
+            onFinished: root.searchLeft()
         }
     }
 }

@@ -17,6 +17,10 @@ FocusScope {
 
     signal sidebarWanted()
 
+    function focusSearch() {
+        toolbar.focusSearch();
+    }
+
     IssuesContent {
         id: content
         store: root.store
@@ -34,6 +38,7 @@ FocusScope {
         filters: activeFilters
         hasSidebarButton: root.hasSidebarButton
         onSidebarWanted: root.sidebarWanted()
+        onSearchLeft: body.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     Column {
@@ -61,8 +66,9 @@ FocusScope {
         }
     }
 
-    Item {
+    FocusScope {
         id: body
+        focus: true
         anchors.top: heads.bottom
         anchors.left: parent.left
         anchors.right: parent.right

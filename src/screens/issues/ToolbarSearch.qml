@@ -16,6 +16,9 @@ Item {
     // The unfolded field needs the title's place.
     readonly property bool coversTitle: room < 500 && !isFolded
 
+    // The keyboard is the list's from now on; the text stays.
+    signal finished()
+
     function open() {
         field.forceActiveFocus(Qt.ShortcutFocusReason)
     }
@@ -31,7 +34,9 @@ Item {
         placeholderText: "Filtrer"
         text: root.store.filterText
         onTextChanged: root.store.filterText = text
-        Keys.onEscapePressed: focus = false
+        Keys.onEscapePressed: root.finished()
+        Keys.onReturnPressed: root.finished()
+        Keys.onEnterPressed: root.finished()
     }
 
     IconButton {
