@@ -90,6 +90,14 @@ TEST_F(Board, TheToolbarSwitchesToo)
     EXPECT_EQ(store().layout(), LayoutMode::Board);
 }
 
+TEST_F(Board, TheKeyboardGoesOverToWhatTakesThePlace)
+{
+    press(Qt::Key_1);
+    EXPECT_TRUE(await(QAccessible::List, u"Mes tickets"_s).state.focused);
+    press(Qt::Key_2);
+    EXPECT_TRUE(await(QAccessible::Grouping, u"Mes tickets"_s).state.focused);
+}
+
 TEST_F(Board, WhatCameWhileTheListWasShownStandsOnTheBoardAfterTheSwitch)
 {
     press(Qt::Key_1);
