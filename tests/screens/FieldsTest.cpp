@@ -113,11 +113,78 @@ TEST_F(InputAreaTest, ScrollsToTheCaretOnceItIsAsHighAsItMayBe)
     EXPECT_DOUBLE_EQ(view->property("contentY").toReal(), 0);
 }
 
-TEST_F(InputAreaTest, LeavesTheWheelToThePageWhileAllOfItIsSeen)
+TEST_F(InputAreaTest, ADragSelectsAndScrollsNothing)
 {
     show();
-    m_area->setProperty("text", lines(3));
-    EXPECT_FALSE(findBelow(m_area, "QQuickFlickable")->property("interactive").toBool());
+    m_area->setProperty("text", lines(60));
+    m_bench.window().grabWindow();
+    const auto at = [this](int x, int y) { return m_area->mapToScene(QPointF(x, y)).toPoint(); };
+    QTest::mousePress(&m_bench.window(), Qt::LeftButton, {}, at(12, 12));
+    for (int y = 30; y <= 110; y += 20)
+        QTest::mouseMove(&m_bench.window(), at(40, y));
+    QTest::mouseRelease(&m_bench.window(), Qt::LeftButton, {}, at(40, 110));
+    EXPECT_GT(m_editor->property("selectedText").toString().size(), 20);
+    EXPECT_DOUBLE_EQ(findBelow(m_area, "QQuickFlickable")->property("contentY").toReal(), 0);
+}
+
+class ScrolledPage : public testing::Test
+{
+protected:
+    // A page that is higher than the window, with an area at its top.
+    void show(int lineCount)
+    {
+        m_page = m_bench.show(u"Flickable { property alias area: a; width: 600; height: 400; "
+                              "contentHeight: 1200; InputArea { id: a; name: 'Description' } }"_s);
+        ASSERT_NE(m_page, nullptr) << m_bench.warnings();
+        auto *area = m_page->property("area").value<QQuickItem *>();
+        area->setProperty("text", lines(lineCount));
+        m_view = findBelow(area, "QQuickFlickable");
+        m_bench.window().grabWindow();
+    }
+    void TearDown() override { EXPECT_EQ(m_bench.warnings(), ""); }
+
+    /// A stroke over the area on a touchpad, in four steps.
+    void scroll(int pixels)
+    {
+        send(0, Qt::ScrollBegin);
+        for (int i = 0; i < 4; ++i)
+            send(pixels / 4, Qt::ScrollUpdate);
+        send(0, Qt::ScrollEnd);
+    }
+    void send(int pixels, Qt::ScrollPhase phase)
+    {
+        const QPointF at(50, 30);
+        QWheelEvent event(at, m_bench.window().mapToGlobal(at), {0, -pixels}, {0, -pixels},
+                          Qt::NoButton, Qt::NoModifier, phase, false,
+                          Qt::MouseEventSynthesizedBySystem);
+        event.setTimestamp(m_time += 16);
+        QCoreApplication::sendEvent(&m_bench.window(), &event);
+    }
+    static qreal placeOf(const QQuickItem *flickable)
+    {
+        return flickable->property("contentY").toReal();
+    }
+
+    Bench m_bench;
+    QQuickItem *m_page = nullptr;
+    QQuickItem *m_view = nullptr;
+    quint64 m_time = 1000;
+};
+
+TEST_F(ScrolledPage, TheWheelScrollsALongTextAndNotThePage)
+{
+    show(60);
+    scroll(160);
+    EXPECT_GT(placeOf(m_view), 30);
+    EXPECT_DOUBLE_EQ(placeOf(m_page), 0);
+}
+
+TEST_F(ScrolledPage, TheWheelScrollsThePageWhileAllOfTheTextIsSeen)
+{
+    show(2);
+    scroll(160);
+    EXPECT_GT(placeOf(m_page), 30);
+    EXPECT_DOUBLE_EQ(placeOf(m_view), 0);
 }
 
 TEST_F(InputAreaTest, TabAndShiftTabLeaveItAndTypeNothing)

@@ -45,10 +45,15 @@ void addOptions(QCommandLineParser &parser)
 void savePicture(QQuickWindow *window, const QString &file)
 {
     constexpr int settled = 500;
-    QTimer::singleShot(settled, window, [window, file] {
+    const auto save = [window, file] {
         window->grabWindow().save(file);
         window->close();
-    });
+    };
+    // What moves begins to when it is first seen.
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window,
+        [window, save] { QTimer::singleShot(settled, window, save); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 } // namespace

@@ -15,6 +15,8 @@ T.RadioButton {
     signal chosen()
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    // Its ring lies over its neighbours.
+    z: ringed ? 1 : 0
     leftPadding: 12
     rightPadding: 12
     // Which one is chosen is the picker's to say.
