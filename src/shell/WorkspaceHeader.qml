@@ -48,7 +48,7 @@ Item {
             look: IconButton.Glass
             side: 28
             name: "Rechercher"
-            hint: Words.localized("Rechercher (⌘K)")
+            hint: Hints.search
             symbol: "magnifyingglass"
             onClicked: root.store.togglePalette()
         }
@@ -58,7 +58,7 @@ Item {
             side: 28
             enabled: CreateScreen.isAvailable
             name: "Nouveau ticket"
-            hint: "Nouveau ticket (C)"
+            hint: Hints.newIssue
             symbol: "square.and.pencil"
             onClicked: CreateScreen.open(root.store, "")
         }

@@ -31,12 +31,6 @@ void AppCommands::run(int command)
         m_store->run(AppCommand(command));
 }
 
-QString AppCommands::hint(const QString &words, int command) const
-{
-    const QString shortcut = Wording::localized(commandShortcut(AppCommand(command)));
-    return shortcut.isEmpty() ? words : words + u" ("_s + shortcut + u')';
-}
-
 CommandEntry AppCommands::entry(AppCommand command) const
 {
     const bool isInspecting = m_store && m_store->showInspector();

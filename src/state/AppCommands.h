@@ -57,8 +57,6 @@ public:
 
     /// Carries out a `Commands.AppCommand`, unless it cannot be chosen now.
     Q_INVOKABLE void run(int command);
-    /// The words with the command's shortcut behind them: "Actualiser (Ctrl+R)".
-    Q_INVOKABLE QString hint(const QString &words, int command) const;
 
 Q_SIGNALS:
     void storeChanged();

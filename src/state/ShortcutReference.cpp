@@ -1,6 +1,7 @@
 #include "state/ShortcutReference.h"
 
 #include "state/CommandTable.h"
+#include "state/ShortcutHints.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,34 +12,56 @@ ShortcutMeaning command(AppCommand command, const QString &meaning)
     return {commandShortcut(command), meaning};
 }
 
+QString keyOf(KeyCommand command)
+{
+    return keyTexts(command).last();
+}
+
+ShortcutMeaning key(KeyCommand command, const QString &meaning)
+{
+    return {keyOf(command), meaning};
+}
+
+QString pair(const QString &first, const QString &second)
+{
+    return first + u" / "_s + second;
+}
+
+QString lettersOrArrows(const QStringList &down, const QStringList &up)
+{
+    return pair(down.last(), up.last()) + u"  ou  "_s + pair(down.first(), up.first());
+}
+
 ShortcutGroup general()
 {
     return {u"Général"_s,
             {command(AppCommand::CommandPalette, u"Palette de commandes"_s),
-             {u"C"_s, u"Nouveau ticket"_s},
+             key(KeyCommand::NewIssue, u"Nouveau ticket"_s),
              command(AppCommand::Reload, u"Actualiser"_s),
-             {u"1 / 2"_s, u"Vue liste / tableau"_s}}};
+             {pair(keyOf(KeyCommand::ShowList), keyOf(KeyCommand::ShowBoard)),
+              u"Vue liste / tableau"_s}}};
 }
 
 ShortcutGroup navigation()
 {
     return {u"Navigation"_s,
-            {{u"J / K  ou  ↓ / ↑"_s, u"Ticket suivant / précédent"_s},
-             {u"↩"_s, u"Ouvrir le ticket"_s},
-             {u"Espace"_s, u"Afficher / masquer l'aperçu"_s},
-             {u"⌘↩"_s, u"Ouvrir dans une nouvelle fenêtre"_s},
-             {u"Échap"_s, u"Fermer / désélectionner"_s}}};
+            {{lettersOrArrows(keyTexts(KeyCommand::MoveDown), keyTexts(KeyCommand::MoveUp)),
+              u"Ticket suivant / précédent"_s},
+             key(KeyCommand::OpenInspector, u"Ouvrir le ticket"_s),
+             key(KeyCommand::Peek, u"Afficher / masquer l'aperçu"_s),
+             key(KeyCommand::OpenWindow, u"Ouvrir dans une nouvelle fenêtre"_s),
+             key(KeyCommand::Escape, u"Fermer / désélectionner"_s)}};
 }
 
 ShortcutGroup issue()
 {
     return {u"Ticket"_s,
-            {{u"S"_s, u"Changer le statut"_s},
-             {u"P"_s, u"Changer la priorité"_s},
-             {u"A"_s, u"Assigner"_s},
-             {u"I"_s, u"M'assigner"_s},
-             {u"L"_s, u"Étiquettes"_s},
-             {u"X  ·  ⌘clic  ·  ⇧clic"_s, u"Sélection multiple"_s},
+            {key(KeyCommand::PickStatus, u"Changer le statut"_s),
+             key(KeyCommand::PickPriority, u"Changer la priorité"_s),
+             key(KeyCommand::PickAssignee, u"Assigner"_s),
+             key(KeyCommand::AssignToMe, u"M'assigner"_s),
+             key(KeyCommand::PickLabels, u"Étiquettes"_s),
+             {keyOf(KeyCommand::ToggleCheck) + u"  ·  ⌘clic  ·  ⇧clic"_s, u"Sélection multiple"_s},
              command(AppCommand::CopyKey, u"Copier la clé"_s),
              command(AppCommand::CopyBranch, u"Copier le nom de branche git"_s),
              command(AppCommand::CopyLink, u"Copier le lien"_s),

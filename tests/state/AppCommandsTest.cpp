@@ -1,6 +1,7 @@
 #include "state/AppCommands.h"
 
 #include "state/AppStoreFixture.h"
+#include "state/Hints.h"
 
 #include <QSignalSpy>
 
@@ -123,6 +124,6 @@ TEST_F(AppCommandsTest, ShortcutsReadAsOnThisSystem)
 
 TEST_F(AppCommandsTest, AHintNamesTheShortcut)
 {
-    EXPECT_EQ(commands.hint(u"Rafraîchir"_s, int(AppCommand::Reload)), u"Rafraîchir (Ctrl+R)"_s);
-    EXPECT_EQ(commands.hint(u"Statut"_s, int(AppCommand::ChangeStatus)), u"Statut"_s);
+    EXPECT_EQ(Hints::reload(), u"Actualiser (Ctrl+R)"_s);
+    EXPECT_EQ(Hints::search(), u"Rechercher (Ctrl+K)"_s);
 }

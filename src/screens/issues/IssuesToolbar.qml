@@ -99,7 +99,7 @@ Item {
 
                 ToolbarCell {
                     name: "Actualiser"
-                    hint: Words.localized("Actualiser (⌘R)")
+                    hint: Hints.reload
                     symbol: "arrow.clockwise"
                     onClicked: root.store.refresh()
                 }
@@ -110,7 +110,7 @@ Item {
             look: IconButton.Prominent
             enabled: CreateScreen.isAvailable
             name: "Nouveau ticket"
-            hint: "Nouveau ticket (C)"
+            hint: Hints.newIssue
             symbol: "plus"
             onClicked: root.store.newIssue()
         }

@@ -1,6 +1,7 @@
 import QtQuick
 import Velmora.Kit
 import Velmora.Model
+import Velmora.State
 
 // List or board.
 GlassCapsule {
@@ -22,7 +23,7 @@ GlassCapsule {
             on: root.layout === Model.LayoutMode.List
             Accessible.checkable: true
             Accessible.checked: on
-            hint: "Liste (1) · Tableau (2)"
+            hint: Hints.layout
             onClicked: root.chosen(Model.LayoutMode.List)
         }
 
@@ -33,7 +34,7 @@ GlassCapsule {
             on: root.layout === Model.LayoutMode.Board
             Accessible.checkable: true
             Accessible.checked: on
-            hint: "Liste (1) · Tableau (2)"
+            hint: Hints.layout
             onClicked: root.chosen(Model.LayoutMode.Board)
         }
     }

@@ -4,6 +4,7 @@
 #include "screens/issues/RowCaptions.h"
 #include "screens/issues/RowPictures.h"
 #include "screens/kit/images/ImageLoader.h"
+#include "state/ShortcutHints.h"
 
 #include <QHoverEvent>
 
@@ -137,7 +138,7 @@ RowSpot RowLine::spotAt(double x) const
 {
     constexpr double checkOutset = 4;
     if (isWithin(x, m_plan.check - checkOutset, checkTarget))
-        return {m_plan.check - checkOutset, checkTarget, u"Sélectionner (X)"_s};
+        return {m_plan.check - checkOutset, checkTarget, selectHint()};
     if (isWithin(x, m_plan.priority, cellWidth))
         return {m_plan.priority, cellWidth, displayName(m_issue.priorityLevel()), true};
     if (isWithin(x, m_plan.status, cellWidth))

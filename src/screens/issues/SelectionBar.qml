@@ -63,7 +63,7 @@ Item {
                 anchors.right: parent.right
                 anchors.rightMargin: Metrics.gap
                 anchors.verticalCenter: parent.verticalCenter
-                name: "Désélectionner (Échap)"
+                name: Hints.deselect
                 symbol: "xmark"
                 symbolSize: 9.5
                 symbolWeight: "semibold"
