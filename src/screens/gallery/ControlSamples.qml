@@ -129,32 +129,38 @@ Item {
             spacing: 12
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Connecter Jira"
                 look: PushButton.Prominent
             }
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Réessayer"
                 symbol: "arrow.clockwise"
             }
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Annuler"
                 look: PushButton.Plain
             }
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Créer"
                 look: PushButton.Prominent
                 enabled: false
             }
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Explorer la démo"
                 large: true
             }
 
             PushButton {
+                anchors.verticalCenter: parent.verticalCenter
                 text: "Focalisé"
 
                 FocusRing {
@@ -164,6 +170,7 @@ Item {
             }
 
             IconButton {
+                anchors.verticalCenter: parent.verticalCenter
                 name: "Rechercher"
                 symbol: "magnifyingglass"
                 look: IconButton.Glass
@@ -172,12 +179,14 @@ Item {
             }
 
             IconButton {
+                anchors.verticalCenter: parent.verticalCenter
                 name: "Ajouter"
                 symbol: "plus"
                 symbolWeight: "semibold"
             }
 
             InputField {
+                anchors.verticalCenter: parent.verticalCenter
                 name: "Adresse"
                 placeholderText: "mon-equipe.atlassian.net"
                 width: 200

@@ -201,6 +201,7 @@ Column {
             model: ["1", "C", "↑↓", "↩", "Ctrl+K", "Ctrl+Maj+O", "esc"]
 
             KeyCap {
+                anchors.verticalCenter: parent.verticalCenter
                 required property string modelData
 
                 text: modelData
@@ -208,19 +209,23 @@ Column {
         }
 
         RowCheckBox {
+            anchors.verticalCenter: parent.verticalCenter
             name: "Sélectionner"
         }
 
         RowCheckBox {
+            anchors.verticalCenter: parent.verticalCenter
             name: "Sélectionner"
             checked: true
         }
 
         Spinner {
+            anchors.verticalCenter: parent.verticalCenter
             running: false
         }
 
         Spinner {
+            anchors.verticalCenter: parent.verticalCenter
             running: false
             size: 28
         }

@@ -36,6 +36,7 @@ Column {
                 }
 
                 AppText {
+                    anchors.verticalCenter: parent.verticalCenter
                     width: 135
                     text: cell.modelData
                     role: TypeScale.Caption
