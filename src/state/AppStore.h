@@ -309,6 +309,8 @@ private:
     void flush(unsigned what) override;
     IssueDerivationInputs derivationInputs() const;
     void feedLists();
+    void feedBoard();
+    void feedGroups();
     void feedMarks();
     void feedSidebar();
     void refreshCaptions();
@@ -340,6 +342,9 @@ private:
     mutable StatusSources m_statusSources;
     mutable StatusLookup m_statusLookup{m_statusSources};
     mutable std::optional<QHash<QString, JiraUser>> m_badgeUsers;
+    /// What the models show; nothing yet at 0.
+    std::pair<quint64, QSet<QString>> m_fedGroups;
+    quint64 m_fedBoard = 0;
     IssueListModel m_issueList{m_context.calendar, *m_now};
     BoardModel m_board{m_context.calendar, *m_now};
     SidebarModel m_sidebar;

@@ -66,10 +66,24 @@ void AppStore::flush(unsigned what)
 void AppStore::feedLists()
 {
     m_derivation.setInputs(derivationInputs());
-    // The other layout is out of sight.
+    // The other layout is out of sight. Coming back to one that nothing has changed costs nothing.
     if (*m_layout == LayoutMode::Board)
-        m_board.setColumns(boardColumns());
+        feedBoard();
     else
+        feedGroups();
+}
+
+void AppStore::feedBoard()
+{
+    const quint64 version = m_derivation.boardVersion();
+    if (std::exchange(m_fedBoard, version) != version)
+        m_board.setColumns(boardColumns());
+}
+
+void AppStore::feedGroups()
+{
+    const std::pair shown(m_derivation.groupsVersion(), *m_collapsedGroups);
+    if (std::exchange(m_fedGroups, shown) != shown)
         m_issueList.setGroups(groups(), *m_collapsedGroups);
 }
 

@@ -94,7 +94,8 @@ void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &o
         m_issues.set(issues);
         m_scopeCache.insert(scope, issues);
         mergeIntoDetails(issues);
-        m_checked.set(QSet(*m_checked).intersect(keysOf(issues)));
+        if (!m_checked->isEmpty())
+            m_checked.set(QSet(*m_checked).intersect(keysOf(issues)));
         m_loadError.set(std::nullopt);
     } else if (!outcome.error().isCancellation) {
         m_loadError.set(outcome.error().message);
@@ -110,6 +111,8 @@ void AppStore::startProjectMeta()
 
 void AppStore::mergeIntoDetails(const IssueList &fresh)
 {
+    if (m_details->isEmpty())
+        return;
     IssueMap details = *m_details;
     for (const auto &issue : fresh) {
         const auto known = details.constFind(issue->key);

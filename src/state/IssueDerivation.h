@@ -36,6 +36,9 @@ public:
     const QList<IssueGroup> &groups() const;
     /// The columns of the board layout.
     const QList<IssueGroup> &boardColumns() const;
+    /// Grow whenever the sections or the columns have become others, from 1.
+    quint64 groupsVersion() const { return listMemo().version; }
+    quint64 boardVersion() const { return boardMemo().version; }
     /// The keys of what the present layout shows, in the order in which it is read; without collapsed groups in a list.
     const QStringList &flatVisibleKeys() const;
     const IssueDerivationMenus &menus() const;

@@ -94,6 +94,32 @@ TEST_F(AppStoreDerivedTest, aReloadFeedsTheListOnce)
     EXPECT_EQ(updates.count(), 1);
 }
 
+TEST_F(AppStoreDerivedTest, comingBackToALayoutThatNothingHasChangedFeedsNothing)
+{
+    store->setLayout(LayoutMode::Board);
+    store->setLayout(LayoutMode::List);
+    const QSignalSpy rows(store->issueList(), &IssueListModel::updated);
+    const QSignalSpy columns(store->board(), &BoardModel::updated);
+    store->setLayout(LayoutMode::Board);
+    store->setLayout(LayoutMode::List);
+
+    EXPECT_EQ(rows.count(), 0);
+    EXPECT_EQ(columns.count(), 0);
+}
+
+TEST_F(AppStoreDerivedTest, theLayoutOutOfSightIsFedWhenItComesBack)
+{
+    store->setLayout(LayoutMode::Board);
+    const QSignalSpy rows(store->issueList(), &IssueListModel::updated);
+    reloadWith({sampleIssue(u"WEB-9"_s)});
+    EXPECT_EQ(rows.count(), 0);
+    EXPECT_EQ(store->board()->columnOfKey(u"WEB-9"_s) >= 0, true);
+
+    store->setLayout(LayoutMode::List);
+    EXPECT_EQ(store->issueList()->rowCount(), 2) << "a header and an issue";
+    EXPECT_GE(store->issueList()->rowOfKey(u"WEB-9"_s), 0);
+}
+
 TEST_F(AppStoreDerivedTest, aListenerOfAFieldSeesListsMadeFromIt)
 {
     int seen = -1;

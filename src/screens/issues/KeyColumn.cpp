@@ -21,11 +21,15 @@ int keyColumnWidth(const IssueList &issues, const std::function<qreal(const QStr
         return narrowest;
     qreal width = 0;
     QSet<std::pair<QString, qsizetype>> measured;
+    std::pair<QString, qsizetype> last;
     for (const auto &issue : issues) {
-        const std::pair shape(issue->projectKey, issue->key.size());
-        if (measured.contains(shape))
+        // Mostly that of the issue before, which is told without a look into the set.
+        if (issue->key.size() == last.second && issue->projectKey == last.first)
             continue;
-        measured.insert(shape);
+        last = {issue->projectKey, issue->key.size()};
+        if (measured.contains(last))
+            continue;
+        measured.insert(last);
         width = std::max(width, advance(issue->key));
     }
     return std::clamp(int(std::ceil(width)) + margin, narrowest, widest);
