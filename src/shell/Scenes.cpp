@@ -98,10 +98,17 @@ QQuickWindow *Scenes::make(const QString &file, const QVariantMap &properties)
     QQmlComponent component(&m_engine, QUrl(u"qrc:/qt/qml/Velmora/Shell/"_s + file + u".qml"_s));
     QVariantMap all = properties;
     all.insert(u"store"_s, QVariant::fromValue(&m_store));
-    QObject *made = component.createWithInitialProperties(all);
-    if (!made)
+    auto *window = qobject_cast<QQuickWindow *>(component.beginCreate(m_engine.rootContext()));
+    if (!window) {
         qWarning().noquote() << component.errorString();
-    return qobject_cast<QQuickWindow *>(made);
+        return nullptr;
+    }
+    component.setInitialProperties(window, all);
+    // Before it is shown. What is remembered fits already.
+    if (!all.contains(u"width"_s) && window->screen())
+        window->resize(sizeOnScreen(window->size(), window->screen()->availableSize()));
+    component.completeCreate();
+    return window;
 }
 
 void Scenes::watch(QQuickWindow *window)

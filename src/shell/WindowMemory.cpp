@@ -60,6 +60,16 @@ std::optional<QRect> frameOnScreens(const QRect &frame, const QList<QRect> &scre
     return QRect(QPoint(x, y), size);
 }
 
+QSize sizeOnScreen(const QSize &usual, const QSize &room)
+{
+    constexpr QSize smallestMain(940, 580);
+    // The desktop's own is known only once the window is there; few are higher.
+    constexpr int titleBar = 40;
+    const bool holdsTheProgram =
+        room.width() >= smallestMain.width() && room.height() >= smallestMain.height();
+    return holdsTheProgram ? usual.boundedTo(room - QSize(0, titleBar)) : usual;
+}
+
 WindowMemory::WindowMemory(Preferences &preferences, QObject *parent)
     : QObject(parent),
       m_preferences(preferences),

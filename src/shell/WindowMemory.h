@@ -15,6 +15,11 @@
 /// and moved into it. Nothing if it lies on none.
 std::optional<QRect> frameOnScreens(const QRect &frame, const QList<QRect> &screens);
 
+/// The size of a window that comes up for the first time, where the screen leaves that much room: no larger than the room,
+/// less the height of a title bar. A screen that does not hold the smallest main window, 940 × 580, is left to the
+/// desktop.
+QSize sizeOnScreen(const QSize &usual, const QSize &room);
+
 /// Remembers size, place and pane widths of the main window in the preferences, from one start to the next.
 class WindowMemory : public QObject
 {

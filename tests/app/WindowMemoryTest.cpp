@@ -36,6 +36,22 @@ TEST(FrameOnScreens, AFrameOnAScreenThatIsGoneIsForgotten)
     EXPECT_EQ(frameOnScreens({0, 0, 100, 100}, {}), std::nullopt);
 }
 
+TEST(SizeOnScreen, AWindowThatFitsHasItsUsualSize)
+{
+    EXPECT_EQ(sizeOnScreen({1320, 840}, {1920, 1080}), QSize(1320, 840));
+}
+
+TEST(SizeOnScreen, OnASmallerScreenRoomIsLeftForTheTitleBar)
+{
+    EXPECT_EQ(sizeOnScreen({1320, 840}, {1366, 768}), QSize(1320, 728));
+    EXPECT_EQ(sizeOnScreen({1320, 840}, {1280, 720}), QSize(1280, 680));
+}
+
+TEST(SizeOnScreen, AScreenThatDoesNotHoldTheProgramIsLeftToTheDesktop)
+{
+    EXPECT_EQ(sizeOnScreen({1320, 840}, {800, 600}), QSize(1320, 840));
+}
+
 class RememberedWindow : public WindowFixture
 {
 };

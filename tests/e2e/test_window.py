@@ -18,6 +18,18 @@ class Place(WindowCase):
         self.assertEqual(again.app.window("Velmora").rect, (130, 90, 1010, 700))
 
 
+class SmallScreen(WindowCase):
+    screen = (1366, 768)
+
+    def test_every_window_comes_up_within_it(self):
+        velmora = self.open_demo(size=None)
+        self.session.key("j", "ctrl+Return")
+        issue = velmora.app.wait_window("^WEB-202")
+        for window in (velmora.app.window("Velmora"), issue):
+            self.assertLessEqual(window.width, 1366)
+            self.assertLessEqual(window.height, 728)
+
+
 class SmallSteps(WindowCase):
     """A fractional scale: pixels that are neither plane nor pane would be a gap or a blurred edge."""
 
