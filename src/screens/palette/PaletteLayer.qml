@@ -50,7 +50,11 @@ FocusScope {
         y: Metrics.paletteTop
         focus: true
         shown: root.wasShown
-        onWanted: setSource("PalettePanel.qml", { commandPalette: logic, isDemo: Qt.binding(() => root.store.isDemo) })
+        onWanted: setSource("PalettePanel.qml", {
+            commandPalette: logic,
+            isDemo: Qt.binding(() => root.store.isDemo),
+            isSettled: Qt.binding(() => root.opacity === 1)
+        })
         scale: root.shown ? 1 : Motion.paletteScale
 
         Behavior on scale {

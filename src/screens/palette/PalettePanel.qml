@@ -11,6 +11,8 @@ GlassPanel {
 
     required property CommandPalette commandPalette
     required property bool isDemo
+    // It is neither coming nor going.
+    required property bool isSettled
 
     readonly property bool hasHead: commandPalette.capsules.length > 0
     // What a low window leaves to the rows, between the field and the footer.
@@ -20,7 +22,7 @@ GlassPanel {
     height: footer.y + footer.height
     radius: Metrics.radiusPalette
     shadow: "palette"
-    color: Theme.elevatedGlass
+    color: Theme.paletteFill
 
     Accessible.role: Accessible.Dialog
     Accessible.name: commandPalette.isPicker ? commandPalette.title : "Palette de commandes"
@@ -29,6 +31,15 @@ GlassPanel {
         window: root.Window.window
         palette: root.commandPalette
         field: field
+    }
+
+    // Without round corners it is known to hide what lies below, which then is not drawn at each letter.
+    Rectangle {
+        visible: root.isSettled
+        y: root.radius
+        width: parent.width
+        height: parent.height - 2 * root.radius
+        color: root.color
     }
 
     // Clicks beside a row are not clicks on what lies below.
@@ -71,10 +82,9 @@ GlassPanel {
         visible: root.commandPalette.isSearching && root.commandPalette.isOpen
     }
 
-    Rectangle {
+    Hairline {
         anchors.top: rows.top
         width: parent.width
-        height: 1
         color: Theme.divider
     }
 
@@ -88,10 +98,10 @@ GlassPanel {
         commandPalette: root.commandPalette
     }
 
-    Rectangle {
-        anchors.bottom: footer.top
+    Hairline {
+        anchors.top: footer.top
         width: parent.width
-        height: 1
+        visible: !rows.hasMore
         color: Theme.divider
     }
 

@@ -11,6 +11,8 @@ Item {
     id: root
 
     required property CommandPalette commandPalette
+    // There are rows below those in sight.
+    readonly property bool hasMore: !list.atYEnd && commandPalette.rowCount > 0
     // At most so high; what is more is scrolled to.
     property real maxHeight: Metrics.paletteMaxHeight
 
@@ -62,10 +64,10 @@ Item {
         anchors.bottom: parent.bottom
         width: parent.width
         height: 28
-        visible: !list.atYEnd && root.commandPalette.rowCount > 0
+        visible: root.hasMore
         gradient: Gradient {
-            GradientStop { position: 0; color: Qt.alpha(Theme.elevatedGlass, 0) }
-            GradientStop { position: 1; color: Theme.elevatedGlass }
+            GradientStop { position: 0; color: Qt.alpha(Theme.paletteFill, 0) }
+            GradientStop { position: 1; color: Theme.paletteFill }
         }
     }
 

@@ -41,6 +41,8 @@ QtObject {
     // Glass, at the opacities that need no blur behind it
     /// Palette, popovers, menus, tooltips.
     readonly property color elevatedGlass: dark ? "#F728282E" : "#F7FCFCFE"
+    /// The palette's glass as it looks over the scrim. Opaque: nothing of the list shines through its rows, nor is drawn.
+    readonly property color paletteFill: dark ? "#26262B" : "#F7F7F9"
     /// Capsules, chips, badges, breadcrumb.
     readonly property color glass: dark ? "#EB2E2E35" : "#EBFFFFFF"
     /// Selection bar, toasts, drag preview.
