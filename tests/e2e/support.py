@@ -59,6 +59,9 @@ class Velmora:
         for node in self.app.all(by_place=True):
             issue, header = ISSUE.match(node.name), HEADER.match(node.name)
             if issue and node.role == "list item":
+                if not groups:
+                    # Looked at while the list changes: its header is still to come.
+                    groups.append((None, []))
                 groups[-1][1].append(issue.group(1))
             elif header and node.role == "push button":
                 groups.append((header.group(1), []))
