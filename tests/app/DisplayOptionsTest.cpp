@@ -23,7 +23,7 @@ protected:
     }
     void choose(const QString &what, const QString &choice)
     {
-        click(await(QAccessible::Button, what));
+        click(await(QAccessible::ComboBox, what));
         click(await(QAccessible::MenuItem, choice));
         EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
     }
@@ -46,10 +46,10 @@ TEST_F(DisplayOptionsPopover, OnTheBoardTheGroupingCannotBeChosen)
     store().setLayout(LayoutMode::Board);
     openPopover();
 
-    click(find(QAccessible::Button, u"Regrouper par"_s));
+    click(find(QAccessible::ComboBox, u"Regrouper par"_s));
     settle();
     EXPECT_TRUE(spokenIn(window(), QAccessible::MenuItem).isEmpty());
-    click(find(QAccessible::Button, u"Trier par"_s));
+    click(find(QAccessible::ComboBox, u"Trier par"_s));
     await(QAccessible::MenuItem, u"Numéro"_s);
 }
 
@@ -82,17 +82,17 @@ TEST_F(DisplayOptionsPopover, FinishedIssuesAreSwitchedByKeyboard)
 
 TEST_F(DisplayOptionsPopover, OpenedByKeyboardItBeginsAtItsFirstChoice)
 {
-    const auto isAt = [&](const QString &name) {
-        const auto found = spokenIn(window(), QAccessible::Button, name);
+    const auto isAt = [&](QAccessible::Role role, const QString &name) {
+        const auto found = spokenIn(window(), role, name);
         return !found.isEmpty() && found.first().state.focused;
     };
-    for (int i = 0; i < 30 && !isAt(u"Affichage"_s); ++i)
+    for (int i = 0; i < 30 && !isAt(QAccessible::Button, u"Affichage"_s); ++i)
         press(Qt::Key_Tab);
     press(Qt::Key_Space);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(u"Regrouper par"_s); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(QAccessible::ComboBox, u"Regrouper par"_s); }));
 
     press(Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(u"Affichage"_s); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAt(QAccessible::Button, u"Affichage"_s); }));
 }
 
 TEST_F(DisplayOptionsPopover, ASecondPressOnTheButtonClosesIt)

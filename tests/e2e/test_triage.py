@@ -73,7 +73,7 @@ class WithoutKeyboard(WindowCase):
         velmora.app.find(role="list item", name="^WEB-210, ")
         self.choose(velmora, ("push button", "^Filtrer$"), ("menu item", "^Statut$"), ("menu item", "^À faire$"))
         wait_until(lambda: velmora.keys() == TO_DO, 5, 0.1, "what is to do")
-        self.choose(velmora, ("push button", "^Affichage$"), ("push button", "^Regrouper par$"),
+        self.choose(velmora, ("push button", "^Affichage$"), ("combo box", "^Regrouper par$"),
                     ("menu item", "^Assigné$"))
         self.session.click((1800, 1300))
         wait_until(lambda: len(velmora.listed()) == len(TO_DO), 5, 0.1, "a group for each person")

@@ -35,10 +35,9 @@ TEST(MenuPicker, SaysWhatItChoosesAndWhatIsChosen)
     auto *picker = bench.show(menuPicker);
     ASSERT_NE(picker, nullptr) << bench.warnings();
     EXPECT_EQ(accessible(picker)->text(QAccessible::Name), u"Regrouper par"_s);
-    const auto description = [&] { return accessible(picker)->text(QAccessible::Description); };
-    EXPECT_EQ(description(), u"Assigné, ouvre un menu"_s);
-    QTest::keyClick(&bench.window(), Qt::Key_Space);
-    EXPECT_EQ(description(), u"Assigné, menu ouvert"_s);
+    EXPECT_EQ(accessible(picker)->text(QAccessible::Description), u"Assigné"_s);
+    EXPECT_EQ(accessible(picker)->role(), QAccessible::ComboBox);
+    EXPECT_TRUE(accessible(picker)->state().focused);
     EXPECT_DOUBLE_EQ(picker->implicitHeight(), 26);
     EXPECT_EQ(bench.warnings(), "");
 }

@@ -48,7 +48,7 @@ const Component components[]{
     {"LabelChip", u"LabelChip { name: 'ios' }"_s, QAccessible::StaticText, u"ios"_s},
     {"LabelDot", u"LabelDot { name: 'ios' }"_s, QAccessible::Graphic, u"ios"_s},
     {"MenuPicker", u"MenuPicker { name: 'Trier par'; choices: ['Clé', 'Priorité']; current: 1 }"_s,
-     QAccessible::Button, u"Trier par"_s},
+     QAccessible::ComboBox, u"Trier par"_s},
     {"OverlayScrollBar", u"OverlayScrollBar { size: 0.5; height: 200; orientation: Qt.Vertical }"_s,
      QAccessible::ScrollBar, u"Défilement vertical"_s},
     {"PopupMenuItem", u"PopupMenuItem { text: 'Copier la clé'; symbol: 'number' }"_s,

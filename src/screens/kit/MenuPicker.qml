@@ -1,11 +1,12 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import Velmora.Kit
 import Velmora.Theme
+import Velmora.Kit
 
 /// One choice out of a menu: shows the current one, and opens the others on a press, on Space, Return and the down key.
-/// `name` is what it chooses. The menu is made when it is opened.
-FocusableItem {
+/// `name` is what it chooses. The menu is made when it is opened. (No `FocusableItem`: to screen readers that is always a
+/// button, and this is a combo box.)
+Item {
     id: picker
 
     required property string name
@@ -13,28 +14,57 @@ FocusableItem {
     required property int current
     property bool opened: false
     readonly property string currentChoice: choices[current] ?? ""
+    /// Under the pointer or pressed.
+    property bool lit: enabled && (pointer.containsMouse || down)
+    property bool down: pointer.pressed
+    /// Shows the keyboard's focus.
+    property bool ringed: activeFocus
 
     signal chosen(index: int)
+    signal clicked()
 
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitWidth: Math.ceil(label.implicitWidth) + 19
     implicitHeight: Metrics.menuRowHeight
-    leftPadding: 11
-    rightPadding: 8
-    corner: height / 2
-    accessibleName: name
-    // The template keeps the role of a button.
-    Accessible.description: currentChoice + (opened ? ", menu ouvert" : ", ouvre un menu")
-    Keys.onDownPressed: opened = true
+    activeFocusOnTab: true
     onClicked: opened = true
+    Keys.onDownPressed: opened = true
+    Keys.onSpacePressed: clicked()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: name
+    Accessible.description: currentChoice
+    Accessible.focusable: true
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: clicked()
 
-    contentItem: MenuPickerLabel {
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Theme.ink(picker.down ? 0.12 : picker.lit ? 0.09 : 0.06)
+    }
+
+    MenuPickerLabel {
+        id: label
+
+        x: 11
+        width: picker.width - 19
+        height: picker.height
         text: picker.currentChoice
         ink: picker.enabled ? Theme.text1 : Theme.text4
     }
 
-    background: Rectangle {
-        radius: picker.corner
-        color: Theme.ink(picker.down ? 0.12 : picker.lit ? 0.09 : 0.06)
+    MouseArea {
+        id: pointer
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: picker.clicked()
+    }
+
+    FocusRing {
+        shown: picker.ringed
+        corner: picker.height / 2
     }
 
     When {

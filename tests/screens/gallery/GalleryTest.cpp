@@ -158,7 +158,7 @@ QList<QQuickItem *> controlsBelow(QQuickItem *item)
 {
     QList<QQuickItem *> controls;
     if (item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextField") ||
-        item->inherits("QQuickTextArea"))
+        item->inherits("QQuickTextArea") || item->activeFocusOnTab())
         controls += item;
     for (auto *child : item->childItems())
         controls += controlsBelow(child);
