@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Kit
+import Velmora.Issues
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
@@ -13,57 +13,25 @@ Window {
     required property AppStore store
     required property string key
 
-    title: details.title
+    title: summary.title
     width: 760
     height: 820
     minimumWidth: 520
     minimumHeight: 480
     color: Theme.content
 
-    IssueWindowContent {
-        id: details
-        store: root.store
-        key: root.key
-    }
-
     Shortcut {
         sequences: ["Ctrl+W", "Escape"]
         onActivated: root.close()
     }
 
-    FocusScope {
+    IssueSummary {
+        id: summary
         anchors.fill: parent
         focus: true
-
-        When {
-            shown: details.isKnown
-
-            IssueProperties {
-                x: Metrics.pageMargin
-                y: Metrics.pageMargin
-                width: root.width - 2 * x
-                content: details
-            }
-        }
-
-        When {
-            shown: !details.isKnown && details.errorText === ""
-
-            Spinner {
-                anchors.centerIn: parent
-                size: 16
-            }
-        }
-
-        AppText {
-            visible: !details.isKnown
-            anchors.centerIn: parent
-            width: parent.width - 2 * Metrics.pageMargin
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            color: Theme.text2
-            text: details.errorText
-        }
+        inWindow: true
+        store: root.store
+        key: root.key
     }
 
     MenuBarLayer {

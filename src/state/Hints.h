@@ -17,6 +17,10 @@ class Hints : public QObject
     Q_PROPERTY(QString reload READ reload CONSTANT FINAL)
     Q_PROPERTY(QString layout READ layout CONSTANT FINAL)
     Q_PROPERTY(QString deselect READ deselect CONSTANT FINAL)
+    Q_PROPERTY(QString copyBranch READ copyBranch CONSTANT FINAL)
+    Q_PROPERTY(QString copyLink READ copyLink CONSTANT FINAL)
+    Q_PROPERTY(QString openInBrowser READ openInBrowser CONSTANT FINAL)
+    Q_PROPERTY(QString openWindow READ openWindow CONSTANT FINAL)
 
 public:
     using QObject::QObject;
@@ -26,4 +30,14 @@ public:
     static QString reload() { return Wording::localized(reloadHint()); }
     static QString layout() { return Wording::localized(layoutHint()); }
     static QString deselect() { return Wording::localized(deselectHint()); }
+    static QString copyBranch() { return ofCommand(AppCommand::CopyBranch); }
+    static QString copyLink() { return ofCommand(AppCommand::CopyLink); }
+    static QString openInBrowser() { return ofCommand(AppCommand::OpenInBrowser); }
+    static QString openWindow() { return Wording::localized(openWindowHint()); }
+
+private:
+    static QString ofCommand(AppCommand command)
+    {
+        return Wording::localized(commandHint(command));
+    }
 };

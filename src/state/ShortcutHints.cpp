@@ -61,6 +61,11 @@ QString withKey(const QString &words, KeyCommand command)
     return inBrackets(words, keyTexts(command).value(keyTexts(command).size() - 1));
 }
 
+QString commandHint(AppCommand command)
+{
+    return withShortcut(commandTitle(command, InspectorState::Closed), command);
+}
+
 QString searchHint()
 {
     return withShortcut(u"Rechercher"_s, AppCommand::CommandPalette);
@@ -74,8 +79,12 @@ QString newIssueHint()
 
 QString reloadHint()
 {
-    return withShortcut(commandTitle(AppCommand::Reload, InspectorState::Closed),
-                        AppCommand::Reload);
+    return commandHint(AppCommand::Reload);
+}
+
+QString openWindowHint()
+{
+    return withKey(u"Ouvrir dans une nouvelle fenêtre"_s, KeyCommand::OpenWindow);
 }
 
 QString layoutHint()

@@ -17,9 +17,12 @@ QString withShortcut(const QString &words, AppCommand command);
 /// "Sélectionner (X)", with the last of the command's keys.
 QString withKey(const QString &words, KeyCommand command);
 
+/// What the menus call a command, with its shortcut.
+QString commandHint(AppCommand command);
 QString searchHint();
 QString newIssueHint();
 QString reloadHint();
+QString openWindowHint();
 QString layoutHint();
 QString selectHint();
 QString deselectHint();

@@ -32,7 +32,8 @@ TEST_F(Windows, ControlReturnOpensTheFocusedIssueInAWindowOfItsOwn)
     EXPECT_EQ(issue->title(), u"MOB-1 – Résumé de MOB-1"_s);
     EXPECT_EQ(issue->size(), QSize(760, 820));
     EXPECT_FALSE(spokenIn(*issue, QAccessible::Heading, u"Résumé de MOB-1"_s).isEmpty());
-    EXPECT_FALSE(spokenIn(*issue, QAccessible::StaticText, u"Statut : À faire"_s).isEmpty());
+    EXPECT_FALSE(spokenIn(*issue, QAccessible::Button, u"Statut : À faire"_s).isEmpty());
+    EXPECT_TRUE(spokenIn(*issue, QAccessible::Button, u"Fermer"_s).isEmpty());
 }
 
 TEST_F(Windows, AskingTwiceForTheWindowOfOneKeyShowsOneWindow)

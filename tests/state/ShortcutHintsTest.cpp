@@ -13,6 +13,9 @@ TEST(ShortcutHints, TheyTellTheKeysOfTheKeyMapAndOfTheShortcuts)
     EXPECT_EQ(reloadHint(), u"Actualiser (⌘R)"_s);
     EXPECT_EQ(layoutHint(), u"Liste (1) · Tableau (2)"_s);
     EXPECT_EQ(selectHint(), u"Sélectionner (X)"_s);
+    EXPECT_EQ(commandHint(AppCommand::CopyBranch), u"Copier le nom de branche git (⌘⇧.)"_s);
+    EXPECT_EQ(commandHint(AppCommand::OpenInBrowser), u"Ouvrir dans Jira (⌘⇧O)"_s);
+    EXPECT_EQ(openWindowHint(), u"Ouvrir dans une nouvelle fenêtre (⌘↩)"_s);
     EXPECT_EQ(deselectHint(), u"Désélectionner (Échap)"_s);
 }
 

@@ -1,5 +1,6 @@
 #include "screens/issues/InspectedIssue.h"
 
+#include "async/Spawn.h"
 #include "model/DateLabels.h"
 
 using namespace Qt::StringLiterals;
@@ -16,9 +17,11 @@ void InspectedIssue::setStore(AppStore *store)
                                   &AppStore::myOpenIssuesChanged, &AppStore::projectsChanged})
             connect(m_store, change, this, &InspectedIssue::update);
         connect(m_store, &AppStore::nowChanged, this, &InspectedIssue::changed);
+        connect(m_store, &AppStore::detailErrorsChanged, this, &InspectedIssue::changed);
+        connect(m_store, &AppStore::phaseChanged, this, &InspectedIssue::load);
     }
     Q_EMIT storeChanged();
-    update();
+    begin();
 }
 
 void InspectedIssue::setKey(const QString &key)
@@ -27,7 +30,19 @@ void InspectedIssue::setKey(const QString &key)
         return;
     m_key = key;
     Q_EMIT keyChanged();
+    begin();
+}
+
+void InspectedIssue::begin()
+{
     update();
+    load();
+}
+
+void InspectedIssue::load()
+{
+    if (m_store && !m_key.isEmpty() && m_store->phase() == AppStore::Phase::Ready)
+        spawn(m_store->loadDetails(m_key));
 }
 
 void InspectedIssue::update()
@@ -40,6 +55,16 @@ void InspectedIssue::update()
     m_issue = issue;
     m_project = project;
     Q_EMIT changed();
+}
+
+QString InspectedIssue::errorText() const
+{
+    return m_store && !isKnown() ? m_store->detailErrors().value(m_key) : QString();
+}
+
+QString InspectedIssue::title() const
+{
+    return isKnown() ? m_key + u" – "_s + m_issue.summary : m_key;
 }
 
 QString InspectedIssue::projectName() const

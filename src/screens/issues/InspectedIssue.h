@@ -6,7 +6,8 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// An open issue as the best known record has it, kept up to date.
+/// An open issue as the best known record has it, kept up to date. It is fetched in full when it is opened, in a session
+/// or once there is one.
 class InspectedIssue : public QObject
 {
     Q_OBJECT
@@ -18,6 +19,10 @@ class InspectedIssue : public QObject
     /// An empty record while nothing is known of the issue.
     Q_PROPERTY(Issue issue READ issue NOTIFY changed FINAL)
     Q_PROPERTY(bool isKnown READ isKnown NOTIFY changed FINAL)
+    /// Why it could not be fetched; empty while it could, and when it is known all the same.
+    Q_PROPERTY(QString errorText READ errorText NOTIFY changed FINAL)
+    /// The key, and the summary once it is known.
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(bool hasProject READ hasProject NOTIFY changed FINAL)
     Q_PROPERTY(Project project READ project NOTIFY changed FINAL)
     /// The project's name, or what stands before the dash of the key.
@@ -40,6 +45,8 @@ public:
     QStringList keys() const { return {m_key}; }
     const Issue &issue() const { return m_issue; }
     bool isKnown() const { return !m_issue.key.isEmpty(); }
+    QString errorText() const;
+    QString title() const;
     bool hasProject() const { return m_project.has_value(); }
     Project project() const { return m_project.value_or(Project()); }
     QString projectName() const;
@@ -49,6 +56,8 @@ public:
     QString labelsTitle() const;
     QString dueTitle() const;
 
+    /// Fetches it; without a session nothing.
+    Q_INVOKABLE void load();
     Q_INVOKABLE void openInBrowser();
     Q_INVOKABLE void openWindow();
     Q_INVOKABLE void copyLink();
@@ -60,6 +69,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void begin();
     void update();
 
     QPointer<AppStore> m_store;

@@ -7,12 +7,15 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// An open issue: where it belongs, its title and its properties.
+// An open issue: where it belongs, its title and its properties. It stands in the pane beside the list, or is all of a
+// window.
 FocusScope {
     id: root
 
     required property AppStore store
     required property string key
+    property bool inWindow: false
+    readonly property string title: open.title
 
     signal closed()
 
@@ -27,6 +30,8 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: 12
         y: 6
+        visible: open.isKnown
+        inWindow: root.inWindow
         issue: open
     }
 
@@ -76,6 +81,7 @@ FocusScope {
         }
 
         IconButton {
+            visible: !root.inWindow
             anchors.right: parent.right
             anchors.rightMargin: Metrics.gapSmall
             anchors.verticalCenter: parent.verticalCenter
@@ -118,5 +124,29 @@ FocusScope {
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {}
+    }
+
+    When {
+        shown: open.errorText !== ""
+
+        UnavailableScreen {
+            width: root.width
+            height: root.height
+            symbol: "exclamationmark.triangle"
+            title: "Ticket indisponible"
+            description: open.errorText
+            action: "Réessayer"
+            onActionChosen: open.load()
+        }
+    }
+
+    When {
+        shown: !open.isKnown && open.errorText === ""
+
+        Spinner {
+            x: (root.width - width) / 2
+            y: (root.height - height) / 2
+            size: 16
+        }
     }
 }

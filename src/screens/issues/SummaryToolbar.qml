@@ -1,6 +1,7 @@
 import QtQuick
 import Velmora.Issues
 import Velmora.Kit
+import Velmora.State
 import Velmora.Theme
 
 // Ways to take an open issue elsewhere.
@@ -8,9 +9,11 @@ Row {
     id: root
 
     required property InspectedIssue issue
+    property bool inWindow: false
 
     ToolbarCell {
         name: "Copier le nom de branche git"
+        hint: Hints.copyBranch
         symbol: "arrow.triangle.branch"
         ink: Theme.text2
         onClicked: root.issue.copyBranch()
@@ -18,6 +21,7 @@ Row {
 
     ToolbarCell {
         name: "Copier le lien"
+        hint: Hints.copyLink
         symbol: "link"
         ink: Theme.text2
         onClicked: root.issue.copyLink()
@@ -25,13 +29,16 @@ Row {
 
     ToolbarCell {
         name: "Ouvrir dans Jira"
+        hint: Hints.openInBrowser
         symbol: "safari"
         ink: Theme.text2
         onClicked: root.issue.openInBrowser()
     }
 
     ToolbarCell {
+        visible: !root.inWindow
         name: "Ouvrir dans une nouvelle fenêtre"
+        hint: Hints.openWindow
         symbol: "macwindow.on.rectangle"
         ink: Theme.text2
         onClicked: root.issue.openWindow()

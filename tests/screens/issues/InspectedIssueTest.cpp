@@ -1,11 +1,11 @@
-#include "shell/IssueWindowContent.h"
+#include "screens/issues/InspectedIssue.h"
 
 #include "model/JiraError.h"
 #include "state/AppStoreFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class IssueWindowContentTest : public AppStoreFixture
+class InspectedIssueTest : public AppStoreFixture
 {
 protected:
     void show(const QString &key)
@@ -14,10 +14,10 @@ protected:
         content.setStore(store.get());
     }
 
-    IssueWindowContent content;
+    InspectedIssue content;
 };
 
-TEST_F(IssueWindowContentTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
+TEST_F(InspectedIssueTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
 {
     startSession();
     reloadWith({sampleIssue(u"MOB-1"_s)});
@@ -28,7 +28,7 @@ TEST_F(IssueWindowContentTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
     EXPECT_EQ(service->issueCalls.count(), before + 1);
 }
 
-TEST_F(IssueWindowContentTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
+TEST_F(InspectedIssueTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
 {
     startSession();
     show(u"WEB-7"_s);
@@ -39,7 +39,7 @@ TEST_F(IssueWindowContentTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
     EXPECT_EQ(content.title(), u"WEB-7 – Résumé de WEB-7"_s);
 }
 
-TEST_F(IssueWindowContentTest, ARefusalIsTold)
+TEST_F(InspectedIssueTest, ARefusalIsTold)
 {
     startSession();
     show(u"WEB-7"_s);
@@ -47,7 +47,18 @@ TEST_F(IssueWindowContentTest, ARefusalIsTold)
     EXPECT_FALSE(content.errorText().isEmpty());
 }
 
-TEST_F(IssueWindowContentTest, BeforeASessionItWaits)
+TEST_F(InspectedIssueTest, AfterARefusalItCanBeFetchedAgain)
+{
+    startSession();
+    show(u"WEB-7"_s);
+    service->issueCalls.last().fail(JiraError(JiraError::InvalidResponse{}));
+    content.load();
+    service->issueCalls.last().finish(sampleIssue(u"WEB-7"_s));
+    EXPECT_TRUE(content.isKnown());
+    EXPECT_EQ(content.errorText(), QString());
+}
+
+TEST_F(InspectedIssueTest, BeforeASessionItWaits)
 {
     show(u"WEB-7"_s);
     EXPECT_EQ(service->issueCalls.count(), 0);
