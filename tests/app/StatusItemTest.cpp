@@ -61,6 +61,17 @@ TEST_F(StatusItemInTheProcess, WhereItCanBeSeenTheProcessLivesOnAndTheWindowCome
     EXPECT_EQ(&window(), before);
 }
 
+// The entry is offered once there is a screen in which issues are made; what it does is ready.
+TEST_F(StatusItemInTheProcess, NewIssueWithTheMainWindowClosedFirstOpensThatWindow)
+{
+    statusHost->setIsPresent(true);
+    ASSERT_TRUE(delegate().statusItem());
+    window().close();
+    ASSERT_FALSE(window().isVisible());
+    Q_EMIT delegate().statusItem()->newIssueChosen();
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(StatusItemInTheProcess, AVisibleMainWindowIsNotDoubled)
 {
     statusHost->setIsPresent(true);

@@ -28,7 +28,7 @@ QList<OptionItem> recaps(Recap::People people)
                     scope(ActivityRange::Week, -1)),
             ownList(u"go-this-month"_s, u"Activité · Ce mois-ci"_s, u"calendar"_s,
                     scope(ActivityRange::Month, 0)),
-            ownList(u"go-last-month"_s, u"Activité · Le mois dernier"_s, u"calendar.badge.clock"_s,
+            ownList(u"go-last-month"_s, u"Activité · Le mois dernier"_s, u"calendar"_s,
                     scope(ActivityRange::Month, -1))};
 }
 

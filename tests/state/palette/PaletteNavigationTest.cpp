@@ -46,7 +46,7 @@ TEST(PaletteNavigation, OwnListsAndRecapsComeFirst)
          recap(ActivityRange::Week, -1)},
         {u"go-this-month"_s, u"Activité · Ce mois-ci"_s, u"calendar"_s,
          recap(ActivityRange::Month, 0)},
-        {u"go-last-month"_s, u"Activité · Le mois dernier"_s, u"calendar.badge.clock"_s,
+        {u"go-last-month"_s, u"Activité · Le mois dernier"_s, u"calendar"_s,
          recap(ActivityRange::Month, -1)}};
     const auto items = paletteNavigation({}, Recap::People::Me);
     ASSERT_EQ(items.size(), expected.size());
