@@ -30,6 +30,8 @@ target_compile_definitions(velmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 target_compile_options(velmora_options INTERFACE
+    # Some libraries ask for it; a precompiled header is shared only among those that agree.
+    -pthread
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
     # Qt's static plugin glue repeats declarations; our own code is covered by clang-tidy.
     -Wno-missing-field-initializers)

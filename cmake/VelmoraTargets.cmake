@@ -1,10 +1,16 @@
 # Targets in the words a reviewer needs: a name, its files, and whom it may know.
 include_guard()
 
+# _velmora_common(<target> [PRECOMPILED <the target whose precompiled header it shares>])
 function(_velmora_common target)
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "" ${ARGN})
     target_link_libraries(${target} PRIVATE velmora_options)
     target_link_libraries(${target} PRIVATE QCoro6::Core)
-    target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
+    if(ARG_PRECOMPILED)
+        target_precompile_headers(${target} REUSE_FROM ${ARG_PRECOMPILED})
+    else()
+        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
+    endif()
 endfunction()
 
 # velmora_library(<name> SOURCES <files> [DEPENDS <targets whose types its headers show>]
@@ -53,9 +59,11 @@ function(velmora_test name)
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${name} PRIVATE VELMORA_CASES="${CMAKE_SOURCE_DIR}/tests/cases")
-    _velmora_common(${name})
     # Nearly all of a test runs once: optimising it takes longer than running it.
-    if(NOT ARG_OPTIMISED)
+    if(ARG_OPTIMISED)
+        _velmora_common(${name})
+    else()
+        _velmora_common(${name} PRECOMPILED test_precompiled)
         target_compile_options(${name} PRIVATE -O0)
     endif()
     add_test(NAME ${name} COMMAND ${name})
