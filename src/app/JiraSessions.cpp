@@ -16,7 +16,7 @@ JiraCredentials credentialsOf(const SignIn &signIn)
 
 JiraSessions::JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient,
                            OnBegin onBegin)
-    : m_credentials(preferences, keychain),
+    : m_credentials(std::make_shared<CredentialsStore>(preferences, keychain)),
       m_makeClient(std::move(makeClient)),
       m_onBegin(std::move(onBegin))
 {
@@ -24,12 +24,12 @@ JiraSessions::JiraSessions(Preferences &preferences, Keychain &keychain, MakeCli
 
 SignIn JiraSessions::lastSignIn() const
 {
-    return {m_credentials.site(), m_credentials.email(), {}};
+    return {m_credentials->site(), m_credentials->email(), {}};
 }
 
 QCoro::Task<SiteSessions::Saved> JiraSessions::restore()
 {
-    const CredentialsStore::Stored stored = co_await m_credentials.load();
+    const CredentialsStore::Stored stored = co_await m_credentials->load();
     if (const auto *blocked = std::get_if<CredentialsStore::Blocked>(&stored))
         co_return Blocked{blocked->text};
     if (const auto *credentials = std::get_if<JiraCredentials>(&stored)) {
@@ -47,11 +47,20 @@ SiteSessions::Service JiraSessions::open(const SignIn &signIn) const
 QCoro::Task<> JiraSessions::keep(SignIn signIn)
 {
     const JiraCredentials credentials = credentialsOf(signIn);
-    co_await m_credentials.save(credentials);
+    const auto store = m_credentials;
+    const auto turn = co_await m_turns.next();
+    co_await store->save(credentials);
     m_onBegin(credentials);
 }
 
 QCoro::Task<> JiraSessions::forget()
 {
-    return m_credentials.removeToken();
+    const auto store = m_credentials;
+    const auto turn = co_await m_turns.next();
+    co_await store->removeToken();
+}
+
+QCoro::Task<> JiraSessions::settled()
+{
+    co_await m_turns.next();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "async/Turns.h"
 #include "jira/CredentialsStore.h"
 #include "state/SiteSessions.h"
 
@@ -24,8 +25,14 @@ public:
     QCoro::Task<> keep(SignIn signIn) override;
     QCoro::Task<> forget() override;
 
+    /// Waits until what was to be kept or forgotten is.
+    QCoro::Task<> settled();
+
 private:
-    CredentialsStore m_credentials;
+    // Shared with what waits for its turn, which may outlast this object.
+    std::shared_ptr<CredentialsStore> m_credentials;
     MakeClient m_makeClient;
     OnBegin m_onBegin;
+    /// Of those that change what is kept.
+    Turns m_turns{1};
 };

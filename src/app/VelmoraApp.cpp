@@ -15,6 +15,18 @@ Q_IMPORT_QML_PLUGIN(Velmora_IssuesPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_PalettePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 
+namespace {
+
+constexpr auto longestFarewell = std::chrono::seconds(3);
+
+QCoro::Task<> quitAfter(QCoro::Task<> task)
+{
+    co_await task;
+    QCoreApplication::quit();
+}
+
+} // namespace
+
 VelmoraApp::VelmoraApp(Outside outside)
     : m_outside(std::move(outside)),
       m_images(ImageLoader::shared(), *m_outside.clock),
@@ -31,10 +43,9 @@ VelmoraApp::VelmoraApp(Outside outside)
     Fonts::load();
     m_engine.addImportPath(QStringLiteral(":/qt/qml"));
     registerKitProviders(m_engine);
-    QObject::connect(&m_engine, &QQmlEngine::quit, QCoreApplication::instance(),
-                     &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&m_delegate, &AppDelegate::quitRequested, QCoreApplication::instance(),
-                     &QCoreApplication::quit, Qt::QueuedConnection);
+    const auto end = [this] { quit(); };
+    QObject::connect(&m_engine, &QQmlEngine::quit, &m_store, end, Qt::QueuedConnection);
+    QObject::connect(&m_delegate, &AppDelegate::quitRequested, &m_store, end, Qt::QueuedConnection);
 }
 
 AppStoreContext VelmoraApp::context()
@@ -53,6 +64,12 @@ bool VelmoraApp::open()
         return false;
     bootstrap();
     return true;
+}
+
+void VelmoraApp::quit()
+{
+    m_lastMoment = m_outside.clock->after(longestFarewell, &QCoreApplication::quit);
+    spawn(quitAfter(m_sessions.settled()));
 }
 
 /// The system's store of secrets may ask the user something, for which the window stands first.

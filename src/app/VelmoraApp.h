@@ -18,6 +18,9 @@ public:
     /// Opens the main window and brings the session to its first phase; false when the window's description cannot be
     /// loaded.
     bool open();
+    /// Ends the process. A token that is being deleted has a few seconds for it, so that nobody who signed out is found
+    /// signed in at the next start.
+    void quit();
 
     AppStore &store() { return m_store; }
     Scenes &scenes() { return m_scenes; }
@@ -37,4 +40,5 @@ private:
     QQmlEngine m_engine;
     Scenes m_scenes;
     AppDelegate m_delegate;
+    Clock::TimerHandle m_lastMoment;
 };

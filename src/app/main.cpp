@@ -1,6 +1,7 @@
 #include "app/Renderer.h"
 #include "app/SingleInstance.h"
 #include "app/VelmoraApp.h"
+#include "platform/TerminationSignals.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -43,6 +44,13 @@ int main(int argc, char **argv)
                          takeToken(token);
                          velmora->delegate().showMainWindow();
                      });
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::asked, &application, [&velmora] {
+        if (velmora)
+            velmora->quit();
+        else
+            QApplication::quit();
+    });
     instance.start();
     return QApplication::exec();
 }

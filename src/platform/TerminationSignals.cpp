@@ -1,0 +1,71 @@
+#include "platform/TerminationSignals.h"
+
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int caught[] = {SIGTERM, SIGINT, SIGHUP};
+
+// A signal comes in the midst of anything: it may only write here, and the event loop reads what it wrote.
+int writing = -1;
+int reading = -1;
+
+void tell(int)
+{
+    const char byte = 0;
+    [[maybe_unused]] const auto written = ::write(writing, &byte, 1);
+}
+
+int openedPair()
+{
+    int ends[2] = {-1, -1};
+    ::socketpair(AF_UNIX, SOCK_STREAM, 0, ends);
+    writing = ends[0];
+    reading = ends[1];
+    return reading;
+}
+
+void listenFor(int signal)
+{
+    struct sigaction before;
+    ::sigaction(signal, nullptr, &before);
+    // Whoever started the process may have wanted it to outlive this signal.
+    if (before.sa_handler == SIG_IGN)
+        return;
+    struct sigaction action = {};
+    action.sa_handler = tell;
+    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    ::sigaction(signal, &action, nullptr);
+}
+
+void forget(int signal)
+{
+    struct sigaction now;
+    ::sigaction(signal, nullptr, &now);
+    if (now.sa_handler == tell)
+        ::signal(signal, SIG_DFL);
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals() : m_notifier(openedPair(), QSocketNotifier::Read)
+{
+    connect(&m_notifier, &QSocketNotifier::activated, this, [this] {
+        char byte = 0;
+        if (::read(reading, &byte, 1) == 1)
+            Q_EMIT asked();
+    });
+    for (const int signal : caught)
+        listenFor(signal);
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    for (const int signal : caught)
+        forget(signal);
+    m_notifier.setEnabled(false);
+    ::close(writing);
+    ::close(reading);
+}
