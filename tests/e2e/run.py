@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Runs the tests that drive the built program in a window, with each renderer, as many at once as there are processors.
+"""Runs the tests that drive the built program in a window, with each renderer, several at once.
 
 Usage: tests/e2e/run.py <program> [--renderer software|opengl] [--results <folder>] [-k <part of a test's name>]
 
@@ -70,7 +70,8 @@ def main():
         return run_here(given)
     os.makedirs(given.results, exist_ok=True)
     counts = {PASSED: 0, FAILED: 0, SKIPPED: 0}
-    with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0))) as pool:
+    # A test waits for two fifths of its time.
+    with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0)) + 1) as pool:
         runs = [(renderer, name, pool.submit(run_apart, given, renderer, name))
                 for renderer in given.renderer or ["software", "opengl"] for name in names(given.patterns)]
         for renderer, name, run in runs:
