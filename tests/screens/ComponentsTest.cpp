@@ -66,8 +66,6 @@ const Component components[]{
     {"PushButtonDestructive",
      u"PushButton { text: 'Supprimer'; look: PushButton.Prominent; destructive: true }"_s,
      QAccessible::Button, u"Supprimer"_s},
-    {"RowCheckBox", u"RowCheckBox { name: 'Sélectionner MOB-1'; checked: true }"_s,
-     QAccessible::CheckBox, u"Sélectionner MOB-1"_s},
     {"SearchField", u"SearchField { name: 'Filtrer'; placeholderText: 'Filtrer' }"_s,
      QAccessible::EditableText, u"Filtrer"_s},
     {"SecureField", u"SecureField { name: 'Token API'; placeholderText: 'Token' }"_s,

@@ -16,7 +16,6 @@ const QString pressable[]{
     u"ToolbarCell { name: 'Liste'; symbol: 'list.bullet'; focus: true }"_s,
     u"SidebarRow { text: 'Mes tickets'; width: 200; focus: true }"_s,
     u"ToastCard { message: 'Copié'; symbol: 'link'; isError: false; focus: true }"_s,
-    u"RowCheckBox { name: 'Sélectionner'; focus: true }"_s,
     u"CheckBox { text: 'Ticket interne'; focus: true }"_s,
     u"GlassChip { title: 'Statut'; focus: true }"_s,
     u"MenuPicker { name: 'Trier par'; choices: ['Clé']; current: 0; focus: true }"_s,
@@ -164,7 +163,7 @@ TEST(Controls, HoverFillIsThereAtOnceAndLeavesSoftly)
 TEST(Controls, CheckBoxTogglesWithEveryWayOfPressing)
 {
     Bench bench;
-    auto *box = bench.show(u"RowCheckBox { name: 'Sélectionner'; focus: true }"_s);
+    auto *box = bench.show(u"CheckBox { text: 'Sélectionner'; focus: true }"_s);
     QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, middle(box));
     EXPECT_TRUE(box->property("checked").toBool());
     QTest::keyClick(&bench.window(), Qt::Key_Return);

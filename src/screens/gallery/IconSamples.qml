@@ -208,14 +208,13 @@ Column {
             }
         }
 
-        RowCheckBox {
+        CheckMark {
             anchors.verticalCenter: parent.verticalCenter
-            name: "Sélectionner"
+            checked: false
         }
 
-        RowCheckBox {
+        CheckMark {
             anchors.verticalCenter: parent.verticalCenter
-            name: "Sélectionner"
             checked: true
         }
 

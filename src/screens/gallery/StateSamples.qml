@@ -82,22 +82,12 @@ Column {
     }
 
     StateRow {
-        caption: "case cochée"
-        sample: Component { RowCheckBox { name: "Choisir"; checked: true } }
-    }
-
-    StateRow {
-        caption: "case"
-        sample: Component { RowCheckBox { name: "Choisir" } }
-    }
-
-    StateRow {
-        caption: "case et texte, cochée"
+        caption: "case, cochée"
         sample: Component { CheckBox { text: "Interne"; checked: true } }
     }
 
     StateRow {
-        caption: "case et texte"
+        caption: "case"
         sample: Component { CheckBox { text: "Interne" } }
     }
 

@@ -26,7 +26,7 @@ RowCell {
         RowCheckMark {
             x: 4
             y: 4
-            isChecked: root.isChecked
+            checked: root.isChecked
             isShown: root.isShown
             onGone: root.isDrawn = false
         }
