@@ -4,8 +4,10 @@
 usage: make-fonts.py <folder with the Inter OTF files> <folder with the JetBrains Mono TTF files> <output folder>
 
 Each font is cut down to the alphabets and signs that an issue tracker's texts use (a missing character comes from the
-system's fonts) and to the features that are always on. Hinting is dropped: the program draws unhinted. Needs fontTools. On Debian the sources are the packages fonts-inter and
-fonts-jetbrains-mono; the fonts in the repository were made from versions 4.0~beta7 and 2.242 of them.
+system's fonts) and to the features that are always on. Hinting is dropped: the program draws unhinted. The families get
+names of their own: a machine that has Inter itself would draw with that, alternates and all. Needs fontTools. On Debian
+the sources are the packages fonts-inter and fonts-jetbrains-mono; the fonts in the repository were made from versions
+4.0~beta7 and 2.242 of them.
 """
 import importlib.util
 import os
@@ -77,7 +79,27 @@ def shrink(font, wanted, asked):
     font["CFF "].cff.topDictIndex[0].FontMatrix = [1 / em, 0, 0, 1 / em, 0, 0]
 
 
+def own_name(name):
+    for theirs, ours in (("JetBrains Mono", "Velmora Mono"), ("JetBrainsMono", "VelmoraMono"), ("Inter", "Velmora")):
+        if theirs in name:
+            return name.replace(theirs, ours, 1)
+    return name
+
+
+def take_own_names(font):
+    for name in font["name"].names:
+        if name.nameID in (1, 3, 4, 6, 16):
+            name.string = own_name(name.toUnicode())
+    if "CFF " in font:
+        outlines = font["CFF "].cff
+        outlines.fontNames[0] = own_name(outlines.fontNames[0])
+        for entry in ("FamilyName", "FullName"):
+            if hasattr(outlines.topDictIndex[0], entry):
+                setattr(outlines.topDictIndex[0], entry, own_name(getattr(outlines.topDictIndex[0], entry)))
+
+
 def write(font, folder, name):
+    take_own_names(font)
     # The same input gives the same bytes, so that a build can be repeated.
     font.recalcTimestamp = False
     font.save(os.path.join(folder, name))

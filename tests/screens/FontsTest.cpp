@@ -15,18 +15,18 @@ TEST(Fonts, FamiliesAreCompiledIn)
     ASSERT_TRUE(Fonts::load());
     const auto families = QFontDatabase::families();
     for (const auto &family :
-         {u"Inter"_s, u"Inter Display"_s, u"Inter Tabular"_s, u"JetBrains Mono"_s})
+         {u"Velmora"_s, u"Velmora Display"_s, u"Velmora Tabular"_s, u"Velmora Mono"_s})
         EXPECT_TRUE(families.contains(family)) << family.toStdString();
 }
 
 TEST(Fonts, EveryRoleIsDrawnInItsOwnFamily)
 {
     const TypeScale scale;
-    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Title1)).family(), u"Inter Display"_s);
-    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Body)).family(), u"Inter"_s);
-    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Code)).family(), u"JetBrains Mono"_s);
+    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Title1)).family(), u"Velmora Display"_s);
+    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Body)).family(), u"Velmora"_s);
+    EXPECT_EQ(QFontInfo(scale.font(TypeScale::Code)).family(), u"Velmora Mono"_s);
     EXPECT_EQ(QFontInfo(scale.font(TypeScale::Small, TypeScale::roleWeight, true)).family(),
-              u"Inter Tabular"_s);
+              u"Velmora Tabular"_s);
 }
 
 TEST(Fonts, TabularDigitsAreAllOfOneWidth)

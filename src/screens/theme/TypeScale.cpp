@@ -44,16 +44,16 @@ constexpr std::array<Style, 14> styles{{
 QStringList families(Family family, bool tabular)
 {
     if (family == Family::Code)
-        return {u"JetBrains Mono"_s, u"DejaVu Sans Mono"_s, u"monospace"_s};
+        return {u"Velmora Mono"_s, u"DejaVu Sans Mono"_s, u"monospace"_s};
     if (family == Family::ElevenHalf)
-        return {u"Inter Eleven Half"_s, u"Inter"_s, u"sans-serif"_s};
+        return {u"Velmora Eleven Half"_s, u"Velmora"_s, u"sans-serif"_s};
     if (family == Family::TenHalf)
-        return {u"Inter Ten Half"_s, u"Inter"_s, u"sans-serif"_s};
+        return {u"Velmora Ten Half"_s, u"Velmora"_s, u"sans-serif"_s};
     if (tabular)
-        return {u"Inter Tabular"_s, u"Inter"_s, u"sans-serif"_s};
+        return {u"Velmora Tabular"_s, u"Velmora"_s, u"sans-serif"_s};
     if (family == Family::Display)
-        return {u"Inter Display"_s, u"Inter"_s, u"sans-serif"_s};
-    return {u"Inter"_s, u"sans-serif"_s};
+        return {u"Velmora Display"_s, u"Velmora"_s, u"sans-serif"_s};
+    return {u"Velmora"_s, u"sans-serif"_s};
 }
 
 QFont makeFont(const QStringList &names, qreal pixels, QFont::Weight weight)
