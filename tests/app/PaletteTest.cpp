@@ -248,6 +248,26 @@ TEST_F(Palette, TheHighlightedRowStaysInSight)
     }));
 }
 
+TEST_F(Palette, TheWheelScrollsTheRows)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    const QStringList before = options();
+    QWheelEvent wheel({660, 400}, window().mapToGlobal(QPointF(660, 400)), {}, {0, -360},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window(), &wheel);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return before.indexOf(options().first()) >= 3; }))
+        << options().first().toStdString();
+}
+
+TEST_F(Palette, TheTabKeyDoesNotLeaveIt)
+{
+    press(Qt::Key_K, Qt::ControlModifier);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab, Qt::ShiftModifier);
+    type(u"b"_s);
+    EXPECT_EQ(find(QAccessible::EditableText, u"Rechercher un ticket"_s).value, u"b"_s);
+}
+
 TEST_F(Palette, ARestingPointerHighlightsNothingAndAMovedOneItsRow)
 {
     QTest::mouseMove(&window(), {600, 400});

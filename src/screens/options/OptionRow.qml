@@ -18,8 +18,17 @@ Rectangle {
     required property string shortcut
     property bool isHighlighted: false
 
+    // What the row told when the button went down. The option under it may be another one when the button comes up.
+    property string pressedTitle
+    property string pressedSubtitle
+
     signal pointed(where: point)
     signal picked()
+
+    function notePress() {
+        pressedTitle = title;
+        pressedSubtitle = subtitle;
+    }
 
     implicitHeight: Metrics.optionRowHeight
     radius: Metrics.radiusRow
@@ -90,6 +99,7 @@ Rectangle {
         hoverEnabled: true
         onEntered: root.pointed(mapToItem(null, mouseX, mouseY))
         onPositionChanged: mouse => root.pointed(mapToItem(null, mouse.x, mouse.y))
-        onClicked: root.picked()
+        onPressed: root.notePress()
+        onClicked: if (root.pressedTitle === root.title && root.pressedSubtitle === root.subtitle) root.picked()
     }
 }

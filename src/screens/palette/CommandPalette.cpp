@@ -119,9 +119,12 @@ void CommandPalette::setQuery(const QString &query)
         return;
     m_query = query;
     Q_EMIT queryChanged();
-    setHighlighted(0);
+    // Told only once the rows are those of the query: it is spoken with them.
+    const bool hasMoved = std::exchange(m_highlighted, 0) != 0;
     searchRemote();
     refresh();
+    if (hasMoved)
+        Q_EMIT highlightedChanged();
     Q_EMIT begun();
 }
 

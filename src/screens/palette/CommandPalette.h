@@ -68,6 +68,7 @@ public:
     /// because the palette opened or its rows scrolled, stays as it is.
     Q_INVOKABLE void point(int row);
     void notePointerMoved() { m_isPointing = true; }
+    void noteScrolled() { m_isPointing = false; }
     /// What the palette makes of a press before the search field sees it; false for a press that it leaves to the field.
     bool handle(const KeyPress &press);
 

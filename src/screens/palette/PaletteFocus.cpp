@@ -65,9 +65,15 @@ bool PaletteFocus::eventFilter(QObject *watched, QEvent *event)
         return false;
     if (event->type() == QEvent::MouseMove)
         notePointer(static_cast<const QMouseEvent &>(*event).globalPosition());
+    if (event->type() == QEvent::Wheel)
+        m_palette->noteScrolled();
     if (event->type() != QEvent::KeyPress)
         return false;
-    return m_palette->handle(KeyPress::from(static_cast<const QKeyEvent &>(*event)));
+    const auto press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
+    // What lies below the palette is out of reach.
+    if (m_palette->isOpen() && (press.key == Qt::Key_Tab || press.key == Qt::Key_Backtab))
+        return true;
+    return m_palette->handle(press);
 }
 
 void PaletteFocus::notePointer(const QPointF &place)

@@ -26,7 +26,9 @@ Item {
         above: Metrics.gapTiny
         below: Metrics.gap
         highest: root.maxHeight
-        onTopChanged: list.contentY = top
+        fade: more.height
+        // Writing ends a flick under way, even when nothing changes.
+        onTopChanged: if (list.contentY !== top) list.contentY = top
     }
 
     Flickable {
@@ -61,6 +63,7 @@ Item {
 
     // Says that there is more below.
     Rectangle {
+        id: more
         anchors.bottom: parent.bottom
         width: parent.width
         height: 28

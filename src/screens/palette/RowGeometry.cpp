@@ -43,7 +43,8 @@ qreal RowGeometry::topShowing(int row, qreal top, qreal viewHeight) const
     if (row < 0 || row >= m_count)
         return bounded(top, viewHeight);
     const qreal upper = row == 0 ? 0 : this->top(row);
-    const qreal lower = row == m_count - 1 ? height() : bottom(row);
+    const qreal lower =
+        row == m_count - 1 ? height() : std::min(bottom(row) + m_heights.fade, height());
     return bounded(std::min(std::max(top, lower - viewHeight), upper), viewHeight);
 }
 

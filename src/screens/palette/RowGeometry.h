@@ -12,6 +12,8 @@ struct RowHeights
     /// Before the first row and behind the last.
     qreal above = 0;
     qreal below = 0;
+    /// What is drawn over the view's lower end while there are rows below.
+    qreal fade = 0;
 
     bool operator==(const RowHeights &) const = default;
 };
@@ -31,7 +33,7 @@ public:
     qreal bottom(int row) const;
     /// The rows of which something lies between two heights.
     RowRange between(qreal top, qreal bottom) const;
-    /// The nearest place to scroll to, from `top`, at which a view of this height shows the whole row, and at the first and
+    /// The nearest place to scroll to, from `top`, at which a view of this height shows the whole row, clear of the fade, and at the first and
     /// the last row the very end. A row that there is not shows nothing: the answer is `top`, within what scrolls.
     qreal topShowing(int row, qreal top, qreal viewHeight) const;
     /// The nearest place within what scrolls.

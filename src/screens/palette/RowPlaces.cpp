@@ -60,9 +60,12 @@ void RowPlaces::followRows()
 void RowPlaces::measure()
 {
     const qreal contentBefore = contentHeight();
-    m_geometry = RowGeometry(
-        {.row = m_rowHeight, .title = m_titleHeight, .above = m_above, .below = m_below},
-        m_palette->rows());
+    m_geometry = RowGeometry({.row = m_rowHeight,
+                              .title = m_titleHeight,
+                              .above = m_above,
+                              .below = m_below,
+                              .fade = m_fade},
+                             m_palette->rows());
     const qreal viewHeight = std::clamp(contentHeight(), 0.0, std::max(0.0, m_highest));
     const bool isOtherView = std::exchange(m_viewHeight, viewHeight) != viewHeight;
     if (contentHeight() != contentBefore)

@@ -22,6 +22,7 @@ class RowPlaces : public QAbstractListModel
     Q_PROPERTY(qreal titleHeight MEMBER m_titleHeight NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal above MEMBER m_above NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal below MEMBER m_below NOTIFY heightsChanged FINAL)
+    Q_PROPERTY(qreal fade MEMBER m_fade NOTIFY heightsChanged FINAL)
     /// How high the view may become; it is as high as its rows below that.
     Q_PROPERTY(qreal highest MEMBER m_highest NOTIFY heightsChanged FINAL)
     /// How high all that scrolls is, and the view on it.
@@ -93,6 +94,7 @@ private:
     qreal m_titleHeight = 0;
     qreal m_above = 0;
     qreal m_below = 0;
+    qreal m_fade = 0;
     qreal m_highest = 0;
     RowGeometry m_geometry;
     qreal m_viewHeight = 0;

@@ -58,6 +58,15 @@ TEST(RowGeometry, ScrollsNoFurtherThanNeededToShowARow)
     EXPECT_EQ(geometry.topShowing(5, 1000, view), geometry.top(5));
 }
 
+TEST(RowGeometry, ARowIsShownClearOfTheFade)
+{
+    RowHeights faded = heights;
+    faded.fade = 60;
+    const RowGeometry geometry(faded, rows(100));
+    EXPECT_EQ(geometry.topShowing(50, 0, 420), geometry.bottom(50) + 60 - 420);
+    EXPECT_EQ(geometry.topShowing(98, 0, 420), geometry.height() - 420) << "the end has no fade";
+}
+
 TEST(RowGeometry, TheFirstAndTheLastRowShowTheVeryEnds)
 {
     const RowGeometry geometry(heights, rows(100));
