@@ -104,6 +104,23 @@ TEST_F(ContextMenu, AStatusIsSetOnTheSpot)
     EXPECT_EQ(issue(u"MOB-1"_s).status.name(), u"En cours"_s);
 }
 
+TEST_F(ContextMenu, ReturnOnATitleOpensItsRows)
+{
+    openOn(u"MOB-1"_s);
+    await(QAccessible::MenuItem, u"Assigner"_s);
+    const auto isAtAssign = [&] {
+        const auto rows = spokenIn(window(), QAccessible::MenuItem, u"Assigner"_s);
+        return !rows.isEmpty() && rows.first().state.focused;
+    };
+    for (int i = 0; i < 12 && !isAtAssign(); ++i)
+        press(Qt::Key_Down);
+    ASSERT_TRUE(isAtAssign());
+    press(Qt::Key_Return);
+
+    await(QAccessible::MenuItem, u"M'assigner"_s);
+    EXPECT_TRUE(offers(u"Assigner"_s));
+}
+
 TEST_F(ContextMenu, TheOtherEntriesLeaveTheProgramWithTheIssue)
 {
     QSignalSpy windows(&store(), &AppStore::openWindowRequested);

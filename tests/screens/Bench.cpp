@@ -2,6 +2,7 @@
 
 #include "screens/kit/KitProviders.h"
 
+#include <QAccessible>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -23,6 +24,8 @@ void listen(QtMsgType type, const QMessageLogContext &, const QString &message)
 
 Bench::Bench()
 {
+    // As with a screen reader: templates write what they say only then.
+    QAccessible::setActive(true);
     listening = &m_warnings;
     qInstallMessageHandler(listen);
     m_window.engine()->addImportPath(u":/qt/qml"_s);

@@ -143,6 +143,22 @@ TEST(Controls, HintOfAPressedButtonWaitsUntilThePointerComesAgain)
     EXPECT_TRUE(QTest::qWaitFor(hintIsThere, 3000));
 }
 
+TEST(Controls, HintComesAlsoAfterAPressByKeyboard)
+{
+    Bench bench;
+    auto *button = bench.show(
+        u"IconButton { x: 100; y: 100; name: 'Ajouter'; symbol: 'plus'; focus: true }"_s);
+    ASSERT_NE(button, nullptr);
+    const auto hintIsThere = [&] {
+        const auto *overlay = bench.window().property("_q_QQuickOverlay").value<QQuickItem *>();
+        return overlay && !overlay->childItems().isEmpty();
+    };
+    QTest::mouseMove(&bench.window(), {300, 300});
+    QTest::keyClick(&bench.window(), Qt::Key_Space);
+    QTest::mouseMove(&bench.window(), middle(button));
+    EXPECT_TRUE(QTest::qWaitFor(hintIsThere, 3000));
+}
+
 TEST(Controls, HoverFillIsThereAtOnceAndLeavesSoftly)
 {
     Bench bench;

@@ -22,7 +22,7 @@ T.AbstractButton {
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
     hoverEnabled: true
     onDownChanged: hushed = hushed || down
-    onHoveredChanged: hushed = hushed && hovered
+    onHoveredChanged: hushed = false
     focusPolicy: Qt.TabFocus
     Keys.onReturnPressed: activate()
     Keys.onEnterPressed: activate()

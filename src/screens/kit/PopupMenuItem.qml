@@ -31,7 +31,8 @@ T.MenuItem {
         if (checkable)
             toggle()
         triggered()
-        menu?.dismiss()
+        if (!subMenu)
+            menu?.dismiss()
     }
 
     contentItem: PopupMenuLabel {

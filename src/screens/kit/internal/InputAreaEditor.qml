@@ -33,7 +33,8 @@ T.TextArea {
     Accessible.role: Accessible.EditableText
     Accessible.multiLine: true
     Accessible.name: name
-    Accessible.description: problem
+    // The template writes the placeholder over what stands here before it is complete.
+    Component.onCompleted: Accessible.description = Qt.binding(() => editor.problem)
 
     function leave(forwards: bool) {
         nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
