@@ -23,6 +23,7 @@
 #include "state/models/ToastModel.h"
 
 #include <map>
+#include <stop_token>
 
 /// The state of the program: the active service, all lists and dictionaries that screens show, the preferences and the
 /// toasts. Made once by the composition root; lives on the UI thread; the single writer of its fields. Screens bind to
@@ -91,7 +92,7 @@ public:
     Q_INVOKABLE void refresh();
     QCoro::Task<> refreshMyIssues();
     /// Fetches all of an opened issue: the record, its comments and its transitions.
-    QCoro::Task<> loadDetails(QString key);
+    QCoro::Task<> loadDetails(QString key, std::stop_token stop = {});
     /// Fetches a project's statuses, assignable users and types, once in a session.
     QCoro::Task<> loadProjectMeta(QString key);
     /// Issues that the service finds; none on any failure.
@@ -121,8 +122,8 @@ public:
     const UserCalendar &calendar() const { return m_context.calendar; }
     /// For screens that wait.
     Clock &clock() const { return m_context.clock; }
+    /// Each follows the issues while its layout is the present one, and is emptied with the session.
     IssueListModel *issueList() { return &m_issueList; }
-    /// Follows the lists while the layout is the board.
     BoardModel *board() { return &m_board; }
     SidebarModel *sidebar() { return &m_sidebar; }
     ToastModel *toastModel() { return &m_toastModel; }

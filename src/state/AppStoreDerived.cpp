@@ -66,10 +66,12 @@ void AppStore::flush(unsigned what)
 void AppStore::feedLists()
 {
     m_derivation.setInputs(derivationInputs());
-    // The other layout is out of sight. Coming back to one that nothing has changed costs nothing.
-    if (*m_layout == LayoutMode::Board)
+    // The other layout is out of sight. Coming back to one that nothing has changed costs nothing; but nothing of a
+    // session that has ended stays in it.
+    const bool isEmpty = m_issues->isEmpty();
+    if (isEmpty || *m_layout == LayoutMode::Board)
         feedBoard();
-    else
+    if (isEmpty || *m_layout == LayoutMode::List)
         feedGroups();
 }
 

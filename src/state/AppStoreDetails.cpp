@@ -16,27 +16,35 @@ IssueList withFullRecord(IssueList issues, const Issue &issue)
 
 } // namespace
 
-QCoro::Task<> AppStore::loadDetails(QString key)
+QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
 {
     const auto service = *m_service;
     if (!service)
         co_return;
-    std::stop_source stop;
-    auto issueTask = settled(service, service->issue(key));
-    auto commentsTask = settled(service, service->comments(key, stop.get_token()));
+    std::stop_source commentsStop;
+    const std::stop_callback stopsComments(stop, [commentsStop] {
+        // A copy: the stop may end this task, and with it what was captured.
+        auto kept = commentsStop;
+        kept.request_stop();
+    });
+    auto issueTask = settled(service, service->issue(key, stop));
+    auto commentsTask = settled(service, service->comments(key, commentsStop.get_token()));
     const auto issue = co_await whileAlive(this, std::move(issueTask));
     if (!issue) {
-        stop.request_stop();
+        commentsStop.request_stop();
         co_await whileAlive(this, std::move(commentsTask));
         takeDetailsFailure(key, issue.error());
         co_return;
     }
     takeDetails(key, *issue);
     const auto comments = co_await whileAlive(this, std::move(commentsTask));
+    if (stop.stop_requested())
+        co_return;
     // An entry of some kind in any case, so that the screen can end its wait.
     m_comments.insert(key, comments.value_or(m_comments->value(key)));
     co_await whileAlive(this, loadProjectMeta(issue->projectKey));
-    const auto transitions = co_await whileAlive(this, settled(service, service->transitions(key)));
+    const auto transitions =
+        co_await whileAlive(this, settled(service, service->transitions(key, stop)));
     if (transitions)
         m_transitions.insert(key, *transitions);
 }

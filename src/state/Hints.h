@@ -17,6 +17,7 @@ class Hints : public QObject
     Q_PROPERTY(QString reload READ reload CONSTANT FINAL)
     Q_PROPERTY(QString layout READ layout CONSTANT FINAL)
     Q_PROPERTY(QString deselect READ deselect CONSTANT FINAL)
+    Q_PROPERTY(QString close READ close CONSTANT FINAL)
     Q_PROPERTY(QString copyBranch READ copyBranch CONSTANT FINAL)
     Q_PROPERTY(QString copyLink READ copyLink CONSTANT FINAL)
     Q_PROPERTY(QString openInBrowser READ openInBrowser CONSTANT FINAL)
@@ -30,6 +31,7 @@ public:
     static QString reload() { return Wording::localized(reloadHint()); }
     static QString layout() { return Wording::localized(layoutHint()); }
     static QString deselect() { return Wording::localized(deselectHint()); }
+    static QString close() { return Wording::localized(closeHint()); }
     static QString copyBranch() { return ofCommand(AppCommand::CopyBranch); }
     static QString copyLink() { return ofCommand(AppCommand::CopyLink); }
     static QString openInBrowser() { return ofCommand(AppCommand::OpenInBrowser); }

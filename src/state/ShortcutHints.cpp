@@ -102,3 +102,8 @@ QString deselectHint()
 {
     return withKey(u"Désélectionner"_s, KeyCommand::Escape);
 }
+
+QString closeHint()
+{
+    return withKey(u"Fermer"_s, KeyCommand::Escape);
+}

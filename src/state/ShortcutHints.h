@@ -26,3 +26,4 @@ QString openWindowHint();
 QString layoutHint();
 QString selectHint();
 QString deselectHint();
+QString closeHint();

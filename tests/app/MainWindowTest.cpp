@@ -58,6 +58,20 @@ TEST_F(MainWindow, TheInspectorFollowsTheFocus)
     EXPECT_TRUE(isGone(QAccessible::Heading, u"Résumé de MOB-1"_s));
 }
 
+TEST_F(MainWindow, WhoWalksOnWaitsNoLongerForTheIssueBefore)
+{
+    service->issueCalls.hold();
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    await(QAccessible::Heading, u"Résumé de MOB-1"_s);
+    press(Qt::Key_J);
+    await(QAccessible::Heading, u"Résumé de MOB-2"_s);
+
+    ASSERT_EQ(service->issueCalls.count(), 2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return service->issueCalls[0].wasStopped(); }));
+    EXPECT_FALSE(service->issueCalls[1].wasStopped());
+}
+
 TEST_F(MainWindow, Below1122TheSidebarHidesWhileTheInspectorIsOpen)
 {
     resizeTo(1100);

@@ -42,6 +42,21 @@ TEST_F(AppStoreDerivedTest, theSubtitleTellsOfARefresh)
     EXPECT_EQ(store->subtitle(), u"3 tickets"_s);
 }
 
+TEST_F(AppStoreDerivedTest, nothingOfASessionStaysInTheLayoutOutOfSight)
+{
+    store->setLayout(LayoutMode::Board);
+    EXPECT_GT(store->board()->rowCount(), 0);
+    store->signOut();
+    EXPECT_EQ(store->issueList()->rowCount(), 0);
+
+    startSession();
+    store->setLayout(LayoutMode::Board);
+    reloadWith(Issues);
+    store->setLayout(LayoutMode::List);
+    store->signOut();
+    EXPECT_EQ(store->board()->columnOfKey(u"WEB-1"_s), -1);
+}
+
 TEST_F(AppStoreDerivedTest, theTitleFollowsTheScope)
 {
     const QSignalSpy changes(store.get(), &AppStore::scopeTitleChanged);

@@ -114,6 +114,20 @@ TEST_F(AppStoreDetailsTest, aCancelledFetchLeavesNoError)
     EXPECT_TRUE(opened.isDone());
 }
 
+TEST_F(AppStoreDetailsTest, aStopEndsAllThatIsUnderWayAndWritesNothing)
+{
+    std::stop_source stop;
+    const TaskResult<void> opened(store->loadDetails(Key, stop.get_token()));
+    service->issueCalls.last().finish(sampleIssue(Key));
+    stop.request_stop();
+
+    EXPECT_TRUE(opened.isDone());
+    EXPECT_TRUE(service->commentsCalls.last().wasStopped());
+    EXPECT_FALSE(store->comments().contains(Key));
+    EXPECT_EQ(service->transitionsCalls.count(), 0);
+    EXPECT_TRUE(store->detailErrors().isEmpty());
+}
+
 TEST_F(AppStoreDetailsTest, aSuccessTakesTheErrorAway)
 {
     const auto failed = openIssue();

@@ -5,6 +5,11 @@
 
 using namespace Qt::StringLiterals;
 
+InspectedIssue::~InspectedIssue()
+{
+    m_stop.request_stop();
+}
+
 void InspectedIssue::setStore(AppStore *store)
 {
     if (m_store == store)
@@ -41,8 +46,10 @@ void InspectedIssue::begin()
 
 void InspectedIssue::load()
 {
+    m_stop.request_stop();
+    m_stop = std::stop_source();
     if (m_store && !m_key.isEmpty() && m_store->phase() == AppStore::Phase::Ready)
-        spawn(m_store->loadDetails(m_key));
+        spawn(m_store->loadDetails(m_key, m_stop.get_token()));
 }
 
 void InspectedIssue::update()

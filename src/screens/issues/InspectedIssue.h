@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
+#include <stop_token>
+
 /// An open issue as the best known record has it, kept up to date. It is fetched in full when it is opened, in a session
 /// or once there is one.
 class InspectedIssue : public QObject
@@ -37,6 +39,7 @@ class InspectedIssue : public QObject
 
 public:
     using QObject::QObject;
+    ~InspectedIssue() override;
 
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
@@ -56,7 +59,7 @@ public:
     QString labelsTitle() const;
     QString dueTitle() const;
 
-    /// Fetches it; without a session nothing.
+    /// Fetches it; without a session nothing. Whoever goes on to another issue waits for this one no longer.
     Q_INVOKABLE void load();
     Q_INVOKABLE void openInBrowser();
     Q_INVOKABLE void openWindow();
@@ -76,4 +79,5 @@ private:
     QString m_key;
     Issue m_issue;
     std::optional<Project> m_project;
+    std::stop_source m_stop;
 };
