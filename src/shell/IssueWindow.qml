@@ -21,7 +21,7 @@ Window {
     color: Theme.content
 
     Shortcut {
-        sequences: ["Ctrl+W", "Escape"]
+        sequences: ["Ctrl+W"]
         onActivated: root.close()
     }
 
@@ -32,6 +32,12 @@ Window {
         inWindow: true
         store: root.store
         key: root.key
+
+        // In an item: whatever is open over it has the key first.
+        Shortcut {
+            sequences: ["Escape"]
+            onActivated: root.close()
+        }
     }
 
     MenuBarLayer {

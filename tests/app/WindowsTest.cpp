@@ -64,6 +64,26 @@ TEST_F(Windows, AClosedIssueWindowIsGone)
     EXPECT_TRUE(scenes().issueWindow(u"MOB-1"_s));
 }
 
+TEST_F(Windows, EscapeClosesWhatIsOpenInAnIssueWindowThenTheWindow)
+{
+    openIssue(u"MOB-1"_s);
+    const QPointer<QQuickWindow> issue = scenes().issueWindow(u"MOB-1"_s);
+    issue->requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(issue));
+    const auto isOpen = [&] {
+        return !spokenIn(*issue, QAccessible::Dialog).isEmpty();
+    };
+    const auto chip = spokenIn(*issue, QAccessible::Button, u"Statut : À faire"_s).first();
+    QTest::mouseClick(issue, Qt::LeftButton, {}, chip.box.center());
+    ASSERT_TRUE(QTest::qWaitFor(isOpen));
+    QTest::keyClick(issue, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !issue || !isOpen(); }));
+    ASSERT_TRUE(issue);
+
+    QTest::keyClick(issue, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return issue.isNull(); }));
+}
+
 TEST_F(Windows, KeysOfAnIssueWindowAreNoCommandsOfTheMainWindow)
 {
     openIssue(u"MOB-1"_s);
