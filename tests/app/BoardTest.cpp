@@ -19,6 +19,13 @@ protected:
     }
 
     std::string focus() { return store().focusedKey().value_or(u"nothing"_s).toStdString(); }
+    int focusedThings()
+    {
+        int count = 0;
+        for (const auto &thing : spokenIn(window(), QAccessible::ListItem))
+            count += thing.state.focused;
+        return count;
+    }
     /// Statuses that are columns side by side, one issue each.
     void serveManyColumns(int count)
     {
@@ -234,4 +241,14 @@ TEST_F(Board, WithoutADueDateThereIsNoBadgeAndTheLabelsStandInItsPlace)
     ASSERT_EQ(without.size(), 1);
     EXPECT_EQ(without.first()->x(), badges.first()->x());
     EXPECT_GT(with.first()->x(), badges.first()->x() + badges.first()->width());
+}
+
+TEST_F(Board, OutOfSightItsCardsClaimNoFocus)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusedThings(), 1);
+    press(Qt::Key_1);
+    await(QAccessible::Button, u"À faire, 3 tickets"_s);
+    settle();
+    EXPECT_EQ(focusedThings(), 1);
 }

@@ -323,6 +323,20 @@ TEST_F(Motion, FoldingAGroupMovesTheRowsBelowIt)
     EXPECT_EQ(row(u"MOB-1"_s).top(), 128);
 }
 
+TEST_F(Motion, WhatChangedWhileTheBoardWasShownIsNoMotionOfTheList)
+{
+    openWithMotion();
+    store().setLayout(LayoutMode::Board);
+    settle();
+    take(u"MOB-2"_s, u"En cours"_s);
+    settle();
+    store().setLayout(LayoutMode::List);
+    for (int frame = 0; frame < 5; ++frame) {
+        settle();
+        EXPECT_TRUE(isAtRest());
+    }
+}
+
 TEST_F(Motion, WhoWantsLessMotionSeesNone)
 {
     openWithMotion();

@@ -45,7 +45,7 @@ Rectangle {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
     Accessible.focusable: true
-    Accessible.focused: root.isFocused
+    Accessible.focused: root.isFocused && root.visible
     Accessible.selectable: true
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(0)

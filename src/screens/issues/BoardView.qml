@@ -69,7 +69,7 @@ FocusScope {
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)
                     menuKey: root.contextMenu.key
                     isTargeted: index === drop.column
-                    dragY: drop.drag.y - y
+                    dragY: drop.drag.y - columns.y
                     onNewIssueRequested: CreateScreen.open(root.store, "")
                 }
             }

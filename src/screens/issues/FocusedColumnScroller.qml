@@ -16,6 +16,7 @@ Item {
     required property int columnGap
 
     readonly property real room: flickable.width
+    property real roomBefore: 0
 
     function reveal() {
         const column = root.visible ? board.columnOfKey(focusedKey) : -1;
@@ -34,8 +35,18 @@ Item {
         animation.restart();
     }
 
+    // A column that is in sight stays so in less room; one that was scrolled away is left there.
+    function keepInSight() {
+        const column = board.columnOfKey(focusedKey);
+        const left = firstLeft + column * (columnWidth + columnGap);
+        if (column >= 0 && room < roomBefore && left < flickable.contentX + roomBefore
+                && left + columnWidth > flickable.contentX)
+            reveal();
+        roomBefore = room;
+    }
+
     onFocusedKeyChanged: reveal()
-    onRoomChanged: reveal()
+    onRoomChanged: keepInSight()
 
     onVisibleChanged: if (visible) coming.restart()
 

@@ -46,7 +46,29 @@ Glide::Glide(QObject *parent) : QObject(parent)
 
 Glide::Occasion Glide::occasion() const
 {
-    return {m_store->scope(), m_store->filterText(), m_store->filters(), m_store->layout()};
+    return {m_store->scope(), m_store->filterText(), m_store->filters()};
+}
+
+void Glide::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    if (m_store)
+        m_store->disconnect(this);
+    m_store = store;
+    if (m_store) {
+        connect(m_store, &AppStore::layoutChanged, this, &Glide::skipTurn);
+        m_occasion = occasion();
+    }
+    Q_EMIT changed();
+}
+
+void Glide::skipTurn()
+{
+    m_occasion.reset();
+    QMetaObject::invokeMethod(
+        this, [this] { m_occasion = m_store ? std::optional(occasion()) : std::nullopt; },
+        Qt::QueuedConnection);
 }
 
 std::vector<QQuickItem *> Glide::seenItems() const

@@ -12,13 +12,13 @@
 
 /// Moves rows and cards softly from where they were seen to where a change of the issues has put them. They stand at
 /// their new places at once and are only drawn beside them for a while; a further change takes up from what is seen.
-/// Rows that were not seen before fade in. Another list, or another search, is no motion. The items that take part are
+/// Rows that were not seen before fade in. Another list, layout or search is no motion. The items that take part are
 /// those below `view` that have a property `glideKey`, by which they are known again.
 class Glide : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(AppStore *store MEMBER m_store NOTIFY changed REQUIRED FINAL)
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY changed REQUIRED FINAL)
     /// What shows the rows; places are told by its corner.
     Q_PROPERTY(QQuickItem *view MEMBER m_view NOTIFY changed REQUIRED FINAL)
     /// Whose changes are to be seen as motion: one of the two.
@@ -31,6 +31,8 @@ class Glide : public QObject
 public:
     explicit Glide(QObject *parent = nullptr);
 
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
     IssueListModel *rows() const { return m_rows; }
     void setRows(IssueListModel *rows) { follow(m_rows, rows); }
     BoardModel *columns() const { return m_columns; }
@@ -56,7 +58,6 @@ private:
         IssueScope scope;
         QString filterText;
         IssueFilters filters;
-        LayoutMode layout = LayoutMode::List;
 
         bool operator==(const Occasion &) const = default;
     };
@@ -64,6 +65,7 @@ private:
     template <typename Model>
     void follow(QPointer<Model> &followed, Model *model);
     void remember();
+    void skipTurn();
     void playLater();
     void play();
     void draw(double progress);
@@ -76,7 +78,8 @@ private:
     QPointer<IssueListModel> m_rows;
     QPointer<BoardModel> m_columns;
     int m_duration = 0;
-    Occasion m_occasion;
+    /// None in a turn that changes the layout: what was in sight before is long past.
+    std::optional<Occasion> m_occasion;
     /// Where each key was last seen, while a change waits for its frame.
     QHash<QString, QPointF> m_places;
     bool m_isPending = false;

@@ -86,6 +86,7 @@ FocusScope {
             anchors.rightMargin: Metrics.gapSmall
             anchors.verticalCenter: parent.verticalCenter
             name: "Fermer l'inspecteur"
+            hint: Hints.close
             symbol: "xmark"
             symbolWeight: "semibold"
             onClicked: root.closed()

@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Kit
 
-// A layout of the issues. It is made when it is first seen and kept from then on, so that going back to it is quick; out
-// of sight it costs nothing, because the store feeds only the layout in sight.
+// A layout of the issues. It is made when it is first seen and kept from then on, so that going back to it is quick; the
+// store feeds only the layout in sight.
 LatePart {
     id: root
 

@@ -16,6 +16,7 @@ Item {
     property bool isHushed: false
 
     onSpotChanged: isHushed = false
+    onRowChanged: isHushed = false
     parent: row
     visible: isOver
     z: -0.5

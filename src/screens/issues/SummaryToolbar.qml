@@ -12,7 +12,7 @@ Row {
     property bool inWindow: false
 
     ToolbarCell {
-        name: "Copier le nom de branche git"
+        name: "Copier le nom de branche"
         hint: Hints.copyBranch
         symbol: "arrow.triangle.branch"
         ink: Theme.text2
@@ -37,7 +37,7 @@ Row {
 
     ToolbarCell {
         visible: !root.inWindow
-        name: "Ouvrir dans une nouvelle fenêtre"
+        name: "Nouvelle fenêtre"
         hint: Hints.openWindow
         symbol: "macwindow.on.rectangle"
         ink: Theme.text2
