@@ -48,9 +48,10 @@ QCoro::Task<> JiraSessions::keep(SignIn signIn)
 {
     const JiraCredentials credentials = credentialsOf(signIn);
     const auto store = m_credentials;
+    const auto onBegin = m_onBegin;
     const auto turn = co_await m_turns.next();
     co_await store->save(credentials);
-    m_onBegin(credentials);
+    onBegin(credentials);
 }
 
 QCoro::Task<> JiraSessions::forget()

@@ -1,6 +1,8 @@
 #include "platform/TerminationSignals.h"
 
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -14,14 +16,18 @@ int reading = -1;
 
 void tell(int)
 {
+    const int saved = errno;
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(writing, &byte, 1);
+    errno = saved;
 }
 
 int openedPair()
 {
     int ends[2] = {-1, -1};
     ::socketpair(AF_UNIX, SOCK_STREAM, 0, ends);
+    for (const int end : ends)
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
     writing = ends[0];
     reading = ends[1];
     return reading;
