@@ -70,9 +70,7 @@ TEST_F(Windows, EscapeClosesWhatIsOpenInAnIssueWindowThenTheWindow)
     const QPointer<QQuickWindow> issue = scenes().issueWindow(u"MOB-1"_s);
     issue->requestActivate();
     ASSERT_TRUE(QTest::qWaitForWindowActive(issue));
-    const auto isOpen = [&] {
-        return !spokenIn(*issue, QAccessible::Dialog).isEmpty();
-    };
+    const auto isOpen = [&] { return !spokenIn(*issue, QAccessible::Dialog).isEmpty(); };
     const auto chip = spokenIn(*issue, QAccessible::Button, u"Statut : À faire"_s).first();
     QTest::mouseClick(issue, Qt::LeftButton, {}, chip.box.center());
     ASSERT_TRUE(QTest::qWaitFor(isOpen));
