@@ -38,11 +38,13 @@ Item {
     // A column that is in sight stays so in less room; one that was scrolled away is left there.
     function keepInSight() {
         const column = board.columnOfKey(focusedKey);
-        const left = firstLeft + column * (columnWidth + columnGap);
-        if (column >= 0 && room < roomBefore && left < flickable.contentX + roomBefore
-                && left + columnWidth > flickable.contentX)
+        if (column >= 0 && room < roomBefore && wasInSight(firstLeft + column * (columnWidth + columnGap)))
             reveal();
         roomBefore = room;
+    }
+
+    function wasInSight(left: real): bool {
+        return left < flickable.contentX + roomBefore && left + columnWidth > flickable.contentX;
     }
 
     onFocusedKeyChanged: reveal()
