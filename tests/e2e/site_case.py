@@ -10,7 +10,8 @@ class Simulator:
 
     def __init__(self, session):
         build = os.path.dirname(os.path.dirname(os.path.dirname(RUN.program)))
-        self._app = session.launch([os.path.join(build, "tests", "simulator", "simulator")], name="simulator")
+        program = os.path.join(build, "tests", "simulator", "simulator")
+        self._app = session.launch([program, "--any-port"], name="simulator")
         self._app.wait_log("Ctrl\\+C")
         said = self._app.log()
         self.address = re.search(r"\b300 issues\s+(\S+)", said).group(1)
