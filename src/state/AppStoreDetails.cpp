@@ -24,7 +24,8 @@ QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
     std::stop_source commentsStop;
     const std::stop_callback stopsComments(stop, [commentsStop] {
         // A copy: the stop may end this task, and with it what was captured.
-        auto kept = commentsStop;
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+        const auto kept = commentsStop;
         kept.request_stop();
     });
     auto issueTask = settled(service, service->issue(key, stop));
