@@ -145,6 +145,8 @@ void RawServer::dropConnections(RawAnswer::Ending how)
 void RawServer::stopListening()
 {
     m_server->close();
+    if (!m_kept.bind(QHostAddress::LocalHost, m_port, QAbstractSocket::ReuseAddressHint))
+        qFatal("The port is somebody else's: %s", qPrintable(m_kept.errorString()));
 }
 
 int RawServer::openConnections() const

@@ -48,7 +48,7 @@ public:
     void meetConnections(RawAnswer::Ending fate) { m_fate = fate; }
     /// Closes or resets every open connection, idle ones too.
     void dropConnections(RawAnswer::Ending how);
-    /// From now on new connections are refused.
+    /// From now on new connections are refused. The port stays taken, so that no other server answers in this one's place.
     void stopListening();
 
     /// Every complete request so far.
@@ -70,6 +70,7 @@ private:
     RawAnswer nextAnswer(const RawRequest &request);
 
     std::unique_ptr<QTcpServer> m_server;
+    QTcpSocket m_kept;
     bool m_isSecure = false;
     quint16 m_port = 0;
     RawAnswer::Ending m_fate = RawAnswer::Ending::KeepOpen;

@@ -163,6 +163,15 @@ TEST(RawServerTest, AfterItStoppedListeningConnectionsAreRefused)
     EXPECT_EQ(exchange.reply().error(), QNetworkReply::ConnectionRefusedError);
 }
 
+TEST(RawServerTest, TheRefusingPortGoesToNobodyElse)
+{
+    RawServer server;
+    QTcpSocket other;
+    server.stopListening();
+    EXPECT_FALSE(
+        other.bind(QHostAddress::LocalHost, server.port(), QAbstractSocket::DontShareAddress));
+}
+
 TEST(RawServerTest, OneConnectionServesSeveralRequestsUntilItIsDropped)
 {
     RawServer server;
