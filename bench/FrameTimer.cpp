@@ -5,12 +5,24 @@
 #include <QKeyEvent>
 #include <QTimer>
 
-#include <optional>
+#include <algorithm>
+#include <cmath>
 
 using namespace std::chrono_literals;
 
+namespace {
+
+/// How many intervals of the display a time is nearest to.
+qint64 intervals(qint64 nanoseconds)
+{
+    return std::llround(double(nanoseconds) /
+                        double(std::chrono::nanoseconds(FrameTimer::Interval).count()));
+}
+
+} // namespace
+
 FrameTimer::FrameTimer(QQuickWindow &window)
-    : m_window(window), m_watch(window, [this] { return std::exchange(m_isArmed, false); })
+    : m_window(window), m_watch(window, [this] { return takeOver(); })
 {
     // A display without a window manager activates no window, and then nothing in it has the keyboard's focus.
     QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
@@ -44,46 +56,65 @@ qint64 FrameTimer::answer(const std::function<void()> &act)
 {
     settle();
     QEventLoop loop;
-    qint64 end = 0;
+    qint64 time = 0;
     const auto onFrame = [&](qint64 instant, bool isAnswer) {
         if (!isAnswer)
             return;
-        end = instant;
+        time = instant - nextTaken();
         loop.quit();
     };
     QObject::connect(&m_watch, &FrameWatch::swapped, &loop, onFrame);
     QTimer::singleShot(2s, &loop, [] { qFatal("An act led to no frame."); });
     const auto start = monotonicNow();
     act();
-    m_isArmed = true;
+    m_waiting = start;
     loop.exec();
-    return end - start;
+    return time;
 }
 
-std::vector<qint64> FrameTimer::scroll(int steps)
+FrameTimer::Scroll FrameTimer::scroll(int steps)
 {
     settle();
     QEventLoop loop;
-    std::vector<qint64> times;
-    std::optional<qint64> begun;
-    QObject::connect(&m_watch, &FrameWatch::swapped, &loop, [&](qint64 instant) {
-        if (begun)
-            times.push_back(instant - *std::exchange(begun, std::nullopt));
+    Scroll scroll;
+    qint64 last = 0;
+    QObject::connect(&m_watch, &FrameWatch::swapped, &loop, [&](qint64 instant, bool isAnswer) {
+        if (!isAnswer)
+            return;
+        if (last != 0)
+            scroll.dropped += std::max<qint64>(intervals(instant - last) - 1, 0);
+        last = instant;
+        scroll.times.push_back(instant - nextTaken());
     });
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
     const auto turn = [&] {
         if (--steps < 0)
             return loop.quit();
-        begun = monotonicNow();
+        m_waiting = monotonicNow();
         scrollBy(PixelsPerStep, Qt::ScrollUpdate);
     };
     scrollBy(0, Qt::ScrollBegin);
     QObject::connect(&timer, &QTimer::timeout, &loop, turn);
-    timer.start(16ms);
+    timer.start(Interval);
     loop.exec();
     scrollBy(0, Qt::ScrollEnd);
-    return times;
+    settle();
+    return scroll;
+}
+
+bool FrameTimer::takeOver()
+{
+    if (m_waiting)
+        m_taken.push_back(*m_waiting);
+    return std::exchange(m_waiting, std::nullopt).has_value();
+}
+
+qint64 FrameTimer::nextTaken()
+{
+    const auto begun = m_taken.front();
+    m_taken.pop_front();
+    return begun;
 }
 
 // As a touchpad does it: each notch of a wheel would begin a glide anew, and how many of those are seen before the next

@@ -112,11 +112,10 @@ void measure(std::optional<FrameTable> &table, IssueListModel &issues, const QSt
         qFatal("The list does not open.");
     FrameTimer timer(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()));
     timer.settle();
-    const auto frames = timer.scroll(Steps);
-    const auto dropped = Steps - frames.size();
+    const auto scroll = timer.scroll(Steps);
     if (!table)
         table.emplace(timer.renderer());
-    table->add(u"%1, %2 dropped"_s.arg(what).arg(dropped), frames);
+    table->add(u"%1, %2 dropped"_s.arg(what).arg(scroll.dropped), scroll.times);
 }
 
 } // namespace

@@ -224,7 +224,7 @@ void measureList(FrameTable &table, int count)
     itemOf(window.contentItem(), "QQuickTextInput")->forceActiveFocus();
     table.add(size + u"a letter in the search"_s, keystrokes(timer, presses()));
     if (count > 1000)
-        table.add(size + u"a step of a scroll"_s, timer.scroll(Steps));
+        table.add(size + u"a step of a scroll"_s, timer.scroll(Steps).times);
 }
 
 /// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change. A frame
