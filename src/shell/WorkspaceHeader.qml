@@ -24,7 +24,7 @@ Item {
         height: 28
         padding: 4
         accessibleName: "Espace " + root.store.siteShortName
-        onClicked: menu.open()
+        onClicked: menu.toggle()
 
         background: HoverFill {
             radius: Metrics.radiusRow
@@ -66,8 +66,9 @@ Item {
 
     PopupMenu {
         id: menu
-        x: button.x
-        y: root.height
+        parent: button
+        y: root.height - button.y
+        leavePressesToParent: true
         title: "Espace"
 
         PopupMenuItem {

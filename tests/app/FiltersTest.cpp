@@ -45,6 +45,14 @@ TEST_F(FiltersInTheWindow, AChoiceOfTheMenuNarrowsTheListAndShowsAChip)
     await(QAccessible::Grouping, u"Statut : En cours"_s);
 }
 
+TEST_F(FiltersInTheWindow, ASecondClickOnTheButtonClosesTheMenu)
+{
+    openMenu();
+    await(QAccessible::MenuItem, u"Statut"_s);
+    openMenu();
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
+}
+
 TEST_F(FiltersInTheWindow, TheMenuIsWorkedByKeysAlone)
 {
     auto *button = window().activeFocusItem();

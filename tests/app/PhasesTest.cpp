@@ -100,6 +100,18 @@ TEST_F(Phases, TheSignOutEntryOfTheWorkspaceMenuLeavesTheDemo)
     EXPECT_EQ(store().phase(), AppStore::Phase::SignedOut);
 }
 
+TEST_F(Phases, ASecondClickClosesTheWorkspaceMenu)
+{
+    serve({});
+    openOnDemo();
+
+    click(find(QAccessible::Button, u"Espace exemple"_s));
+    await(QAccessible::MenuItem, u"Quitter"_s);
+    click(find(QAccessible::Button, u"Espace exemple"_s));
+
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
+}
+
 TEST_F(Phases, TheDesktopsDarkAppearanceIsFollowedLive)
 {
     serve({});

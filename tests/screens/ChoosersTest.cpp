@@ -82,6 +82,21 @@ TEST(MenuPicker, OpensByAClickAndIsAsWideAsItsChoice)
     EXPECT_TRUE(picker->property("opened").toBool());
 }
 
+TEST(MenuPicker, ASecondClickClosesIt)
+{
+    Bench bench;
+    auto *picker = bench.show(menuPicker);
+    const auto click = [&] {
+        QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, middle(picker));
+    };
+    click();
+    ASSERT_TRUE(picker->property("opened").toBool());
+    click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picker->property("opened").toBool(); }));
+    EXPECT_TRUE(picker->hasActiveFocus());
+    EXPECT_EQ(bench.warnings(), "");
+}
+
 TEST(ToggleSwitch, TurnsWithEveryWayOfPressing)
 {
     Bench bench;

@@ -70,10 +70,17 @@ Item {
     When {
         shown: picker.opened
 
-        Item {
-            y: picker.height + 4
+        // A click on the picker while the menu is open.
+        MouseArea {
+            width: picker.width
+            height: picker.height
+            onClicked: menu.close()
 
             ChoiceMenu {
+                id: menu
+
+                y: picker.height + 4
+                leavePressesToParent: true
                 title: picker.name
                 choices: picker.choices
                 current: picker.current

@@ -4,12 +4,15 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a
-/// title. The focus returns to where it was.
+/// title. The focus returns to where it was. A press outside closes it, so the click of a control that opens one must
+/// close it too, or it would open it again: such a control is the menu's parent, has it `leavePressesToParent`, and calls
+/// `toggle()`.
 T.Menu {
     id: menu
 
     property real widest: 0
     property Item returnTo: null
+    property bool leavePressesToParent: false
 
     implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
@@ -17,8 +20,13 @@ T.Menu {
     margins: 8
     overlap: 4
     cascade: true
+    closePolicy: T.Popup.CloseOnEscape | (leavePressesToParent ? T.Popup.CloseOnPressOutsideParent : T.Popup.CloseOnPressOutside)
     onAboutToShow: begin()
     onAboutToHide: FocusReturn.giveBack(returnTo)
+
+    function toggle() {
+        menu.visible = !menu.visible
+    }
 
     function begin() {
         MenuMeasure.alignMarks(menu)
