@@ -255,6 +255,27 @@ TEST(Fields, AProblemTurnsTheLineRedAndIsSpoken)
     }
 }
 
+TEST(Fields, AScreenReaderThatStartsLaterHearsTheProblemToo)
+{
+    for (const auto &type : {u"InputField"_s, u"SecureField"_s, u"InputArea"_s}) {
+        Bench bench;
+        QAccessible::setActive(false);
+        auto *field = bench.show(
+            type + u" { name: 'Adresse'; placeholderText: 'exemple.fr'; focus: true }"_s);
+        ASSERT_NE(field, nullptr) << bench.warnings();
+        field->setProperty("problem", u"L'adresse est vide."_s);
+        QAccessible::setActive(true);
+        const auto spoken = [&] {
+            return Bench::accessible(bench.window().activeFocusItem())
+                ->text(QAccessible::Description);
+        };
+        EXPECT_EQ(spoken(), u"L'adresse est vide."_s) << type.toStdString();
+        field->setProperty("problem", u"L'adresse est trop longue."_s);
+        EXPECT_EQ(spoken(), u"L'adresse est trop longue."_s) << type.toStdString();
+        EXPECT_EQ(bench.warnings(), "");
+    }
+}
+
 TEST(CheckBox, IsTurnedOverByAPressOnItsWords)
 {
     Bench bench;

@@ -36,8 +36,14 @@ T.TextField {
     hoverEnabled: true
     Accessible.role: Accessible.EditableText
     Accessible.name: name
-    // Not bound above: when the field is complete, the template takes its placeholder for the description.
-    Component.onCompleted: Accessible.description = Qt.binding(() => field.spoken)
+    Accessible.description: spoken
+    // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
+    Accessible.onDescriptionChanged: speak()
+
+    function speak() {
+        if (Accessible.description !== spoken)
+            Accessible.description = Qt.binding(() => field.spoken)
+    }
 
     cursorDelegate: TextCaret {
         shown: field.activeFocus && field.selectionStart === field.selectionEnd

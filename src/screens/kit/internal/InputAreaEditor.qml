@@ -33,8 +33,14 @@ T.TextArea {
     Accessible.role: Accessible.EditableText
     Accessible.multiLine: true
     Accessible.name: name
-    // The template writes the placeholder over what stands here before it is complete.
-    Component.onCompleted: Accessible.description = Qt.binding(() => editor.problem)
+    Accessible.description: problem
+    // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
+    Accessible.onDescriptionChanged: speak()
+
+    function speak() {
+        if (Accessible.description !== problem)
+            Accessible.description = Qt.binding(() => editor.problem)
+    }
 
     function leave(forwards: bool) {
         nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
