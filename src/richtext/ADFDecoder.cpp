@@ -1,6 +1,7 @@
 #include "richtext/ADFDecoder.h"
 
 #include "richtext/ADFCoding.h"
+#include "richtext/SyntaxError.h"
 
 #include <cmath>
 #include <limits>
@@ -29,7 +30,7 @@ std::expected<simdjson::dom::element, DecodingError> parsed(simdjson::dom::parse
 {
     simdjson::dom::element root;
     if (const auto error = parser.parse(json.constData(), size_t(json.size())).get(root))
-        return std::unexpected(DecodingError{{}, toText(simdjson::error_message(error))});
+        return std::unexpected(syntaxError(error));
     return root;
 }
 
@@ -51,7 +52,7 @@ ADFDecoder::Result<Record> ADFDecoder::record(const Element &element)
 {
     simdjson::dom::object members;
     if (element.get(members))
-        return failure(u"expected an object"_s);
+        return failure(u"objet attendu"_s);
     Record result;
     bool typed = false;
     for (const auto &[name, value] : members) {
@@ -65,13 +66,13 @@ ADFDecoder::Result<Record> ADFDecoder::record(const Element &element)
     if (typed)
         return result;
     const Step step(*this, {"type"});
-    return failure(u"missing"_s);
+    return failure(u"absent"_s);
 }
 
 ADFDecoder::Result<ADFNode> ADFDecoder::node(const Element &element)
 {
     if (m_depth >= m_maximumDepth)
-        return failure(u"nested too deeply"_s);
+        return failure(u"imbrication trop profonde"_s);
     ++m_depth;
     auto result = record<ADFNode>(element);
     --m_depth;
@@ -114,7 +115,7 @@ ADFDecoder::Result<void> ADFDecoder::readMember(ADFMark &mark, std::string_view 
 ADFDecoder::Result<JSONValue> ADFDecoder::value(const Element &element)
 {
     if (m_depth >= m_maximumDepth)
-        return failure(u"nested too deeply"_s);
+        return failure(u"imbrication trop profonde"_s);
     ++m_depth;
     JSONValue result;
     Result<void> read;
@@ -149,7 +150,7 @@ ADFDecoder::Result<QString> ADFDecoder::text(const Element &element)
 {
     std::string_view utf8;
     if (element.get(utf8))
-        return failure(u"expected a text"_s);
+        return failure(u"texte attendu"_s);
     return toText(utf8);
 }
 
@@ -157,9 +158,9 @@ ADFDecoder::Result<int> ADFDecoder::integer(const Element &element)
 {
     double number = 0;
     if (element.get(number) || number != std::trunc(number))
-        return failure(u"expected an integer"_s);
+        return failure(u"nombre entier attendu"_s);
     if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max())
-        return failure(u"out of range"_s);
+        return failure(u"nombre trop grand"_s);
     return int(number);
 }
 
@@ -167,7 +168,7 @@ ADFDecoder::Result<ADFAttributes> ADFDecoder::object(const Element &element)
 {
     simdjson::dom::object members;
     if (element.get(members))
-        return failure(u"expected an object"_s);
+        return failure(u"objet attendu"_s);
     ADFAttributes result;
     for (const auto &[name, member] : members) {
         const Step step(*this, {name});
@@ -190,7 +191,7 @@ ADFDecoder::Result<QList<Item>> ADFDecoder::list(const Element &element,
 {
     simdjson::dom::array items;
     if (element.get(items))
-        return failure(u"expected an array"_s);
+        return failure(u"liste attendue"_s);
     QList<Item> result;
     for (const auto &item : items) {
         const Step step(*this, {{}, result.size()});

@@ -7,13 +7,13 @@ struct DecodingError
 {
     /// Where, as a path from the root: "content[2].type"; empty for the root itself.
     QString place;
-    /// What is wrong there.
+    /// What is wrong there, for the user to read.
     QString message;
 
-    /// Both in one line: "content[2].type: expected a text".
+    /// Both in one line: "content[2].type: texte attendu".
     QString description() const
     {
-        return place.isEmpty() ? message : QString(place).append(u": ").append(message);
+        return place.isEmpty() ? message : QString(place).append(u" : ").append(message);
     }
 
     bool operator==(const DecodingError &) const = default;

@@ -107,6 +107,17 @@ TEST(WireDecoding, NestingBeyondTheParserIsRefused)
     EXPECT_FALSE(failureOf(QByteArray("[").repeated(1'000'000)).isEmpty());
 }
 
+TEST(WireDecoding, WhatIsNoJSONIsToldInFrench)
+{
+    EXPECT_EQ(failureOf(""), u"contenu vide"_s);
+    EXPECT_EQ(failureOf("{\"a\":\"\xff\"}"), u"caractères qui ne sont pas en UTF-8"_s);
+    EXPECT_EQ(failureOf(nested(100'000, "1")), u"imbrication trop profonde"_s);
+    EXPECT_EQ(failureOf(R"({"a":01})"), u"nombre invalide"_s);
+    EXPECT_EQ(failureOf(R"({"a":"\x"})"), u"texte mal formé"_s);
+    EXPECT_EQ(failureOf(R"({"a":"b)"), u"texte mal formé"_s);
+    EXPECT_EQ(failureOf("<!doctype html>"), u"JSON mal formé"_s);
+}
+
 TEST(WireDecoding, UnknownMembersMayNestDeeply)
 {
     EXPECT_EQ(failureOf(issueWith("\"x\":" + nested(500, "1"))), QString());

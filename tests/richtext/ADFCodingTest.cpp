@@ -76,14 +76,14 @@ TEST(ADFCoding, DocumentAtTheDepthLimitIsRead)
 TEST(ADFCoding, DocumentBeyondTheDepthLimitFails)
 {
     EXPECT_TRUE(failureOf(nestedNodes(ADFCoding::maximumDepth))
-                    .endsWith(u"content[0]: nested too deeply"_s));
+                    .endsWith(u"content[0] : imbrication trop profonde"_s));
 }
 
 TEST(ADFCoding, AttributesBeyondTheDepthLimitFail)
 {
     const QByteArray value = QByteArray("[").repeated(300) + QByteArray("]").repeated(300);
-    EXPECT_TRUE(
-        failureOf(R"({"type":"a","attrs":{"b":)" + value + "}}").endsWith(u"nested too deeply"_s));
+    EXPECT_TRUE(failureOf(R"({"type":"a","attrs":{"b":)" + value + "}}")
+                    .endsWith(u"imbrication trop profonde"_s));
 }
 
 TEST(ADFCoding, ValueBeyondItsDepthLimitFails)

@@ -12,6 +12,7 @@
 #include "jira/wire/TransitionsDTO.h"
 #include "jira/wire/UserDTO.h"
 #include "jira/wire/WireReader.h"
+#include "richtext/SyntaxError.h"
 
 #include <QTextBoundaryFinder>
 
@@ -64,7 +65,7 @@ std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
     const bool hasRoom = json.capacity() - json.size() >= qsizetype(simdjson::SIMDJSON_PADDING);
     const auto size = size_t(json.size());
     if (const auto error = parser.parse(json.constData(), size, !hasRoom).get(root))
-        return std::unexpected(errorOf({{}, QString::fromUtf8(simdjson::error_message(error))}));
+        return std::unexpected(errorOf(syntaxError(error)));
     DTO record;
     if (const auto done = WireReader::read(root, record); !done)
         return std::unexpected(errorOf(done.error()));

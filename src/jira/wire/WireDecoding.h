@@ -9,7 +9,7 @@
 /// Reads the body of an answer as a wire record, or as a list of them. Strict about what it reads: a member that must
 /// be there and is not, or a member of the wrong kind, fails the whole answer, and so does anything that is not JSON in
 /// UTF-8. Members that no record knows are ignored at any depth. The error names the place
-/// ("issues[3].fields.status.name: missing"), in at most 240 characters. Never throws.
+/// ("issues[3].fields.status.name : absent"), in at most 240 characters. Never throws.
 ///
 /// Made for the records that answers consist of: `UserDTO`, `ProjectDTO`, `ProjectSearchDTO`, `PrioritySearchDTO`,
 /// `SearchResponseDTO`, `IssueDTO`, `CommentsDTO`, `CommentDTO`, `TransitionsDTO`, `CreatedIssueDTO`, `JiraErrorDTO`,

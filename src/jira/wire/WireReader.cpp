@@ -38,14 +38,14 @@ Result read(const Element &element, QString &text)
 {
     std::string_view utf8;
     if (element.get(utf8))
-        return failure("expected a text");
+        return failure("texte attendu");
     text = textOf(utf8);
     return {};
 }
 
 Result read(const Element &element, bool &value)
 {
-    return element.get(value) ? failure("expected true or false") : Result();
+    return element.get(value) ? failure("vrai ou faux attendu") : Result();
 }
 
 Result read(const Element &element, qint64 &number)
@@ -57,10 +57,10 @@ Result read(const Element &element, qint64 &number)
     }
     double real = 0;
     if (element.get(real) || real != std::trunc(real))
-        return failure("expected an integer");
+        return failure("nombre entier attendu");
     constexpr double Bound = 9223372036854775808.0; // 2^63
     if (real < -Bound || real >= Bound)
-        return failure("out of range");
+        return failure("nombre trop grand");
     number = qint64(real);
     return {};
 }
@@ -78,11 +78,11 @@ Result read(const Element &element, AvatarUrlsDTO &addresses)
 {
     simdjson::dom::object members;
     if (element.get(members))
-        return failure("expected an object");
+        return failure("objet attendu");
     for (const auto &[name, value] : members) {
         std::string_view address;
         if (value.get(address))
-            return inMember(name, failure("expected a text"));
+            return inMember(name, failure("texte attendu"));
         if (name == "48x48")
             addresses.large = textOf(address);
         else if (name == "32x32")

@@ -67,7 +67,7 @@ Result read(const Element &element, QList<T> &list)
 {
     simdjson::dom::array items;
     if (element.get(items))
-        return failure("expected an array");
+        return failure("liste attendue");
     list.clear();
     list.reserve(qsizetype(items.size()));
     for (const Element item : items) {
@@ -82,7 +82,7 @@ Result read(const Element &element, QMap<QString, T> &map)
 {
     simdjson::dom::object members;
     if (element.get(members))
-        return failure("expected an object");
+        return failure("objet attendu");
     map.clear();
     for (const auto &[name, value] : members) {
         if (auto done = read(value, map[textOf(name)]); !done)
@@ -133,14 +133,14 @@ Result read(const Element &element, DTO &record)
     constexpr auto Indexes = std::make_index_sequence<std::tuple_size_v<decltype(Members)>>();
     simdjson::dom::object object;
     if (element.get(object))
-        return failure("expected an object");
+        return failure("objet attendu");
     std::array<bool, Indexes.size()> found{};
     for (const auto &[name, value] : object) {
         if (auto done = readMember(record, name, value, Members, found, Indexes); !done)
             return done;
     }
     const auto missing = missingMember(Members, found, Indexes);
-    return missing.empty() ? Result() : inMember(missing, failure("missing"));
+    return missing.empty() ? Result() : inMember(missing, failure("absent"));
 }
 
 } // namespace WireReader

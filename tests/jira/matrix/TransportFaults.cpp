@@ -63,7 +63,7 @@ RawAnswer withHeader(const QByteArray &name, const QByteArray &value, const QByt
     return RawAnswer::http(200, body, {{"Content-Type", "application/json"}, {name, value}});
 }
 
-/// What is no JSON, of which the reader of JSON tells why in its own words, or another than expected; where the answer is not read, it is as good as any.
+/// What is no JSON, or another than expected; where the answer is not read, it is as good as any.
 QList<Fault> brokenAnswers()
 {
     return {
@@ -77,22 +77,24 @@ QList<Fault> brokenAnswers()
          withHeader("Content-Encoding", "gzip", "\x1F\x8B\x08 no gzip at all")},
         {"InvalidUtf8",
          Place::Answer,
-         {.reading = unreadable(u"…"_s), .ignoring = succeeds, .download = succeeds},
+         {.reading = unreadable(u"caractères qui ne sont pas en UTF-8"_s),
+          .ignoring = succeeds,
+          .download = succeeds},
          RawAnswer::json("{\"accountId\":\"\xC3\x28\"}")},
         {"HtmlWith200",
          Place::Answer,
-         {.reading = unreadable(u"…"_s), .ignoring = succeeds, .download = noDownload},
+         {.reading = unreadable(u"JSON mal formé"_s), .ignoring = succeeds, .download = noDownload},
          RawAnswer::html("<!doctype html><title>Connexion</title>")},
         {"Empty200",
          Place::Answer,
-         {.reading = unreadable(u"…"_s), .ignoring = succeeds, .download = succeeds},
+         {.reading = unreadable(u"contenu vide"_s), .ignoring = succeeds, .download = succeeds},
          RawAnswer::json({})},
         {"WrongType",
          Place::Answer,
-         {.reading = unreadable(u"expected an object"_s),
-          .readingList = unreadable(u"expected an array"_s),
+         {.reading = unreadable(u"objet attendu"_s),
+          .readingList = unreadable(u"liste attendue"_s),
           .ignoring = succeeds,
-          .upload = unreadable(u"expected an array"_s),
+          .upload = unreadable(u"liste attendue"_s),
           .download = succeeds},
          RawAnswer::json("42")},
         {"HundredMegabytes",
