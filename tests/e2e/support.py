@@ -5,7 +5,7 @@ import re
 import unittest
 
 import demo_lists
-from driver import Session, wait_until
+from driver import DriverError, Session, wait_until
 
 ISSUE = re.compile(r"^([A-Z]+-\d+), ")
 HEADER = re.compile(r"^(.+), \d+ tickets?(, replié)?$")
@@ -56,7 +56,7 @@ class Velmora:
     def listed(self):
         """[(title of the group, [keys])] from top to bottom."""
         groups = []
-        for node in self.app.all(by_place=True):
+        for node in self.app.all(role="list item|push button", name="%s|%s" % (ISSUE.pattern, HEADER.pattern), by_place=True):
             issue, header = ISSUE.match(node.name), HEADER.match(node.name)
             if issue and node.role == "list item":
                 if not groups:
@@ -91,16 +91,24 @@ class Velmora:
     # what is done to it
     def tab_to(self, name):
         """Presses Tab until something of that name has the focus."""
-        seen = []
+        seen = [self._focused_names()]
         for _ in range(30):
             # Beside the control that has the keyboard, the focused issue says so too.
-            focused = [node.name for node in self.app.all(states=("focused",))]
-            seen.append(focused)
-            if any(re.search(name, each) for each in focused):
+            if any(re.search(name, each) for each in seen[-1]):
                 return
             self.session.key("Tab")
-            self.session.settle()
+            seen.append(self._focus_after(seen[-1]))
         raise AssertionError("Tab reaches only %s" % seen)
+
+    def _focused_names(self):
+        return [node.name for node in self.app.all(states=("focused",))]
+
+    def _focus_after(self, names):
+        """What has the focus once it has gone on; in a window with one stop it stays."""
+        try:
+            return wait_until(lambda: next(iter([now for now in [self._focused_names()] if now and now != names]), None), 1)
+        except DriverError:
+            return names
 
     # what is waited for
     def wait_listed(self, expected, what, normal=lambda listed: listed):

@@ -4,9 +4,9 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A floating panel beside the item that it is declared in, which stays in the window. Its children stand one over the
-/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, a press on its
-/// anchor is left to the anchor, so that `toggle()` there closes it too. The focus returns to where it was. Put what is
-/// costly into a `When { shown: popover.isShown }`.
+/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, and that press does nothing
+/// else: whoever puts it away opens nothing by it. The focus returns to where it was. Put what is costly into a
+/// `When { shown: popover.isShown }`.
 T.Popup {
     id: popover
 
@@ -28,7 +28,9 @@ T.Popup {
     implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
     padding: 0
     focus: true
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    modal: true
+    dim: false
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
     onAboutToShow: begin()
     onAboutToHide: FocusReturn.giveBack(returnTo)

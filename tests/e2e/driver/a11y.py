@@ -1,5 +1,6 @@
 """What a program says of itself over AT-SPI: its tree of accessible objects, read and worked over D-Bus."""
 import re
+from functools import cached_property
 
 import gi
 gi.require_version("Gio", "2.0")
@@ -17,23 +18,67 @@ STATES = ("invalid active armed busy checked collapsed defunct editable enabled 
           "selectable-text is-default visited checkable has-popup read-only").split()
 PROPERTIES = "org.freedesktop.DBus.Properties"
 _A = "org.a11y.atspi."
+EXTENTS = (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,)))
+
+
+def prop(iface, name):
+    """The call that reads a property."""
+    return PROPERTIES, "Get", GLib.Variant("(ss)", (_A + iface, name))
 
 
 class Node:
-    """An accessible object, with what it said at the moment of the dump."""
+    """An accessible object, with the role, name and states that it had at the moment of the dump; the rest is read when
+    it is first asked for."""
 
     def __init__(self, a11y, bus, path, parent=None, depth=0):
         self.a11y, self.bus, self.path, self.parent, self.depth = a11y, bus, path, parent, depth
         self.children = []
-        self.role = self.name = self.description = ""
-        self.text = self.value = None
-        self.states, self.interfaces, self.actions, self.rect = frozenset(), (), (), None
+        self.role = self.name = ""
+        self.states = frozenset()
+
+    @cached_property
+    def description(self):
+        return self._asked("Accessible", *prop("Accessible", "Description"), default="")
+
+    @cached_property
+    def interfaces(self):
+        names = self._asked("Accessible", _A + "Accessible", "GetInterfaces", None, default=())
+        return tuple(name.rsplit(".", 1)[-1] for name in names)
+
+    @cached_property
+    def text(self):
+        text = self._asked("Text", _A + "Text", "GetText", GLib.Variant("(ii)", (0, -1)))
+        return text and text.replace("\u2029", "\n")
+
+    @cached_property
+    def value(self):
+        return self._asked("Value", *prop("Value", "CurrentValue"))
+
+    @cached_property
+    def actions(self):
+        return tuple(a[0] for a in self._asked("Action", _A + "Action", "GetActions", None, default=()))
+
+    @cached_property
+    def rect(self):
+        rect = self._asked("Component", *EXTENTS)
+        return rect and tuple(rect)
+
+    def _asked(self, interface, *call, default=None):
+        """The first value of an answer; the default from what is gone or does not have the interface."""
+        if interface not in ("Accessible", "Component") and interface not in self.interfaces:
+            return default
+        try:
+            return self.a11y.call(self.bus, self.path, *call)[0]
+        except DriverError:
+            return default
 
     def _call(self, iface, method, args=None, reply=None):
         return self.a11y.call(self.bus, self.path, _A + iface, method, args, reply)
 
     def refresh(self):
         """Reads the node's own values again; its children stay as they are."""
+        for asked in ("description", "interfaces", "text", "value", "actions", "rect"):
+            self.__dict__.pop(asked, None)
         self.a11y.read([self])
         return self
 
@@ -83,7 +128,10 @@ class Node:
                     and set(states) <= n.states and (showing is None or n.showing == showing)
                     and (where is None or where(n)))
         got = [n for n in self.walk() if ok(n)]
-        return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1]) if by_place else got
+        if not by_place:
+            return got
+        self.a11y.read_places(got)
+        return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1])
 
     def find(self, **kw):
         got = self.all(**kw)
@@ -176,42 +224,24 @@ class A11y:
         return out
 
     def read(self, nodes):
-        """Fills the values of many nodes in two rounds of calls, and returns their children's addresses."""
-        def prop(iface, name):
-            return PROPERTIES, "Get", GLib.Variant("(ss)", (_A + iface, name))
+        """Fills role, name and states of many nodes in one round of calls, and returns their children's addresses."""
         acc = _A + "Accessible"
-        first = [(acc, "GetRoleName", None), prop("Accessible", "Name"), prop("Accessible", "Description"),
-                 (acc, "GetState", None), (acc, "GetInterfaces", None), (acc, "GetChildren", None)]
-        got = self.batch([(n.bus, n.path) + c for n in nodes for c in first])
-        kids, second, to = [], [], []
+        calls = [(acc, "GetRoleName", None), prop("Accessible", "Name"), (acc, "GetState", None),
+                 (acc, "GetChildren", None)]
+        got = self.batch([(n.bus, n.path) + c for n in nodes for c in calls])
+        kids = []
         for k, n in enumerate(nodes):
-            role, name, desc, state, ifaces, children = got[k * 6:k * 6 + 6]
-            n.role, n.name, n.description = (v[0] if v else "" for v in (role, name, desc))
+            role, name, state, children = got[k * len(calls):(k + 1) * len(calls)]
+            n.role, n.name = (v[0] if v else "" for v in (role, name))
             bits = sum(w << (32 * i) for i, w in enumerate(state[0])) if state else 0
             n.states = frozenset(s for i, s in enumerate(STATES) if bits >> i & 1)
-            n.interfaces = tuple(i.rsplit(".", 1)[-1] for i in ifaces[0]) if ifaces else ()
-            n.text = n.value = n.rect = None
-            n.actions = ()
             kids.append([c for c in children[0] if not c[1].endswith("/null")] if children else [])
-            for iface, call in (("Text", (_A + "Text", "GetText", GLib.Variant("(ii)", (0, -1)))),
-                                ("Value", prop("Value", "CurrentValue")),
-                                ("Action", (_A + "Action", "GetActions", None)),
-                                ("Component", (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,))))):
-                if iface in n.interfaces:
-                    second.append((n.bus, n.path) + call)
-                    to.append((n, iface))
-        for (n, iface), v in zip(to, self.batch(second)):
-            if v is None:
-                continue
-            if iface == "Text":
-                n.text = v[0].replace("\u2029", "\n")
-            elif iface == "Value":
-                n.value = v[0]
-            elif iface == "Action":
-                n.actions = tuple(a[0] for a in v[0])
-            else:
-                n.rect = tuple(v[0])
         return kids
+
+    def read_places(self, nodes):
+        """Reads where many nodes are in one round of calls."""
+        for n, found in zip(nodes, self.batch([(n.bus, n.path) + EXTENTS for n in nodes])):
+            n.rect = found and tuple(found[0])
 
     def tree(self, bus, path, max_nodes=5000, showing_only=False):
         root = Node(self, bus, path)

@@ -228,11 +228,18 @@ class Session:
 
     def scroll(self, at, notches):
         """Turns the wheel at a point, downwards for positive notches."""
+        self._turn(at, 5 if notches > 0 else 4, abs(notches))
+
+    def scroll_sideways(self, at, notches):
+        """Tilts the wheel at a point, to the right for positive notches."""
+        self._turn(at, 7 if notches > 0 else 6, abs(notches))
+
+    def _turn(self, at, button, notches):
         self.x.move(*at)
         time.sleep(0.03)
-        for _ in range(abs(notches)):
-            self.x.button(5 if notches > 0 else 4, True)
-            self.x.button(5 if notches > 0 else 4, False)
+        for _ in range(notches):
+            self.x.button(button, True)
+            self.x.button(button, False)
             time.sleep(0.015)
 
     def drag(self, src, dst, steps=15, pause=0.02, hold=0.25, drop=True):

@@ -83,6 +83,26 @@ TEST(GlassChip, APressOutsideClosesItAndOneOnTheChipTogglesIt)
     EXPECT_EQ(bench.warnings(), "");
 }
 
+TEST(GlassChip, APressOutsideOnlyClosesItAndPressesNothingBelow)
+{
+    Bench bench;
+    auto *page = bench.show(
+        u"Item { width: 600; height: 400; property int presses: 0; property alias chip: chip; "
+        "MouseArea { anchors.fill: parent; onPressed: parent.presses++ } "
+        "GlassChip { id: chip; x: 20; y: 20; title: 'Statut'; "
+        "Item { width: 290; implicitHeight: 200; height: 200 } } }"_s);
+    ASSERT_NE(page, nullptr) << bench.warnings();
+    const auto *chip = page->property("chip").value<QQuickItem *>();
+    const auto isOpen = [&] { return chip->property("isPresented").toBool(); };
+    QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, {30, 30});
+    ASSERT_TRUE(isOpen());
+    QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, {580, 380});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+    EXPECT_EQ(page->property("presses").toInt(), 0);
+    QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, {580, 380});
+    EXPECT_EQ(page->property("presses").toInt(), 1) << "once it is gone";
+}
+
 TEST(GlassChip, GrowsWithItsTitleAndHasANameAndARole)
 {
     Bench bench;
