@@ -62,6 +62,9 @@ Item {
                 name: options.placeholder
                 width: 260
                 alignment: root.alignment
+                // A press on another cell takes the picker there.
+                modal: false
+                closePolicy: Popover.CloseOnEscape | Popover.CloseOnPressOutsideParent
                 onClosed: root.isOpen = false
                 Component.onCompleted: open()
 

@@ -4,9 +4,9 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A floating panel beside the item that it is declared in, which stays in the window. Its children stand one over the
-/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, and that press does nothing
-/// else: whoever puts it away opens nothing by it. The focus returns to where it was. Put what is costly into a
-/// `When { shown: popover.isShown }`.
+/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, and that press does
+/// no more, unless `modal` and `closePolicy` say otherwise: whoever puts it away opens nothing by it. The focus returns to
+/// where it was. Put what is costly into a `When { shown: popover.isShown }`.
 T.Popup {
     id: popover
 
