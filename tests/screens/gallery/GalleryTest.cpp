@@ -1,7 +1,7 @@
 #include "screens/Bench.h"
+#include "screens/StoredPicture.h"
 #include "screens/gallery/PictureDifference.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QSet>
 #include <QStyleHints>
@@ -24,22 +24,9 @@ const Page pages[]{{u"icons"_s, {1150, 900}},    {u"symbols"_s, {1270, 960}},
                    {u"controls"_s, {1270, 420}}, {u"panels"_s, {930, 680}},
                    {u"overlays"_s, {870, 530}},  {u"sheets"_s, {620, 440}}};
 
-const QDir stored(QStringLiteral(VELMORA_PICTURES));
-
 int scale()
 {
     return qRound(qGuiApp->devicePixelRatio());
-}
-
-bool isWriting()
-{
-    return QGuiApplication::arguments().contains(u"--write"_s);
-}
-
-QString fileOf(const Page &page, bool dark)
-{
-    return stored.filePath(
-        u"%1-%2@%3x.png"_s.arg(page.name, dark ? u"dark"_s : u"light"_s).arg(scale()));
 }
 
 /// Nothing that floats is on its way any more.
@@ -75,32 +62,6 @@ QImage drawn(const Page &page, bool dark)
     const QImage picture = bench.window().grabWindow();
     EXPECT_EQ(bench.warnings(), "") << page.name.toStdString();
     return picture.convertToFormat(QImage::Format_RGB32);
-}
-
-/// With fewer shades than the comparison tells apart: half the size on the disk.
-QImage coarse(QImage picture)
-{
-    constexpr int step = 4;
-    const auto rounded = [](int value) { return std::min(255, (value + step / 2) / step * step); };
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const QRgb pixel = picture.pixel(x, y);
-            picture.setPixel(
-                x, y, qRgb(rounded(qRed(pixel)), rounded(qGreen(pixel)), rounded(qBlue(pixel))));
-        }
-    }
-    return picture;
-}
-
-std::string placeOf(const PictureDifference &difference)
-{
-    const QRect box = difference.where;
-    return u"%1 pixels within %2, %3, %4 x %5"_s.arg(difference.pixels)
-        .arg(box.x())
-        .arg(box.y())
-        .arg(box.width())
-        .arg(box.height())
-        .toStdString();
 }
 
 /// What is drawn in a part of a picture, without the ground.
@@ -197,17 +158,7 @@ TEST_P(GalleryPictures, LookAsTheyAreStored)
     const auto [index, dark] = GetParam();
     const Page &page = pages[index];
     const QImage picture = drawn(page, dark);
-    const QString file = fileOf(page, dark);
-    if (isWriting()) {
-        ASSERT_TRUE(coarse(picture).save(file, "png", 0));
-        return;
-    }
-    const auto difference = pictureDifference(picture, QImage(file));
-    const QString found = QDir::temp().filePath(u"found-"_s + QFileInfo(file).fileName());
-    if (!difference.isForgiven())
-        picture.save(found);
-    EXPECT_TRUE(difference.isForgiven())
-        << placeOf(difference) << "; found: " << found.toStdString();
+    EXPECT_EQ(StoredPicture(page.name, dark).differenceTo(picture), "");
 }
 
 class GalleryControls : public testing::TestWithParam<QString>
@@ -277,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, PictureShift,
 TEST_P(PictureShift, WhatMovesByOnePixelIsSeenWhereverItStands)
 {
     const auto [index, dark] = GetParam();
-    const QImage picture(fileOf(pages[index], dark));
+    const QImage picture = StoredPicture(pages[index].name, dark).image();
     ASSERT_FALSE(picture.isNull());
     const int tile = 70 * scale();
     int parts = 0;
