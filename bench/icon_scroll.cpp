@@ -40,7 +40,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 Window {
-    RowStyle { id: rowStyle; keyWidth: 60; ink: Theme.text1; quiet: Theme.text2; outline: Theme.chipOutline }
+    RowLook { id: rowLook; keyWidth: 60 }
     width: 1320; height: 840; visible: true; color: Theme.content
     ListView {
         id: list
@@ -69,7 +69,7 @@ QByteArray rowOf(const QByteArray &content)
 constexpr auto issueRow = R"(IssueRow {
             id: cell
             required property int index
-            width: list.width; height: 38; style: rowStyle; isSelecting: false
+            width: list.width; height: 38; style: rowLook; isSelecting: false
             Rectangle { anchors.fill: parent; visible: cell.index % 2 === 0; color: Theme.hoverFill }
         })";
 

@@ -3,44 +3,27 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Issues
 import Velmora.Kit
-import Velmora.Model
-import Velmora.Theme
+import Velmora.Options
 
-// One issue of the board.
-Rectangle {
+// One issue of the board. All of it but its summary is drawn by its base.
+CardFace {
     id: root
 
-    required property issue issue
-    required property bool isFocused
-    required property bool isChecked
-    required property bool isOpen
-    required property string dueText
-    required property bool isOverdue
-    required property string dueTooltip
     required property string accessibleName
-    // Its menu is open: it looks as under the pointer, which is on the menu.
-    property bool hasMenu: false
 
     signal clicked(modifiers: int)
     signal menuRequested(x: real, y: real)
-    // The picker of a kind (`PropertyOptions.Kind`) is wanted at a cell.
-    signal pickRequested(kind: int, cell: Item)
     signal dragBegun(handler: DragHandler)
 
-    readonly property bool isStrong: isChecked || isOpen
-    // 0 at rest, 1 under the pointer.
-    property real lift: hover.hovered || hasMenu ? 1 : 0
-
-    Behavior on lift {
-        NumberAnimation {
-            duration: Motion.cardDuration
-            easing: Springs.even
-        }
+    function press(x: real, y: real, modifiers: int) {
+        const spot = spotAt(x, y);
+        if (spot.isCell)
+            pickRequested(spot.kind, spot.box);
+        else
+            clicked(modifiers);
     }
 
-    implicitHeight: content.height + 2 * 12
-    radius: Metrics.radiusCard
-    color: Theme.card
+    titleHeight: title.implicitHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -50,42 +33,13 @@ Rectangle {
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(0)
 
-    GlassFrame {
-        anchors.fill: parent
-        radius: root.radius
-        dark: Theme.dark
-        shadow: "card"
-        opacity: 1 - root.lift
-    }
-
-    GlassFrame {
-        anchors.fill: parent
-        radius: root.radius
-        dark: Theme.dark
-        shadow: "cardHover"
-        opacity: root.lift
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        radius: root.radius
-        color: "transparent"
-        border.width: root.isStrong ? 1.5 : 1
-        border.pixelAligned: false
-        border.color: root.isStrong ? Theme.accentAt(0.8) : root.isFocused ? Theme.accentAt(0.4) : Theme.ink(0.07)
-    }
-
-    HoverHandler {
-        id: hover
-    }
-
     TapHandler {
         id: tap
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: (point, button) => button === Qt.RightButton
             ? root.menuRequested(point.position.x, point.position.y)
-            : root.clicked(tap.point.modifiers)
+            : root.press(point.position.x, point.position.y, tap.point.modifiers)
     }
 
     DragHandler {
@@ -95,34 +49,29 @@ Rectangle {
         onActiveChanged: if (active) root.dragBegun(drag)
     }
 
-    Column {
-        id: content
-        x: 12
-        y: 12
-        width: parent.width - 2 * 12
-        spacing: Metrics.gap
+    CardTitle {
+        id: title
+        x: root.titleBox.x
+        y: root.titleBox.y
+        width: root.titleBox.width
+        style: root.style
+        text: root.issue.summary
+    }
 
-        CardHead {
-            width: parent.width
-            issue: root.issue
-            onPickRequested: (kind, cell) => root.pickRequested(kind, cell)
-        }
+    RowCell {
+        x: root.assigneeCell.x
+        y: root.assigneeCell.y
+        kind: PropertyOptions.Assignee
+        spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
+        onPressed: root.pickRequested(kind, root.assigneeCell)
+    }
 
-        AppText {
-            width: parent.width
-            weight: Font.Medium
-            wrapMode: Text.Wrap
-            maximumLineCount: 3
-            text: root.issue.summary
-        }
-
-        CardFoot {
-            width: parent.width
-            issue: root.issue
-            dueText: root.dueText
-            isOverdue: root.isOverdue
-            dueTooltip: root.dueTooltip
-            onPickRequested: (kind, cell) => root.pickRequested(kind, cell)
-        }
+    RowCell {
+        x: root.priorityCell.x
+        y: root.priorityCell.y
+        height: root.priorityCell.height
+        kind: PropertyOptions.Priority
+        spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
+        onPressed: root.pickRequested(kind, root.priorityCell)
     }
 }

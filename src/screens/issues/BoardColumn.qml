@@ -18,6 +18,7 @@ Rectangle {
     required property IssueListModel cards
     required property string accessibleName
     required property string focusedKey
+    required property CardStyle cardStyle
     // The issue whose menu is open.
     property string menuKey: ""
     // What the bar over the board's lower edge hides.
@@ -28,10 +29,12 @@ Rectangle {
 
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
-    signal pickRequested(kind: int, key: string, cell: Item)
+    signal pickRequested(kind: int, key: string, card: Item, cell: rect)
     signal dragBegun(key: string, handler: DragHandler)
     signal newIssueRequested()
 
+    // The card under the pointer.
+    property BoardCard hotCard: null
     readonly property int padding: Metrics.paneMargin
 
     radius: Metrics.radiusPopover
@@ -127,16 +130,22 @@ Rectangle {
             id: card
             readonly property string glideKey: issue.key
             width: list.width
+            style: root.cardStyle
             hasMenu: root.menuKey === issue.key
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
-            onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, cell)
+            onHoverChanged: if (isHovered) root.hotCard = card
+            onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, card, cell)
             onDragBegun: handler => root.dragBegun(issue.key, handler)
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {
             thickness: 5
         }
+    }
+
+    HoverHint {
+        face: root.hotCard
     }
 
     EmptyColumnBox {

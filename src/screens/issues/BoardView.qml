@@ -26,6 +26,10 @@ FocusScope {
         store.handleClick(key, modifiers);
     }
 
+    CardLook {
+        id: look
+    }
+
     BoardDrops {
         id: drops
         store: root.store
@@ -62,10 +66,11 @@ FocusScope {
                     width: root.columnWidth
                     height: columns.height
                     focusedKey: root.store.focusedKey
+                    cardStyle: look
                     clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
                     onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
-                    onPickRequested: (kind, key, cell) => root.picker.toggle(kind, key, cell)
+                    onPickRequested: (kind, key, card, cell) => root.picker.toggle(kind, key, card, cell)
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)
                     menuKey: root.contextMenu.key
                     isTargeted: index === drop.column

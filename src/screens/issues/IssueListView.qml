@@ -46,17 +46,10 @@ FocusScope {
         store: root.store
     }
 
-    RowStyle {
-        id: rowStyle
+    RowLook {
+        id: look
         display: root.store.display
         keyWidth: keyColumn.width
-        ink: Theme.text1
-        faint: Theme.neutral
-        quiet: Theme.text2
-        done: Theme.done
-        outline: Theme.chipOutline
-        late: Theme.redText
-        lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
     }
 
     ListView {
@@ -110,14 +103,14 @@ FocusScope {
                     readonly property string glideKey: issue.key
                     width: list.width
                     height: root.rowHeight
-                    style: rowStyle
+                    style: look
                     isSelecting: root.store.isSelecting
                     hasMenu: root.contextMenu.key === issue.key
-                    onIsHoveredChanged: if (isHovered) root.hotRow = row
+                    onHoverChanged: if (isHovered) root.hotRow = row
                     onClicked: modifiers => root.click(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
-                    onPickRequested: (kind, cell) => root.picker.toggle(kind, issue.key, cell)
+                    onPickRequested: (kind, cell) => root.picker.toggle(kind, issue.key, row, cell)
                     onDragBegun: handler => root.drag.begin(issue.key, handler)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
@@ -135,8 +128,8 @@ FocusScope {
         duration: Motion.stateDuration
     }
 
-    RowHover {
-        row: root.hotRow
+    HoverHint {
+        face: root.hotRow
     }
 
     // The header of the rows at the top, pushed away by the next one.

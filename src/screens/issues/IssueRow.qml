@@ -24,8 +24,6 @@ RowLine {
 
     signal clicked(modifiers: int)
     signal checkToggled()
-    // The picker of a kind (`PropertyOptions.Kind`) is wanted at a cell.
-    signal pickRequested(kind: int, cell: Item)
     signal menuRequested(x: real, y: real)
     signal dragBegun(handler: DragHandler)
 
@@ -96,13 +94,12 @@ RowLine {
     }
 
     RowCell {
-        id: priorityCell
         visible: x >= 0
         x: root.plan.priority
         y: root.cellTop
         kind: PropertyOptions.Priority
         spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
-        onPressed: root.pickRequested(kind, priorityCell)
+        onPressed: root.pickRequested(kind, box)
     }
 
     RowText {
@@ -117,12 +114,11 @@ RowLine {
     }
 
     RowCell {
-        id: statusCell
         x: root.plan.status
         y: root.cellTop
         kind: PropertyOptions.Status
         spoken: "Statut : " + root.issue.status.displayName
-        onPressed: root.pickRequested(kind, statusCell)
+        onPressed: root.pickRequested(kind, box)
     }
 
     RowSummary {
@@ -136,33 +132,13 @@ RowLine {
         parentSummary: root.issue.parentSummary
     }
 
-    Repeater {
-        model: root.captionCount
-
-        RowText {
-            required property int index
-            readonly property rowCaption caption: {
-                root.plan;
-                return root.captionAt(index);
-            }
-
-            x: caption.x
-            anchors.verticalCenter: parent?.verticalCenter
-            font: caption.font
-            leading: caption.leading
-            color: caption.color
-            text: caption.text
-        }
-    }
-
     RowCell {
-        id: assigneeCell
         visible: x >= 0
         x: root.plan.assignee
         y: root.cellTop
         kind: PropertyOptions.Assignee
         spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
-        onPressed: root.pickRequested(kind, assigneeCell)
+        onPressed: root.pickRequested(kind, box)
     }
 
     When {

@@ -14,30 +14,27 @@ Item {
     required property AppStore store
 
     property bool isOpen: false
-    property Item cell: null
-    property int alignment: PopoverPlacement.Leading
+    property string issueKey: ""
+    property rect cell
+    readonly property int alignment: options.kind === PropertyOptions.Assignee ? PopoverPlacement.Trailing
+        : PopoverPlacement.Leading
 
     signal dismissed()
 
-    // Opens the picker of a kind (`PropertyOptions.Kind`) for an issue at its cell, or closes it if it is open there.
-    function toggle(kind: int, key: string, at: Item) {
-        if (isOpen && cell === at)
+    // Opens the picker of a kind (`PropertyOptions.Kind`) for an issue at a cell of its row or card, or closes it if it is
+    // open there.
+    function toggle(kind: int, key: string, face: Item, cell: rect) {
+        if (isOpen && options.kind === kind && issueKey === key)
             dismissed();
         else
-            open(kind, key, at);
+            open(kind, key, face.mapToItem(root, cell));
     }
 
-    function open(kind: int, key: string, at: Item) {
+    function open(kind: int, key: string, at: rect) {
         isOpen = false;
-        cell = at;
-        alignment = kind === PropertyOptions.Assignee ? PopoverPlacement.Trailing : PopoverPlacement.Leading;
+        issueKey = key;
         options.aim(kind, key);
-        place(at.mapToItem(root, 0, 0));
-    }
-
-    function place(corner: point) {
-        spot.x = corner.x;
-        spot.y = corner.y;
+        cell = at;
         isOpen = true;
     }
 
@@ -48,8 +45,10 @@ Item {
 
     Item {
         id: spot
-        width: root.cell?.width ?? 0
-        height: root.cell?.height ?? 0
+        x: root.cell.x
+        y: root.cell.y
+        width: root.cell.width
+        height: root.cell.height
     }
 
     When {

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "screens/issues/RowPictures.h"
+#include "screens/issues/IssuePictures.h"
 
 #include <QSGTransformNode>
+
+#include <vector>
 
 /// Pictures side by side, each with a texture that it shares with all equal ones. A node of transformation, though it
 /// moves nothing: the software renderer forgets where a plain node stands.

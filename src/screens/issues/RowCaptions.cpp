@@ -1,45 +1,40 @@
 #include "screens/issues/RowCaptions.h"
 
+#include "screens/issues/IssueCaptions.h"
 #include "screens/issues/RowFit.h"
-#include "screens/theme/TypeScale.h"
 
 namespace {
 
 constexpr qsizetype namesShown = 2;
 constexpr double chipGap = 4;
-/// Before the name in its chip, and before the date in its badge.
-constexpr double nameInset = 19;
-constexpr double dateInset = 23;
 
-RowCaption caption(double x, const QString &text, TypeScale::Role role, int weight,
-                   const QColor &color)
+void addNames(QList<Caption> &captions, const RowCaptionsInput &row)
 {
-    const TypeScale scale;
-    const bool isTabular = role == TypeScale::Badge;
-    return {x, text, scale.font(role, weight, isTabular), scale.halfLeading(role), color};
-}
-
-void addNames(QList<RowCaption> &captions, const QStringList &labels, double x, const QColor &color)
-{
+    const auto &labels = row.contents.labels;
+    const auto at = [&row](double x, const Caption &caption) {
+        return IssueCaptions::inMiddle({x, 0}, row.height, caption);
+    };
+    double x = row.plan.labels;
     for (const auto &label : labels.first(std::min(namesShown, labels.size()))) {
-        captions += caption(x + nameInset, label, TypeScale::Caption, QFont::Medium, color);
+        captions += at(x + IssueCaptions::nameInset, IssueCaptions::label(label, row.style.quiet));
         x += RowFitting::labelsWidth({label}) + chipGap;
     }
     if (labels.size() > namesShown)
-        captions += caption(x, u'+' + QString::number(labels.size() - namesShown),
-                            TypeScale::Caption, TypeScale::roleWeight, color);
+        captions += at(x, IssueCaptions::more(labels.size() - namesShown, row.style.quiet));
 }
 
 } // namespace
 
-QList<RowCaption> rowCaptions(const RowContents &contents, const RowPlan &plan,
-                              const RowStyle &style, bool isOverdue)
+QList<Caption> rowCaptions(const RowCaptionsInput &row)
 {
-    QList<RowCaption> captions;
-    if (plan.labels != RowPlan::absent && plan.showsLabelNames)
-        addNames(captions, contents.labels, plan.labels, style.quiet);
-    if (plan.due != RowPlan::absent && plan.showsDueText)
-        captions += caption(plan.due + dateInset, contents.dueText, TypeScale::Badge,
-                            TypeScale::roleWeight, isOverdue ? style.late : style.quiet);
+    QList<Caption> captions;
+    if (row.plan.labels != RowPlan::absent && row.plan.showsLabelNames)
+        addNames(captions, row);
+    if (row.plan.due != RowPlan::absent && row.plan.showsDueText) {
+        const QColor color = row.isOverdue ? row.style.late : row.style.quiet;
+        captions +=
+            IssueCaptions::inMiddle({row.plan.due + IssueCaptions::dateInset, 0}, row.height,
+                                    IssueCaptions::due(row.contents.dueText, color));
+    }
     return captions;
 }

@@ -1,9 +1,18 @@
 #pragma once
 
-#include "screens/issues/RowCaption.h"
+#include "screens/issues/Caption.h"
 #include "screens/issues/RowPlan.h"
 #include "screens/issues/RowStyle.h"
 
-/// The captions of a row at their places: the names of labels that show, how many more there are, the due date.
-QList<RowCaption> rowCaptions(const RowContents &contents, const RowPlan &plan,
-                              const RowStyle &style, bool isOverdue);
+/// What decides the short texts between the summary and the assignee of a row.
+struct RowCaptionsInput
+{
+    const RowContents &contents;
+    const RowPlan &plan;
+    const RowStyle &style;
+    bool isOverdue = false;
+    /// Of the row, in logical pixels.
+    double height = 0;
+};
+
+QList<Caption> rowCaptions(const RowCaptionsInput &row);

@@ -8,6 +8,7 @@ Item {
     required property string spoken
     // Of the picker (`PropertyOptions.Kind`).
     property int kind: -1
+    readonly property rect box: Qt.rect(x, y, width, height)
 
     signal pressed()
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/issues/RowSpot.h"
+#include "screens/issues/HotSpot.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -43,5 +43,5 @@ public:
     /// How wide the badge of a due date with this text is.
     Q_INVOKABLE static double dueWidth(const QString &text);
     /// What is under no pointer.
-    Q_INVOKABLE static RowSpot noSpot() { return {}; }
+    Q_INVOKABLE static HotSpot noSpot() { return {}; }
 };

@@ -1,22 +1,11 @@
 #pragma once
 
-#include "model/Issue.h"
+#include "screens/issues/HotSpot.h"
+#include "screens/issues/IssuePictures.h"
 #include "screens/issues/RowPlan.h"
 #include "screens/issues/RowStyle.h"
-#include "screens/kit/PictureTexture.h"
-
-#include <QImage>
-#include <QPointF>
 
 #include <vector>
-
-/// A picture and the place of its upper left corner, in logical pixels.
-struct PlacedPicture
-{
-    PictureKey key;
-    PicturePainter paint;
-    QPointF place;
-};
 
 /// What a row shows.
 struct RowPicturesInput
@@ -29,6 +18,8 @@ struct RowPicturesInput
     QImage person;
     /// In logical pixels.
     double height = 0;
+    /// What is under the pointer.
+    HotSpot hotSpot;
 };
 
 /// All that is drawn on a row beside its texts.

@@ -17,12 +17,12 @@ Item {
     id: root
     property var cards
     width: 900; height: 700
+    CardLook { id: look }
     Flow {
-        objectName: "flow"
         x: 10; y: 10; width: 890; spacing: 12
         Repeater {
             model: root.cards
-            BoardCard { width: 280 }
+            BoardCard { width: 280; style: look }
         }
     }
 })";

@@ -102,6 +102,24 @@ TEST(RowPictures, NoPriorityIsDrawnFaintly)
     EXPECT_EQ(picturesOf(labelled(0), plan).front().key.color, QColor(Qt::lightGray));
 }
 
+TEST(RowPictures, TheCellUnderThePointerHasAFillBelowAllElse)
+{
+    const RowStyle style;
+    const Issue issue = labelled(0);
+    const auto plan = statusOnly();
+    const HotSpot cell{{36, 8, 22, 22}, u"En cours"_s, 0};
+    const HotSpot noCell{{36, 8, 22, 22}, u"Bug"_s};
+
+    const auto over =
+        rowPictures({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = cell});
+    EXPECT_EQ(over.size(), 2u);
+    EXPECT_EQ(over.front().place, QPointF(36, 8));
+    EXPECT_EQ(
+        rowPictures({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = noCell})
+            .size(),
+        1u);
+}
+
 TEST(RowPictures, ThePictureOfAPersonTakesThePlaceOfTheInitials)
 {
     auto plan = statusOnly();

@@ -1,0 +1,18 @@
+import QtQuick
+import Velmora.Issues
+
+// The summary of an issue on its card, on three lines at most. The card speaks for it.
+Text {
+    required property CardStyle style
+
+    topPadding: style.titleLeading
+    bottomPadding: -style.titleLeading
+    textFormat: Text.PlainText
+    wrapMode: Text.Wrap
+    maximumLineCount: 3
+    elide: Text.ElideRight
+    lineHeightMode: Text.FixedHeight
+    lineHeight: style.titleLine
+    font: style.titleFont
+    color: style.ink
+}

@@ -1,0 +1,18 @@
+import QtQuick
+import Velmora.Issues
+import Velmora.Theme
+
+// The rows of a list in the colours of the theme.
+RowStyle {
+    ink: Theme.text1
+    faint: Theme.neutral
+    quiet: Theme.text2
+    done: Theme.done
+    outline: Theme.chipOutline
+    late: Theme.redText
+    lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
+    cellFill: Theme.buttonHoverFill
+    caption: Component {
+        RowText {}
+    }
+}
