@@ -40,7 +40,11 @@ QCoro::Task<ImageAnswer> SiteImages::fetch(ImageRequest request)
     if (!session)
         session =
             std::make_shared<HttpSession>(request.authorization ? m_identity : Identity{}, m_clock);
-    HttpRequest outgoing{
-        .url = request.url, .headers = {}, .body = {}, .limit = request.timeout, .saveAs = {}};
+    HttpRequest outgoing{.url = request.url,
+                         .headers = {},
+                         .body = {},
+                         .limits = {.whole = request.timeout},
+                         .mostInMemory = request.mostBytes,
+                         .saveAs = {}};
     return fetched(session, std::move(outgoing));
 }

@@ -1,8 +1,10 @@
 #include "http/HttpCall.h"
 
-HttpCall::HttpCall(Clock &clock, std::chrono::milliseconds limit) : m_clock(clock)
+HttpCall::HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits)
+    : m_clock(clock), m_idleLimit(limits.idle)
 {
-    m_whole = clock.after(limit, [this] { end(std::unexpected(TransportError::Kind::TimedOut)); });
+    if (limits.whole)
+        m_whole = timer(*limits.whole);
     restartIdleTime();
 }
 
@@ -17,8 +19,12 @@ void HttpCall::restartIdleTime()
 {
     if (m_isOver)
         return;
-    m_idle =
-        m_clock.after(IdleLimit, [this] { end(std::unexpected(TransportError::Kind::TimedOut)); });
+    m_idle = timer(m_idleLimit);
+}
+
+Clock::TimerHandle HttpCall::timer(std::chrono::milliseconds limit)
+{
+    return m_clock.after(limit, [this] { end(std::unexpected(TransportError::Kind::TimedOut)); });
 }
 
 void HttpCall::cancel()

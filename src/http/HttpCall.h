@@ -19,11 +19,8 @@ class HttpCall final : public QObject
     Q_OBJECT
 
 public:
-    /// How long nothing may go out or come in, the wait for the answer included.
-    static constexpr std::chrono::seconds IdleLimit{30};
-
     /// Ends on time by itself; the clock outlives it.
-    HttpCall(Clock &clock, std::chrono::milliseconds limit);
+    HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits);
 
     /// The exchange whose outcome this call waits for. It has not been started.
     void follow(std::unique_ptr<HttpExchange> exchange);
@@ -43,10 +40,13 @@ private:
     };
 
     void restartIdleTime();
+    /// Ends the call after that long.
+    Clock::TimerHandle timer(std::chrono::milliseconds limit);
     void end(HttpOutcome outcome);
     void resume();
 
     Clock &m_clock;
+    const std::chrono::milliseconds m_idleLimit;
     std::unique_ptr<HttpExchange, InItsThread> m_exchange;
     Clock::TimerHandle m_idle;
     Clock::TimerHandle m_whole;

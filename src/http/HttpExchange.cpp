@@ -31,7 +31,7 @@ void HttpExchange::start(QNetworkAccessManager &shared)
     m_shared = &shared;
     // The network stack would open files of this machine too.
     if (!Redirects::isAddress(m_request.url))
-        return finish(std::unexpected(TransportError::Kind::Broken));
+        return finish(std::unexpected(TransportError::Kind::NoWebAddress));
     transmit();
 }
 
@@ -91,8 +91,7 @@ bool HttpExchange::store(QByteArrayView piece)
         return true;
     if (m_request.saveAs && status() >= 200 && status() < 300)
         return storeInFile(piece);
-    if (std::max(announcedSize(), m_answer.body.size() + piece.size()) >
-        HttpRequest::MaximumInMemory) {
+    if (std::max(announcedSize(), m_answer.body.size() + piece.size()) > m_request.mostInMemory) {
         m_refusal = TransportError::Kind::TooLarge;
         return false;
     }

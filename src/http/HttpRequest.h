@@ -30,12 +30,20 @@ struct HttpRequest
         Write
     };
 
-    /// How long a JSON request may take as a whole, from its start to the last byte of its answer.
-    static constexpr std::chrono::seconds OrdinaryLimit{60};
-    /// The same for the transfer of a file.
-    static constexpr std::chrono::seconds TransferLimit{300};
-    /// The most bytes that an answer kept in memory may have, unpacked. Some ten times a page of a hundred issues with
-    /// long histories.
+    /// When a request is given up. Those of a JSON request, as they stand.
+    struct TimeLimits
+    {
+        /// How long nothing may go out or come in, the wait for the answer included.
+        std::chrono::milliseconds idle = std::chrono::seconds(30);
+        /// From its start to the last byte of its answer; absent where bytes may keep coming.
+        std::optional<std::chrono::milliseconds> whole = std::chrono::seconds(60);
+
+        bool operator==(const TimeLimits &) const = default;
+    };
+    /// Those of a file's transfer: a server may look long at what it was sent, and a slow line is no failure.
+    static constexpr TimeLimits transferLimits() { return {std::chrono::seconds(300), {}}; }
+    /// The most bytes that an answer kept in memory usually may have, unpacked. Some ten times a page of a hundred issues
+    /// with long histories.
     static constexpr qint64 MaximumInMemory = 64LL * 1024 * 1024;
 
     QByteArray verb = "GET";
@@ -44,7 +52,9 @@ struct HttpRequest
     /// Beside what every request carries: `Authorization`, `User-Agent` and `Accept-Encoding`.
     QList<HttpHeader> headers;
     std::optional<QByteArray> body;
-    std::chrono::milliseconds limit = OrdinaryLimit;
+    TimeLimits limits = {};
+    /// The most bytes that the answer may have, unpacked, if it is kept in memory.
+    qint64 mostInMemory = MaximumInMemory;
     /// Where the body of a 2xx answer is stored: the pattern of a temporary file's path, ending in "XXXXXX". Missing
     /// folders are made. Without it the body stays in memory.
     std::optional<QString> saveAs;

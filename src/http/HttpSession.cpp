@@ -32,7 +32,7 @@ QCoro::Task<HttpAnswer> HttpSession::send(HttpRequest request, std::stop_token s
 {
     if (m_isClosed || stop.stop_requested())
         throw Cancelled();
-    const auto call = std::make_unique<HttpCall>(m_clock, request.limit);
+    const auto call = std::make_unique<HttpCall>(m_clock, request.limits);
     start(*call, std::move(request));
     // The session may be gone after this.
     co_return co_await call->answer(std::move(stop));

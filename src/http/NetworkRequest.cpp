@@ -34,5 +34,6 @@ QNetworkRequest networkRequest(const HttpRequest &request, const Identity &ident
 
 QByteArray mediaType(const QByteArray &contentType)
 {
-    return contentType.left(contentType.indexOf(';')).trimmed().toLower();
+    const QByteArray type = contentType.split(';').first();
+    return type.trimmed().toLower();
 }

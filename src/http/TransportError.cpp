@@ -27,6 +27,8 @@ QString textOf(TransportError::Kind kind)
 {
     using Kind = TransportError::Kind;
     switch (kind) {
+    case Kind::NoWebAddress:
+        return u"Adresse non prise en charge : elle doit commencer par https:// ou http://."_s;
     case Kind::HostNotFound:
         return u"Serveur introuvable. Vérifie l'adresse du site et ta connexion à Internet."_s;
     case Kind::Refused:

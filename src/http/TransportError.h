@@ -7,13 +7,15 @@ class TransportError final : public Failure
 {
 public:
     enum class Kind {
+        /// The address that was asked for is not one of https or http.
+        NoWebAddress,
         /// No address is known for the name of the host.
         HostNotFound,
         /// Nobody listens at the address.
         Refused,
         /// The connection broke before the answer was complete.
         ConnectionLost,
-        /// No byte for 30 seconds, or the whole took longer than the request's limit.
+        /// One of the request's time limits is over.
         TimedOut,
         /// The host cannot be reached.
         Unreachable,

@@ -1,5 +1,6 @@
 #include "jira/AttachmentTransfer.h"
 
+#include "http/NetworkRequest.h"
 #include "http/TransportError.h"
 #include "jira/AttachmentCache.h"
 #include "jira/ErrorMessage.h"
@@ -47,7 +48,7 @@ HttpRequest uploadRequest(const QUrl &url, const QList<QUrl> &files)
                         {"X-Atlassian-Token", "no-check"},
                         {"Content-Type", "multipart/form-data; boundary=" + boundary}},
             .body = MultipartForm::body(read, boundary),
-            .limit = HttpRequest::TransferLimit,
+            .limits = HttpRequest::transferLimits(),
             .saveAs = {}};
 }
 
@@ -77,7 +78,7 @@ bool isOtherThan(const Attachment &attachment, const HttpAnswer &answer)
 {
     const bool hasOtherSize = attachment.size > 0 && answer.file->size() != attachment.size;
     if (isPage(answer.mediaType))
-        return hasOtherSize || !isPage(attachment.mimeType.toLatin1().toLower());
+        return hasOtherSize || !isPage(mediaType(attachment.mimeType.toLatin1()));
     return hasOtherSize && !answer.hasKnownLength;
 }
 
@@ -131,7 +132,7 @@ QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment
     HttpRequest request{.url = *attachment.contentURL,
                         .headers = {},
                         .body = {},
-                        .limit = HttpRequest::TransferLimit,
+                        .limits = HttpRequest::transferLimits(),
                         .saveAs = folder + u"/.download-XXXXXX"_s};
     const HttpAnswer answer =
         co_await exchange(std::move(connection), std::move(request), std::move(stop));

@@ -70,6 +70,12 @@ TEST_F(SiteImagesTest, NextSignInTakesItsOwnCredentials)
     EXPECT_EQ(site.journal().last().header("Authorization"), "Bearer other");
 }
 
+TEST_F(SiteImagesTest, APictureOfMoreBytesThanAreReadIsGivenUpAtOnce)
+{
+    elsewhere.answer(RawAnswer::large(ImageLimits().bytes + 1, 1000, "image/png"));
+    EXPECT_TRUE(load(elsewhere.url().resolved(QUrl(u"/avatar.png"_s))).isNull());
+}
+
 TEST_F(SiteImagesTest, NoPictureIsHadFromASiteThatIsGone)
 {
     site.stopListening();

@@ -121,7 +121,7 @@ TEST_F(HttpSessionTest, AnAddressThatIsNoHTTPIsNotOpened)
     for (const QString &address :
          {u"file:///etc/hostname"_s, u"data:,x"_s, u"qrc:/x"_s, u"ftp://127.0.0.1/"_s, QString()}) {
         sent.url = QUrl(address);
-        EXPECT_EQ(failureOf(sent), Kind::Broken) << address.toStdString();
+        EXPECT_EQ(failureOf(sent), Kind::NoWebAddress) << address.toStdString();
     }
 }
 

@@ -76,7 +76,7 @@ protected:
             if (!runUntil([&] { return result.isDone() || server.journal().size() > asked; }))
                 return false;
             letPartsArrive();
-            clock.advance(31s);
+            clock.advance(301s);
         }
         return true;
     }
