@@ -245,12 +245,29 @@ TEST_F(BoardDrag, ADropGoesToTheColumnThatTheBoardHasScrolledUnderTheRestingDrag
     EXPECT_EQ(status(u"MOB-1"_s), u"Étape 5"_s);
 }
 
-TEST_F(BoardDrag, ADropBetweenTwoColumnsChangesNothing)
+TEST_F(BoardDrag, ADropBetweenTwoColumnsGoesToTheNearerOne)
 {
     content.setText(u"MOB-1"_s);
-    const QPoint gap(inColumn(u"En cours"_s).x() - 140 - 8 - 6, 400);
-    dragOver(gap);
-    dropAt(gap);
+    // Where the cards of a column begin, less its padding: its own edge.
+    const int edge = await(QAccessible::List, u"En cours"_s).box.left() - 8;
+    const QPoint nearTheLeftOne(edge - 9, 400);
+    dragOver(nearTheLeftOne);
+    dropAt(nearTheLeftOne);
+    EXPECT_EQ(status(u"MOB-1"_s), u"À faire"_s);
+    EXPECT_EQ(service->transitionsCalls.count(), 0);
+
+    const QPoint nearTheRightOne(edge - 3, 400);
+    dragOver(nearTheRightOne);
+    dropAt(nearTheRightOne);
+    EXPECT_EQ(status(u"MOB-1"_s), u"En cours"_s);
+}
+
+TEST_F(BoardDrag, ADropBesideTheColumnsChangesNothing)
+{
+    content.setText(u"MOB-1"_s);
+    const QPoint behind(await(QAccessible::List, u"En cours"_s).box.right() + 8 + 30, 400);
+    dragOver(behind);
+    dropAt(behind);
 
     EXPECT_EQ(service->transitionsCalls.count(), 0);
     EXPECT_EQ(status(u"MOB-1"_s), u"À faire"_s);

@@ -5,8 +5,8 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Options
 
-// One issue of the board. All of it but its summary is drawn by its base.
-CardFace {
+// One issue of the board.
+CardBody {
     id: root
 
     required property string accessibleName
@@ -22,8 +22,6 @@ CardFace {
         else
             clicked(modifiers);
     }
-
-    titleHeight: title.implicitHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -47,15 +45,6 @@ CardFace {
         target: null
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
         onActiveChanged: if (active) root.dragBegun(drag)
-    }
-
-    CardTitle {
-        id: title
-        x: root.titleBox.x
-        y: root.titleBox.y
-        width: root.titleBox.width
-        style: root.style
-        text: root.issue.summary
     }
 
     RowCell {

@@ -28,9 +28,8 @@ QStringList droppedKeys(const QString &text)
 
 int columnAt(double x, int width, int gap, int count)
 {
-    const int column = int(std::floor(x / (width + gap)));
-    const bool isInside = column >= 0 && column < count && x - column * (width + gap) < width;
-    return isInside ? column : -1;
+    const int column = int(std::floor((x + gap / 2.0) / (width + gap)));
+    return column >= 0 && column < count ? column : -1;
 }
 
 int BoardDrops::columnAt(double x, int width, int gap) const

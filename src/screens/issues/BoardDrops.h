@@ -11,7 +11,8 @@
 QStringList movedKeys(const QStringList &dropped, const QSet<QString> &checked);
 /// The keys in a dropped text: one on a line.
 QStringList droppedKeys(const QString &text);
-/// The column at a place across the board, of `count` columns of one width with a gap after each; -1 beside them.
+/// The column at a place across the board, of `count` columns of one width with a gap after each; -1 beside them. Half the
+/// gap on each side of a column is the column's: whoever drops there means it.
 int columnAt(double x, int width, int gap, int count);
 /// What happens when issues are dropped on a column of the board.
 class BoardDrops : public QObject

@@ -106,9 +106,21 @@ FocusScope {
         isHorizontal: true
     }
 
+    // What is on its way from one column to another.
+    Item {
+        id: flight
+        anchors.fill: board
+        clip: true
+        Accessible.ignored: true
+    }
+
     Glide {
         store: root.store
         view: board
+        carrier: flight
+        ghost: Component {
+            CardBody {}
+        }
         columns: root.store.board
         duration: Motion.stateDuration
     }

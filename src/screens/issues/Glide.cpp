@@ -115,28 +115,42 @@ void Glide::play()
         const bool isNew = place == places.cend();
         const QPointF from = isNew ? QPointF() : *place - item->mapToItem(m_view, QPointF());
         if (isNew || !from.isNull())
-            m_riders.push_back({item, key, from, isNew});
+            m_riders.push_back({.item = item, .key = key, .from = from, .isNew = isNew});
     }
     const bool hasKnown =
         qsizetype(m_riders.size()) < places.size() ||
         std::ranges::any_of(m_riders, [](const Rider &rider) { return !rider.isNew; });
     if (m_riders.empty() || !hasKnown)
         return m_riders.clear();
+    for (auto &rider : m_riders)
+        rider.ghost = ghostOf(rider);
     m_run.setDuration(m_duration);
     draw(0);
     m_run.start();
 }
 
+std::unique_ptr<GlideGhost> Glide::ghostOf(const Rider &rider) const
+{
+    const bool changesColumn = rider.from.x() != 0;
+    if (!m_carrier || !m_ghost || !changesColumn)
+        return nullptr;
+    return std::make_unique<GlideGhost>(*rider.item, *m_ghost, *m_carrier);
+}
+
 void Glide::draw(double progress)
 {
-    for (const auto &rider : m_riders) {
+    for (auto &rider : m_riders) {
+        // An item that shows another issue by now stands still.
+        const bool rides = rider.item && keyOf(*rider.item) == rider.key;
+        if (!rides)
+            rider.ghost.reset();
         if (!rider.item)
             continue;
-        // An item that shows another issue by now stands still.
-        const bool rides = keyOf(*rider.item) == rider.key;
         GlideOffset::of(*rider.item).setOffset(rides ? rider.from * (1 - progress) : QPointF());
         if (rider.isNew)
             rider.item->setOpacity(rides ? std::clamp(progress, 0.0, 1.0) : 1);
+        if (rider.ghost)
+            rider.ghost->follow();
     }
 }
 

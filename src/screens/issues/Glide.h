@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/issues/GlideGhost.h"
 #include "state/AppStore.h"
 
 #include <QHash>
@@ -8,6 +9,7 @@
 #include <QVariantAnimation>
 #include <QtQml/qqmlregistration.h>
 
+#include <memory>
 #include <vector>
 
 /// Moves rows and cards softly from where they were seen to where a change of the issues has put them. They stand at
@@ -24,6 +26,9 @@ class Glide : public QObject
     /// Whose changes are to be seen as motion: one of the two.
     Q_PROPERTY(IssueListModel *rows READ rows WRITE setRows NOTIFY changed FINAL)
     Q_PROPERTY(BoardModel *columns READ columns WRITE setColumns NOTIFY changed FINAL)
+    /// Above the view: what goes from one column to another is seen in it, as a copy that `ghost` makes. Both or neither.
+    Q_PROPERTY(QQuickItem *carrier MEMBER m_carrier NOTIFY changed FINAL)
+    Q_PROPERTY(QQmlComponent *ghost MEMBER m_ghost NOTIFY changed FINAL)
     /// In milliseconds; 0 moves nothing.
     Q_PROPERTY(int duration MEMBER m_duration NOTIFY changed REQUIRED FINAL)
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY runningChanged FINAL)
@@ -51,6 +56,8 @@ private:
         /// From its place to where it was seen.
         QPointF from;
         bool isNew = false;
+        /// Of one that goes from one column to another.
+        std::unique_ptr<GlideGhost> ghost = nullptr;
     };
     /// What must stay the same for a change to be a motion.
     struct Occasion
@@ -68,6 +75,7 @@ private:
     void skipTurn();
     void playLater();
     void play();
+    std::unique_ptr<GlideGhost> ghostOf(const Rider &rider) const;
     void draw(double progress);
     void rest();
     Occasion occasion() const;
@@ -75,6 +83,8 @@ private:
 
     QPointer<AppStore> m_store;
     QPointer<QQuickItem> m_view;
+    QPointer<QQuickItem> m_carrier;
+    QPointer<QQmlComponent> m_ghost;
     QPointer<IssueListModel> m_rows;
     QPointer<BoardModel> m_columns;
     int m_duration = 0;

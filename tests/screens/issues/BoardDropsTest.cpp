@@ -28,18 +28,21 @@ TEST(DroppedKeys, EachLineIsAKey)
     EXPECT_TRUE(droppedKeys({}).isEmpty());
 }
 
-TEST(ColumnAt, EachColumnEndsWhereItsGapBegins)
+TEST(ColumnAt, EachHalfOfAGapBelongsToTheColumnBesideIt)
 {
     EXPECT_EQ(columnAt(0, 296, 12, 3), 0);
-    EXPECT_EQ(columnAt(295, 296, 12, 3), 0);
-    EXPECT_EQ(columnAt(296, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(296, 296, 12, 3), 0);
+    EXPECT_EQ(columnAt(301, 296, 12, 3), 0);
+    EXPECT_EQ(columnAt(302, 296, 12, 3), 1);
     EXPECT_EQ(columnAt(308, 296, 12, 3), 1);
 }
 
 TEST(ColumnAt, BesideTheColumnsThereIsNone)
 {
-    EXPECT_EQ(columnAt(-1, 296, 12, 3), -1);
-    EXPECT_EQ(columnAt(3 * 308 + 1, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(-6, 296, 12, 3), 0);
+    EXPECT_EQ(columnAt(-7, 296, 12, 3), -1);
+    EXPECT_EQ(columnAt(2 * 308 + 296 + 5, 296, 12, 3), 2);
+    EXPECT_EQ(columnAt(2 * 308 + 296 + 6, 296, 12, 3), -1);
     EXPECT_EQ(columnAt(10, 296, 12, 0), -1);
 }
 
