@@ -90,6 +90,36 @@ TEST_F(Content, AnEmptyRecapOffersThePeriodBefore)
     EXPECT_EQ(store().scope(), IssueScope::activity({ActivityRange::Week, -1, false}));
 }
 
+TEST_F(Content, ATextTypedOverAnEmptyRecapCanBeClearedAgain)
+{
+    serve({});
+    openOnDemo();
+    const auto scope = IssueScope::activity({ActivityRange::Week, 0, false});
+    store().select(scope);
+    await(QAccessible::StaticText, u"Aucune activité"_s);
+
+    store().setFilterText(u"jeton"_s);
+    await(QAccessible::StaticText, u"Aucun ticket ne correspond"_s);
+    click(find(QAccessible::Button, u"Effacer les filtres"_s));
+
+    EXPECT_EQ(store().filterText(), QString());
+    EXPECT_EQ(store().scope(), scope);
+    await(QAccessible::StaticText, u"Aucune activité"_s);
+}
+
+TEST_F(Content, WithItsFilterTheScreenThatOffersToClearItGoes)
+{
+    serve({});
+    openOnDemo();
+    store().setFilterText(u"jeton"_s);
+    store().select(IssueScope::reported());
+    await(QAccessible::StaticText, u"Aucun ticket ne correspond"_s);
+    press(Qt::Key_Escape);
+
+    await(QAccessible::StaticText, u"Rien à faire ici"_s);
+    EXPECT_TRUE(spokenIn(window(), QAccessible::Button, u"Effacer les filtres"_s).isEmpty());
+}
+
 TEST_F(Content, AnEmptyTeamRecapLeavesTheUserOut)
 {
     serve({});

@@ -56,6 +56,9 @@ void IssuesContent::setStore(AppStore *store)
         connect(m_store, &AppStore::isLoadingChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::loadErrorChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::visibleCountChanged, this, &IssuesContent::update);
+        // In an empty list neither changes the count.
+        connect(m_store, &AppStore::filterTextChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::filtersChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::recapChanged);
     }
@@ -99,6 +102,6 @@ void IssuesContent::runEmptyAction()
         m_store->select(IssueScope::activity(
             {period->range, std::min(period->offset - 1, 0), period->teamWide}));
     } else {
-        m_store->newIssue();
+        CreateScreen::open(m_store, {});
     }
 }
