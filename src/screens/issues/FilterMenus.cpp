@@ -1,5 +1,7 @@
 #include "screens/issues/FilterMenus.h"
 
+#include "model/LocalizedComparator.h"
+
 #include <algorithm>
 #include <array>
 
@@ -126,9 +128,23 @@ qsizetype sizeOf(FilterSet set, const IssueFilters &filters)
     return 0;
 }
 
-/// What is chosen, in words; the number of chosen things where the list has none of them left.
+QString labelNames(const IssueFilters &filters, const QLocale &locale)
+{
+    const LocalizedComparator order(locale);
+    auto names = filters.labels.values();
+    std::ranges::sort(names, [&](const QString &a, const QString &b) {
+        const int compared = order.compare(a, b);
+        return compared == 0 ? a < b : compared < 0;
+    });
+    return names.join(u", "_s);
+}
+
+/// What is chosen, in words; the number of chosen things where the list has none of them left. Labels are their own
+/// words.
 QString valueOf(FilterSet set, const IssueFilters &filters, const FilterSources &sources)
 {
+    if (set == FilterSet::Labels)
+        return labelNames(filters, sources.locale);
     QStringList names;
     for (const auto &choice : choicesOf(set, filters, sources)) {
         if (choice.isOn)

@@ -4,6 +4,8 @@
 #include "state/IssueDerivationMenus.h"
 #include "state/IssueFilters.h"
 
+#include <QLocale>
+
 /// The five sets of the filters, in the order in which menus and chips show them.
 enum class FilterSet { Statuses, Priorities, Assignees, Labels, Types };
 
@@ -13,6 +15,8 @@ struct FilterSources
     const IssueDerivationMenus &menus;
     /// All issues of the list, shown or not.
     const IssueList &issues;
+    /// By which names are ordered.
+    QLocale locale;
 };
 
 /// One filled set of the filters, in words.

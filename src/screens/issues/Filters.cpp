@@ -17,7 +17,7 @@ void Filters::setStore(AppStore *store)
 
 FilterSources Filters::sources() const
 {
-    return {m_store->derivation().menus(), m_store->issues()};
+    return {m_store->derivation().menus(), m_store->issues(), m_store->calendar().locale};
 }
 
 void Filters::update()

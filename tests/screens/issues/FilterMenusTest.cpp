@@ -24,7 +24,7 @@ struct Site
         {{u"1"_s, u"Bug"_s}, {u"3"_s, u"Tâche"_s}}};
     IssueList issues{typed(u"1"_s, u"Bug"_s), typed(u"2"_s, u"Bug"_s), typed(u"3"_s, u"Tâche"_s)};
 
-    FilterSources sources() const { return {menus, issues}; }
+    FilterSources sources() const { return {menus, issues, QLocale(QLocale::French)}; }
 };
 
 QStringList titles(const QList<MenuChoice> &choices)
@@ -119,6 +119,18 @@ TEST(FilterChips, AStatusThatLeftTheListKeepsAChipWithTheCount)
 
     filters.statuses.insert(u"todo"_s);
     EXPECT_EQ(onlyValue(filters, site.sources()), u"À faire"_s);
+}
+
+TEST(FilterChips, LabelsThatLeftTheListKeepTheirNames)
+{
+    Site site;
+    IssueFilters filters;
+    filters.labels = {u"web"_s, u"api"_s, u"Équipe"_s};
+
+    EXPECT_EQ(onlyValue(filters, site.sources()), u"api, Équipe, web"_s);
+
+    site.menus.labels.clear();
+    EXPECT_EQ(onlyValue(filters, site.sources()), u"api, Équipe, web"_s);
 }
 
 TEST(ToggledFilter, AChoiceGoesInAndOutAgain)
