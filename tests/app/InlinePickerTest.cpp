@@ -158,3 +158,41 @@ TEST_F(InlinePicker, ACardHasTwo)
     EXPECT_EQ(issue(u"MOB-1"_s).assigneeOrEmpty().name, u"Noam Talvère"_s);
     EXPECT_EQ(store().inspectorKey(), std::nullopt);
 }
+
+TEST_F(InlinePicker, KeysRightAfterEscapeAreTheListsAgain)
+{
+    store().setFocusedKey(u"MOB-1"_s);
+    click(cell(u"MOB-1"_s, u"Statut :"_s));
+    await(QAccessible::EditableText, u"Statut…"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Escape);
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(issue(u"MOB-1"_s).status.name(), u"À faire"_s);
+    EXPECT_EQ(store().inspectorKey(), u"MOB-1"_s);
+}
+
+TEST_F(InlinePicker, KeysRightAfterAChoiceAreTheListsAgain)
+{
+    store().setFocusedKey(u"MOB-1"_s);
+    openAssignee(u"MOB-1"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(service->assignCalls.count(), 1);
+    EXPECT_EQ(store().inspectorKey(), u"MOB-2"_s);
+}
+
+TEST_F(InlinePicker, ASecondClickOnAPickedRowPicksNothing)
+{
+    openAssignee(u"MOB-1"_s);
+    const auto row = await(QAccessible::ListItem, u"Noam Talvère"_s);
+    click(row);
+    click(row);
+
+    EXPECT_EQ(service->assignCalls.count(), 1);
+    EXPECT_TRUE(closes());
+    EXPECT_EQ(store().inspectorKey(), std::nullopt);
+}

@@ -16,6 +16,8 @@ T.Popup {
     property int alignment: PopoverPlacement.Leading
     /// There, or coming or going.
     readonly property bool isShown: visible
+    /// Going: what it holds takes no more clicks.
+    property bool isLeaving: false
     readonly property Item room: T.Overlay.overlay
     property Item returnTo: null
     property rect anchor: Qt.rect(0, 0, 0, 0)
@@ -33,15 +35,28 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
     onAboutToShow: begin()
-    onAboutToHide: FocusReturn.giveBack(returnTo)
+    onAboutToHide: leave()
 
     function toggle() {
         popover.visible = !popover.visible
     }
 
     function begin() {
+        isLeaving = false
         returnTo = FocusReturn.holder(parent)
         anchor = parent.mapToItem(null, 0, 0, parent.width, parent.height)
+    }
+
+    function leave() {
+        isLeaving = true
+        FocusReturn.giveBack(returnTo)
+    }
+
+    readonly property Item shield: MouseArea {
+        parent: holder.parent
+        anchors.fill: parent
+        z: 1
+        visible: popover.isLeaving
     }
 
     readonly property Item body: Item {

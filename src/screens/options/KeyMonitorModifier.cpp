@@ -40,7 +40,8 @@ void KeyMonitorModifier::follow()
 
 bool KeyMonitorModifier::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress || watched != m_monitor || !m_handler)
+    if (event->type() != QEvent::KeyPress || watched != m_monitor || !m_handler ||
+        !parentItem()->hasActiveFocus())
         return false;
     return m_handler->handle(KeyPress::from(static_cast<const QKeyEvent &>(*event)));
 }

@@ -8,7 +8,7 @@
 
 /// Watches the window of the item it is placed in while it is seen: each key press goes to the handler first, and to the
 /// item with the focus only if the handler leaves it. Of several monitors in a window the one that came last is asked
-/// first.
+/// first. Keys count only while the focus is in the item: one that fades out, or lies under a menu, takes none.
 class KeyMonitorModifier : public QQuickItem
 {
     Q_OBJECT

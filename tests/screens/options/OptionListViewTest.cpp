@@ -211,7 +211,7 @@ TEST(KeyMonitorModifier, TheOneThatCameLastIsAskedFirstAndAHiddenOneNotAtAll)
     offer(3);
     Bench bench;
     auto *holder = bench.show(
-        u"import Velmora.Options\nimport Tests\nItem { "
+        u"import Velmora.Options\nimport Tests\nItem { focus: true; "
         "property alias second: second; property alias a: a; property alias b: b; "
         "OptionList { id: a; source: Listed } OptionList { id: b; source: Listed } "
         "KeyMonitorModifier { handler: a } KeyMonitorModifier { id: second; handler: b } }"_s);
@@ -226,4 +226,29 @@ TEST(KeyMonitorModifier, TheOneThatCameLastIsAskedFirstAndAHiddenOneNotAtAll)
     QTest::keyClick(&bench.window(), Qt::Key_Down);
     EXPECT_EQ(highlighted("a"), 1);
     EXPECT_EQ(highlighted("b"), 1);
+}
+
+TEST(KeyMonitorModifier, WhileTheFocusIsElsewhereItTakesNothing)
+{
+    offer(3);
+    Bench bench;
+    auto *holder = bench.show(
+        u"import Velmora.Options\nimport Tests\nItem { "
+        "property alias scope: scope; property alias other: other; property alias list: list; "
+        "OptionList { id: list; source: Listed } "
+        "FocusScope { id: scope; focus: true; KeyMonitorModifier { handler: list } } "
+        "Item { id: other } }"_s);
+    ASSERT_NE(holder, nullptr) << bench.warnings();
+    const auto item = [&](const char *name) {
+        return holder->property(name).value<QQuickItem *>();
+    };
+    const auto highlighted = [&] {
+        return holder->property("list").value<QObject *>()->property("highlighted").toInt();
+    };
+    item("other")->forceActiveFocus();
+    QTest::keyClick(&bench.window(), Qt::Key_Down);
+    EXPECT_EQ(highlighted(), 0);
+    item("scope")->forceActiveFocus();
+    QTest::keyClick(&bench.window(), Qt::Key_Down);
+    EXPECT_EQ(highlighted(), 1);
 }
