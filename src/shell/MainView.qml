@@ -42,6 +42,8 @@ FocusScope {
         isFloating: root.isSidebarFloating
         store: root.store
         onDismissed: root.isSidebarFloating = false
+        // Its rows would go on taking the arrows.
+        onVisibleChanged: if (!visible && activeFocus) issues.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     SplitHandle {
@@ -76,12 +78,12 @@ FocusScope {
         onSidebarWanted: root.isSidebarFloating = true
     }
 
-    // A press beside the floating sidebar only puts it away.
+    // A press beside the floating sidebar only puts it away. Not before it ends: what lies below would get its end.
     MouseArea {
         anchors.fill: parent
         z: 1
         visible: root.isSidebarFloating
-        onPressed: root.isSidebarFloating = false
+        onReleased: root.isSidebarFloating = false
         onWheel: event => event.accepted = true
     }
 

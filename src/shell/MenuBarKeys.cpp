@@ -1,5 +1,7 @@
 #include "shell/MenuBarKeys.h"
 
+#include "screens/kit/OpenPopups.h"
+
 #include <QKeyEvent>
 
 void MenuBarKeys::setWindow(QQuickWindow *window)
@@ -72,9 +74,21 @@ void MenuBarKeys::toggle()
 
 void MenuBarKeys::open()
 {
+    Q_EMIT aboutToOpen();
+    OpenPopups::close(*m_window);
     m_before = m_window->activeFocusItem();
     m_isOpen = true;
     Q_EMIT isOpenChanged();
+}
+
+bool MenuBarKeys::hasMovedOn(const QQuickItem *focus) const
+{
+    if (!focus || focus->isAncestorOf(m_before))
+        return false;
+    // The menus are popups; there are no others while the bar is shown.
+    while (focus && focus != m_layer && !focus->inherits("QQuickPopupItem"))
+        focus = focus->parentItem();
+    return focus == nullptr;
 }
 
 void MenuBarKeys::close()
@@ -83,7 +97,7 @@ void MenuBarKeys::close()
         return;
     m_isOpen = false;
     Q_EMIT isOpenChanged();
-    if (m_before)
+    if (m_before && !hasMovedOn(m_window->activeFocusItem()))
         m_before->forceActiveFocus(Qt::MenuBarFocusReason);
     m_before = nullptr;
 }

@@ -8,9 +8,9 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Shows the menu bar of a window at a tap of Alt and at F10, and hides it in the same way. While the bar is shown it
-/// has the keyboard; what is chosen there is carried out when the bar is gone and the focus is back where it was, so that
-/// commands find the window as the user left it.
+/// Shows the menu bar of a window at a tap of Alt and at F10, in the place of whatever is open over the window's content,
+/// and hides it in the same way. While the bar is shown it has the keyboard; what is chosen there is carried out when the
+/// bar is gone and the focus is back where it was, so that commands find the window as the user left it.
 class MenuBarKeys : public QObject
 {
     Q_OBJECT
@@ -19,6 +19,8 @@ class MenuBarKeys : public QObject
     /// One of the bar's menus is open; when none is any more, the bar closes.
     Q_PROPERTY(
         bool hasOpenMenu READ hasOpenMenu WRITE setHasOpenMenu NOTIFY hasOpenMenuChanged FINAL)
+    /// Holds the bar. A focus that has moved on to anything else is left there when the bar closes.
+    Q_PROPERTY(QQuickItem *layer MEMBER m_layer NOTIFY layerChanged FINAL REQUIRED)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged FINAL)
 
 public:
@@ -40,6 +42,9 @@ Q_SIGNALS:
     void windowChanged();
     void isOpenChanged();
     void hasOpenMenuChanged();
+    void layerChanged();
+    /// What is open above the window's content, and is no popover or menu, is to be closed.
+    void aboutToOpen();
     /// A `Commands.AppCommand` is to be carried out.
     void chosen(int command);
 
@@ -48,8 +53,10 @@ private:
     void toggle();
     void open();
     void closeWithItsMenus();
+    bool hasMovedOn(const QQuickItem *focus) const;
 
     QPointer<QQuickWindow> m_window;
+    QPointer<QQuickItem> m_layer;
     AltTap m_altTap;
     bool m_isOpen = false;
     bool m_hasOpenMenu = false;

@@ -14,6 +14,8 @@ Item {
     MenuBarKeys {
         id: barKeys
         window: root.Window.window
+        layer: root
+        onAboutToOpen: root.store.closePalette()
         onChosen: command => commands.run(command)
     }
 

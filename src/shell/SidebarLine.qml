@@ -22,7 +22,7 @@ Item {
     property bool isFocused: false
 
     signal chosen()
-    signal menuRequested()
+    signal menuRequested(x: real, y: real)
 
     readonly property bool isSection: kind === SidebarEnums.Section
 
@@ -92,6 +92,6 @@ Item {
     TapHandler {
         enabled: root.kind === SidebarEnums.Project
         acceptedButtons: Qt.RightButton
-        onTapped: root.menuRequested()
+        onTapped: point => root.menuRequested(point.position.x, point.position.y)
     }
 }

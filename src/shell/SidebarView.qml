@@ -22,7 +22,14 @@ FocusScope {
         event.accepted = isFloating;
         dismissed();
     }
-    onVisibleChanged: if (isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
+    onVisibleChanged: if (visible && isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
+
+    // The menu of the project that is shown.
+    function openProjectMenu() {
+        list.positionViewAtIndex(workspace.projectRow, ListView.Contain);
+        const line = list.itemAtIndex(workspace.projectRow) as SidebarLine;
+        line?.menuRequested(0, line.height);
+    }
 
     Workspace {
         id: workspace
@@ -73,6 +80,7 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: "Vues et projets"
 
+        ContextMenuKey.onPressed: root.openProjectMenu()
         Keys.onUpPressed: workspace.selectNeighbour(-1)
         Keys.onDownPressed: workspace.selectNeighbour(1)
 
@@ -82,14 +90,20 @@ FocusScope {
             required property issueScope scope
             required property bool isFavorite
             property bool isMenuOpen: false
+            property point menuPlace
 
-            width: ListView.view.width
+            function openMenu(x: real, y: real) {
+                menuPlace = Qt.point(x, y);
+                isMenuOpen = true;
+            }
+
+            width: list.width
             isFocused: isSelected && list.activeFocus
             onChosen: {
                 root.store.selectInSidebar(scope);
                 root.dismissed();
             }
-            onMenuRequested: isMenuOpen = true
+            onMenuRequested: (x, y) => openMenu(x, y)
 
             When {
                 shown: line.isMenuOpen
@@ -100,7 +114,7 @@ FocusScope {
                         project: line.project
                         isFavorite: line.isFavorite
                         onClosed: line.isMenuOpen = false
-                        Component.onCompleted: popup()
+                        Component.onCompleted: popup(line, line.menuPlace.x, line.menuPlace.y)
                     }
                 }
             }

@@ -62,6 +62,19 @@ int Workspace::selectedRow() const
     return selected == rows.end() ? -1 : int(selected - rows.begin());
 }
 
+int Workspace::projectRow() const
+{
+    const int selected = selectedRow();
+    if (selected < 0)
+        return -1;
+    const auto &rows = m_store->sidebar()->rows();
+    const auto &project = rows[selected].project;
+    const auto row = std::ranges::find_if(rows, [&](const SidebarRow &each) {
+        return each.kind == SidebarEnums::RowKind::Project && each.project == project;
+    });
+    return row == rows.end() ? -1 : int(row - rows.begin());
+}
+
 void Workspace::selectNeighbour(int direction)
 {
     if (!m_store)

@@ -20,6 +20,9 @@ class Workspace : public QObject
     /// The row of the present scope; -1 for a scope that no row bears.
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY rowsChanged FINAL)
 
+    /// The row of the project that the present scope belongs to; -1 without one.
+    Q_PROPERTY(int projectRow READ projectRow NOTIFY rowsChanged FINAL)
+
 public:
     using QObject::QObject;
 
@@ -29,6 +32,7 @@ public:
     QString userName() const;
     QString userEmail() const;
     int selectedRow() const;
+    int projectRow() const;
 
     /// Selects the next row above (-1) or below (1) that can be selected, if there is one; from no selection, the first
     /// or the last.

@@ -91,6 +91,12 @@ Item {
         }
 
         PopupMenuItem {
+            text: "Réglages…"
+            symbol: "gear"
+            onTriggered: root.store.settingsRequested()
+        }
+
+        PopupMenuItem {
             text: "Ouvrir " + root.store.siteName
             symbol: "safari"
             onTriggered: root.store.openSite()

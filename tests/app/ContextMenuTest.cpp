@@ -25,6 +25,20 @@ protected:
     {
         return !spokenIn(window(), QAccessible::MenuItem, entry).isEmpty();
     }
+    void serveMany()
+    {
+        QStringList many;
+        for (int i = 1; i <= 100; ++i)
+            many += u"MOB-%1"_s.arg(i);
+        serve(many);
+        reload();
+    }
+    void scroll(int delta)
+    {
+        const QPointF place(420, 400);
+        QWheelEvent wheel(place, window().mapToGlobal(place), {}, {0, delta}, {}, {}, {}, false);
+        QCoreApplication::sendEvent(&window(), &wheel);
+    }
     Issue issue(const QString &key) { return *store().issue(key).value_or(SharedIssue()); }
 };
 
@@ -150,6 +164,53 @@ TEST_F(ContextMenu, TheMenuKeyOpensItOnTheFocusedIssue)
     choose(u"Copier la clé"_s);
 
     EXPECT_EQ(lastCopied(), u"MOB-2"_s);
+}
+
+TEST_F(ContextMenu, ShiftF10OpensItAsTheMenuKeyDoes)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    choose(u"Copier la clé"_s);
+
+    EXPECT_EQ(lastCopied(), u"MOB-1"_s);
+}
+
+TEST_F(ContextMenu, TheMenuKeyBringsAFocusedIssueThatWasScrolledAwayBackIntoSight)
+{
+    serveMany();
+    for (const auto layout : {LayoutMode::List, LayoutMode::Board}) {
+        store().setLayout(layout);
+        settle();
+        store().setFocusedKey(u"MOB-1"_s);
+        settle();
+        for (int i = 0; i < 10; ++i)
+            scroll(-12000);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !rowsShown().contains(u"MOB-1"_s); }));
+        press(Qt::Key_Menu);
+        choose(u"Copier la clé"_s);
+
+        EXPECT_EQ(lastCopied(), u"MOB-1"_s) << int(layout);
+        EXPECT_TRUE(rowsShown().contains(u"MOB-1"_s)) << int(layout);
+        desktop->copied.clear();
+    }
+}
+
+TEST_F(ContextMenu, OnTheBoardTheKeyboardOpensItAtTheFocusedCard)
+{
+    store().setLayout(LayoutMode::Board);
+    const auto card = await(QAccessible::ListItem, u"MOB-2,"_s);
+    store().setFocusedKey(u"MOB-2"_s);
+    for (const auto &[key, modifiers] :
+         {std::pair(Qt::Key_Menu, Qt::NoModifier), std::pair(Qt::Key_F10, Qt::ShiftModifier)}) {
+        press(key, modifiers);
+        EXPECT_TRUE(card.box.contains(await(QAccessible::MenuItem, u"Statut"_s).box.topLeft() -
+                                      QPoint(0, 12)));
+        choose(u"Copier la clé"_s);
+
+        EXPECT_EQ(lastCopied(), u"MOB-2"_s);
+        EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
+        desktop->copied.clear();
+    }
 }
 
 TEST_F(ContextMenu, TheBoardHasTheSameMenu)

@@ -26,6 +26,14 @@ protected:
     {
         return !spokenIn(window(), QAccessible::List, u"Vues et projets"_s).isEmpty();
     }
+    /// The focus is on the sidebar's list, or on one of its rows.
+    bool isInSidebar()
+    {
+        const QQuickItem *item = window().activeFocusItem();
+        while (item && !item->property("walksItsRows").toBool())
+            item = item->parentItem();
+        return item != nullptr;
+    }
     QRect row() { return await(QAccessible::ListItem, u"MOB-1,"_s).box; }
     QRect inspector() { return await(QAccessible::Pane, u"Inspecteur"_s).box; }
 };
@@ -105,6 +113,45 @@ TEST_F(MainWindow, APressBesideTheFloatingSidebarOnlyPutsItAway)
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return !hasSidebar(); }));
     EXPECT_EQ(store().inspectorKey(), std::nullopt);
+    EXPECT_TRUE(spokenIn(window(), QAccessible::Dialog).isEmpty());
+}
+
+TEST_F(MainWindow, HoweverTheFloatingSidebarGoesTheArrowsWalkTheIssues)
+{
+    resizeTo(700);
+    const QList<std::function<void()>> waysToGo{
+        [&] { click(await(QAccessible::ListItem, u"Créés par moi"_s)); },
+        [&] { QTest::mouseClick(&window(), Qt::LeftButton, {}, {600, 110}); },
+        [&] { press(Qt::Key_Escape); },
+    };
+    for (const auto &go : waysToGo) {
+        click(await(QAccessible::Button, u"Afficher la barre latérale"_s));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return hasSidebar(); }));
+        go();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !hasSidebar(); }));
+        const auto scope = store().scope();
+        row();
+        press(Qt::Key_Down);
+
+        EXPECT_EQ(store().scope(), scope);
+        EXPECT_TRUE(store().focusedKey());
+        store().setFocusedKey(std::nullopt);
+    }
+}
+
+TEST_F(MainWindow, ASidebarThatHasToHideLeavesTheKeyboardToTheIssues)
+{
+    resizeTo(1100);
+    press(Qt::Key_Down);
+    for (int i = 0; i < 30 && !isInSidebar(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isInSidebar());
+    press(Qt::Key_Space);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !hasSidebar(); }));
+    press(Qt::Key_Down);
+
+    EXPECT_EQ(store().scope(), IssueScope::myIssues());
+    EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
 }
 
 TEST_F(MainWindow, AtHalfOfASmallScreenTheInspectorTakesTheListsPlace)

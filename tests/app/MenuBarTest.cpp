@@ -92,3 +92,48 @@ TEST_F(MenuBar, TheAppearanceIsChosenInItsMenu)
     press(Qt::Key_Right);
     ASSERT_TRUE(offers(u"Apparence"_s));
 }
+
+TEST_F(MenuBar, ItTakesThePlaceOfAnOpenPicker)
+{
+    auto *before = window().activeFocusItem();
+    click(find(QAccessible::Button, u"Statut :"_s));
+    await(QAccessible::EditableText, u"Statut…"_s);
+    press(Qt::Key_F10);
+    ASSERT_TRUE(offers(u"Réglages…"_s));
+
+    EXPECT_TRUE(isGone(QAccessible::EditableText, u"Statut…"_s));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(comes(false));
+    EXPECT_EQ(window().activeFocusItem(), before);
+}
+
+TEST_F(MenuBar, ItTakesThePlaceOfThePalette)
+{
+    auto *before = window().activeFocusItem();
+    press(Qt::Key_K, Qt::ControlModifier);
+    ASSERT_TRUE(store().palette());
+    press(Qt::Key_F10);
+    ASSERT_TRUE(offers(u"Réglages…"_s));
+    EXPECT_FALSE(store().palette());
+
+    press(Qt::Key_F10);
+    EXPECT_TRUE(comes(false));
+    EXPECT_EQ(window().activeFocusItem(), before);
+    press(Qt::Key_X);
+    EXPECT_EQ(store().checkedCount(), 1);
+}
+
+TEST_F(MenuBar, ThePaletteTakesItsPlace)
+{
+    auto *before = window().activeFocusItem();
+    press(Qt::Key_F10);
+    ASSERT_TRUE(offers(u"Réglages…"_s));
+    press(Qt::Key_K, Qt::ControlModifier);
+
+    EXPECT_TRUE(comes(false));
+    ASSERT_TRUE(store().palette());
+    EXPECT_TRUE(window().activeFocusItem()->inherits("QQuickTextInput"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(store().palette());
+    EXPECT_EQ(window().activeFocusItem(), before);
+}

@@ -329,3 +329,34 @@ TEST_F(Palette, AfterAJumpToAnotherListTheKeysAreTheListsAgain)
     press(Qt::Key_Down);
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
+
+TEST_F(Palette, WhatIsOpenGoesWhenThePaletteComes)
+{
+    auto *before = window().activeFocusItem();
+    const auto placeholder = u"Rechercher un ticket"_s;
+    const QList<std::function<void()>> openers{
+        [&] { click(spokenIn(window(), QAccessible::Button, u"Statut :"_s).first()); },
+        [&] { click(find(QAccessible::Button, u"Affichage"_s)); },
+        [&] { rightClick(find(QAccessible::ListItem, u"MOB-1,"_s)); },
+    };
+    const auto isOpen = [&] {
+        return !spokenIn(window(), QAccessible::Dialog).isEmpty() ||
+               !spokenIn(window(), QAccessible::PopupMenu).isEmpty();
+    };
+    for (const auto &open : openers) {
+        open();
+        ASSERT_TRUE(QTest::qWaitFor(isOpen));
+        press(Qt::Key_K, Qt::ControlModifier);
+        ASSERT_TRUE(store().palette());
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return spokenIn(window(), QAccessible::PopupMenu).isEmpty() &&
+                   spokenIn(window(), QAccessible::Dialog).size() == 1;
+        }));
+        type(u"zz"_s);
+        EXPECT_EQ(find(QAccessible::EditableText, placeholder).value, u"zz"_s);
+        store().closePalette();
+
+        EXPECT_EQ(window().activeFocusItem(), before);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+    }
+}

@@ -2,6 +2,7 @@
 #include "shell/Workspace.h"
 
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -72,6 +73,57 @@ TEST_F(Sidebar, AProjectBecomesAFavouriteThroughItsMenu)
 
     EXPECT_EQ(store().favoriteProjects(), QStringList{u"MOB"_s});
     find(QAccessible::Heading, u"Favoris"_s);
+}
+
+TEST_F(Sidebar, TheMenuOfTheSiteHasItsEntriesInTheirOrder)
+{
+    QSignalSpy settings(&store(), &AppStore::settingsRequested);
+    click(find(QAccessible::Button, u"Espace"_s));
+    await(QAccessible::MenuItem, u"Quitter le mode démo"_s);
+
+    auto entries = spokenIn(window(), QAccessible::MenuItem);
+    std::ranges::sort(entries, {}, [](const Spoken &entry) { return entry.box.top(); });
+    QStringList names;
+    for (const auto &entry : entries)
+        names += entry.name;
+    EXPECT_EQ(names, (QStringList{u"Noam Talvère"_s, u"Réglages…"_s,
+                                  u"Ouvrir "_s + store().siteName(), u"Quitter le mode démo"_s}));
+
+    click(find(QAccessible::MenuItem, u"Réglages…"_s));
+    EXPECT_EQ(settings.count(), 1);
+}
+
+TEST_F(Sidebar, TheKeyboardOpensTheMenuOfTheProjectThatIsShown)
+{
+    click(find(QAccessible::ListItem, u"App mobile"_s));
+    await(QAccessible::ListItem, u"Sprint actif"_s);
+    const auto row = spokenIn(window(), QAccessible::ListItem, u"App mobile"_s).first();
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    const auto entry = await(QAccessible::MenuItem, u"Ajouter aux favoris"_s);
+    EXPECT_NEAR(entry.box.top(), row.box.bottom(), 20);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
+    press(Qt::Key_Menu);
+    await(QAccessible::MenuItem, u"Ajouter aux favoris"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(store().favoriteProjects(), QStringList{u"MOB"_s});
+}
+
+TEST_F(Sidebar, OnARowWithoutAMenuTheMenuKeyDoesNothing)
+{
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+    press(Qt::Key_Menu);
+    settle();
+
+    EXPECT_TRUE(spokenIn(window(), QAccessible::MenuItem).isEmpty());
 }
 
 TEST(NeighbourRow, TitlesAndPlaceholdersAreSteppedOver)

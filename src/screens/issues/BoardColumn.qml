@@ -33,6 +33,10 @@ Rectangle {
     signal dragBegun(key: string, handler: DragHandler)
     signal newIssueRequested()
 
+    function revealFocusedCard() {
+        scroller.revealAtOnce();
+    }
+
     // The card under the pointer.
     property BoardCard hotCard: null
     readonly property int padding: Metrics.paneMargin
@@ -157,6 +161,7 @@ Rectangle {
     }
 
     FocusedRowScroller {
+        id: scroller
         list: list
         rows: root.cards
         focusedKey: root.focusedKey

@@ -20,6 +20,14 @@ FocusScope {
     readonly property int columnGap: 12
     readonly property int sidePadding: 16
 
+    function openFocusedMenu() {
+        columnScroller.revealAtOnce();
+        (columnItems.itemAt(store.board.columnOfKey(store.focusedKey)) as BoardColumn)?.revealFocusedCard();
+        const card = glide.itemOf(store.focusedKey);
+        if (card)
+            contextMenu.open(store.focusedKey, card, 12, 24);
+    }
+
     // Takes the keyboard out of any text field: key commands work at once after a click.
     function click(key: string, modifiers: int) {
         board.forceActiveFocus(Qt.MouseFocusReason);
@@ -47,6 +55,8 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         pixelAligned: true
 
+        ContextMenuKey.onPressed: root.openFocusedMenu()
+
         Accessible.role: Accessible.Grouping
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
 
@@ -58,6 +68,7 @@ FocusScope {
             spacing: root.columnGap
 
             Repeater {
+                id: columnItems
                 model: root.store.board
 
                 BoardColumn {
@@ -115,6 +126,7 @@ FocusScope {
     }
 
     Glide {
+        id: glide
         store: root.store
         view: board
         carrier: flight
@@ -126,6 +138,7 @@ FocusScope {
     }
 
     FocusedColumnScroller {
+        id: columnScroller
         flickable: board
         board: root.store.board
         focusedKey: root.store.focusedKey

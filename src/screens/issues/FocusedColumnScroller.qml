@@ -47,6 +47,12 @@ Item {
         return left < flickable.contentX + roomBefore && left + columnWidth > flickable.contentX;
     }
 
+    // For what must stand there now.
+    function revealAtOnce() {
+        reveal();
+        animation.complete();
+    }
+
     onFocusedKeyChanged: reveal()
     onRoomChanged: keepInSight()
 

@@ -55,6 +55,12 @@ Item {
             reveal();
     }
 
+    // For what must stand there now.
+    function revealAtOnce() {
+        reveal();
+        animation.complete();
+    }
+
     onFocusedKeyChanged: reveal()
     onClearanceChanged: keepInSight()
 

@@ -79,6 +79,14 @@ std::vector<QQuickItem *> Glide::seenItems() const
     return items;
 }
 
+QQuickItem *Glide::itemOf(const QString &key) const
+{
+    const auto items = seenItems();
+    const auto item =
+        std::ranges::find(items, key, [](const QQuickItem *each) { return keyOf(*each); });
+    return item == items.end() ? nullptr : *item;
+}
+
 void Glide::remember()
 {
     const bool isMotion =

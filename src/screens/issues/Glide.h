@@ -42,6 +42,8 @@ public:
     void setRows(IssueListModel *rows) { follow(m_rows, rows); }
     BoardModel *columns() const { return m_columns; }
     void setColumns(BoardModel *columns) { follow(m_columns, columns); }
+    /// The item of a key among those in sight; null without one.
+    Q_INVOKABLE QQuickItem *itemOf(const QString &key) const;
     bool isRunning() const { return m_run.state() == QAbstractAnimation::Running; }
 
 Q_SIGNALS:

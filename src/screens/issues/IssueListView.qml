@@ -23,7 +23,8 @@ FocusScope {
     readonly property int headerHeight: isCompact ? Metrics.groupHeaderCompactHeight : Metrics.groupHeaderHeight
 
     function openFocusedMenu() {
-        const row = list.itemAtIndex(store.issueList.rowOfKey(store.focusedKey));
+        scroller.revealAtOnce();
+        const row = glide.itemOf(store.focusedKey);
         if (row)
             contextMenu.open(store.focusedKey, row, 68, rowHeight);
     }
@@ -72,7 +73,7 @@ FocusScope {
         keyNavigationEnabled: false
         // No move transitions: one that another change interrupts leaves its rows half-way. See `Glide` below.
 
-        Keys.onMenuPressed: root.openFocusedMenu()
+        ContextMenuKey.onPressed: root.openFocusedMenu()
 
         Accessible.role: Accessible.List
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
@@ -122,6 +123,7 @@ FocusScope {
     }
 
     Glide {
+        id: glide
         store: root.store
         view: list
         rows: root.store.issueList
@@ -154,6 +156,7 @@ FocusScope {
     }
 
     FocusedRowScroller {
+        id: scroller
         list: list
         rows: root.store.issueList
         focusedKey: root.store.focusedKey

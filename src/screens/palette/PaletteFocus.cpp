@@ -1,5 +1,7 @@
 #include "screens/palette/PaletteFocus.h"
 
+#include "screens/kit/OpenPopups.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -31,6 +33,8 @@ void PaletteFocus::follow()
 void PaletteFocus::begin()
 {
     if (!std::exchange(m_isHolding, true)) {
+        // They would lie above the palette.
+        OpenPopups::close(*m_window);
         m_before.clear();
         m_pointer.reset();
         for (QQuickItem *item = m_window->activeFocusItem(); item; item = item->parentItem())

@@ -7,7 +7,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// Gives the open palette every key press of a window before the search field sees it, and takes the focus back to where
+/// Closes what is open over the content of a window when the palette opens there, gives the palette every key press before
+/// the search field sees it, and takes the focus back to where
 /// it was when the palette closes: to the same item, or, if that is gone or cannot be seen any more, to the nearest that
 /// held it.
 class PaletteFocus : public QObject, public QQmlParserStatus

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqml.h>
+#include <QtQml/qqmlregistration.h>
+
+/// Attached to an item that has the keyboard's focus, or holds what has it: tells when a key asks for the context menu,
+/// which is the menu key, or Shift+F10 on keyboards without one.
+class ContextMenuKey : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("It is attached to an item")
+    QML_ATTACHED(ContextMenuKey)
+
+public:
+    explicit ContextMenuKey(QObject *item);
+
+    static ContextMenuKey *qmlAttachedProperties(QObject *item);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void pressed();
+};
