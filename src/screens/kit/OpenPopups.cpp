@@ -29,7 +29,7 @@ void OpenPopups::close(const QQuickWindow &window)
         popups += item->parent();
     // One that closes may take others with it.
     for (const auto &popup : std::views::reverse(popups)) {
-        if (popup && !popup->property("modal").toBool())
+        if (popup && !popup->property("dim").toBool())
             QMetaObject::invokeMethod(popup, "close");
     }
 }
