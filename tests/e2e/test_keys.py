@@ -92,3 +92,46 @@ class Filtering(WindowCase):
         velmora.wait_listed([], "introuvable")
         velmora.app.find(role="push button", name="^Effacer les filtres$").click()
         velmora.wait_listed(demo_lists.mine(), "with the filters taken away")
+
+
+class Menus(WindowCase):
+    def test_the_menu_key_and_shift_f10_open_the_menu_of_the_focused_issue(self):
+        velmora = self.open_demo()
+        self.session.key("j")
+        velmora.wait_focus(PATH[0])
+        for key, layout in (("Menu", "1"), ("shift+F10", "1"), ("Menu", "2"), ("shift+F10", "2")):
+            with self.subTest(key=key, layout=layout):
+                self.session.key(layout)
+                velmora.row(PATH[0])
+                self.session.settle()
+                self.session.key(key)
+                velmora.app.find(role="menu item", name="^Copier la clé$")
+                self.session.settle()
+                self.session.key("Escape")
+                velmora.app.gone(role="menu item", name="^Copier la clé$")
+
+    def test_a_project_becomes_a_favourite_by_keyboard_alone(self):
+        velmora = self.open_demo()
+        velmora.tab_to("tickets ouverts$")
+        self.session.key(*["Down"] * 5)
+        velmora.app.find(role="list item", name="^Tickets", states=("selected",))
+        self.session.key("Menu")
+        velmora.app.find(role="menu item", name="^Ajouter aux favoris$")
+        self.session.settle()
+        self.session.key("Down", "Return")
+        velmora.app.find(role="heading", name="^Favoris$")
+        self.session.key("Up")
+        velmora.app.find(role="list item", name="^Semaine dernière", states=("selected",))
+
+    def test_the_menus_and_the_palette_take_each_others_place(self):
+        velmora = self.open_demo()
+        self.session.key("j", "ctrl+k")
+        velmora.app.find(role="text", name="^Rechercher un ticket")
+        self.session.key("F10")
+        velmora.app.find(role="menu item", name="^Quitter")
+        velmora.app.gone(role="text", name="^Rechercher un ticket")
+        self.session.key("ctrl+k")
+        velmora.app.find(role="text", name="^Rechercher un ticket")
+        velmora.app.gone(role="menu item", name="^Quitter")
+        self.session.key("Escape", "j")
+        velmora.wait_focus(PATH[1])
