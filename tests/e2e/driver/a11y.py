@@ -82,6 +82,10 @@ class Node:
         self.a11y.read([self])
         return self
 
+    def awake(self):
+        """Asks the program something and waits for the answer."""
+        self._call("Accessible", "GetRoleName")
+
     # what it is
     @property
     def showing(self):
@@ -123,15 +127,15 @@ class Node:
         """
         def ok(n):
             return ((role is None or re.search(role, n.role)) and (name is None or re.search(name, n.name))
-                    and (text is None or re.search(text, n.text or ""))
-                    and (description is None or re.search(description, n.description))
                     and set(states) <= n.states and (showing is None or n.showing == showing)
-                    and (where is None or where(n)))
+                    and (text is None or re.search(text, n.text or ""))
+                    and (description is None or re.search(description, n.description)))
         got = [n for n in self.walk() if ok(n)]
-        if not by_place:
-            return got
-        self.a11y.read_places(got)
-        return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1])
+        if where or by_place:
+            self.a11y.read_places(got)
+            # What has lost its place since the tree was read shows no longer.
+            got = [n for n in got if (n.rect or not showing) and (where is None or where(n))]
+        return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1]) if by_place else got
 
     def find(self, **kw):
         got = self.all(**kw)

@@ -105,6 +105,11 @@ class App:
                 continue
         raise DriverError("program is not on the accessibility bus")
 
+    def answer(self):
+        """Waits for an answer of the program, if it has been on the accessibility bus: its events have taken a turn."""
+        if self.tree and self.running:
+            self.tree.awake()
+
     def wait_tree(self, timeout=15):
         def look():
             self.need_running()

@@ -245,23 +245,39 @@ class Session:
     def drag(self, src, dst, steps=15, pause=0.02, hold=0.25, drop=True):
         """Drags from a node or point to a node or point. With drop=False the button stays down: see release()."""
         (x0, y0), (x1, y1) = (p.centre if isinstance(p, Node) else p for p in (src, dst))
-        self.x.move(x0, y0)
-        time.sleep(0.1)
-        self.x.button(1, True)
-        time.sleep(0.1)
+        self._take(x0, y0)
         for i in range(1, 6):                       # leave the drag threshold slowly
-            self.x.move(x0 + (3 * i if x1 >= x0 else -3 * i), y0 + (2 * i if y1 >= y0 else -2 * i))
-            time.sleep(pause)
+            self._pull(x0 + (3 * i if x1 >= x0 else -3 * i), y0 + (2 * i if y1 >= y0 else -2 * i), pause)
         for i in range(1, steps + 1):
-            self.x.move(x0 + (x1 - x0) * i / steps, y0 + (y1 - y0) * i / steps)
-            time.sleep(pause)
+            self._pull(x0 + (x1 - x0) * i / steps, y0 + (y1 - y0) * i / steps, pause)
         time.sleep(hold)
         if drop:
             self.release()
 
+    def _take(self, x, y):
+        self.x.move(x, y)
+        time.sleep(0.1)
+        self.await_programs()
+        self.x.button(1, True)
+        time.sleep(0.1)
+        self.await_programs()
+
+    def _pull(self, x, y, pause):
+        self.x.move(x, y)
+        time.sleep(pause)
+        self.await_programs()
+
     def release(self):
+        self.await_programs()
         self.x.button(1, False)
         time.sleep(0.15)
+
+    def await_programs(self):
+        """Waits until every program has seen the input so far. On a busy machine one that lags behind would be given
+        many steps of the pointer as a single one."""
+        self.x.x11.XSync(self.x.d, 0)
+        for app in self._apps:
+            app.answer()
 
     # seeing
     def screenshot(self, path, rect=None):
@@ -282,7 +298,10 @@ class Session:
         end = time.monotonic() + timeout
         while time.monotonic() < end:
             if not self.x.next_damage(quiet):
-                return True
+                # What rests may also be a program that has not had its turn.
+                self.await_programs()
+                if not self.x.next_damage(0.05):
+                    return True
         return False
 
     def clipboard(self, selection="clipboard"):
