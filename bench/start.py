@@ -21,6 +21,8 @@ class Profile:
         self.preferences = os.path.join(folder, "preferences.ini")
         names = {"HOME": "", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache", "XDG_DATA_HOME": "data"}
         self.env = {name: os.path.join(folder, leaf) for name, leaf in names.items()}
+        self.env["XDG_RUNTIME_DIR"] = os.path.join(folder, "run")
+        os.mkdir(self.env["XDG_RUNTIME_DIR"], 0o700)
         with open(self.preferences, "w") as file:
             file.write("[General]\ndemoMode=true\n")
 
