@@ -245,9 +245,12 @@ class Session:
     def drag(self, src, dst, steps=15, pause=0.02, hold=0.25, drop=True):
         """Drags from a node or point to a node or point. With drop=False the button stays down: see release()."""
         (x0, y0), (x1, y1) = (p.centre if isinstance(p, Node) else p for p in (src, dst))
+        before = self._floating()
         self._take(x0, y0)
         for i in range(1, 6):                       # leave the drag threshold slowly
-            self._pull(x0 + (3 * i if x1 >= x0 else -3 * i), y0 + (2 * i if y1 >= y0 else -2 * i), pause)
+            x, y = x0 + (3 * i if x1 >= x0 else -3 * i), y0 + (2 * i if y1 >= y0 else -2 * i)
+            self._pull(x, y, pause)
+        self._await_picture(x, y, before)
         for i in range(1, steps + 1):
             self._pull(x0 + (x1 - x0) * i / steps, y0 + (y1 - y0) * i / steps, pause)
         time.sleep(hold)
@@ -266,6 +269,18 @@ class Session:
         self.x.move(x, y)
         time.sleep(pause)
         self.await_programs()
+
+    def _await_picture(self, x, y, before):
+        """Waits until what is dragged hangs on the pointer, as a window of its own; a program paints that picture first,
+        which can take a while. What is pulled without one (a handle) is none the worse for it."""
+        end = time.monotonic() + 3
+        while time.monotonic() < end and self._floating() <= before:
+            for step in (1, 0):
+                self._pull(x + step, y, 0.02)
+
+    def _floating(self):
+        """The windows that no window manager cares for: menus, hints, what is dragged."""
+        return {window.id for app in self._apps for window in app.windows() if window.override}
 
     def release(self):
         self.await_programs()
