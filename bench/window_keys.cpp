@@ -34,10 +34,12 @@ int presses()
     return given > 0 ? given : 300;
 }
 
-/// With a second argument "palette" nothing but the palette is measured.
-bool isOnlyPalette()
+/// With a second argument nothing but the part of that name is measured: "palette", "layouts" (list
+/// and board by turns), "lists" (all else).
+bool isMeasured(const QString &part)
 {
-    return QApplication::arguments().value(2) == u"palette"_s;
+    const auto only = QApplication::arguments().value(2);
+    return only.isEmpty() || only == part;
 }
 
 QList<Project> projects(int count)
@@ -213,12 +215,15 @@ void measureList(FrameTable &table, int count)
         qFatal("%d of %d issues are shown.", store.visibleCount(), count);
 
     const auto size = QString::number(count) + u" issues: "_s;
+    if (isMeasured(u"layouts"_s))
+        table.add(size + u"list and board by turns"_s, switches(timer, Qt::Key_2, Qt::Key_1));
+    if (!isMeasured(u"lists"_s))
+        return;
     table.add(size + u"J moves the focus"_s, pressesOf(timer, presses()));
     if (store.flatVisibleKeys().indexOf(*store.focusedKey()) < std::min(count, presses()) - 1)
         qFatal("The focus has not moved.");
     table.add(size + u"X checks and unchecks"_s, switches(timer, Qt::Key_X, Qt::Key_X));
     table.add(size + u"a status is set"_s, statusChanges(timer, store));
-    table.add(size + u"list and board by turns"_s, switches(timer, Qt::Key_2, Qt::Key_1));
     table.add(size + u"a list seen before"_s, scopes(timer, store));
     table.add(size + u"a refresh with 10 % changes"_s, refreshes(timer, store, *site));
     itemOf(window.contentItem(), "QQuickTextInput")->forceActiveFocus();
@@ -266,8 +271,9 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     std::optional<FrameTable> table;
     measureEmptyWindow(table);
-    measurePalette(*table, {.issues = 10000, .projects = 500});
-    if (!isOnlyPalette()) {
+    if (isMeasured(u"palette"_s))
+        measurePalette(*table, {.issues = 10000, .projects = 500});
+    if (isMeasured(u"layouts"_s) || isMeasured(u"lists"_s)) {
         measureList(*table, 300);
         measureList(*table, 10000);
     }

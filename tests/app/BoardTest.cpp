@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/issues/CardFace.h"
 
 #include <QQuickItem>
 #include <QTest>
@@ -157,6 +158,27 @@ TEST_F(Board, ACardFarBelowIsScrolledIntoView)
 
     EXPECT_EQ(focus(), "MOB-60");
     EXPECT_TRUE(QTest::qWaitFor([&] { return isInView(u"MOB-60"_s); }));
+}
+
+TEST_F(Board, OfAColumnOfThreeThousandCardsOnlyThoseInSightAndNearAreMade)
+{
+    QStringList many;
+    for (int i = 1; i <= 3000; ++i)
+        many += u"MOB-%1"_s.arg(i);
+    serve(many);
+    reload();
+    await(QAccessible::List, u"À faire, 3000 tickets"_s);
+    settle();
+
+    int made = 0;
+    QList<QQuickItem *> left{window().contentItem()};
+    while (!left.isEmpty()) {
+        auto *item = left.takeFirst();
+        left += item->childItems();
+        made += qobject_cast<CardFace *>(item) != nullptr;
+    }
+    EXPECT_GE(made, 6);
+    EXPECT_LT(made, 30);
 }
 
 TEST_F(Board, AClickOnACardFocusesAndOpensIt)

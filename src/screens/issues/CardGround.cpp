@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,6 +18,16 @@ std::vector<SoftShadow> shadowsOf(CardGround::Shadow shadow)
     // Cards have the same shadows in both appearances.
     return shadowsNamed(shadow == CardGround::Raised ? u"cardHover"_s : u"card"_s,
                         Appearance::Light, QColor());
+}
+
+/// Painted once for each scale: a shadow takes longer than all else, and cards rise and sink all the time.
+const QImage &frameAt(CardGround::Shadow shadow, double scale)
+{
+    static std::map<std::pair<CardGround::Shadow, double>, QImage> images;
+    auto &image = images[{shadow, scale}];
+    if (image.isNull())
+        image = frameImage(cardFrame(shadow), scale);
+    return image;
 }
 
 void strokeEdge(QPainter &painter, const QRectF &box, const CardGround &ground)
@@ -61,6 +73,6 @@ void paintCardGround(QPainter &painter, const CardGround &ground)
     painter.setBrush(ground.fill);
     painter.drawRoundedRect(box, CardGround::radius, CardGround::radius);
     painter.drawImage(box.adjusted(-margin, -margin, margin, margin),
-                      frameImage(frame, painter.transform().m11()));
+                      frameAt(ground.shadow, painter.transform().m11()));
     strokeEdge(painter, box, ground);
 }

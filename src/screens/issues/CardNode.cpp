@@ -1,6 +1,5 @@
 #include "screens/issues/CardNode.h"
 
-#include "screens/kit/FrameTexture.h"
 #include "screens/kit/NinePatchNode.h"
 
 #include <QQuickWindow>
@@ -12,6 +11,20 @@ QRectF boxOf(QSizeF size, const FrameDrawing &frame)
 {
     const double margin = frameMargin(frame.shadows);
     return QRectF(QPointF(), size).adjusted(-margin, -margin, margin, margin);
+}
+
+void show(NinePatchNode &node, QQuickWindow *window, QSizeF size, const CardGround &ground)
+{
+    const qreal scale = window->effectiveDevicePixelRatio();
+    const auto texture =
+        pictureTexture(window, cardGroundKey(ground), scale,
+                       [&ground](QPainter &painter) { paintCardGround(painter, ground); });
+    node.show(window, texture, scale, boxOf(size, cardFrame(ground.shadow)), ground.fill);
+}
+
+CardGround shadowAlone(CardGround::Shadow shadow)
+{
+    return {.fill = Qt::transparent, .edge = Qt::transparent, .shadow = shadow};
 }
 
 } // namespace
@@ -27,40 +40,41 @@ CardNode::CardNode()
 void CardNode::showGround(QQuickWindow *window, QSizeF size, CardGround ground, double lift)
 {
     const bool isMoving = lift > 0 && lift < 1;
+    if (isMoving)
+        showShadows(window, size, lift);
+    else
+        dropShadows();
     ground.shadow = isMoving ? CardGround::None : lift > 0 ? CardGround::Raised : CardGround::Rest;
-    dropShadows();
-    if (isMoving) {
-        showShadow(window, size, CardGround::Rest, 1 - lift);
-        showShadow(window, size, CardGround::Raised, lift);
-    }
-    const qreal scale = window->effectiveDevicePixelRatio();
-    const auto texture =
-        pictureTexture(window, cardGroundKey(ground), scale,
-                       [&ground](QPainter &painter) { paintCardGround(painter, ground); });
-    m_ground->show(window, texture, scale, boxOf(size, cardFrame(ground.shadow)), ground.fill);
+    show(*m_ground, window, size, ground);
 }
 
-void CardNode::showShadow(QQuickWindow *window, QSizeF size, CardGround::Shadow shadow,
-                          double opacity)
+void CardNode::showShadows(QQuickWindow *window, QSizeF size, double lift)
 {
-    const auto frame = cardFrame(shadow);
-    const qreal scale = window->effectiveDevicePixelRatio();
-    auto picture = std::make_unique<NinePatchNode>();
-    picture->show(window, frameTexture(window, frame, scale), scale, boxOf(size, frame));
-    auto veil = std::make_unique<QSGOpacityNode>();
-    veil->setOpacity(opacity);
-    veil->appendChildNode(picture.release());
-    m_shadows.push_back(veil.get());
-    insertChildNodeBefore(veil.release(), m_ground);
+    while (m_veils.size() < 2)
+        m_veils.push_back(addVeil());
+    show(*m_veils[0].shadow, window, size, shadowAlone(CardGround::Rest));
+    show(*m_veils[1].shadow, window, size, shadowAlone(CardGround::Raised));
+    m_veils[0].opacity->setOpacity(1 - lift);
+    m_veils[1].opacity->setOpacity(lift);
+}
+
+CardNode::Veil CardNode::addVeil()
+{
+    auto opacity = std::make_unique<QSGOpacityNode>();
+    auto shadow = std::make_unique<NinePatchNode>();
+    const Veil veil{opacity.get(), shadow.get()};
+    opacity->appendChildNode(shadow.release());
+    insertChildNodeBefore(opacity.release(), m_ground);
+    return veil;
 }
 
 void CardNode::dropShadows()
 {
-    for (auto *shadow : m_shadows) {
-        removeChildNode(shadow);
-        const std::unique_ptr<QSGNode> dropped(shadow);
+    for (const auto &veil : m_veils) {
+        removeChildNode(veil.opacity);
+        const std::unique_ptr<QSGNode> dropped(veil.opacity);
     }
-    m_shadows.clear();
+    m_veils.clear();
 }
 
 void CardNode::showPictures(QQuickWindow *window, const std::vector<PlacedPicture> &pictures)

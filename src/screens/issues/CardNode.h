@@ -16,11 +16,19 @@ public:
     void showPictures(QQuickWindow *window, const std::vector<PlacedPicture> &pictures);
 
 private:
-    void showShadow(QQuickWindow *window, QSizeF size, CardGround::Shadow shadow, double opacity);
+    /// A shadow that shows in part.
+    struct Veil
+    {
+        QSGOpacityNode *opacity = nullptr;
+        NinePatchNode *shadow = nullptr;
+    };
+
+    void showShadows(QQuickWindow *window, QSizeF size, double lift);
+    Veil addVeil();
     void dropShadows();
 
     NinePatchNode *m_ground;
     PictureNode *m_pictures;
-    /// Below the ground, while there are any.
-    std::vector<QSGOpacityNode *> m_shadows;
+    /// Of the card at rest and raised, below the ground, while it is on the way between the two.
+    std::vector<Veil> m_veils;
 };
