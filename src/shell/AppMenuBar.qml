@@ -13,6 +13,7 @@ T.MenuBar {
 
     required property AppStore store
     required property MenuBarKeys keys
+    required property AppCommands commands
 
     implicitHeight: 34
     padding: Metrics.gapTiny
@@ -25,11 +26,6 @@ T.MenuBar {
         target: root.keys
         property: "hasOpenMenu"
         value: file.opened || issues.opened || view.opened
-    }
-
-    AppCommands {
-        id: commands
-        store: root.store
     }
 
     delegate: MenuBarTitle {}
@@ -58,7 +54,7 @@ T.MenuBar {
         title: "Fichier"
 
         CommandMenuItem {
-            modelData: commands.newIssue
+            modelData: root.commands.newIssue
             keys: root.keys
         }
 
@@ -82,7 +78,20 @@ T.MenuBar {
         title: "Tickets"
 
         Repeater {
-            model: commands.general
+            model: root.commands.general
+
+            CommandMenuItem {
+                keys: root.keys
+            }
+        }
+
+        PopupMenuSeparator {
+            visible: root.commands.editing.length > 0
+            height: visible ? implicitHeight : 0
+        }
+
+        Repeater {
+            model: root.commands.editing
 
             CommandMenuItem {
                 keys: root.keys
@@ -92,27 +101,20 @@ T.MenuBar {
         PopupMenuSeparator {}
 
         Repeater {
-            model: commands.editing
+            model: root.commands.sharing
 
             CommandMenuItem {
                 keys: root.keys
             }
         }
 
-        PopupMenuSeparator {}
-
-        Repeater {
-            model: commands.sharing
-
-            CommandMenuItem {
-                keys: root.keys
-            }
+        PopupMenuSeparator {
+            visible: root.commands.display.length > 0
+            height: visible ? implicitHeight : 0
         }
 
-        PopupMenuSeparator {}
-
         Repeater {
-            model: commands.display
+            model: root.commands.display
 
             CommandMenuItem {
                 keys: root.keys

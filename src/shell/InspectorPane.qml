@@ -12,13 +12,30 @@ GlassPanel {
 
     required property AppStore store
 
+    // The issue that is open, or was until the pane began to go.
+    property string key: ""
+
+    function follow() {
+        key = store.inspectorKey || key;
+    }
+
     color: Theme.inspector
+
+    Component.onCompleted: follow()
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Inspecteur"
 
+    Connections {
+        target: root.store
+
+        function onInspectorKeyChanged() {
+            root.follow();
+        }
+    }
+
     Repeater {
-        model: [root.store.inspectorKey]
+        model: [root.key]
 
         IssueSummary {
             required property string modelData

@@ -43,5 +43,6 @@ Window {
     MenuBarLayer {
         anchors.fill: parent
         store: root.store
+        issueKey: root.key
     }
 }

@@ -3,7 +3,6 @@
 #include "state/CreateScreen.h"
 #include "state/KeyPress.h"
 #include "state/KeyRouting.h"
-#include "state/ShortcutKey.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -28,32 +27,27 @@ void KeyMonitor::setStore(AppStore *store)
     Q_EMIT storeChanged();
 }
 
-namespace {
-
-/// Asking for a screen that is not there would only take the keyboard away.
-bool hasNoScreenYet(const KeyPress &press)
-{
-    const auto shortcut = shortcutCommand(press);
-    const bool isNewIssue =
-        shortcut == AppCommand::NewIssue || (!shortcut && route(press) == KeyCommand::NewIssue);
-    return isNewIssue && !hasCreateScreen;
-}
-
-} // namespace
-
 bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::KeyPress || watched != m_window || !m_store)
         return false;
     const KeyPress press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
-    if (hasNoScreenYet(press))
+    // Asking for a screen that is not there would only take the keyboard away.
+    if (!hasCreateScreen && route(press) == KeyCommand::NewIssue)
         return false;
-    if (m_store->handleShortcut(press))
-        return true;
     if (m_store->palette() || m_store->isCreating() || isTyping() || isInPopup() ||
         isWalkingAList(press.key) || isPressingAControl(press.key))
         return false;
-    return m_store->handleKey(press);
+    return give(press);
+}
+
+bool KeyMonitor::give(const KeyPress &press)
+{
+    const auto before = m_store->focusedKey();
+    const bool isTaken = m_store->handleKey(press);
+    if (m_store->focusedKey() != before)
+        Q_EMIT walked();
+    return isTaken;
 }
 
 bool KeyMonitor::isTyping() const

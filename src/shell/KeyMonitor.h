@@ -31,8 +31,11 @@ public:
 Q_SIGNALS:
     void windowChanged();
     void storeChanged();
+    /// A key has moved the focus to another issue.
+    void walked();
 
 private:
+    bool give(const KeyPress &press);
     bool isTyping() const;
     bool isInPopup() const;
     bool isWalkingAList(int key) const;

@@ -19,16 +19,30 @@ FocusScope {
 
     readonly property mainPlan plan: MainPlans.plan(width, memory.sidebarWidth, memory.inspectorWidth,
         store.showInspector)
+    // The same with the inspector, which keeps its place while it comes and goes.
+    readonly property mainPlan openPlan: MainPlans.plan(width, memory.sidebarWidth, memory.inspectorWidth, true)
+    // How far the inspector has come in: 0 away, 1 there. The panes beside it stand at their new places at once, so that
+    // a frame of its way moves one item and lays out nothing.
+    property real inspectorPresence: store.showInspector ? 1 : 0
     // Where the issues begin and end.
     readonly property int detailLeft: plan.hasSidebar ? plan.sidebar : 0
-    readonly property int detailRight: width - plan.inspector
+    readonly property int detailRight: plan.coversDetail ? width : width - plan.inspector
     readonly property real detailCentre: plan.coversDetail ? width / 2 : (detailLeft + detailRight) / 2
+
+    Behavior on inspectorPresence {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
+        }
+    }
 
     onPlanChanged: isSidebarFloating = isSidebarFloating && !plan.hasSidebar
 
     KeyMonitor {
         window: root.Window.window
         store: root.store
+        // Whoever walks the issues from a button has left the button.
+        onWalked: issues.focusIssues()
     }
 
     SidebarView {
@@ -71,7 +85,7 @@ FocusScope {
         x: root.detailLeft + 4
         width: root.detailRight - x - 4
         height: parent.height
-        visible: !root.plan.coversDetail
+        visible: !root.plan.coversDetail || root.inspectorPresence < 1
         focus: true
         store: root.store
         hasSidebarButton: !root.plan.hasSidebar
@@ -102,11 +116,13 @@ FocusScope {
     }
 
     LatePart {
-        x: root.plan.coversDetail ? Metrics.paneMargin : root.detailRight
+        readonly property int restingX: root.openPlan.coversDetail ? Metrics.paneMargin
+                                                                   : root.width - root.openPlan.inspector
+        x: restingX + (1 - root.inspectorPresence) * (root.width - restingX)
         y: Metrics.paneMargin
-        width: root.width - x - Metrics.paneMargin
+        width: root.width - restingX - Metrics.paneMargin
         height: root.height - 2 * Metrics.paneMargin
-        shown: root.store.showInspector
+        shown: root.store.showInspector || root.inspectorPresence > 0
         onWanted: setSource("InspectorPane.qml", { store: root.store })
     }
 }

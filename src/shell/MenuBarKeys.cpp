@@ -1,6 +1,7 @@
 #include "shell/MenuBarKeys.h"
 
 #include "screens/kit/OpenPopups.h"
+#include "state/KeyPress.h"
 
 #include <QKeyEvent>
 
@@ -14,6 +15,14 @@ void MenuBarKeys::setWindow(QQuickWindow *window)
     if (m_window)
         m_window->installEventFilter(this);
     Q_EMIT windowChanged();
+}
+
+void MenuBarKeys::setCommands(AppCommands *commands)
+{
+    if (m_commands == commands)
+        return;
+    m_commands = commands;
+    Q_EMIT commandsChanged();
 }
 
 bool MenuBarKeys::eventFilter(QObject *watched, QEvent *event)
@@ -45,7 +54,7 @@ bool MenuBarKeys::takesPress(const QKeyEvent &event)
     const bool isF10 = event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier;
     if (isF10)
         toggle();
-    return isF10;
+    return isF10 || (m_commands && m_commands->runShortcut(KeyPress::from(event)));
 }
 
 void MenuBarKeys::setHasOpenMenu(bool open)
@@ -105,5 +114,6 @@ void MenuBarKeys::close()
 void MenuBarKeys::choose(int command)
 {
     close();
-    Q_EMIT chosen(command);
+    if (m_commands)
+        m_commands->run(command);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/AltTap.h"
+#include "state/AppCommands.h"
 
 #include <QObject>
 #include <QPointer>
@@ -8,14 +9,17 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Shows the menu bar of a window at a tap of Alt and at F10, in the place of whatever is open over the window's content,
-/// and hides it in the same way. While the bar is shown it has the keyboard; what is chosen there is carried out when the
-/// bar is gone and the focus is back where it was, so that commands find the window as the user left it.
+/// The keys of a window's menus: it carries out their shortcuts, shows the menu bar at a tap of Alt and at F10, in the
+/// place of whatever is open over the window's content, and hides it in the same way. While the bar is shown it has the
+/// keyboard; what is chosen there is carried out when the bar is gone and the focus is back where it was, so that commands
+/// find the window as the user left it.
 class MenuBarKeys : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL REQUIRED)
+    Q_PROPERTY(
+        AppCommands *commands READ commands WRITE setCommands NOTIFY commandsChanged FINAL REQUIRED)
     /// One of the bar's menus is open; when none is any more, the bar closes.
     Q_PROPERTY(
         bool hasOpenMenu READ hasOpenMenu WRITE setHasOpenMenu NOTIFY hasOpenMenuChanged FINAL)
@@ -28,25 +32,26 @@ public:
 
     QQuickWindow *window() const { return m_window; }
     void setWindow(QQuickWindow *window);
+    AppCommands *commands() const { return m_commands; }
+    void setCommands(AppCommands *commands);
     bool isOpen() const { return m_isOpen; }
     bool hasOpenMenu() const { return m_hasOpenMenu; }
     void setHasOpenMenu(bool open);
 
     Q_INVOKABLE void close();
-    /// Closes the bar and then tells `chosen`.
+    /// Closes the bar and then carries out a `Commands.AppCommand`.
     Q_INVOKABLE void choose(int command);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void windowChanged();
+    void commandsChanged();
     void isOpenChanged();
     void hasOpenMenuChanged();
     void layerChanged();
     /// What is open above the window's content, and is no popover or menu, is to be closed.
     void aboutToOpen();
-    /// A `Commands.AppCommand` is to be carried out.
-    void chosen(int command);
 
 private:
     bool takesPress(const QKeyEvent &event);
@@ -57,6 +62,7 @@ private:
 
     QPointer<QQuickWindow> m_window;
     QPointer<QQuickItem> m_layer;
+    QPointer<AppCommands> m_commands;
     AltTap m_altTap;
     bool m_isOpen = false;
     bool m_hasOpenMenu = false;

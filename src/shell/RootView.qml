@@ -81,17 +81,6 @@ Window {
     }
 
     Shortcut {
-        sequences: ["Ctrl+Q"]
-        onActivated: Qt.quit()
-    }
-
-    // Where the desktop has no key of its own for a program's settings, this one is the custom.
-    Shortcut {
-        sequences: ["Ctrl+,"]
-        onActivated: root.store.settingsRequested()
-    }
-
-    Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: root.close()
     }

@@ -27,6 +27,11 @@ Window {
         onActivated: root.close()
     }
 
+    Shortcut {
+        sequences: ["Ctrl+Q"]
+        onActivated: Qt.quit()
+    }
+
     Row {
         id: bar
         anchors.horizontalCenter: parent.horizontalCenter

@@ -29,13 +29,16 @@ public:
     bool operator==(const CommandEntry &) const = default;
 };
 
-/// The commands of the menus, as they are now: what each is called, its shortcut in this system's words, whether it can
-/// be chosen, and how to carry it out.
+/// The commands of one window's menus, as they are now: what each is called, its shortcut in this system's words, whether
+/// it can be chosen, and how to carry it out. The main window has them all, and they act on what is chosen there. The
+/// window of an issue has those that need nothing of the main window; those that take an issue elsewhere take its own.
 class AppCommands : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    /// The issue whose window this is; empty in the main window.
+    Q_PROPERTY(QString issueKey READ issueKey WRITE setIssueKey NOTIFY changed FINAL)
     Q_PROPERTY(CommandEntry newIssue READ newIssue NOTIFY changed FINAL)
     // The groups of the menu "Tickets"
     Q_PROPERTY(QList<CommandEntry> general READ general NOTIFY changed FINAL)
@@ -49,6 +52,9 @@ public:
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
 
+    const QString &issueKey() const { return m_issueKey; }
+    void setIssueKey(const QString &key);
+
     CommandEntry newIssue() const { return entry(AppCommand::NewIssue); }
     QList<CommandEntry> general() const { return entries(CommandGroup::General); }
     QList<CommandEntry> editing() const { return entries(CommandGroup::Editing); }
@@ -57,6 +63,8 @@ public:
 
     /// Carries out a `Commands.AppCommand`, unless it cannot be chosen now.
     Q_INVOKABLE void run(int command);
+    /// Carries out the command whose shortcut was pressed. False when there is none, or not in this window, or not now.
+    bool runShortcut(const KeyPress &press);
 
 Q_SIGNALS:
     void storeChanged();
@@ -66,9 +74,13 @@ private:
     CommandEntry entry(AppCommand command) const;
     QList<CommandEntry> entries(CommandGroup group) const;
     bool isEnabled(AppCommand command) const;
+    void carryOut(AppCommand command);
 
     QPointer<AppStore> m_store;
+    QString m_issueKey;
 };
 
 /// Whether a command can be chosen. All of the menu "Tickets" can at all times: one without an issue answers with a toast.
 bool isCommandEnabled(AppCommand command, AppStore::Phase phase);
+/// Whether the window of an issue has a command: the others show themselves in the main window alone.
+bool isOfIssueWindows(AppCommand command);

@@ -51,15 +51,15 @@ void AppStore::flush(unsigned what)
         feedSidebar();
     if (what & ToastRows)
         m_toastModel.setToasts(*m_toasts);
-    if (what & Time) {
-        m_issueList.setNow(*m_now);
-        m_board.setNow(*m_now);
-    }
+    const bool isBoardInSight = *m_layout == LayoutMode::Board;
+    // As with its rows, the layout out of sight learns the time and the people when it comes back.
+    if (what & (List | Time))
+        isBoardInSight ? m_board.setNow(*m_now) : m_issueList.setNow(*m_now);
     if (what & (List | Captions | Time))
         refreshCaptions();
     if (what & (List | Sidebar | Time))
         refreshActivityHeader();
-    if (what & (List | Sidebar | People))
+    if (!isBoardInSight && (what & (List | Sidebar | People)))
         m_issueList.refreshBadges();
 }
 

@@ -22,6 +22,14 @@ protected:
         settle();
     }
 
+    /// From the issues over the search field to the toolbar.
+    void backToAButton()
+    {
+        press(Qt::Key_Backtab);
+        press(Qt::Key_Backtab);
+        settle();
+    }
+
     void expectNothingNameless(const char *state)
     {
         settle();
@@ -113,6 +121,43 @@ TEST_F(Accessibility, TheFocusedRowIsTheOnlyFocusedOneAndTheCheckedOnesAreSelect
     }
     EXPECT_EQ(focused, 1);
     EXPECT_EQ(selected, 2);
+}
+
+TEST_F(Accessibility, WhileAButtonHasTheKeyboardItAloneIsToldAsFocused)
+{
+    press(Qt::Key_Down);
+    backToAButton();
+    QStringList focused;
+    for (const auto &thing : spokenIn(window())) {
+        if (thing.state.focused)
+            focused += thing.name;
+    }
+    auto *holder = QAccessible::queryAccessibleInterface(window().activeFocusItem());
+    ASSERT_TRUE(holder);
+    EXPECT_EQ(holder->role(), QAccessible::Button);
+    EXPECT_EQ(focused, QStringList{holder->text(QAccessible::Name)});
+}
+
+TEST_F(Accessibility, WhoeverWalksTheIssuesFromAButtonHearsTheRow)
+{
+    backToAButton();
+    press(Qt::Key_J);
+    settle();
+    EXPECT_TRUE(find(QAccessible::ListItem, u"MOB-3,"_s).state.focused);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(store().showInspector()) << "and the key presses no button";
+}
+
+TEST_F(Accessibility, AReaderThatStartsLaterHearsWhichLayoutIsChosen)
+{
+    QAccessible::setActive(false);
+    QAccessible::setActive(true);
+    settle();
+    EXPECT_TRUE(find(QAccessible::Button, u"Liste"_s).state.checked);
+    EXPECT_FALSE(find(QAccessible::Button, u"Tableau"_s).state.checked);
+    store().setLayout(LayoutMode::Board);
+    settle();
+    EXPECT_TRUE(find(QAccessible::Button, u"Tableau"_s).state.checked);
 }
 
 TEST_F(Accessibility, TheFocusGoesFromLeftToRightAndFromTopToBottom)

@@ -55,6 +55,54 @@ TEST_F(MainWindow, TheInspectorShowsTitleAndPropertiesAndClosesByItsCross)
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
 
+TEST_F(MainWindow, TheInspectorComesInFromTheEdgeAndGoesOutWithItsIssueInIt)
+{
+    desktop->setPrefersReducedMotion(false);
+    store().setInspectorKey(u"MOB-1"_s);
+    const auto pane = [&] { return spokenIn(window(), QAccessible::Pane, u"Inspecteur"_s); };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !pane().isEmpty(); }));
+    EXPECT_GT(pane().first().box.left(), 820);
+    EXPECT_EQ(row().right() + 1, 808) << "the list gives way at once";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pane().first().box == QRect(820, 8, 492, 824); }));
+
+    store().setInspectorKey(std::nullopt);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pane().first().box.left() > 820; }));
+    find(QAccessible::Heading, u"Résumé de MOB-1"_s);
+    EXPECT_TRUE(isGone(QAccessible::Pane, u"Inspecteur"_s));
+}
+
+TEST_F(MainWindow, AnInspectorToggledTwiceOnItsWayEndsWhereItWasLastSent)
+{
+    desktop->setPrefersReducedMotion(false);
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    settle();
+    press(Qt::Key_Space);
+    settle();
+    press(Qt::Key_J);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return inspector() == QRect(820, 8, 492, 824); }));
+    find(QAccessible::Heading, u"Résumé de MOB-2"_s);
+
+    press(Qt::Key_Space);
+    settle();
+    press(Qt::Key_Space);
+    settle();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(isGone(QAccessible::Pane, u"Inspecteur"_s));
+    EXPECT_EQ(row().right() + 1, 1308);
+    EXPECT_TRUE(find(QAccessible::List, u"Mes tickets"_s).state.focused);
+}
+
+TEST_F(MainWindow, WithLessMotionTheInspectorIsThereAtOnce)
+{
+    store().setInspectorKey(u"MOB-1"_s);
+    EXPECT_EQ(inspector(), QRect(820, 8, 492, 824));
+    store().setInspectorKey(std::nullopt);
+    settle();
+    EXPECT_TRUE(spokenIn(window(), QAccessible::Pane, u"Inspecteur"_s).isEmpty());
+}
+
 TEST_F(MainWindow, TheInspectorFollowsTheFocus)
 {
     press(Qt::Key_Down);

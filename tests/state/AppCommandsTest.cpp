@@ -35,6 +35,22 @@ TEST_F(AppCommandsTest, BeforeASessionNewIssueIsDisabledWhileTheItemsOfIssuesAre
     }
 }
 
+TEST_F(AppCommandsTest, TheWindowOfAnIssueHasOnlyWhatNeedsNothingOfTheMainWindow)
+{
+    startSession();
+    commands.setIssueKey(u"MOB-2"_s);
+    EXPECT_EQ(commands.general().size(), 1);
+    EXPECT_EQ(commands.general().first().title, u"Actualiser"_s);
+    EXPECT_TRUE(commands.editing().isEmpty());
+    EXPECT_EQ(commands.sharing().size(), 4);
+    EXPECT_TRUE(commands.display().isEmpty());
+    choose(AppCommand::CommandPalette);
+    EXPECT_FALSE(store->palette());
+    EXPECT_FALSE(
+        commands.runShortcut(KeyPress::make(Qt::Key_K, 0, u"k"_s, Qt::ControlModifier, u"k"_s)));
+    EXPECT_FALSE(store->palette());
+}
+
 TEST_F(AppCommandsTest, ADisabledCommandDoesNothing)
 {
     choose(AppCommand::NewIssue);

@@ -219,6 +219,28 @@ TEST_F(AppStoreDerivedTest, timeGoesOnByTheMinuteWhileASessionIsOpen)
 
 // The focus ---------------------------------------------------------------------------------------------------------------
 
+TEST_F(AppStoreDerivedTest, theLayoutOutOfSightLearnsTheTimeWhenItComesBack)
+{
+    startSession();
+    Issue fresh = sampleIssue(u"WEB-1"_s);
+    fresh.updated = clock.now();
+    reloadWith({fresh});
+    const auto ageShown = [this] {
+        return store->issueList()->index(1).data(IssueListModel::UpdatedTextRole).toString();
+    };
+    const QString before = ageShown();
+    store->setLayout(LayoutMode::Board);
+    const QSignalSpy changes(store->issueList(), &QAbstractItemModel::dataChanged);
+    desktop.isActive = false;
+    clock.advance(std::chrono::hours(48));
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_EQ(ageShown(), before);
+
+    store->setLayout(LayoutMode::List);
+    EXPECT_GT(changes.count(), 0);
+    EXPECT_NE(ageShown(), before);
+}
+
 TEST_F(AppStoreDerivedTest, downWithNothingFocusedGoesToTheFirstRowAndUpToTheLast)
 {
     store->moveFocus(1);

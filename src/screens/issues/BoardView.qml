@@ -78,7 +78,7 @@ FocusScope {
                     height: columns.height
                     focusedKey: root.store.focusedKey
                     cardStyle: look
-                    clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
+                    clearance: root.store.isSelecting ? Metrics.selectionBarRoom : 0
                     onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, card, cell) => root.picker.toggle(kind, key, card, cell)

@@ -62,7 +62,7 @@ FocusScope {
         model: root.store.issueList
         boundsBehavior: Flickable.StopAtBounds
         // The last row can be scrolled clear of the selection bar.
-        bottomMargin: Metrics.toastBottomAboveBar
+        bottomMargin: Metrics.selectionBarRoom
         reuseItems: true
         cacheBuffer: 400
         pixelAligned: true
@@ -106,6 +106,7 @@ FocusScope {
                     height: root.rowHeight
                     style: look
                     isSelecting: root.store.isSelecting
+                    hasKeyboard: list.activeFocus
                     hasMenu: root.contextMenu.key === issue.key
                     onHoverChanged: if (isHovered) root.hotRow = row
                     onClicked: modifiers => root.click(issue.key, modifiers)
@@ -161,6 +162,6 @@ FocusScope {
         rows: root.store.issueList
         focusedKey: root.store.focusedKey
         headerHeight: root.headerHeight
-        clearance: root.store.isSelecting ? Metrics.toastBottomAboveBar : 0
+        clearance: root.store.isSelecting ? Metrics.selectionBarRoom : 0
     }
 }

@@ -19,6 +19,8 @@ RowLine {
     required property issueListBadge badge
     // Any issue is checked: every check box shows.
     required property bool isSelecting
+    // The list has the keyboard: what has the focus in it is what a screen reader speaks of.
+    property bool hasKeyboard: false
     // Its menu is open: it looks as under the pointer, which is on the menu.
     property bool hasMenu: false
 
@@ -42,7 +44,7 @@ RowLine {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
     Accessible.focusable: true
-    Accessible.focused: root.isFocused && root.visible
+    Accessible.focused: root.isFocused && root.visible && root.hasKeyboard
     Accessible.selectable: true
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(0)

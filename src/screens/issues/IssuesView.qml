@@ -21,6 +21,10 @@ FocusScope {
         toolbar.focusSearch();
     }
 
+    function focusIssues() {
+        body.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
     IssuesContent {
         id: content
         store: root.store

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
 import Velmora.State
@@ -17,23 +18,19 @@ GlassCapsule {
         id: cells
         anchors.centerIn: parent
 
-        ToolbarCell {
+        LayoutChoice {
             name: "Liste"
             symbol: "list.bullet"
             on: root.layout === Model.LayoutMode.List
-            Accessible.checkable: true
-            Accessible.checked: on
             hint: Hints.layout
             onClicked: root.chosen(Model.LayoutMode.List)
         }
 
-        ToolbarCell {
+        LayoutChoice {
             name: "Tableau"
             symbol: "rectangle.split.3x1"
             symbolSize: 12.5
             on: root.layout === Model.LayoutMode.Board
-            Accessible.checkable: true
-            Accessible.checked: on
             hint: Hints.layout
             onClicked: root.chosen(Model.LayoutMode.Board)
         }

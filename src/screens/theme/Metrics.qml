@@ -82,6 +82,9 @@ QtObject {
     /// Toasts above the window's edge, alone and above the selection bar.
     readonly property int toastBottom: 24
     readonly property int toastBottomAboveBar: 84
+    /// Kept free under the last row, which can be scrolled clear of the selection bar: its height, its distance from the
+    /// edge, and a gap.
+    readonly property int selectionBarRoom: 84
     readonly property int scrollThumbWidth: 6
     readonly property int scrollFade: 16
 }
