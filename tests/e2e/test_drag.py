@@ -4,8 +4,8 @@ from support import WindowCase
 
 
 class Drag(WindowCase):
-    def open_board(self):
-        velmora = self.open_demo(layout="board")
+    def open_board(self, **preferences):
+        velmora = self.open_demo(layout="board", **preferences)
         velmora.scope("Plateforme web").click()
         velmora.app.find(role="list item", name="^WEB-204, ")
         self.session.settle()
@@ -47,3 +47,15 @@ class Drag(WindowCase):
         self.session.settle()
         self.assertEqual(velmora.row("WEB-204").name, before)
         wait_until(lambda: velmora.app.running, 1, 0.1, "the program")
+
+    def test_the_dragged_picture_has_no_white_corners_where_nothing_composes_the_windows(self):
+        velmora = self.open_board(appearance="dark")
+        before = {window.id for window in velmora.app.windows()}
+        x, y = self.take(velmora, "WEB-204")
+        self.session.drag((x, y), (x + 150, y + 200), drop=False)
+        self.addCleanup(self.session.release)
+        picture, = [window for window in velmora.app.windows() if window.override and window.id not in before]
+        left, top, width, height = picture.rect
+        self.assertGreater(width, 60)
+        for corner in [(left, top), (left + width - 1, top), (left, top + height - 1), (left + width - 1, top + height - 1)]:
+            self.assertLess(max(self.session.pixel(*corner)), 100, corner)

@@ -11,7 +11,8 @@ GlassPanel {
 
     implicitWidth: Math.ceil(line.implicitWidth) + 24
     implicitHeight: line.implicitHeight + 16
-    radius: Metrics.radiusRow
+    // X11 paints white what is transparent, unless something composes its windows, and does not say whether anything does.
+    radius: Qt.platform.pluginName === "xcb" ? 0 : Metrics.radiusRow
     shadow: "none"
     color: Theme.elevated
 
