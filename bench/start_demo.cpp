@@ -4,6 +4,7 @@
 #include "BenchClock.h"
 #include "FrameWatch.h"
 #include "StartReport.h"
+#include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"
 
@@ -35,6 +36,7 @@ bool holdsRow(const QQuickItem &item)
 int main(int argc, char **argv)
 {
     chooseRenderer();
+    interpretAtFirst();
     const QApplication application(argc, argv);
     const auto arguments = QApplication::arguments();
     StartReport report(arguments);

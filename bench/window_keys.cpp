@@ -6,6 +6,7 @@
 #include "EmptyWindow.h"
 #include "FrameTable.h"
 #include "FrameTimer.h"
+#include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"
 #include "async/Spawn.h"
@@ -267,6 +268,7 @@ void measureEmptyWindow(std::optional<FrameTable> &table)
 int main(int argc, char **argv)
 {
     chooseRenderer();
+    interpretAtFirst();
     QApplication::setQuitOnLastWindowClosed(false);
     const QApplication application(argc, argv);
     std::optional<FrameTable> table;

@@ -1,15 +1,17 @@
 # Targets in the words a reviewer needs: a name, its files, and whom it may know.
 include_guard()
 
-# _velmora_common(<target> [PRECOMPILED <the target whose precompiled header it shares>])
+# _velmora_common(<target> [PRECOMPILED <the target whose precompiled header it shares>]
+#                 [HEADERS <what its own precompiled header holds beside the usual>])
 function(_velmora_common target)
-    cmake_parse_arguments(ARG "" "PRECOMPILED" "" ${ARGN})
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "HEADERS" ${ARGN})
     target_link_libraries(${target} PRIVATE velmora_options)
     target_link_libraries(${target} PRIVATE QCoro6::Core)
     if(ARG_PRECOMPILED)
         target_precompile_headers(${target} REUSE_FROM ${ARG_PRECOMPILED})
     else()
-        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>")
+        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>"
+            ${ARG_HEADERS})
     endif()
 endfunction()
 
@@ -52,9 +54,10 @@ function(velmora_qml_module name)
     endif()
 endfunction()
 
-# velmora_test(<name> [OPTIMISED] SOURCES <files> DEPENDS <targets>): one GoogleTest program, one ctest entry.
+# velmora_test(<name> [OPTIMISED] [FIXTURE <a header that most of its sources include, worth a precompiled header>]
+#              SOURCES <files> DEPENDS <targets>): one GoogleTest program, one ctest entry.
 function(velmora_test name)
-    cmake_parse_arguments(ARG "OPTIMISED" "" "SOURCES;DEPENDS" ${ARGN})
+    cmake_parse_arguments(ARG "OPTIMISED" "FIXTURE" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -62,6 +65,10 @@ function(velmora_test name)
     # Nearly all of a test runs once: optimising it takes longer than running it.
     if(ARG_OPTIMISED)
         _velmora_common(${name})
+    elseif(ARG_FIXTURE)
+        _velmora_common(${name} HEADERS <gtest/gtest.h> ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FIXTURE})
+        # The templates that the fixture needs are made once, with the header.
+        target_compile_options(${name} PRIVATE -O0 -fpch-instantiate-templates)
     else()
         _velmora_common(${name} PRECOMPILED test_precompiled)
         target_compile_options(${name} PRIVATE -O0)

@@ -1,3 +1,4 @@
+#include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/SingleInstance.h"
 #include "app/VelmoraApp.h"
@@ -22,6 +23,7 @@ void takeToken(const QByteArray &token)
 int main(int argc, char **argv)
 {
     chooseRenderer();
+    interpretAtFirst();
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setDesktopFileName(QStringLiteral("fr.orvantis.Velmora"));
     const QApplication application(argc, argv);
