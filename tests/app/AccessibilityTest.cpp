@@ -30,6 +30,12 @@ protected:
         settle();
     }
 
+    qsizetype spokenFocusedIssues()
+    {
+        const auto issues = spokenIn(window(), QAccessible::ListItem, u"Résumé"_s);
+        return std::ranges::count_if(issues, [](const Spoken &each) { return each.state.focused; });
+    }
+
     void expectNothingNameless(const char *state)
     {
         settle();
@@ -126,16 +132,23 @@ TEST_F(Accessibility, TheFocusedRowIsTheOnlyFocusedOneAndTheCheckedOnesAreSelect
 TEST_F(Accessibility, WhileAButtonHasTheKeyboardItAloneIsToldAsFocused)
 {
     press(Qt::Key_Down);
-    backToAButton();
-    QStringList focused;
-    for (const auto &thing : spokenIn(window())) {
-        if (thing.state.focused)
-            focused += thing.name;
+    for (const LayoutMode layout : {LayoutMode::List, LayoutMode::Board}) {
+        store().setLayout(layout);
+        settle();
+        backToAButton();
+        QStringList focused;
+        for (const auto &thing : spokenIn(window())) {
+            if (thing.state.focused)
+                focused += thing.name;
+        }
+        auto *holder = QAccessible::queryAccessibleInterface(window().activeFocusItem());
+        ASSERT_TRUE(holder);
+        EXPECT_EQ(holder->role(), QAccessible::Button);
+        EXPECT_EQ(focused, QStringList{holder->text(QAccessible::Name)});
+        press(Qt::Key_Down);
+        settle();
+        EXPECT_EQ(spokenFocusedIssues(), 1) << "whoever walks on is told of the issue again";
     }
-    auto *holder = QAccessible::queryAccessibleInterface(window().activeFocusItem());
-    ASSERT_TRUE(holder);
-    EXPECT_EQ(holder->role(), QAccessible::Button);
-    EXPECT_EQ(focused, QStringList{holder->text(QAccessible::Name)});
 }
 
 TEST_F(Accessibility, WhoeverWalksTheIssuesFromAButtonHearsTheRow)

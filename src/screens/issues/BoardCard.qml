@@ -10,6 +10,8 @@ CardBody {
     id: root
 
     required property string accessibleName
+    // The board has the keyboard: what has the focus on it is what a screen reader speaks of.
+    property bool hasKeyboard: false
 
     signal clicked(modifiers: int)
     signal menuRequested(x: real, y: real)
@@ -26,7 +28,7 @@ CardBody {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
     Accessible.focusable: true
-    Accessible.focused: root.isFocused && root.visible
+    Accessible.focused: root.isFocused && root.visible && root.hasKeyboard
     Accessible.selectable: true
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(0)

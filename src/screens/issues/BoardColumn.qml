@@ -23,6 +23,7 @@ Rectangle {
     property string menuKey: ""
     // What the bar over the board's lower edge hides.
     property int clearance: 0
+    property bool hasKeyboard: false
     // A drag would land here; and how far down it is.
     property bool isTargeted: false
     property real dragY: 0
@@ -135,6 +136,7 @@ Rectangle {
             readonly property string glideKey: issue.key
             width: list.width
             style: root.cardStyle
+            hasKeyboard: root.hasKeyboard
             hasMenu: root.menuKey === issue.key
             onClicked: modifiers => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)

@@ -78,6 +78,7 @@ FocusScope {
                     height: columns.height
                     focusedKey: root.store.focusedKey
                     cardStyle: look
+                    hasKeyboard: board.activeFocus
                     clearance: root.store.isSelecting ? Metrics.selectionBarRoom : 0
                     onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
