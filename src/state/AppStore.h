@@ -13,6 +13,7 @@
 #include "state/IssueDerivation.h"
 #include "state/KeyCommand.h"
 #include "state/KeyPress.h"
+#include "state/ListedIssues.h"
 #include "state/OptimisticEdit.h"
 #include "state/OptionBuilders.h"
 #include "state/SelectionRules.h"
@@ -100,8 +101,8 @@ public:
     /// The best known record of the issue.
     std::optional<SharedIssue> issue(const QString &key) const;
     std::optional<Project> project(const QString &key) const;
-    /// The last known list of each scope met in this session.
-    const QHash<IssueScope, IssueList> &scopeCache() const { return m_scopeCache; }
+    /// The last known list of each scope met in this session. Made for the caller.
+    QHash<IssueScope, IssueList> scopeCache() const;
     /// Every user met so far, by id; outlives sessions.
     const QHash<QString, JiraUser> &knownUsers() const { return m_knownUsers; }
 
@@ -111,6 +112,8 @@ public:
     const QList<IssueGroup> &boardColumns() const { return derivation().boardColumns(); }
     /// The keys in display order: the path of the arrow keys.
     const QStringList &flatVisibleKeys() const { return derivation().flatVisibleKeys(); }
+    /// The same path without a pass over it; valid until a field changes.
+    VisiblePath visiblePath() const { return derivation().visiblePath(); }
     /// All of the above and what the filter menus offer.
     const IssueDerivation &derivation() const;
     const QString &scopeTitle() const { return *m_scopeTitle; }
@@ -269,9 +272,11 @@ private:
     // AppStoreLoading.cpp
     void takeReloaded(const IssueScope &scope, const Settled<IssueList> &outcome);
     void startProjectMeta();
-    void mergeIntoDetails(const IssueList &fresh);
+    void mergeIntoDetails();
+    void uncheckUnlisted();
     // AppStoreDetails.cpp
     void takeDetails(const QString &key, const Issue &issue);
+    void takeFullRecord(const Issue &issue);
     void takeDetailsFailure(const QString &key, const TaskFailure &failure);
     void takeAssignables(const QString &key, const QList<JiraUser> &users);
     // AppStoreEdits.cpp, AppStoreTransitions.cpp
@@ -282,6 +287,13 @@ private:
     QCoro::Task<> transition(OptimisticEdit edit, IssueStatus wished);
     void undo(const OptimisticEdit &edit, const TaskFailure &failure);
     void mutate(const IssueChanges &changes);
+    /// Records that take their rows' places in the list, with the same key and project each.
+    using ListedRecords = std::map<quint32, SharedIssue>;
+    enum class InCache { Stay, Follow };
+    void replaceListed(const ListedRecords &records, InCache inCache);
+    void mutateMine(const IssueChanges &changes);
+    void setMyOpenIssues(const IssueList &issues);
+    std::optional<int> myOpenRowOf(const QString &key) const;
     // AppStoreOptions.cpp
     OptionInputs optionInputs(const QStringList &keys) const;
     // AppStoreAttachments.cpp
@@ -323,7 +335,9 @@ private:
     int m_sessionCount = 0;
     /// Grows with each reload and each end of a session; tells a late list from a wanted one.
     int m_generation = 0;
-    QHash<IssueScope, IssueList> m_scopeCache;
+    QHash<IssueScope, ListedIssues> m_scopeCache;
+    /// Of the user's open issues.
+    mutable std::optional<KeyIndex> m_myOpenKeys;
     QSet<QString> m_loadedMeta;
     QHash<QString, JiraUser> m_knownUsers;
     /// How many transitions are under way at once.

@@ -2,20 +2,6 @@
 #include "state/AppStore.h"
 #include "state/IssueUpkeep.h"
 
-namespace {
-
-/// The list with the full record in its issue's place.
-IssueList withFullRecord(IssueList issues, const Issue &issue)
-{
-    const auto row = std::ranges::find_if(std::as_const(issues),
-                                          [&](const auto &i) { return i->key == issue.key; });
-    if (row != issues.cend())
-        issues[std::distance(issues.cbegin(), row)] = withActivityOf(issue, **row);
-    return issues;
-}
-
-} // namespace
-
 QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
 {
     const auto service = *m_service;
@@ -55,7 +41,24 @@ void AppStore::takeDetails(const QString &key, const Issue &issue)
     const Batch batch(*this);
     m_details.insert(key, issue);
     m_detailErrors.remove(key);
-    m_issues.set(withFullRecord(*m_issues, issue));
+    takeFullRecord(issue);
+}
+
+/// The full record in its issue's place in the list.
+void AppStore::takeFullRecord(const Issue &issue)
+{
+    const auto row = derivation().rowOf(issue.key);
+    if (!row)
+        return;
+    const SharedIssue &listed = (*m_issues)[*row];
+    const SharedIssue full = withActivityOf(issue, *listed);
+    if (full == listed)
+        return;
+    if (full->projectKey == listed->projectKey)
+        return replaceListed({{quint32(*row), full}}, InCache::Stay);
+    IssueList issues = *m_issues;
+    issues[*row] = full;
+    m_issues.set(issues);
 }
 
 void AppStore::takeDetailsFailure(const QString &key, const TaskFailure &failure)

@@ -9,21 +9,6 @@ namespace {
 /// How many projects of one list get their metadata fetched, so that a list across many does not flood the service.
 constexpr qsizetype MetaPerReload = 8;
 
-std::optional<SharedIssue> withKey(const IssueList &issues, const QString &key)
-{
-    const auto found =
-        std::ranges::find_if(issues, [&](const auto &issue) { return issue->key == key; });
-    return found == issues.end() ? std::nullopt : std::optional(*found);
-}
-
-QSet<QString> keysOf(const IssueList &issues)
-{
-    QSet<QString> keys;
-    for (const auto &issue : issues)
-        keys.insert(issue->key);
-    return keys;
-}
-
 QStringList someProjectKeys(const IssueList &issues)
 {
     QStringList keys;
@@ -44,7 +29,7 @@ void AppStore::select(const IssueScope &scope)
         return;
     const Batch batch(*this);
     m_scope.set(scope);
-    m_issues.set(m_scopeCache.value(scope));
+    m_issues.set(m_scopeCache.value(scope).issues());
     m_focusedKey.set(std::nullopt);
     m_checked.set({});
     m_loadError.set(std::nullopt);
@@ -93,9 +78,8 @@ void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &o
         const IssueList issues = reusingRecords(*outcome, *m_issues);
         m_issues.set(issues);
         m_scopeCache.insert(scope, issues);
-        mergeIntoDetails(issues);
-        if (!m_checked->isEmpty())
-            m_checked.set(QSet(*m_checked).intersect(keysOf(issues)));
+        mergeIntoDetails();
+        uncheckUnlisted();
         m_loadError.set(std::nullopt);
     } else if (!outcome.error().isCancellation) {
         m_loadError.set(outcome.error().message);
@@ -109,17 +93,21 @@ void AppStore::startProjectMeta()
         spawn(loadProjectMeta(key));
 }
 
-void AppStore::mergeIntoDetails(const IssueList &fresh)
+void AppStore::mergeIntoDetails()
 {
-    if (m_details->isEmpty())
-        return;
     IssueMap details = *m_details;
-    for (const auto &issue : fresh) {
-        const auto known = details.constFind(issue->key);
-        if (known != details.constEnd())
-            details.insert(issue->key, mergedIntoDetails(*issue, **known));
+    for (const auto &known : *m_details) {
+        if (const auto row = derivation().rowOf(known->key))
+            details.insert(known->key, mergedIntoDetails(*(*m_issues)[*row], *known));
     }
     m_details.set(std::move(details));
+}
+
+void AppStore::uncheckUnlisted()
+{
+    QSet<QString> checked = *m_checked;
+    checked.removeIf([this](const QString &key) { return !derivation().rowOf(key); });
+    m_checked.set(checked);
 }
 
 QCoro::Task<> AppStore::refreshMyIssues()
@@ -132,7 +120,21 @@ QCoro::Task<> AppStore::refreshMyIssues()
     if (!mine)
         co_return;
     m_scopeCache.insert(scope, *mine);
-    m_myOpenIssues.set(openIssues(*mine));
+    setMyOpenIssues(openIssues(*mine));
+}
+
+void AppStore::setMyOpenIssues(const IssueList &issues)
+{
+    m_myOpenKeys.reset();
+    m_myOpenIssues.set(issues);
+}
+
+QHash<IssueScope, IssueList> AppStore::scopeCache() const
+{
+    QHash<IssueScope, IssueList> lists;
+    for (auto list = m_scopeCache.cbegin(); list != m_scopeCache.cend(); ++list)
+        lists.insert(list.key(), list->issues());
+    return lists;
 }
 
 QCoro::Task<IssueList> AppStore::searchRemote(QString text, std::stop_token stop)
@@ -149,8 +151,10 @@ std::optional<SharedIssue> AppStore::issue(const QString &key) const
     const auto opened = m_details->constFind(key);
     if (opened != m_details->constEnd())
         return *opened;
-    const auto listed = withKey(*m_issues, key);
-    return listed ? listed : withKey(*m_myOpenIssues, key);
+    if (const auto row = derivation().rowOf(key))
+        return (*m_issues)[*row];
+    const auto row = myOpenRowOf(key);
+    return row ? std::optional((*m_myOpenIssues)[*row]) : std::nullopt;
 }
 
 std::optional<Project> AppStore::project(const QString &key) const

@@ -10,13 +10,13 @@ void AppStore::toggleGroup(const QString &id)
 
 void AppStore::moveFocus(int delta, FocusMove move)
 {
-    setSelection(afterMove(selection(), delta, move, flatVisibleKeys()));
+    setSelection(afterMove(selection(), delta, move, visiblePath()));
 }
 
 void AppStore::handleClick(const QString &key, int modifiers)
 {
     const auto kind = clickKind(Qt::KeyboardModifiers(modifiers));
-    setSelection(afterClick(selection(), key, kind, flatVisibleKeys()));
+    setSelection(afterClick(selection(), key, kind, visiblePath()));
 }
 
 void AppStore::toggleCheck(const QString &key)
@@ -36,7 +36,7 @@ void AppStore::openInInspector(const QString &key)
 
 void AppStore::togglePeek()
 {
-    setSelection(afterTogglePeek(selection(), flatVisibleKeys()));
+    setSelection(afterTogglePeek(selection(), visiblePath()));
 }
 
 void AppStore::setShowInspector(bool shown)

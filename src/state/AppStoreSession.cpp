@@ -102,7 +102,7 @@ void AppStore::resetData()
     m_projectStatuses.set({});
     m_assignables.set({});
     m_projectDetails.set({});
-    m_myOpenIssues.set({});
+    setMyOpenIssues({});
     m_scopeCache.clear();
     m_loadedMeta.clear();
     m_focusedKey.set(std::nullopt);

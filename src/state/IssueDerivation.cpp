@@ -1,6 +1,7 @@
 #include "state/IssueDerivation.h"
 
 #include "state/IssueDerivationBoard.h"
+#include "state/IssueDerivationFilter.h"
 
 namespace {
 
@@ -15,18 +16,6 @@ IssueRows rowsThatPass(const IssueRows &order, const std::vector<quint8> &filter
     }
     rows.resize(count);
     return rows;
-}
-
-std::vector<quint8> filterPasses(const IssueIndex &index, const IssueDerivationInputs &inputs)
-{
-    const bool showsClosed = inputs.showsClosed();
-    const bool isUnfiltered = inputs.filters.isEmpty();
-    std::vector<quint8> passes(index.rows().size());
-    for (std::size_t row = 0; row < passes.size(); ++row) {
-        passes[row] = (showsClosed || !index.rows()[row].isClosed) &&
-                      (isUnfiltered || inputs.filters.matches(*index.issues()[row]));
-    }
-    return passes;
 }
 
 IssueList issuesAt(const IssueRows &rows, const IssueList &issues)
@@ -63,11 +52,22 @@ const IssueDerivation::Memo<T> &IssueDerivation::refreshed(Memo<T> &memo, const 
     memo.sources = sources;
     ++memo.computations;
     T value = compute();
-    if (memo.version == 0 || !(value == memo.value)) {
-        memo.value = std::move(value);
-        ++memo.version;
-    }
+    const bool isNews = memo.version == 0 || !(value == memo.value);
+    // Also where readers see no difference: what they do not see may be another.
+    memo.value = std::move(value);
+    memo.version += isNews;
     return memo;
+}
+
+template <typename Compute>
+const IssueDerivation::Memo<IssueSections> &
+IssueDerivation::refreshed(Grouped &grouped, const Sources &sources, Compute compute)
+{
+    const auto before = grouped.memo.version;
+    refreshed(grouped.memo, sources, compute);
+    if (grouped.memo.version != before)
+        grouped.followed = {grouped.memo.version, {}, {}};
+    return grouped.memo;
 }
 
 void IssueDerivation::noteChange(Input input, bool hasChanged)
@@ -104,17 +104,59 @@ IssueDerivationContext IssueDerivation::context() const
     return {m_inputs, m_index, m_ranks, m_names};
 }
 
+IssueDerivation::Sources IssueDerivation::indexSources() const
+{
+    return {version(Issues)};
+}
+
+IssueDerivation::Sources IssueDerivation::orderSources() const
+{
+    return {version(Issues), version(Recap), version(OrderingInput)};
+}
+
+IssueDerivation::Sources IssueDerivation::filterSources() const
+{
+    return {m_indexMemo.version, version(Filters), version(Closed)};
+}
+
+IssueDerivation::Sources IssueDerivation::searchSources() const
+{
+    return {m_indexMemo.version, version(Text)};
+}
+
+IssueDerivation::Sources IssueDerivation::visibleSources() const
+{
+    return {m_order.version, m_filter.version, m_search.version};
+}
+
+IssueDerivation::Sources IssueDerivation::visibleIssuesSources() const
+{
+    return {version(Issues), m_visible.version};
+}
+
+IssueDerivation::Sources IssueDerivation::listSources() const
+{
+    return {version(Issues), m_visible.version, version(GroupingInput), version(Recap),
+            version(Me),     version(Projects), version(Statuses),      version(Locale)};
+}
+
+IssueDerivation::Sources IssueDerivation::boardSources() const
+{
+    return {version(Issues), m_visible.version, version(Project),
+            version(Closed), version(Statuses), version(Locale)};
+}
+
 const IssueDerivation::Memo<quint64> &IssueDerivation::index() const
 {
-    return refreshed(m_indexMemo, {version(Issues)}, [this] {
+    return refreshed(m_indexMemo, indexSources(), [this] {
         m_index.update(m_inputs.issues);
         return version(Issues);
     });
 }
 
-const IssueDerivation::Memo<IssueRows> &IssueDerivation::order() const
+const IssueDerivation::Memo<IssueOrder> &IssueDerivation::order() const
 {
-    return refreshed(m_order, {version(Issues), version(Recap), version(OrderingInput)}, [this] {
+    return refreshed(m_order, orderSources(), [this] {
         return m_inputs.isRecap() ? recapOrder(m_inputs.issues)
                                   : issueOrder(m_inputs.issues, m_inputs.ordering);
     });
@@ -122,55 +164,69 @@ const IssueDerivation::Memo<IssueRows> &IssueDerivation::order() const
 
 const IssueDerivation::Memo<std::vector<quint8>> &IssueDerivation::filter() const
 {
-    return refreshed(m_filter, {index().version, version(Filters), version(Closed)},
-                     [this] { return filterPasses(m_index, m_inputs); });
+    index();
+    return refreshed(m_filter, filterSources(), [this] { return filterPasses(m_index, m_inputs); });
 }
 
-const IssueDerivation::Memo<std::vector<quint8>> &IssueDerivation::search() const
+const IssueDerivation::Memo<IssueDerivation::Search> &IssueDerivation::search() const
 {
-    return refreshed(m_search, {index().version, version(Text)}, [this] {
-        return m_index.texts().containing(SearchTexts::needle(m_inputs.filterText));
-    });
+    index();
+    // Before its sources are noted as the present ones.
+    const bool isSameIndex = m_search.sources.front() == m_indexMemo.version;
+    return refreshed(m_search, searchSources(),
+                     [this, isSameIndex] { return searched(isSameIndex); });
+}
+
+IssueDerivation::Search IssueDerivation::searched(bool isSameIndex) const
+{
+    const auto needle = SearchTexts::needle(m_inputs.filterText);
+    const bool isNarrower = isSameIndex && needle.contains(m_search.value.needle);
+    return {needle, isNarrower ? m_index.texts().containing(needle, m_search.value.hits)
+                               : m_index.texts().containing(needle)};
 }
 
 const IssueDerivation::Memo<IssueRows> &IssueDerivation::visible() const
 {
-    return refreshed(m_visible, {order().version, filter().version, search().version}, [this] {
-        return rowsThatPass(m_order.value, m_filter.value, m_search.value);
+    order();
+    filter();
+    search();
+    return refreshed(m_visible, visibleSources(), [this] {
+        return rowsThatPass(m_order.value.rows, m_filter.value, m_search.value.hits);
     });
 }
 
 const IssueList &IssueDerivation::visibleIssues() const
 {
-    return refreshed(m_visibleIssues, {version(Issues), visible().version},
+    visible();
+    return refreshed(m_visibleIssues, visibleIssuesSources(),
                      [this] { return issuesAt(m_visible.value, m_inputs.issues); })
         .value;
 }
 
-const IssueDerivation::Memo<QList<IssueGroup>> &IssueDerivation::listMemo() const
+const IssueDerivation::Memo<IssueSections> &IssueDerivation::listMemo() const
 {
-    const Sources sources{version(Issues),   visible().version, version(GroupingInput),
-                          version(Recap),    version(Me),       version(Projects),
-                          version(Statuses), version(Locale)};
-    return refreshed(m_groups, sources, [this] { return listGroups(m_visible.value, context()); });
+    visible();
+    return refreshed(m_groups, listSources(), [this] {
+        return IssueSections(m_visible.value, m_index, m_order.value.keys, listRules(context()));
+    });
 }
 
-const IssueDerivation::Memo<QList<IssueGroup>> &IssueDerivation::boardMemo() const
+const IssueDerivation::Memo<IssueSections> &IssueDerivation::boardMemo() const
 {
-    const Sources sources{version(Issues), visible().version, version(Project),
-                          version(Closed), version(Statuses), version(Locale)};
-    return refreshed(m_board, sources,
-                     [this] { return ::boardColumns(m_visible.value, context()); });
+    visible();
+    return refreshed(m_board, boardSources(), [this] {
+        return IssueSections(m_visible.value, m_index, m_order.value.keys, boardRules(context()));
+    });
 }
 
 const QList<IssueGroup> &IssueDerivation::groups() const
 {
-    return listMemo().value;
+    return listMemo().value.groups();
 }
 
 const QList<IssueGroup> &IssueDerivation::boardColumns() const
 {
-    return boardMemo().value;
+    return boardMemo().value.groups();
 }
 
 const QStringList &IssueDerivation::flatVisibleKeys() const
@@ -178,16 +234,24 @@ const QStringList &IssueDerivation::flatVisibleKeys() const
     if (m_inputs.layout == LayoutMode::Board) {
         return refreshed(m_keys, {version(Layout), boardMemo().version},
                          [this] {
-                             return keysOf(m_board.value, [](const IssueGroup &) { return true; });
+                             return keysOf(boardColumns(), [](const IssueGroup &) { return true; });
                          })
             .value;
     }
     return refreshed(m_keys, {version(Layout), listMemo().version, version(Collapsed)},
                      [this] {
-                         return keysOf(m_groups.value, [this](const IssueGroup &group) {
+                         return keysOf(groups(), [this](const IssueGroup &group) {
                              return !m_inputs.collapsedGroups.contains(group.id);
                          });
                      })
+        .value;
+}
+
+const KeyShapes &IssueDerivation::keyShapes() const
+{
+    visible();
+    return refreshed(m_shapes, visibleIssuesSources(),
+                     [this] { return KeyShapes(visibleIssues()); })
         .value;
 }
 
@@ -220,9 +284,9 @@ int IssueDerivation::timesComputed(Step step) const
     case Step::VisibleIssues:
         return m_visibleIssues.computations;
     case Step::Groups:
-        return m_groups.computations;
+        return m_groups.memo.computations;
     case Step::Board:
-        return m_board.computations;
+        return m_board.memo.computations;
     case Step::Keys:
         return m_keys.computations;
     case Step::Menus:

@@ -2,41 +2,30 @@
 
 #include "state/IssueDerivationSort.h"
 
+#include <QSet>
+
 namespace {
 
-/// One status for each group key, the first that was entered.
-class Representatives
+/// The statuses of the workflow that the list is about; of those that share a group the first.
+QList<IssueStatus> workflow(const IssueDerivationInputs &inputs)
 {
-public:
-    void enter(const IssueStatus &status)
-    {
-        if (m_keys.contains(status.groupKey()))
-            return;
-        m_keys.insert(status.groupKey());
-        m_statuses.append(status);
+    const auto *project = inputs.scope.asProject();
+    if (!project)
+        return {};
+    QSet<QString> keys;
+    QList<IssueStatus> statuses;
+    for (const auto &status : inputs.projectStatuses.value(project->key)) {
+        if (keys.contains(status.groupKey()))
+            continue;
+        keys.insert(status.groupKey());
+        statuses.append(status);
     }
-
-    QList<IssueStatus> statuses() const { return m_statuses; }
-
-private:
-    QSet<QString> m_keys;
-    QList<IssueStatus> m_statuses;
-};
-
-QList<IssueStatus> columnStatuses(const QList<IssueList> &lists,
-                                  const IssueDerivationInputs &inputs)
-{
-    Representatives representatives;
-    if (const auto *project = inputs.scope.asProject()) {
-        for (const auto &status : inputs.projectStatuses.value(project->key))
-            representatives.enter(status);
-    }
-    for (const auto &list : lists)
-        representatives.enter(list.first()->status);
-    auto statuses = representatives.statuses();
-    if (!inputs.showsClosed())
-        statuses.removeIf([](const IssueStatus &status) { return isClosed(status.category()); });
     return statuses;
+}
+
+SectionHead columnOf(const IssueStatus &status, const IssueDerivationContext &context)
+{
+    return {statusGroup(status), sectionPlace(boardPlace(status, context.ranks, context.names))};
 }
 
 } // namespace
@@ -48,15 +37,18 @@ QList<IssueStatus> inBoardOrder(const QList<IssueStatus> &statuses, const Status
                        [&](const IssueStatus &status) { return boardPlace(status, ranks, names); });
 }
 
-QList<IssueGroup> boardColumns(const IssueRows &visible, const IssueDerivationContext &context)
+SectionRules boardRules(const IssueDerivationContext &context)
 {
-    const auto lists = issuesByStatus(visible, context.index);
-    QHash<QString, IssueList> issues;
-    for (const auto &list : lists)
-        issues.insert(list.first()->status.groupKey(), list);
-    QList<IssueGroup> columns;
-    for (const auto &status :
-         inBoardOrder(columnStatuses(lists, context.inputs), context.ranks, context.names))
-        columns.append(statusGroup(status, issues.value(status.groupKey())));
-    return columns;
+    SectionRules rules{&IndexedIssue::status,
+                       [context](const Issue &issue) { return columnOf(issue.status, context); },
+                       {},
+                       {}};
+    for (const auto &status : workflow(context.inputs)) {
+        const quint32 number = context.index.statusNumber(status.groupKey());
+        if (context.inputs.showsClosed() || !isClosed(status.category()))
+            rules.fixed.push_back({number, columnOf(status, context)});
+        else
+            rules.hidden.push_back(number);
+    }
+    return rules;
 }

@@ -6,6 +6,6 @@
 QList<IssueStatus> inBoardOrder(const QList<IssueStatus> &statuses, const StatusRanks &ranks,
                                 const NameOrder &names);
 
-/// The columns of the board layout for the visible issues. In a project's list every status of its workflow has a column,
-/// also without issues; closed columns stand only where closed work is shown.
-QList<IssueGroup> boardColumns(const IssueRows &visible, const IssueDerivationContext &context);
+/// How the board divides issues. In a project's list every status of its workflow has a column, also without issues;
+/// closed columns stand only where closed work is shown. Lives no longer than what the context names.
+SectionRules boardRules(const IssueDerivationContext &context);

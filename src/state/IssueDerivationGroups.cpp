@@ -1,145 +1,98 @@
 #include "state/IssueDerivationGroups.h"
 
-#include "state/IssueDerivationSort.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-template <typename MakeGroup>
-QList<IssueGroup> groupsOf(const QList<IssueList> &lists, MakeGroup makeGroup)
+SectionPlace placeByName(int part, const QString &name, const NameOrder &names)
 {
-    QList<IssueGroup> groups;
-    groups.reserve(lists.size());
-    for (const auto &list : lists)
-        groups.append(makeGroup(list));
-    return groups;
+    return {part, 0, 0, names.key(name), {}};
 }
 
-IssueGroup assigneeGroup(const IssueList &issues)
+SectionPlace placeByKey(const QString &key, const NameOrder &names)
 {
-    const auto user = issues.first()->assignee;
-    return {"a:"_L1 + (user ? user->id : QString()), user ? user->name : u"Non assigné"_s,
-            IssueGroupKind::assignee(user), issues};
+    return {0, 0, 0, names.key({}), key};
 }
 
-IssueGroup priorityGroup(const IssueList &issues)
-{
-    const auto level = issues.first()->priorityLevel();
-    return {"p:"_L1 + QString::number(int(level)), displayName(level),
-            IssueGroupKind::priority(level), issues};
-}
-
-IssueGroup projectGroup(const IssueList &issues, const IssueDerivationInputs &inputs)
-{
-    const auto &key = issues.first()->projectKey;
-    const auto project = inputs.project(key);
-    return {"j:"_L1 + key, project ? project->name : key, IssueGroupKind::project(project), issues};
-}
-
-QList<IssueGroup> statusGroups(const IssueRows &visible, const IssueDerivationContext &context)
+SectionHead ofStatus(const IssueStatus &status, const IssueDerivationContext &context)
 {
     const auto doneFirst = context.inputs.isRecap() ? DoneFirst::Yes : DoneFirst::No;
-    const auto place = [&](const IssueList &issues) {
-        return listPlace(issues.first()->status, context.ranks, context.names, doneFirst);
-    };
-    return groupsOf(
-        sortedByKey(issuesByStatus(visible, context.index), place),
-        [](const IssueList &issues) { return statusGroup(issues.first()->status, issues); });
+    return {statusGroup(status),
+            sectionPlace(listPlace(status, context.ranks, context.names, doneFirst))};
 }
 
 /// My own issues lead, nobody's come last, people stand in alphabetical order between them.
-QList<IssueGroup> assigneeGroups(const IssueRows &visible, const IssueDerivationContext &context)
+SectionHead ofAssignee(const std::optional<JiraUser> &user, const IssueDerivationContext &context)
 {
     enum Part { Mine, Somebodys, Nobodys };
+    const auto id = user ? user->id : QString();
+    const auto name = user ? user->name : QString();
     const auto myId = context.inputs.me ? std::optional(context.inputs.me->id) : std::nullopt;
-    const auto part = [&myId](const QString &id) {
-        if (id == myId)
-            return Mine;
-        return id.isEmpty() ? Nobodys : Somebodys;
-    };
-    const auto place = [&](const IssueList &issues) {
-        const auto user = issues.first()->assigneeOrEmpty();
-        return std::pair(part(user.id), context.names.key(user.name));
-    };
-    return groupsOf(sortedByKey(issuesBy(&IndexedIssue::assignee, visible, context.index), place),
-                    assigneeGroup);
+    const Part others = id.isEmpty() ? Nobodys : Somebodys;
+    return {{"a:"_L1 + id, user ? name : u"Non assigné"_s, IssueGroupKind::assignee(user), {}},
+            placeByName(id == myId ? Mine : others, name, context.names)};
 }
 
-QList<IssueGroup> priorityGroups(const IssueRows &visible, const IssueDerivationContext &context)
+SectionHead ofPriority(PriorityLevel level, const IssueDerivationContext &context)
 {
-    const auto place = [](const IssueList &issues) { return issues.first()->priorityLevel(); };
-    return groupsOf(sortedByKey(issuesBy(&IndexedIssue::level, visible, context.index), place),
-                    priorityGroup);
+    return {{"p:"_L1 + QString::number(int(level)),
+             displayName(level),
+             IssueGroupKind::priority(level),
+             {}},
+            placeByName(int(level), {}, context.names)};
 }
 
-QList<IssueGroup> projectGroups(const IssueRows &visible, const IssueDerivationContext &context)
+SectionHead ofProject(const QString &key, const IssueDerivationContext &context)
 {
-    const auto place = [](const IssueList &issues) { return issues.first()->projectKey; };
-    return groupsOf(
-        sortedByKey(issuesBy(&IndexedIssue::project, visible, context.index), place),
-        [&context](const IssueList &issues) { return projectGroup(issues, context.inputs); });
+    const auto project = context.inputs.project(key);
+    return {{"j:"_L1 + key, project ? project->name : key, IssueGroupKind::project(project), {}},
+            placeByKey(key, context.names)};
 }
 
-QList<IssueGroup> oneGroup(const IssueRows &visible, const IssueDerivationContext &context)
+SectionHead ofAll(const IssueDerivationContext &context)
 {
-    IssueList issues;
-    issues.reserve(visible.size());
-    for (const auto row : visible)
-        issues.append(context.index.issues()[row]);
-    return {{u"all"_s, u"Tous les tickets"_s, IssueGroupKind::all(), issues}};
+    return {{u"all"_s, u"Tous les tickets"_s, IssueGroupKind::all(), {}},
+            placeByKey({}, context.names)};
 }
 
 } // namespace
 
-QList<IssueList> issuesBy(quint32 IndexedIssue::*number, const IssueRows &rows,
-                          const IssueIndex &index)
+IssueGroup statusGroup(const IssueStatus &status)
 {
-    constexpr qsizetype none = -1;
-    const auto count =
-        std::max({index.statusCount(), index.assigneeCount(), index.projectCount(), 5u});
-    std::vector<qsizetype> sizes(count, 0);
-    for (const auto row : rows)
-        ++sizes[index.rows()[row].*number];
-    std::vector<qsizetype> places(count, none);
-    QList<IssueList> lists;
-    for (const auto row : rows) {
-        const auto which = index.rows()[row].*number;
-        if (places[which] == none) {
-            places[which] = lists.size();
-            lists.emplaceBack().reserve(sizes[which]);
-        }
-        lists[places[which]].append(index.issues()[row]);
-    }
-    return lists;
+    return {"s:"_L1 + status.groupKey(), status.displayName(), IssueGroupKind::status(status), {}};
 }
 
-QList<IssueList> issuesByStatus(const IssueRows &rows, const IssueIndex &index)
+SectionPlace sectionPlace(const StatusPlace &place)
 {
-    return issuesBy(&IndexedIssue::status, rows, index);
+    return std::tuple_cat(place, std::tuple(QString()));
 }
 
-IssueGroup statusGroup(const IssueStatus &status, const IssueList &issues)
+SectionRules listRules(const IssueDerivationContext &context)
 {
-    return {"s:"_L1 + status.groupKey(), status.displayName(), IssueGroupKind::status(status),
-            issues};
-}
-
-QList<IssueGroup> listGroups(const IssueRows &visible, const IssueDerivationContext &context)
-{
-    if (visible.empty())
-        return {};
     switch (context.inputs.grouping) {
     case Grouping::Status:
-        return statusGroups(visible, context);
+        return {&IndexedIssue::status,
+                [context](const Issue &issue) { return ofStatus(issue.status, context); },
+                {},
+                {}};
     case Grouping::Assignee:
-        return assigneeGroups(visible, context);
+        return {&IndexedIssue::assignee,
+                [context](const Issue &issue) { return ofAssignee(issue.assignee, context); },
+                {},
+                {}};
     case Grouping::Priority:
-        return priorityGroups(visible, context);
+        return {
+            &IndexedIssue::level,
+            [context](const Issue &issue) { return ofPriority(issue.priorityLevel(), context); },
+            {},
+            {}};
     case Grouping::Project:
-        return projectGroups(visible, context);
+        return {&IndexedIssue::project,
+                [context](const Issue &issue) { return ofProject(issue.projectKey, context); },
+                {},
+                {}};
     case Grouping::None:
         break;
     }
-    return oneGroup(visible, context);
+    return {&IndexedIssue::everything, [context](const Issue &) { return ofAll(context); }, {}, {}};
 }

@@ -41,6 +41,15 @@ quint32 Ordinals::of(const QString &text)
     return known != m_numbers.constEnd() ? *known : *m_numbers.insert(text, count());
 }
 
+KeyIndex keyIndexOf(const IssueList &issues)
+{
+    std::vector<QStringView> keys;
+    keys.reserve(issues.size());
+    for (const auto &issue : issues)
+        keys.emplace_back(issue->key);
+    return KeyIndex(std::move(keys));
+}
+
 IssueList reusingRecords(IssueList fresh, const IssueList &known)
 {
     EarlierRecords earlier(known);
@@ -57,6 +66,7 @@ void IssueIndex::update(const IssueList &issues)
 {
     if (issues.isEmpty())
         forgetNames();
+    m_keys.reset();
     EarlierRecords earlier(m_issues);
     SearchTexts texts;
     texts.reserve(issues.size(), m_texts.bytes());
@@ -64,8 +74,8 @@ void IssueIndex::update(const IssueList &issues)
     rows.reserve(issues.size());
     for (const auto &issue : issues) {
         const auto old = earlier.rowOf(issue, qsizetype(rows.size()));
-        const bool isKnown = old && m_issues[*old].isSameObject(issue);
-        if (isKnown || (old && SearchTexts::sameTexts(*m_issues[*old], *issue)))
+        const bool isKnown = old && m_issues.at(*old).isSameObject(issue);
+        if (isKnown || (old && SearchTexts::sameTexts(*m_issues.at(*old), *issue)))
             texts.append(m_texts, *old);
         else
             texts.append(*issue), ++m_foldedIssues;
@@ -76,11 +86,30 @@ void IssueIndex::update(const IssueList &issues)
     m_texts = std::move(texts);
 }
 
+void IssueIndex::replace(quint32 row)
+{
+    const Issue &issue = *m_issues.at(row);
+    m_rows[row] = indexed(issue);
+    m_texts.replace(row, issue);
+    ++m_foldedIssues;
+    if (m_keys)
+        m_keys->relocate(int(row), issue.key);
+}
+
+std::optional<int> IssueIndex::rowOf(QStringView key) const
+{
+    if (!m_keys)
+        m_keys = keyIndexOf(m_issues);
+    return m_keys->find(key);
+}
+
 IndexedIssue IssueIndex::indexed(const Issue &issue)
 {
     return {m_statuses.of(issue.status.groupKey()),
             m_assignees.of(issue.assignee ? issue.assignee->id : QString()),
-            m_projects.of(issue.projectKey), quint32(issue.priorityLevel()),
+            m_projects.of(issue.projectKey),
+            quint32(issue.priorityLevel()),
+            0,
             ::isClosed(issue.status.category())};
 }
 

@@ -1,41 +1,25 @@
 #include "state/IssueDerivationOrder.h"
 
-#include <numeric>
+#include <algorithm>
 
 namespace {
 
-/// What an issue is sorted by; the position keeps the sort stable.
-struct SortKey
-{
-    qint64 major = 0;
-    qint64 minor = 0;
-    quint32 row = 0;
-
-    auto operator<=>(const SortKey &) const = default;
-};
-
 template <typename MakeKey>
-IssueRows rowsSortedBy(const IssueList &issues, MakeKey makeKey)
+IssueOrder sortedBy(const IssueList &issues, MakeKey makeKey)
 {
-    std::vector<SortKey> keys;
-    keys.reserve(issues.size());
+    IssueOrder order;
+    order.keys.reserve(issues.size());
     for (const auto &issue : issues) {
         SortKey key = makeKey(*issue);
-        key.row = quint32(keys.size());
-        keys.push_back(key);
+        key.row = quint32(order.keys.size());
+        order.keys.push_back(key);
     }
-    std::sort(keys.begin(), keys.end());
-    IssueRows rows(keys.size());
-    std::transform(keys.begin(), keys.end(), rows.begin(),
+    auto sorted = order.keys;
+    std::sort(sorted.begin(), sorted.end());
+    order.rows.resize(sorted.size());
+    std::transform(sorted.begin(), sorted.end(), order.rows.begin(),
                    [](const SortKey &key) { return key.row; });
-    return rows;
-}
-
-IssueRows serviceOrder(const IssueList &issues)
-{
-    IssueRows rows(issues.size());
-    std::iota(rows.begin(), rows.end(), 0);
-    return rows;
+    return order;
 }
 
 /// Sorts later instants before earlier ones.
@@ -67,12 +51,34 @@ QHash<QString, qint64> projectPlaces(const IssueList &issues)
     return places;
 }
 
-IssueRows keyOrder(const IssueList &issues)
+IssueOrder keyOrder(const IssueList &issues)
 {
     const auto places = projectPlaces(issues);
-    return rowsSortedBy(issues, [&places](const Issue &issue) {
+    return sortedBy(issues, [&places](const Issue &issue) {
         return SortKey{places.value(issue.projectKey), issue.number()};
     });
+}
+
+SortKey recapKey(const Issue &issue)
+{
+    return {latestFirst(lastActivityDate(issue))};
+}
+
+/// All but the place by key, which hangs on the projects of the whole list.
+SortKey keyIn(Ordering ordering, const Issue &issue)
+{
+    switch (ordering) {
+    case Ordering::Priority:
+        return {qint64(issue.priorityLevel()), latestFirst(issue.updated)};
+    case Ordering::Updated:
+        return {latestFirst(issue.updated)};
+    case Ordering::Created:
+        return {latestFirst(issue.created)};
+    case Ordering::Key:
+    case Ordering::Manual:
+        break;
+    }
+    return {};
 }
 
 int listRank(StatusCategory category, DoneFirst doneFirst)
@@ -128,29 +134,36 @@ StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, cons
             names.key(status.name())};
 }
 
-IssueRows recapOrder(const IssueList &issues)
+IssueOrder recapOrder(const IssueList &issues)
 {
-    return rowsSortedBy(
-        issues, [](const Issue &issue) { return SortKey{latestFirst(lastActivityDate(issue))}; });
+    return sortedBy(issues, recapKey);
 }
 
-IssueRows issueOrder(const IssueList &issues, Ordering ordering)
+IssueOrder issueOrder(const IssueList &issues, Ordering ordering)
 {
-    switch (ordering) {
-    case Ordering::Priority:
-        return rowsSortedBy(issues, [](const Issue &issue) {
-            return SortKey{qint64(issue.priorityLevel()), latestFirst(issue.updated)};
-        });
-    case Ordering::Updated:
-        return rowsSortedBy(issues,
-                            [](const Issue &issue) { return SortKey{latestFirst(issue.updated)}; });
-    case Ordering::Created:
-        return rowsSortedBy(issues,
-                            [](const Issue &issue) { return SortKey{latestFirst(issue.created)}; });
-    case Ordering::Key:
+    if (ordering == Ordering::Key)
         return keyOrder(issues);
-    case Ordering::Manual:
-        break;
-    }
-    return serviceOrder(issues);
+    return sortedBy(issues, [ordering](const Issue &issue) { return keyIn(ordering, issue); });
+}
+
+SortKey changedRecapKey(const SortKey &before, const Issue &issue)
+{
+    SortKey key = recapKey(issue);
+    key.row = before.row;
+    return key;
+}
+
+SortKey changedKey(const SortKey &before, const Issue &issue, Ordering ordering)
+{
+    if (ordering == Ordering::Key)
+        return before;
+    SortKey key = keyIn(ordering, issue);
+    key.row = before.row;
+    return key;
+}
+
+qsizetype placeOf(const SortKey &key, const IssueRows &rows, const SortKeys &keys)
+{
+    const auto isBefore = [&keys](quint32 row, const SortKey &other) { return keys[row] < other; };
+    return std::lower_bound(rows.begin(), rows.end(), key, isBefore) - rows.begin();
 }

@@ -2,6 +2,7 @@
 
 #include "model/TextFolding.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -18,6 +19,15 @@ void appendText(QByteArray &texts, const QString &text)
 {
     texts += folded(text).toUtf8();
     texts += endOfText;
+}
+
+void appendTexts(QByteArray &texts, const Issue &issue)
+{
+    appendText(texts, issue.key);
+    appendText(texts, issue.summary);
+    for (const auto &label : issue.labels)
+        appendText(texts, label);
+    appendText(texts, assigneeName(issue));
 }
 
 } // namespace
@@ -41,19 +51,21 @@ void SearchTexts::reserve(qsizetype issues, qsizetype bytes)
 
 void SearchTexts::append(const Issue &issue)
 {
-    appendText(m_texts, issue.key);
-    appendText(m_texts, issue.summary);
-    for (const auto &label : issue.labels)
-        appendText(m_texts, label);
-    appendText(m_texts, assigneeName(issue));
+    appendTexts(m_texts, issue);
     m_ends.push_back(m_texts.size());
 }
 
 void SearchTexts::append(const SearchTexts &other, qsizetype row)
 {
-    const auto start = row == 0 ? 0 : other.m_ends[row - 1];
-    m_texts.append(other.m_texts.constData() + start, other.m_ends[row] - start);
+    m_texts.append(other.textsOf(row));
     m_ends.push_back(m_texts.size());
+}
+
+void SearchTexts::replace(qsizetype row, const Issue &issue)
+{
+    QByteArray texts;
+    appendTexts(texts, issue);
+    m_replaced.insert(row, texts);
 }
 
 std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
@@ -72,5 +84,33 @@ std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
         hits[row] = 1;
         at = begin + m_ends[row];
     }
+    for (auto texts = m_replaced.cbegin(); texts != m_replaced.cend(); ++texts)
+        hits[texts.key()] = texts.value().contains(needle);
     return hits;
+}
+
+std::vector<quint8> SearchTexts::containing(const QByteArray &needle,
+                                            std::vector<quint8> hits) const
+{
+    // One pass over all texts costs less than many looks into single ones.
+    constexpr std::ptrdiff_t few = 8;
+    if (std::ranges::count(hits, 1) * few > std::ssize(hits))
+        return containing(needle);
+    for (std::size_t row = 0; row < hits.size(); ++row)
+        hits[row] = hits[row] != 0 && contains(qsizetype(row), needle);
+    return hits;
+}
+
+bool SearchTexts::contains(qsizetype row, const QByteArray &needle) const
+{
+    return needle.isEmpty() || textsOf(row).contains(needle);
+}
+
+QByteArrayView SearchTexts::textsOf(qsizetype row) const
+{
+    const auto replaced = m_replaced.constFind(row);
+    if (replaced != m_replaced.constEnd())
+        return *replaced;
+    const auto start = row == 0 ? 0 : m_ends[row - 1];
+    return QByteArrayView(m_texts).sliced(start, m_ends[row] - start);
 }

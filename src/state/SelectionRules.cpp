@@ -13,7 +13,7 @@ QStringList sorted(const QSet<QString> &keys)
 
 /// The row to move to, not yet kept within the list.
 qsizetype targetRow(const std::optional<QString> &focusedKey, int delta,
-                    const QStringList &visibleKeys)
+                    const VisiblePath &visibleKeys)
 {
     const qsizetype row = focusedKey ? visibleKeys.indexOf(*focusedKey) : -1;
     if (row >= 0)
@@ -36,7 +36,7 @@ ClickKind clickKind(Qt::KeyboardModifiers modifiers)
 }
 
 Selection afterClick(Selection selection, const QString &key, ClickKind kind,
-                     const QStringList &visibleKeys)
+                     const VisiblePath &visibleKeys)
 {
     if (kind == ClickKind::Plain || (kind == ClickKind::Range && !selection.focusedKey))
         return afterPlainClick(key);
@@ -55,7 +55,7 @@ Selection afterToggleCheck(Selection selection, const QString &key)
 }
 
 Selection afterCheckRange(Selection selection, const QString &from, const QString &to,
-                          const QStringList &visibleKeys)
+                          const VisiblePath &visibleKeys)
 {
     const auto [first, last] = std::minmax({visibleKeys.indexOf(from), visibleKeys.indexOf(to)});
     if (first < 0)
@@ -65,7 +65,7 @@ Selection afterCheckRange(Selection selection, const QString &from, const QStrin
     return selection;
 }
 
-Selection afterMove(Selection selection, int delta, FocusMove move, const QStringList &visibleKeys)
+Selection afterMove(Selection selection, int delta, FocusMove move, const VisiblePath &visibleKeys)
 {
     if (visibleKeys.isEmpty())
         return selection;
@@ -103,7 +103,7 @@ std::optional<Selection> afterPeek(Selection selection)
     return selection;
 }
 
-Selection afterTogglePeek(Selection selection, const QStringList &visibleKeys)
+Selection afterTogglePeek(Selection selection, const VisiblePath &visibleKeys)
 {
     if (selection.inspectorKey)
         return withInspectorHidden(selection);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "state/Selection.h"
-
-#include <QStringList>
+#include "state/VisiblePath.h"
 
 /// How clicks and keys move a selection. `visibleKeys` are the keys of what the layout shows, in reading order.
 
@@ -16,26 +15,26 @@ ClickKind clickKind(Qt::KeyboardModifiers modifiers);
 /// click when nothing has the focus; a plain click drops the multi-selection and opens the issue in the inspector. All
 /// of them take the focus along.
 Selection afterClick(Selection selection, const QString &key, ClickKind kind,
-                     const QStringList &visibleKeys);
+                     const VisiblePath &visibleKeys);
 /// Adds the key to the multi-selection, or takes it out.
 Selection afterToggleCheck(Selection selection, const QString &key);
 /// Adds all keys from one to the other, whichever stands first; nothing when one of them is not visible.
 Selection afterCheckRange(Selection selection, const QString &from, const QString &to,
-                          const QStringList &visibleKeys);
+                          const VisiblePath &visibleKeys);
 
 /// Whether a move of the focus checks what it leaves and what it reaches.
 enum class FocusMove { Plain, Extending };
 
 /// Moves the focus by `delta` rows, not beyond the ends. A focus that is not visible counts as just outside the list, on
 /// the side it comes from. An open inspector follows.
-Selection afterMove(Selection selection, int delta, FocusMove move, const QStringList &visibleKeys);
+Selection afterMove(Selection selection, int delta, FocusMove move, const VisiblePath &visibleKeys);
 
 /// Return: focuses the target and shows it in the inspector. Nothing without a target.
 std::optional<Selection> afterOpen(Selection selection);
 /// The space bar: shows the focused issue in the inspector, or closes the inspector on it. Nothing without a focus.
 std::optional<Selection> afterPeek(Selection selection);
 /// The command to show or hide the inspector: closes it, or opens it on the focused issue, else on the first visible.
-Selection afterTogglePeek(Selection selection, const QStringList &visibleKeys);
+Selection afterTogglePeek(Selection selection, const VisiblePath &visibleKeys);
 /// The inspector's own switch: on, it shows the focused issue if it shows none yet; off, it closes.
 Selection withInspectorShown(Selection selection);
 Selection withInspectorHidden(Selection selection);

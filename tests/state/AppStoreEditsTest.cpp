@@ -52,16 +52,22 @@ protected:
         return issue;
     }
 
+    static IssueList withKey(IssueList issues, const QString &key)
+    {
+        issues.removeIf([&key](const SharedIssue &issue) { return issue->key != key; });
+        return issues;
+    }
+
     /// The copies of the issue that the store holds and shows.
     IssueList copies(const QString &key)
     {
-        IssueList result = issuesWithKeys({key}, {}, {store->issues()});
-        result += issuesWithKeys({key}, {}, {store->myOpenIssues()});
+        IssueList result = withKey(store->issues(), key);
+        result += withKey(store->myOpenIssues(), key);
         if (store->details().contains(key))
             result += store->details().value(key);
         const IssueScope scope = store->scope();
         store->select(IssueScope::recent());
-        result += issuesWithKeys({key}, {}, {store->issues()});
+        result += withKey(store->issues(), key);
         store->select(scope);
         return result;
     }

@@ -103,6 +103,62 @@ TEST_F(IssueDerivationReuse, AReloadFoldsOnlyWhatReadsDifferently)
     EXPECT_EQ(derivation.foldedIssues(), 201);
 }
 
+TEST_F(IssueDerivationReuse, AnEditedIssueIsFollowedWithoutAnyStepComputedAnewOrAListCopied)
+{
+    auto before = counts();
+    const auto folded = derivation.foldedIssues();
+    const SharedIssue *const place = inputs.issues.constData();
+    derivation.letGo();
+    Issue moved = *inputs.issues.at(7);
+    moved.status = moved.status == done() ? todo() : done();
+    moved.updated = minute(999);
+    inputs.issues[7] = moved;
+    derivation.takeBack(inputs.issues, {7});
+    derivation.visibleIssues();
+    derivation.groups();
+    EXPECT_EQ(counts(), before);
+    EXPECT_EQ(derivation.foldedIssues(), folded + 1);
+    EXPECT_EQ(inputs.issues.constData(), place) << "changed in place";
+    EXPECT_EQ(derivation.inputs().issues.constData(), place);
+}
+
+TEST_F(IssueDerivationReuse, StepsAreToldFromTheVersionThatIsShownUntilThereAreTooMany)
+{
+    const auto shown = derivation.groupsVersion();
+    const auto edit = [this](quint32 row, int minutes) {
+        derivation.letGo();
+        Issue issue = *inputs.issues.at(row);
+        issue.updated = minute(minutes);
+        inputs.issues[row] = issue;
+        derivation.takeBack(inputs.issues, {row});
+    };
+    edit(3, 900);
+    const auto between = derivation.groupsVersion();
+    edit(4, 901);
+    EXPECT_EQ(derivation.groupSteps(shown)->size(), 2);
+    EXPECT_EQ(derivation.groupSteps(between)->size(), 1);
+    EXPECT_EQ(derivation.groupSteps(derivation.groupsVersion())->size(), 0);
+    for (int turn = 0; turn < 100; ++turn)
+        edit(5, 1000 + turn);
+    EXPECT_FALSE(derivation.groupSteps(shown));
+
+    inputs.grouping = Grouping::Priority;
+    apply();
+    EXPECT_FALSE(derivation.groupSteps(between));
+}
+
+TEST_F(IssueDerivationReuse, ANarrowerSearchFindsWhatAWholeOneFinds)
+{
+    for (const auto &text : {u"é"_s, u"ét"_s, u"été"_s, u"t"_s, u""_s, u"web-1"_s, u"web-12"_s}) {
+        inputs.filterText = text;
+        apply();
+        IssueDerivation fresh;
+        fresh.setInputs(inputs);
+        EXPECT_EQ(keysOf(derivation.visibleIssues()), keysOf(fresh.visibleIssues()))
+            << qPrintable(text);
+    }
+}
+
 TEST_F(IssueDerivationReuse, TheBoardIsNotComputedWhileTheListIsShown)
 {
     EXPECT_EQ(derivation.timesComputed(Step::Board), 0);

@@ -51,7 +51,8 @@ TEST(SelectionMove, AFocusThatIsNotVisibleStartsFromTheEdge)
 
 TEST(SelectionMove, AnEmptyListMovesNothing)
 {
-    EXPECT_EQ(afterMove(focusedOn(hidden), 1, FocusMove::Extending, {}), focusedOn(hidden));
+    EXPECT_EQ(afterMove(focusedOn(hidden), 1, FocusMove::Extending, QStringList()),
+              focusedOn(hidden));
 }
 
 TEST(SelectionMove, ExtendingChecksWhatItLeavesAndWhatItReaches)
@@ -189,7 +190,7 @@ TEST(SelectionPeek, TogglingOpensTheFocusedElseTheFirstVisible)
     EXPECT_EQ(afterTogglePeek(focusedOn(u"A-2"_s), rows).inspectorKey, u"A-2"_s);
     EXPECT_EQ(afterTogglePeek({}, rows),
               (Selection{.focusedKey = u"A-1"_s, .checked = {}, .inspectorKey = u"A-1"_s}));
-    EXPECT_EQ(afterTogglePeek({}, {}), Selection{});
+    EXPECT_EQ(afterTogglePeek({}, QStringList()), Selection{});
 }
 
 TEST(SelectionPeek, TheInspectorsSwitch)

@@ -3,7 +3,6 @@
 #include "screens/theme/TypeScale.h"
 
 #include <QFontMetricsF>
-#include <QSet>
 
 #include <cmath>
 
@@ -15,23 +14,13 @@ constexpr int margin = 4;
 
 } // namespace
 
-int keyColumnWidth(const IssueList &issues, const std::function<qreal(const QString &)> &advance)
+int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance)
 {
-    if (issues.isEmpty())
+    if (keys.shapes().empty())
         return narrowest;
     qreal width = 0;
-    QSet<std::pair<QString, qsizetype>> measured;
-    std::pair<QString, qsizetype> last;
-    for (const auto &issue : issues) {
-        // Mostly that of the issue before, which is told without a look into the set.
-        if (issue->key.size() == last.second && issue->projectKey == last.first)
-            continue;
-        last = {issue->projectKey, issue->key.size()};
-        if (measured.contains(last))
-            continue;
-        measured.insert(last);
-        width = std::max(width, advance(issue->key));
-    }
+    for (const auto &shape : keys.shapes())
+        width = std::max(width, advance(shape.example));
     return std::clamp(int(std::ceil(width)) + margin, narrowest, widest);
 }
 
@@ -52,7 +41,7 @@ void KeyColumn::measure()
 {
     const QFontMetricsF metrics(TypeScale().font(TypeScale::Small, TypeScale::roleWeight, true));
     const int width =
-        m_store ? keyColumnWidth(m_store->visibleIssues(),
+        m_store ? keyColumnWidth(m_store->derivation().keyShapes(),
                                  [&](const QString &key) { return metrics.horizontalAdvance(key); })
                 : narrowest;
     if (m_width == width)

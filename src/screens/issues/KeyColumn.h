@@ -8,7 +8,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// The common width of the key column: as wide as the widest key on screen, so that summaries line up and a long project
-/// key cannot eat the row. Computed once per new list, not per row.
+/// key cannot eat the row. Told by one key of each kind, not by every row.
 class KeyColumn : public QObject
 {
     Q_OBJECT
@@ -37,4 +37,4 @@ private:
 
 /// The width of a column that holds all the keys: the widest plus 4, rounded up, between 36 and 150. `advance` measures
 /// one text; digits are taken to be of one width, so keys of one project and length are measured once.
-int keyColumnWidth(const IssueList &issues, const std::function<qreal(const QString &)> &advance);
+int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance);

@@ -1,6 +1,7 @@
 #include "state/models/IssueListModel.h"
 
 #include "model/DateLabels.h"
+#include "state/models/IssueListSteps.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,7 +34,7 @@ void IssueListModel::setIssues(const IssueList &issues)
     QList<IssueListRow> rows;
     rows.reserve(issues.size());
     for (const auto &issue : issues)
-        rows.append({issue->key, issue});
+        rows.append(issueRow(issue));
     setRows(std::move(rows));
 }
 
@@ -42,11 +43,48 @@ void IssueListModel::setRows(QList<IssueListRow> rows)
     Q_EMIT aboutToUpdate();
     m_headerRows = headerRows(rows);
     update(std::move(rows));
+    endUpdate();
+}
+
+void IssueListModel::endUpdate()
+{
     // Their places among the others.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {AccessibleNameRole});
     ++m_revision;
     Q_EMIT updated();
+}
+
+void IssueListModel::takeSteps(const IssueGroupSteps &steps, const QSet<QString> &collapsed)
+{
+    Q_EMIT aboutToUpdate();
+    Steps taker(*this, collapsed);
+    for (const auto &step : steps)
+        std::visit(taker, step);
+    endUpdate();
+}
+
+void IssueListModel::insertCard(int at, const SharedIssue &issue)
+{
+    Q_EMIT aboutToUpdate();
+    insertAt(at, issueRow(issue));
+    endUpdate();
+}
+
+void IssueListModel::removeCard(int at)
+{
+    Q_EMIT aboutToUpdate();
+    removeAt(at);
+    endUpdate();
+}
+
+void IssueListModel::changeCard(int from, int to, const SharedIssue &issue)
+{
+    Q_EMIT aboutToUpdate();
+    if (from != to)
+        shift({from, 1, to});
+    replaceAt(to, issueRow(issue));
+    endUpdate();
 }
 
 void IssueListModel::setFocusedKey(const QString &key)

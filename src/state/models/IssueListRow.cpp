@@ -7,17 +7,6 @@ static_assert(int(IssueListEnums::GroupKind::Status) == int(IssueGroupKind::Type
 
 namespace {
 
-IssueListRow headerRow(const IssueGroup &group, bool isCollapsed)
-{
-    IssueListHeader header;
-    header.groupId = group.id;
-    header.title = group.title;
-    header.count = int(group.issues.size());
-    header.isCollapsed = isCollapsed;
-    header.kind = group.kind;
-    return {"h:"_L1 + group.id, Shared<IssueListHeader>(std::move(header))};
-}
-
 QString priorityWords(const Issue &issue)
 {
     return issue.priority ? u"priorité "_s + issue.priority->displayName() : u"aucune priorité"_s;
@@ -29,6 +18,22 @@ QString assigneeWords(const Issue &issue)
 }
 
 } // namespace
+
+IssueListRow issueRow(const SharedIssue &issue)
+{
+    return {issue->key, issue};
+}
+
+IssueListRow headerRow(const IssueGroup &group, bool isCollapsed)
+{
+    IssueListHeader header;
+    header.groupId = group.id;
+    header.title = group.title;
+    header.count = int(group.issues.size());
+    header.isCollapsed = isCollapsed;
+    header.kind = group.kind;
+    return {"h:"_L1 + group.id, Shared<IssueListHeader>(std::move(header))};
+}
 
 QString IssueListHeader::accessibleName() const
 {
@@ -62,7 +67,7 @@ QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QS
         if (isCollapsed)
             continue;
         for (const auto &issue : group.issues)
-            rows.append({issue->key, issue});
+            rows.append(issueRow(issue));
     }
     return rows;
 }

@@ -75,7 +75,12 @@ struct IssueListRow
 
     bool operator==(const IssueListRow &) const = default;
 };
+Q_DECLARE_TYPEINFO(IssueListRow, Q_RELOCATABLE_TYPE);
 
+/// The row of an issue.
+IssueListRow issueRow(const SharedIssue &issue);
+/// The row of a group's header, which says how many issues the group has.
+IssueListRow headerRow(const IssueGroup &group, bool isCollapsed);
 /// Each group's header and, unless it is collapsed, its issues.
 QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
 

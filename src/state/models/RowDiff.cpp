@@ -1,6 +1,6 @@
 #include "state/models/RowDiff.h"
 
-#include "state/models/KeyIndex.h"
+#include "state/KeyIndex.h"
 
 #include <algorithm>
 #include <numeric>

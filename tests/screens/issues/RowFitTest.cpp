@@ -27,7 +27,8 @@ int columnOf(const QStringList &keys)
     IssueList issues;
     for (const auto &key : keys)
         issues += withKey(key);
-    return keyColumnWidth(issues, [](const QString &key) { return qreal(key.size()) * 7.5; });
+    return keyColumnWidth(KeyShapes(issues),
+                          [](const QString &key) { return qreal(key.size()) * 7.5; });
 }
 
 } // namespace

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "model/Issue.h"
+
+#include <vector>
+
+/// What the keys of a list look like: how wide the widest one is can be told from one key of each shape. Issues come and
+/// go one by one.
+class KeyShapes
+{
+public:
+    /// Keys of one project and one length.
+    struct Shape
+    {
+        QString project;
+        qsizetype length = 0;
+        /// Such a key.
+        QString example;
+        qsizetype count = 0;
+
+        bool operator==(const Shape &) const = default;
+    };
+
+    KeyShapes() = default;
+    explicit KeyShapes(const IssueList &issues);
+
+    void add(const Issue &issue);
+    /// Takes back what `add` did for an issue with the same key and project.
+    void remove(const Issue &issue);
+    /// Those that occur.
+    const std::vector<Shape> &shapes() const { return m_shapes; }
+
+    bool operator==(const KeyShapes &) const = default;
+
+private:
+    std::vector<Shape>::iterator shapeOf(const Issue &issue);
+
+    std::vector<Shape> m_shapes;
+};
