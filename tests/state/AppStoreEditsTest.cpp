@@ -114,6 +114,21 @@ TEST_F(AppStoreEditsTest, anEditShowsAtOnceInEveryCopy)
               IssueFieldUpdate{IssueFieldUpdate::Priority{High}});
 }
 
+TEST_F(AppStoreEditsTest, anEditCopiesNoListAndGroupsNothingAnew)
+{
+    reloadWith(Issues);
+    const int groupings = store->derivation().timesComputed(IssueDerivation::Step::Groups);
+    const SharedIssue *const place = store->issues().constData();
+    store->setStatus(Closed, {u"WEB-1"_s});
+    service->transitionsCalls.last().fail(Refused);
+
+    EXPECT_EQ(store->issues().constData(), place);
+    EXPECT_EQ(store->derivation().inputs().issues.constData(), place);
+    EXPECT_EQ(store->scopeCache().value(store->scope()).constData(), place);
+    EXPECT_EQ(store->derivation().timesComputed(IssueDerivation::Step::Groups), groupings);
+    expectEverywhere(u"WEB-1"_s, &Issue::status, Issues[0]->status);
+}
+
 TEST_F(AppStoreEditsTest, successChangesNothingMore)
 {
     store->setPriority(High, {u"WEB-1"_s});
