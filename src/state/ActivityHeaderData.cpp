@@ -20,14 +20,6 @@ QList<StatPill> statPills(const ActivitySummary &summary, const ActivityPeriod &
 
 } // namespace
 
-QVariantList ActivityHeaderData::pillValues() const
-{
-    QVariantList values;
-    for (const StatPill &pill : pills)
-        values.append(QVariant::fromValue(pill));
-    return values;
-}
-
 ActivityHeaderData activityHeader(const ActivityPeriod &period, const ActivitySummary &summary,
                                   const QDateTime &now, const UserCalendar &calendar)
 {

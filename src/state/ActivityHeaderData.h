@@ -3,7 +3,7 @@
 #include "model/ActivityPeriod.h"
 #include "state/ActivitySummary.h"
 
-#include <QVariantList>
+#include <QList>
 
 /// One counter of a recap's header.
 struct StatPill
@@ -34,7 +34,7 @@ struct ActivityHeaderData
     Q_PROPERTY(bool hasNext MEMBER hasNext CONSTANT FINAL)
     Q_PROPERTY(bool isWeek MEMBER isWeek CONSTANT FINAL)
     Q_PROPERTY(bool teamWide MEMBER teamWide CONSTANT FINAL)
-    Q_PROPERTY(QVariantList pills READ pillValues CONSTANT FINAL)
+    Q_PROPERTY(int pillCount READ pillCount CONSTANT FINAL)
 
 public:
     QString title;
@@ -52,8 +52,9 @@ public:
     /// Completed, progressed and created; for a team also the people.
     QList<StatPill> pills;
 
-    /// The pills as QML's views take them.
-    QVariantList pillValues() const;
+    int pillCount() const { return int(pills.size()); }
+    /// An empty one where there is none.
+    Q_INVOKABLE StatPill pill(int index) const { return pills.value(index); }
 
     bool operator==(const ActivityHeaderData &) const = default;
 };

@@ -205,6 +205,7 @@ public:
     /// A picker for the targets, or a toast that asks for one; the same for the assignment.
     void openPicker(PickerKind kind);
     void assignToMe();
+    /// While the account is unknown, a toast says so.
     void assignToMe(const QStringList &keys);
     Q_INVOKABLE void togglePalette();
     QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
@@ -265,6 +266,12 @@ private:
     QCoro::Task<> fetchAccount(std::shared_ptr<IssueService> service,
                                std::optional<JiraUser> knownUser);
     QCoro::Task<> fetchSite(std::shared_ptr<IssueService> service);
+    /// Whether another session has begun than the one on this service.
+    bool isOverFor(const std::shared_ptr<IssueService> &service) const;
+    /// Then ends the flow with `Cancelled`.
+    void requireCurrent(const std::shared_ptr<IssueService> &service) const;
+    /// Fetches anew what the start of the session could not.
+    QCoro::Task<> completeSession();
     void open(std::shared_ptr<IssueService> service, SessionKind kind);
     void resetData();
     void startAutoRefresh();
@@ -333,6 +340,8 @@ private:
     bool m_didBootstrap = false;
     /// Grows when a session begins or ends; tells whether one did during a wait.
     int m_sessionCount = 0;
+    /// The account, the projects or the priorities could not be fetched.
+    bool m_isIncomplete = false;
     /// Grows with each reload and each end of a session; tells a late list from a wanted one.
     int m_generation = 0;
     QHash<IssueScope, ListedIssues> m_scopeCache;

@@ -122,8 +122,10 @@ void AppStore::assignToMe()
 void AppStore::assignToMe(const QStringList &keys)
 {
     // While the account is unknown, assigning to it would take everybody off.
-    if (*m_me)
-        assign(keys, *m_me);
+    if (!*m_me)
+        return toast(u"Ton compte Jira n'a pas encore pu être lu. Actualise la liste."_s,
+                     u"exclamationmark.triangle.fill"_s, ToastKind::Error);
+    assign(keys, *m_me);
 }
 
 QStringList AppStore::targetsOrToast()

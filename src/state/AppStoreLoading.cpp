@@ -50,6 +50,7 @@ void AppStore::setSidebarSelection(const std::optional<IssueScope> &scope)
 
 void AppStore::refresh()
 {
+    spawn(completeSession());
     spawn(reload());
 }
 
@@ -65,9 +66,13 @@ QCoro::Task<> AppStore::reload()
     if (generation != m_generation)
         co_return;
     takeReloaded(scope, outcome);
-    startProjectMeta();
+    // Before the others, which may be of the same project: whoever comes second does not wait.
+    std::optional<QCoro::Task<>> own;
     if (const auto *project = scope.asProject())
-        co_await whileAlive(this, loadProjectMeta(project->key));
+        own = loadProjectMeta(project->key);
+    startProjectMeta();
+    if (own)
+        co_await whileAlive(this, std::move(*own));
 }
 
 void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &outcome)
@@ -117,7 +122,7 @@ QCoro::Task<> AppStore::refreshMyIssues()
         co_return;
     const IssueScope scope = IssueScope::myIssues();
     const auto mine = co_await whileAlive(this, settled(service, service->issues(scope)));
-    if (!mine)
+    if (!mine || isOverFor(service))
         co_return;
     m_scopeCache.insert(scope, *mine);
     setMyOpenIssues(openIssues(*mine));

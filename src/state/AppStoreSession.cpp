@@ -115,7 +115,8 @@ void AppStore::resetData()
     m_isLoading.set(false);
 }
 
-/// Nothing that fails here ends the session: the list area says what went wrong, and each refresh tries again.
+/// Nothing that fails here ends the session: the list area says what went wrong, and each refresh tries again. The
+/// next session ends this, so that nothing of one site comes into the lists of another.
 QCoro::Task<> AppStore::activate(std::shared_ptr<IssueService> service, SessionKind kind,
                                  std::optional<JiraUser> knownUser)
 {
@@ -124,10 +125,13 @@ QCoro::Task<> AppStore::activate(std::shared_ptr<IssueService> service, SessionK
         co_await whileAlive(this, fetchAccount(service, knownUser));
         co_await whileAlive(this, fetchSite(service));
     } catch (const Failure &failure) {
+        requireCurrent(service);
+        m_isIncomplete = true;
         m_loadError.set(failure.message());
     }
     co_await whileAlive(this, reload());
     co_await whileAlive(this, refreshMyIssues());
+    requireCurrent(service);
     startAutoRefresh();
 }
 
@@ -135,6 +139,7 @@ void AppStore::open(std::shared_ptr<IssueService> service, SessionKind kind)
 {
     const Batch batch(*this);
     ++m_sessionCount;
+    m_isIncomplete = false;
     m_service.set(std::move(service));
     m_isDemo.set(kind == SessionKind::Demo);
     m_phase.set(Phase::Ready);
@@ -146,6 +151,7 @@ QCoro::Task<> AppStore::fetchAccount(std::shared_ptr<IssueService> service,
 {
     if (!knownUser)
         knownUser = co_await whileAlive(this, service->currentUser());
+    requireCurrent(service);
     m_me.set(knownUser);
 }
 
@@ -160,9 +166,37 @@ QCoro::Task<> AppStore::fetchSite(std::shared_ptr<IssueService> service)
         co_await whileAlive(this, std::move(prioritiesTask));
         throw Failure(projects.error().message);
     }
+    requireCurrent(service);
     m_projects.set(*projects);
     const auto priorities = co_await whileAlive(this, std::move(prioritiesTask));
+    requireCurrent(service);
     m_priorities.set(priorities.value_or(QList<IssuePriority>()));
+}
+
+bool AppStore::isOverFor(const std::shared_ptr<IssueService> &service) const
+{
+    return *m_service && *m_service != service;
+}
+
+void AppStore::requireCurrent(const std::shared_ptr<IssueService> &service) const
+{
+    if (isOverFor(service))
+        throw Cancelled();
+}
+
+/// The list's own reload tells when the site still cannot be reached.
+QCoro::Task<> AppStore::completeSession()
+{
+    const auto service = *m_service;
+    if (!service || !std::exchange(m_isIncomplete, false))
+        co_return;
+    try {
+        co_await whileAlive(this, fetchAccount(service, *m_me));
+        co_await whileAlive(this, fetchSite(service));
+    } catch (const Failure &) {
+        requireCurrent(service);
+        m_isIncomplete = true;
+    }
 }
 
 void AppStore::startAutoRefresh()
@@ -175,6 +209,7 @@ QCoro::Task<> AppStore::refreshInBackground()
 {
     if (*m_phase != Phase::Ready || !m_context.desktop.isApplicationActive())
         co_return;
+    spawn(completeSession());
     co_await whileAlive(this, reload());
     co_await whileAlive(this, refreshMyIssues());
 }

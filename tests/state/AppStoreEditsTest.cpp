@@ -161,11 +161,16 @@ TEST_F(AppStoreEditsTest, aCancelledEditIsUndoneWithoutAToast)
 
 TEST_F(AppStoreEditsTest, withoutAServiceTheEditStaysAndNothingIsSent)
 {
-    store->signOut();
     const TaskResult<void> opened(store->loadDetails(u"WEB-1"_s));
+    store->signOut();
+    service->issueCalls.last().finish(detailed());
     store->rename(u"WEB-1"_s, u"Nouveau"_s);
     store->setStatus(Doing, {u"WEB-1"_s});
     store->assign({u"WEB-1"_s}, Maud);
+
+    const auto issue = store->details().value(u"WEB-1"_s);
+    EXPECT_EQ(issue->summary, u"Nouveau"_s);
+    EXPECT_EQ(issue->assignee, Maud);
 
     EXPECT_EQ(service->updateCalls.count() + service->assignCalls.count(), 0);
     EXPECT_TRUE(store->toasts().isEmpty());

@@ -126,7 +126,7 @@ TEST_F(AppStoreRecapTest, theSwitchForTheTeamIsKeptAndARangeKeepsItsOffset)
     EXPECT_EQ(period(), week(-3, true));
     EXPECT_EQ(preferences.flag(u"activityTeamWide"_s), true);
     EXPECT_TRUE(store->activityHeader().teamWide);
-    EXPECT_EQ(store->activityHeader().pillValues().size(), 4);
+    EXPECT_EQ(store->activityHeader().pillCount(), 4);
     store->showRange(ActivityRange::Month);
     EXPECT_EQ(period(), (ActivityPeriod{ActivityRange::Month, -3, true}));
     EXPECT_FALSE(store->activityHeader().isWeek);

@@ -305,7 +305,7 @@ TEST_F(AppStoreReloadTest, aProjectScopeAwaitsItsOwnMetadata)
     const auto scope = IssueScope::project(u"WEB"_s, ProjectView::All);
     store->select(scope);
     const TaskResult<void> loaded(store->reload());
-    listCall().finish({});
+    listCall().finish({sampleIssue(u"WEB-1"_s)});
 
     EXPECT_FALSE(loaded.isDone());
     ASSERT_EQ(service->statusesCalls.count(), 1);

@@ -144,6 +144,57 @@ TEST_F(AppStoreSignInTest, aNetworkThatIsDownAtTheStartIsToldAndTheNextRefreshMa
 
     EXPECT_FALSE(store->loadError());
     EXPECT_EQ(keys(store->issues()), QStringList(u"WEB-1"_s));
+    EXPECT_EQ(store->me(), sampleUser(u"u1"_s, u"Noam Talvère"_s));
+    EXPECT_EQ(store->projects(), QList{sampleProject(u"WEB"_s)});
+
+    store->refresh();
+    EXPECT_EQ(service->currentUserCalls.count(), 2) << "what is known is not asked again";
+}
+
+TEST_F(AppStoreSignInTest, whileTheAccountIsUnknownNothingIsAssignedToItAndAToastSaysSo)
+{
+    sessions.restoreCalls.answerWith(sessions.service);
+    service->currentUserCalls.failWith(Failure(u"Tu sembles hors ligne."_s));
+    service->issuesCalls.answerWith({sampleIssue(u"WEB-1"_s)});
+    const TaskResult<void> done(store->bootstrap());
+    store->setFocusedKey(u"WEB-1"_s);
+    store->assignToMe();
+
+    EXPECT_EQ(service->assignCalls.count(), 0);
+    ASSERT_EQ(store->toasts().size(), 1);
+    EXPECT_EQ(store->toasts().first().kind, ToastKind::Error);
+}
+
+TEST_F(AppStoreSignInTest, whatASiteAnswersAfterItsSessionComesIntoNoOther)
+{
+    const auto site = std::make_shared<ScriptedService>();
+    sessions.service = site;
+    sessions.restoreCalls.answerWith(sessions.service);
+    site->currentUserCalls.hold();
+    const TaskResult<void> done(store->bootstrap());
+    store->signOut();
+    startSession();
+    site->projectsCalls.answerWith({sampleProject(u"LOIN"_s)});
+    site->currentUserCalls[0].finish(sampleUser(u"u9"_s, u"Autre"_s));
+
+    EXPECT_EQ(store->me(), sampleUser(u"u1"_s, u"Noam Talvère"_s));
+    EXPECT_EQ(store->projects(), QList<Project>());
+    EXPECT_FALSE(store->loadError());
+    EXPECT_EQ(site->issuesCalls.count(), 0);
+}
+
+TEST_F(AppStoreSignInTest, aFailureOfASiteAfterItsSessionIsToldInNoOther)
+{
+    const auto site = std::make_shared<ScriptedService>();
+    sessions.service = site;
+    sessions.restoreCalls.answerWith(sessions.service);
+    site->currentUserCalls.hold();
+    const TaskResult<void> done(store->bootstrap());
+    store->signOut();
+    startSession();
+    site->currentUserCalls[0].fail(Refused);
+
+    EXPECT_FALSE(store->loadError());
 }
 
 TEST_F(AppStoreSignInTest, aGoodSignInIsTriedKeptAndOpenedInThisOrder)

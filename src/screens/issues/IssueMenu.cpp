@@ -82,12 +82,8 @@ void IssueMenu::choose(const QString &section, const QString &choice)
     const auto *submenu = std::ranges::find(submenus, section, &Submenu::id);
     if (!m_store || submenu == submenus.end())
         return;
-    if (choice == toMe) {
-        // While the account is unknown, assigning to it would take everybody off.
-        if (m_store->me())
-            m_store->assign(m_keys, m_store->me());
-        return;
-    }
+    if (choice == toMe)
+        return m_store->assignToMe(m_keys);
     const auto options = m_store->options(submenu->kind, m_keys);
     const auto option = std::ranges::find(options, choice, &OptionItem::id);
     if (option != options.end())

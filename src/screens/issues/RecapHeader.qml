@@ -85,14 +85,16 @@ GlassPanel {
             spacing: 20
 
             Repeater {
-                model: root.content.pills
+                // By number, so that a counter stays and counts when its value changes.
+                model: root.content.pillCount
 
                 RecapPill {
-                    required property statPill modelData
+                    required property int index
+                    readonly property statPill pill: root.content.pill(index)
                     anchors.verticalCenter: parent ? parent.verticalCenter : undefined
-                    symbol: modelData.symbol
-                    value: modelData.value
-                    label: modelData.label
+                    symbol: pill.symbol
+                    value: pill.value
+                    label: pill.label
                 }
             }
         }

@@ -9,6 +9,8 @@ Row {
     required property string symbol
     required property int value
     required property string label
+    /// Counts up or down to the value.
+    property real shown: value
 
     // By symbol: what was finished, what moved, what is new.
     readonly property color tint: symbol === "checkmark.circle.fill" ? Theme.done
@@ -18,6 +20,13 @@ Row {
     spacing: Metrics.gapSmall
     Accessible.role: Accessible.StaticText
     Accessible.name: root.value + " " + root.label
+
+    Behavior on shown {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
+        }
+    }
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
@@ -30,7 +39,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         weight: Font.DemiBold
         tabular: true
-        text: root.value
+        text: Math.round(root.shown)
         Accessible.ignored: true
     }
 
