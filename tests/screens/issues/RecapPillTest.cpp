@@ -24,7 +24,7 @@ TEST(RecapPill, CountsToItsNewValue)
     Bench bench;
     auto *item = bench.show(QString::fromUtf8(pill));
     ASSERT_NE(item, nullptr) << bench.warnings();
-    bench.setToken("Motion", "reduced", false);
+    bench.setToken("motion", "reduced", false);
     EXPECT_EQ(number(item), u"3"_s) << "the first value is there at once";
     item->setProperty("value", 12);
     EXPECT_EQ(number(item), u"3"_s);
@@ -38,7 +38,7 @@ TEST(RecapPill, IsThereAtOnceWhereMotionIsUnwanted)
     Bench bench;
     auto *item = bench.show(QString::fromUtf8(pill));
     ASSERT_NE(item, nullptr) << bench.warnings();
-    bench.setToken("Motion", "reduced", true);
+    bench.setToken("motion", "reduced", true);
     item->setProperty("value", 12);
     EXPECT_TRUE(QTest::qWaitFor([&] { return number(item) == u"12"; }, 200));
 }
