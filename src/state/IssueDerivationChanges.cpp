@@ -214,12 +214,11 @@ void IssueDerivation::noteSteps(Grouped &grouped, const Sources &sources, IssueG
     grouped.memo.sources = sources;
     if (steps.empty())
         return;
-    ++grouped.memo.version;
     auto &followed = grouped.followed;
-    if (followed.steps.size() + steps.size() > MostSteps) {
+    // Who shows the last version can follow all the same; who shows an older one has much to catch up with.
+    if (followed.steps.size() + steps.size() > MostSteps)
         followed = {grouped.memo.version, {}, {}};
-        return;
-    }
+    ++grouped.memo.version;
     std::ranges::move(steps, std::back_inserter(followed.steps));
     followed.counts.push_back(followed.steps.size());
 }

@@ -138,8 +138,11 @@ TEST_F(IssueDerivationReuse, StepsAreToldFromTheVersionThatIsShownUntilThereAreT
     EXPECT_EQ(derivation.groupSteps(shown)->size(), 2);
     EXPECT_EQ(derivation.groupSteps(between)->size(), 1);
     EXPECT_EQ(derivation.groupSteps(derivation.groupsVersion())->size(), 0);
-    for (int turn = 0; turn < 100; ++turn)
+    for (int turn = 0; turn < 100; ++turn) {
+        const auto last = derivation.groupsVersion();
         edit(5, 1000 + turn);
+        EXPECT_TRUE(derivation.groupSteps(last)) << "whoever keeps up is told every time";
+    }
     EXPECT_FALSE(derivation.groupSteps(shown));
 
     inputs.grouping = Grouping::Priority;
