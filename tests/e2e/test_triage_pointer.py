@@ -49,9 +49,18 @@ class TwentyWithoutKeyboard(TriageCase):
         return min(x + width // 2, right - 20), y + 45
 
     def column(self, title):
-        """A place in a column that is inside the window."""
-        x, y, width, height = self.velmora.app.find(role="list", name="^%s, " % title).rect
-        return min(x + width // 2, self.velmora.app.window("Velmora").width - 12), y + height // 2
+        """A place in a column that is well inside the window: near its edge the board would scroll away below a drag."""
+        for _ in range(12):
+            x, y, width, height = self.velmora.app.find(role="list", name="^%s, " % title).rect
+            if x + width // 2 < self.size[0] - 70:
+                return x + width // 2, y + height // 2
+            self.tilt()
+        raise AssertionError("no way to %s" % title)
+
+    def tilt(self):
+        """A notch of the wheel to the right."""
+        self.session.scroll_sideways((self.size[0] - 200, 400), 1)
+        self.session.settle()
 
     # the way
     def test_twenty_issues(self):
@@ -127,11 +136,11 @@ class TwentyWithoutKeyboard(TriageCase):
             cards = self.velmora.app.all(role="list item", name="^%s, " % key)
             if cards and cards[0].rect[0] < self.size[0] - 100:
                 return
-            self.session.scroll_sideways((self.size[0] - 200, 400), 1)
-            self.session.settle()
+            self.tilt()
         raise AssertionError("no way to %s" % key)
 
     def drag(self, key, status):
-        self.session.drag(self.take(key), self.column(status))
+        to = self.column(status)
+        self.session.drag(self.take(key), to)
         self.see(key, status)
         self.session.settle()
