@@ -102,6 +102,9 @@ class TwentyWithoutKeyboard(TriageCase):
         self.open_project("MOB")
         for key in in_status("MOB", 3) + in_status("MOB", 2) + in_status("MOB", 1)[:3]:
             self.bring(key).click()
+            self.velmora.app.find(role="panel", name="^Inspecteur$")
+            # It slides in.
+            self.session.settle()
             inspector = self.velmora.app.find(role="panel", name="^Inspecteur$")
             inspector.find(role="push button", name="^Priorité").click()
             self.choose(("list item", "^Basse"))
