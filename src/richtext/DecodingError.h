@@ -10,7 +10,7 @@ struct DecodingError
     /// What is wrong there, for the user to read.
     QString message;
 
-    /// Both in one line: "content[2].type: texte attendu".
+    /// Both in one line: "content[2].type : texte attendu".
     QString description() const
     {
         return place.isEmpty() ? message : QString(place).append(u" : ").append(message);

@@ -101,9 +101,9 @@ void AppStore::startProjectMeta()
 void AppStore::mergeIntoDetails()
 {
     IssueMap details = *m_details;
-    for (const auto &known : *m_details) {
-        if (const auto row = derivation().rowOf(known->key))
-            details.insert(known->key, mergedIntoDetails(*(*m_issues)[*row], *known));
+    for (auto known = m_details->cbegin(); known != m_details->cend(); ++known) {
+        if (const auto row = derivation().rowOf(known.key()))
+            details.insert(known.key(), mergedIntoDetails(*m_issues->at(*row), **known));
     }
     m_details.set(std::move(details));
 }

@@ -92,14 +92,14 @@ KeyIndex::Outcome KeyIndex::move(int first, int count, int to)
 
 void KeyIndex::relocate(int row, QStringView key)
 {
-    const auto entry = m_entries.empty() ? quint32(row) : m_entries[row];
+    const auto entry = m_rows.empty() ? quint32(row) : m_entries[row];
     // Of a repeated key the row may be one that is never found; then nothing looks at its memory but this.
     m_keys[entry] = key;
 }
 
 void KeyIndex::number()
 {
-    if (!m_entries.empty() || m_keys.empty())
+    if (!m_rows.empty() || m_keys.empty())
         return;
     m_rows.resize(m_keys.size());
     std::iota(m_rows.begin(), m_rows.end(), 0);

@@ -37,7 +37,7 @@ private:
     std::vector<QStringView> m_keys;
     /// Entries plus one; 0 marks a free slot. A power of two long.
     std::vector<quint32> m_slots;
-    /// The row of each entry, and the entry of each row. Empty as long as both are the same.
+    /// The row of each entry, and the entry of each row. No entry has a row here as long as both are the same.
     std::vector<int> m_rows;
     std::vector<quint32> m_entries;
     bool m_hasRepeatedKeys = false;

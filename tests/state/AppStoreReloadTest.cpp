@@ -286,6 +286,18 @@ TEST_F(AppStoreReloadTest, anOpenedIssueTakesWhatTheListBringsAndKeepsWhatOnlyAD
     EXPECT_FALSE(store->details().contains(u"WEB-2"_s)) << "only opened issues have details";
 }
 
+TEST_F(AppStoreReloadTest, anIssueOpenedByItsFormerKeyStaysUnderThatKey)
+{
+    Issue moved = sampleIssue(u"NEW-5"_s);
+    moved.hasDetails = true;
+    answerEverything();
+    service->issueCalls.answerWith(moved);
+    const TaskResult<void> opened(store->loadDetails(u"OLD-1"_s));
+    reloadWith({sampleIssue(u"NEW-5"_s, u"Terminé"_s)});
+
+    EXPECT_EQ(store->details().keys(), QStringList{u"OLD-1"_s}) << "only what was opened";
+}
+
 TEST_F(AppStoreReloadTest, atMostEightProjectsOfAListGetTheirMetadataFetched)
 {
     IssueList issues;

@@ -228,6 +228,10 @@ void expectAsFed(const BoardModel &board, const IssueDerivationInputs &inputs)
         EXPECT_EQ(board.rows()[column].count, columns[column].issues.size());
         EXPECT_EQ(board.rows()[column].status, columns[column].kind.asStatus());
         EXPECT_EQ(keysIn(board, column), keysOf(columns[column].issues));
+        EXPECT_TRUE(std::ranges::equal(
+            board.cards(column)->rows(), columns[column].issues, {},
+            [](const auto &row) { return *row.issue(); },
+            [](const auto &issue) { return *issue; }));
     }
 }
 

@@ -31,6 +31,20 @@ TEST(KeyIndex, AnEmptyListHasNoKey)
     EXPECT_EQ(KeyIndex(std::vector<QStringView>()).find(u"a"), std::nullopt);
 }
 
+TEST(KeyIndex, OfAListThatBecameEmptyAndFilledAgainOnlyWhatIsThereIsFound)
+{
+    const QString next = u"WEB-0"_s;
+    for (int number = 1; number < 50; ++number) {
+        const QString key = u"WEB-"_s + QString::number(number);
+        KeyIndex index({key});
+        ASSERT_EQ(index.remove(0, 1), KeyIndex::Outcome::Followed);
+        ASSERT_EQ(index.insert(0, next), KeyIndex::Outcome::Followed);
+        EXPECT_EQ(index.find(next), 0);
+        EXPECT_EQ(index.find(key), std::nullopt);
+        EXPECT_EQ(index.find(u""), std::nullopt) << key.toStdString();
+    }
+}
+
 TEST(KeyIndex, FollowsRandomStepsOfAList)
 {
     QRandomGenerator dice(11);
