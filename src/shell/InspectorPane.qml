@@ -35,7 +35,7 @@ GlassPanel {
     }
 
     Repeater {
-        model: [root.key]
+        model: root.key === "" ? [] : [root.key]
 
         IssueSummary {
             required property string modelData

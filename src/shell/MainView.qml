@@ -36,6 +36,10 @@ FocusScope {
         }
     }
 
+    readonly property bool isInspecting: store.showInspector
+    // At the beginning of its way: what leaves takes no more keys.
+    onIsInspectingChanged: if (!isInspecting && inspector.activeFocus) issues.focusIssues()
+
     onPlanChanged: isSidebarFloating = isSidebarFloating && !plan.hasSidebar
 
     KeyMonitor {
@@ -116,6 +120,7 @@ FocusScope {
     }
 
     LatePart {
+        id: inspector
         readonly property int restingX: root.openPlan.coversDetail ? Metrics.paneMargin
                                                                    : root.width - root.openPlan.inspector
         x: restingX + (1 - root.inspectorPresence) * (root.width - restingX)

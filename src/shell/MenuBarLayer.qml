@@ -17,7 +17,8 @@ Item {
         id: barKeys
         window: root.Window.window
         layer: root
-        onAboutToOpen: root.store.closePalette()
+        // The palette is the main window's.
+        onAboutToOpen: if (root.issueKey === "") root.store.closePalette()
         commands: menuCommands
     }
 

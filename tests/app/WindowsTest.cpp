@@ -64,6 +64,20 @@ TEST_F(Windows, AClosedIssueWindowIsGone)
     EXPECT_TRUE(scenes().issueWindow(u"MOB-1"_s));
 }
 
+TEST_F(Windows, TheMenusOfAnIssueWindowLeaveThePaletteOfTheMainOne)
+{
+    openIssue(u"MOB-1"_s);
+    auto *issue = scenes().issueWindow(u"MOB-1"_s);
+    issue->requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(issue));
+    store().togglePalette();
+    ASSERT_TRUE(store().palette());
+    QTest::keyClick(issue, Qt::Key_F10);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return !spokenIn(*issue, QAccessible::MenuItem, u"Réglages…"_s).isEmpty(); }));
+    EXPECT_TRUE(store().palette());
+}
+
 TEST_F(Windows, EscapeClosesWhatIsOpenInAnIssueWindowThenTheWindow)
 {
     openIssue(u"MOB-1"_s);

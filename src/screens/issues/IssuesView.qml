@@ -15,6 +15,17 @@ FocusScope {
     // There is no sidebar beside it, but a button for one.
     property bool hasSidebarButton: false
 
+    // What had the keyboard has gone: the button of an empty screen, or of a bar that is no longer wanted.
+    Connections {
+        target: root.Window.window
+
+        function onActiveFocusItemChanged() {
+            const holder = root.Window.activeFocusItem;
+            if (holder === root || holder === body)
+                root.focusIssues();
+        }
+    }
+
     signal sidebarWanted()
 
     function focusSearch() {
@@ -22,7 +33,8 @@ FocusScope {
     }
 
     function focusIssues() {
-        body.forceActiveFocus(Qt.ShortcutFocusReason);
+        const layout = root.store.layout === Model.LayoutMode.Board ? boardPart : listPart;
+        layout.forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
     IssuesContent {
@@ -42,7 +54,7 @@ FocusScope {
         filters: activeFilters
         hasSidebarButton: root.hasSidebarButton
         onSidebarWanted: root.sidebarWanted()
-        onSearchLeft: body.forceActiveFocus(Qt.OtherFocusReason)
+        onSearchLeft: root.focusIssues()
     }
 
     Column {
