@@ -66,7 +66,7 @@ QByteArray rowOf(const QByteArray &content)
 }
 
 // The row that the list of issues shows, with its texts.
-constexpr auto issueRow = R"(IssueRow {
+constexpr auto rowOfIssue = R"(IssueRow {
             id: cell
             required property int index
             width: list.width; height: 38; style: rowLook; isSelecting: false
@@ -133,7 +133,7 @@ int main(int argc, char **argv)
     const auto empty = listOf("10000", rowOf({}));
     measure(table, issues, u"empty rows"_s, empty);
     measure(table, issues, u"rows of icons"_s, listOf("10000", rowOf(icons)));
-    measure(table, issues, u"rows of issues"_s, listOf("issues", issueRow));
+    measure(table, issues, u"rows of issues"_s, listOf("issues", rowOfIssue));
     // Once more, to tell how far the machine itself has changed meanwhile.
     measure(table, issues, u"empty rows"_s, empty);
     return 0;

@@ -19,7 +19,7 @@ namespace {
 
 Outside outsideFor(int issues, const QString &folder)
 {
-    Outside outside = outsideWith(siteWith({.issues = std::max(issues, 1)}), folder);
+    Outside outside = outsideWith(siteWith({.issues = std::max(issues, 20)}), folder);
     if (issues == 0)
         outside.makeDemo = Outside::system().makeDemo;
     return outside;
