@@ -42,7 +42,7 @@ Item {
             wrapMode: Text.Wrap
         }
 
-        Item { width: 1; height: Metrics.gapTiny }
+        Item { width: 1; height: Metrics.gapSmall }
 
         AppText {
             width: parent.width
