@@ -168,44 +168,6 @@ private:
     QSet<QString> m_collapsed;
 };
 
-/// One setting of the inputs becomes that of others.
-IssueDerivationInputs withOneSettingOf(IssueDerivationInputs inputs,
-                                       const IssueDerivationInputs &other, quint32 which)
-{
-    switch (which % 10) {
-    case 0:
-        inputs.scope = other.scope;
-        break;
-    case 1:
-        inputs.filters = other.filters;
-        break;
-    case 2:
-        inputs.filterText = other.filterText;
-        break;
-    case 3:
-        inputs.ordering = other.ordering;
-        break;
-    case 4:
-        inputs.grouping = other.grouping;
-        break;
-    case 5:
-        inputs.layout = other.layout;
-        break;
-    case 6:
-        inputs.showCompleted = !inputs.showCompleted;
-        break;
-    case 7:
-        inputs.collapsedGroups = other.collapsedGroups;
-        break;
-    case 8:
-        inputs.projectStatuses = other.projectStatuses;
-        break;
-    default:
-        inputs.issues = other.issues;
-    }
-    return inputs;
-}
-
 UserCalendar french()
 {
     return {QLocale(u"fr_FR"_s), QTimeZone("Europe/Paris")};

@@ -72,43 +72,7 @@ TEST(IssueDerivationRandom, GivesTheSameWhenOneSettingChangesAtATime)
     IssueDerivation derivation;
     auto inputs = randomInputs(5, 50);
     for (quint32 seed = 0; seed < 200; ++seed) {
-        const auto other = randomInputs(seed, 50);
-        switch (seed % 11) {
-        case 0:
-            inputs.scope = other.scope;
-            break;
-        case 1:
-            inputs.filters = other.filters;
-            break;
-        case 2:
-            inputs.filterText = other.filterText;
-            break;
-        case 3:
-            inputs.ordering = other.ordering;
-            break;
-        case 4:
-            inputs.grouping = other.grouping;
-            break;
-        case 5:
-            inputs.layout = other.layout;
-            break;
-        case 6:
-            inputs.showCompleted = !inputs.showCompleted;
-            break;
-        case 7:
-            inputs.collapsedGroups = other.collapsedGroups;
-            break;
-        case 8:
-            inputs.me = other.me;
-            break;
-        case 9:
-            inputs.projects = other.projects;
-            inputs.projectDetails = other.projectDetails;
-            break;
-        default:
-            inputs.projectStatuses = other.projectStatuses;
-            break;
-        }
+        inputs = withOneSettingOf(inputs, randomInputs(seed, 50), seed);
         derivation.setInputs(inputs);
         expectAsOracle(derivation, seed);
     }

@@ -227,3 +227,47 @@ IssueDerivationInputs randomInputs(quint32 seed, int count)
             {u"API"_s, {inProgress(u"Staging"_s), inProgress(u"Éprouvé"_s)}}};
     return inputs;
 }
+
+IssueDerivationInputs withOneSettingOf(IssueDerivationInputs inputs,
+                                       const IssueDerivationInputs &other, quint32 which)
+{
+    switch (which % 12) {
+    case 0:
+        inputs.scope = other.scope;
+        break;
+    case 1:
+        inputs.filters = other.filters;
+        break;
+    case 2:
+        inputs.filterText = other.filterText;
+        break;
+    case 3:
+        inputs.ordering = other.ordering;
+        break;
+    case 4:
+        inputs.grouping = other.grouping;
+        break;
+    case 5:
+        inputs.layout = other.layout;
+        break;
+    case 6:
+        inputs.showCompleted = !inputs.showCompleted;
+        break;
+    case 7:
+        inputs.collapsedGroups = other.collapsedGroups;
+        break;
+    case 8:
+        inputs.projectStatuses = other.projectStatuses;
+        break;
+    case 9:
+        inputs.me = other.me;
+        break;
+    case 10:
+        inputs.projects = other.projects;
+        inputs.projectDetails = other.projectDetails;
+        break;
+    default:
+        inputs.issues = other.issues;
+    }
+    return inputs;
+}

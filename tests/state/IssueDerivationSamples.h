@@ -20,3 +20,6 @@ QStringList keysOf(const IssueList &issues);
 /// repeat.
 IssueList randomIssues(quint32 seed, int count);
 IssueDerivationInputs randomInputs(quint32 seed, int count);
+/// One setting of the inputs, or their issues, becomes that of others; which one, goes round with the number.
+IssueDerivationInputs withOneSettingOf(IssueDerivationInputs inputs,
+                                       const IssueDerivationInputs &other, quint32 which);
