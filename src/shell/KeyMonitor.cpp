@@ -43,9 +43,11 @@ bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
 
 bool KeyMonitor::give(const KeyPress &press)
 {
+    const auto command = route(press);
+    const bool isStep = command == KeyCommand::MoveDown || command == KeyCommand::MoveUp;
     const auto before = m_store->focusedKey();
     const bool isTaken = m_store->handleKey(press);
-    if (m_store->focusedKey() != before)
+    if (isStep || m_store->focusedKey() != before)
         Q_EMIT walked();
     return isTaken;
 }

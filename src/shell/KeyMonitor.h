@@ -31,7 +31,7 @@ public:
 Q_SIGNALS:
     void windowChanged();
     void storeChanged();
-    /// A key has moved the focus to another issue.
+    /// A key has moved the focus to another issue, or would have if there were one.
     void walked();
 
 private:

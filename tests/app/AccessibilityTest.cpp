@@ -161,6 +161,18 @@ TEST_F(Accessibility, WhoeverWalksTheIssuesFromAButtonHearsTheRow)
     EXPECT_TRUE(store().showInspector()) << "and the key presses no button";
 }
 
+TEST_F(Accessibility, AStepBeyondTheLastIssueLeavesTheButtonToo)
+{
+    const QString last = store().flatVisibleKeys().constLast();
+    backToAButton();
+    store().setFocusedKey(last);
+    press(Qt::Key_J);
+    settle();
+    EXPECT_TRUE(find(QAccessible::ListItem, last + u',').state.focused);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(store().showInspector());
+}
+
 TEST_F(Accessibility, AReaderThatStartsLaterHearsWhichLayoutIsChosen)
 {
     QAccessible::setActive(false);
