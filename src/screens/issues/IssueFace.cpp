@@ -44,6 +44,8 @@ void IssueFace::planNow()
     if (!isComponentComplete())
         return;
     makePlan();
+    if (m_isHovered)
+        followPointer();
     update();
     Q_EMIT planned();
 }
@@ -107,22 +109,27 @@ void IssueFace::itemChange(ItemChange change, const ItemChangeData &data)
 void IssueFace::hoverEnterEvent(QHoverEvent *event)
 {
     QQuickItem::hoverEnterEvent(event);
-    const auto place = event->position();
-    setHotSpot(spotAt(place.x(), place.y()));
+    m_pointer = event->position();
+    followPointer();
     setHovered(true);
 }
 
 void IssueFace::hoverMoveEvent(QHoverEvent *event)
 {
     QQuickItem::hoverMoveEvent(event);
-    const auto place = event->position();
-    setHotSpot(spotAt(place.x(), place.y()));
+    m_pointer = event->position();
+    followPointer();
 }
 
 void IssueFace::hoverLeaveEvent(QHoverEvent *event)
 {
     QQuickItem::hoverLeaveEvent(event);
     setHovered(false);
+}
+
+void IssueFace::followPointer()
+{
+    setHotSpot(spotAt(m_pointer.x(), m_pointer.y()));
 }
 
 void IssueFace::setHovered(bool isHovered)

@@ -75,6 +75,7 @@ protected:
 
 private:
     void followPicture();
+    void followPointer();
     void setHovered(bool isHovered);
     void setHotSpot(HotSpot spot);
 
@@ -83,6 +84,8 @@ private:
     QString m_dueTooltip;
     bool m_isOverdue = false;
     bool m_isHovered = false;
+    /// Where the pointer is, while it is over this.
+    QPointF m_pointer;
     HotSpot m_hotSpot;
     CaptionTexts m_captions;
     /// The assignee's, once there was one who has one.
