@@ -17,6 +17,17 @@ QList<OptimisticEdit> neededEdits(const IssueList &issues, const MakeEdit &makeE
     return edits;
 }
 
+/// The issue by the key it is asked for: one that was moved on the site is opened by its former key, and stands under that
+/// one here.
+SharedIssue underKey(const SharedIssue &issue, const QString &key)
+{
+    if (issue->key == key)
+        return issue;
+    Issue copy = *issue;
+    copy.key = key;
+    return copy;
+}
+
 QCoro::Task<> sent(std::shared_ptr<IssueService> service, OptimisticEdit edit)
 {
     const auto *assignment = std::get_if<FieldEdit<&Issue::assignee>>(&edit.change);
@@ -193,7 +204,7 @@ IssueList AppStore::knownIssues(const QStringList &keys) const
             continue;
         met.insert(key);
         if (const auto found = issue(key))
-            known.append(*found);
+            known.append(underKey(*found, key));
     }
     return known;
 }

@@ -176,6 +176,21 @@ TEST_F(AppStoreEditsTest, withoutAServiceTheEditStaysAndNothingIsSent)
     EXPECT_TRUE(store->toasts().isEmpty());
 }
 
+TEST_F(AppStoreEditsTest, anIssueOpenedByItsFormerKeyIsEditedUnderThatKey)
+{
+    answerEverything();
+    service->issueCalls.answerWith(sampleIssue(u"NEW-5"_s));
+    const TaskResult<void> opened(store->loadDetails(u"OLD-1"_s));
+    holdEverything();
+    store->rename(u"OLD-1"_s, u"Nouveau"_s);
+
+    EXPECT_EQ(store->details().value(u"OLD-1"_s)->summary, u"Nouveau"_s);
+    ASSERT_EQ(service->updateCalls.count(), 1);
+    EXPECT_EQ(service->updateCalls[0].argument<0>(), u"OLD-1"_s);
+    service->updateCalls[0].fail(Refused);
+    EXPECT_EQ(store->details().value(u"OLD-1"_s)->summary, u"Résumé de NEW-5"_s);
+}
+
 TEST_F(AppStoreEditsTest, ofTwoQuickEditsTheFirstThatFailsPutsBackTheValueFromBeforeIt)
 {
     store->rename(u"WEB-1"_s, u"Un"_s);
