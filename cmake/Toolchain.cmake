@@ -15,8 +15,7 @@ set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_SOURCE_DIR}/cmake/compile ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR})
     set(CMAKE_C_COMPILER_LAUNCHER ${CMAKE_CXX_COMPILER_LAUNCHER})
 endif()
 find_program(LLD NAMES ld.lld-19 ld.lld)
@@ -25,7 +24,7 @@ if(LLD)
 endif()
 
 add_library(velmora_options INTERFACE)
-target_include_directories(velmora_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_include_directories(velmora_options INTERFACE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/cmake)
 target_compile_definitions(velmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
@@ -36,8 +35,10 @@ target_compile_options(velmora_options INTERFACE
     # Qt's static plugin glue repeats declarations; our own code is covered by clang-tidy.
     -Wno-missing-field-initializers)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    # A precompiled header without its time stamp can be cached.
-    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp>")
+    # A precompiled header can be cached without its time stamp, and used in another checkout when it holds the text of
+    # the files that it was made from.
+    add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp -Xclang -fmodules-embed-all-files>"
+        -fdebug-compilation-dir=.)
 endif()
 
 if(VELMORA_SANITIZE)

@@ -10,8 +10,7 @@ function(_velmora_common target)
     if(ARG_PRECOMPILED)
         target_precompile_headers(${target} REUSE_FROM ${ARG_PRECOMPILED})
     else()
-        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${CMAKE_SOURCE_DIR}/cmake/Precompiled.h>"
-            ${ARG_HEADERS})
+        target_precompile_headers(${target} PRIVATE <Precompiled.h> ${ARG_HEADERS})
     endif()
 endfunction()
 
@@ -54,19 +53,18 @@ function(velmora_qml_module name)
     endif()
 endfunction()
 
-# velmora_test(<name> [OPTIMISED] [FIXTURE <a header that most of its sources include, worth a precompiled header>]
+# velmora_test(<name> [OPTIMISED] [FIXTURE <a header below tests/ that most of its sources include, worth a precompiled header>]
 #              SOURCES <files> DEPENDS <targets>): one GoogleTest program, one ctest entry.
 function(velmora_test name)
     cmake_parse_arguments(ARG "OPTIMISED" "FIXTURE" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    target_compile_definitions(${name} PRIVATE VELMORA_CASES="${CMAKE_SOURCE_DIR}/tests/cases")
     # Nearly all of a test runs once: optimising it takes longer than running it.
     if(ARG_OPTIMISED)
         _velmora_common(${name})
     elseif(ARG_FIXTURE)
-        _velmora_common(${name} HEADERS <gtest/gtest.h> ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FIXTURE})
+        _velmora_common(${name} HEADERS <gtest/gtest.h> <${ARG_FIXTURE}>)
         # The templates that the fixture needs are made once, with the header.
         target_compile_options(${name} PRIVATE -O0 -fpch-instantiate-templates)
     else()

@@ -1,5 +1,7 @@
 #include "richtext/CaseFile.h"
 
+#include "support/TestFiles.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -53,7 +55,7 @@ struct Reader
 
 QList<Case> casesOf(const QString &path)
 {
-    QFile file(QString::fromUtf8(VELMORA_CASES) + u'/' + path);
+    QFile file(projectFile(u"tests/cases/"_s + path));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no case file %s", qPrintable(file.fileName()));
     Reader reader;
@@ -67,7 +69,7 @@ QList<Case> casesOf(const QString &path)
 
 QList<Case> casesIn(const QString &folder, const QString &prefix)
 {
-    const QDir directory(QString::fromUtf8(VELMORA_CASES) + u'/' + folder);
+    const QDir directory(projectFile(u"tests/cases/"_s + folder));
     QList<Case> cases;
     for (const QString &name : directory.entryList({prefix + u"*.txt"_s}, QDir::Files, QDir::Name))
         cases += casesOf(folder + u'/' + name);

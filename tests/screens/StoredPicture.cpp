@@ -1,6 +1,7 @@
 #include "screens/StoredPicture.h"
 
 #include "screens/gallery/PictureDifference.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -46,7 +47,7 @@ std::string placeOf(const PictureDifference &difference)
 } // namespace
 
 StoredPicture::StoredPicture(const QString &name, bool dark)
-    : m_file(QDir(QStringLiteral(VELMORA_PICTURES))
+    : m_file(QDir(projectFile(u"tests/screens/pictures"_s))
                  .filePath(u"%1-%2@%3x.png"_s.arg(name, dark ? u"dark"_s : u"light"_s)
                                .arg(qRound(qGuiApp->devicePixelRatio()))))
 {

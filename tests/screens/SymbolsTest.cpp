@@ -1,6 +1,7 @@
 #include "screens/Pixels.h"
 #include "screens/kit/painters/SymbolPainter.h"
 #include "screens/kit/providers/SymbolProvider.h"
+#include "support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,7 +27,7 @@ qreal inkOf(const QString &name, SymbolWeight weight = SymbolWeight::Regular)
 
 QStringList tableLines()
 {
-    QFile table(QStringLiteral(VELMORA_ASSETS "/symbols.tsv"));
+    QFile table(projectFile(u"assets/symbols.tsv"_s));
     return table.open(QIODevice::ReadOnly)
                ? QString::fromUtf8(table.readAll()).split(u'\n', Qt::SkipEmptyParts).sliced(1)
                : QStringList();
@@ -78,7 +79,7 @@ TEST(Symbols, EveryFileIsUsed)
     QSet<QString> used;
     for (const auto &line : tableLines())
         used.insert(line.section(u'\t', 1, 1));
-    const auto files = QDir(QStringLiteral(VELMORA_ASSETS "/symbols")).entryList({u"*.svg"_s});
+    const auto files = QDir(projectFile(u"assets/symbols"_s)).entryList({u"*.svg"_s});
     EXPECT_EQ(used, QSet<QString>(files.cbegin(), files.cend()));
 }
 

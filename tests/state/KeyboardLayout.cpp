@@ -1,5 +1,7 @@
 #include "KeyboardLayout.h"
 
+#include "support/TestFiles.h"
+
 #include <QFile>
 #include <QStringList>
 
@@ -57,7 +59,7 @@ QString reportedText(const QString &text, Qt::KeyboardModifiers modifiers)
 
 KeyboardLayout KeyboardLayout::load(const QString &name)
 {
-    QFile file(QStringLiteral(VELMORA_CASES "/../state/layouts/%1.tsv").arg(name));
+    QFile file(projectFile(u"tests/state/layouts/%1.tsv"_s.arg(name)));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
     KeyboardLayout layout;
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
