@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/IssueDerivationInputs.h"
+#include "derivation/IssueDerivationInputs.h"
 
 /// A made-up issue; the same for each number. Forty people, five statuses, dates all over two months.
 inline Issue sample(int number)

@@ -3,7 +3,7 @@
 // the summaries, measured in the same run.
 
 #include "BenchIssues.h"
-#include "state/IssueDerivation.h"
+#include "derivation/IssueDerivation.h"
 
 #include <array>
 #include <benchmark/benchmark.h>

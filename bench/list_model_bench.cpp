@@ -1,7 +1,7 @@
 // What it costs to bring the rows of the list from one state to the next, without a view. Times are processor time.
 
 #include "BenchIssues.h"
-#include "state/IssueDerivation.h"
+#include "derivation/IssueDerivation.h"
 #include "state/models/IssueListModel.h"
 
 #include <benchmark/benchmark.h>

@@ -1,8 +1,8 @@
 #include "shell/KeyMonitor.h"
 
+#include "commands/KeyPress.h"
+#include "commands/KeyRouting.h"
 #include "state/CreateScreen.h"
-#include "state/KeyPress.h"
-#include "state/KeyRouting.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>

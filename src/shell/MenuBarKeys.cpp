@@ -1,7 +1,7 @@
 #include "shell/MenuBarKeys.h"
 
-#include "screens/kit/OpenPopups.h"
-#include "state/KeyPress.h"
+#include "commands/KeyPress.h"
+#include "screens/kit/overlays/OpenPopups.h"
 
 #include <QKeyEvent>
 

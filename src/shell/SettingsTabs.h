@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/ShortcutReference.h"
 #include "platform/Preferences.h"
-#include "state/ShortcutReference.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

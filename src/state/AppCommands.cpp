@@ -1,8 +1,8 @@
 #include "state/AppCommands.h"
 
+#include "commands/ShortcutKey.h"
 #include "platform/Wording.h"
 #include "state/CreateScreen.h"
-#include "state/ShortcutKey.h"
 
 #include <utility>
 

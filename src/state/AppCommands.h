@@ -1,8 +1,8 @@
 #pragma once
 
+#include "commands/CommandTable.h"
+#include "commands/ShortcutReference.h"
 #include "state/AppStore.h"
-#include "state/CommandTable.h"
-#include "state/ShortcutReference.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,8 +1,8 @@
 #include "async/WhileAlive.h"
 #include "state/AppStore.h"
-#include "state/DefaultProject.h"
-#include "state/DocumentComposing.h"
-#include "state/MentionCandidates.h"
+#include "state/edits/DefaultProject.h"
+#include "state/edits/DocumentComposing.h"
+#include "state/edits/MentionCandidates.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #include "async/WhileAlive.h"
 #include "state/AppStore.h"
-#include "state/IssueUpkeep.h"
+#include "state/edits/IssueUpkeep.h"
 
 QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
 {

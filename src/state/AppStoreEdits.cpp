@@ -1,7 +1,7 @@
 #include "async/Spawn.h"
 #include "async/WhileAlive.h"
 #include "state/AppStore.h"
-#include "state/DocumentComposing.h"
+#include "state/edits/DocumentComposing.h"
 
 namespace {
 

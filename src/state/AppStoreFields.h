@@ -1,11 +1,11 @@
 #pragma once
 
+#include "commands/PaletteMode.h"
+#include "derivation/IssueFilters.h"
 #include "model/Comment.h"
 #include "model/IssueScope.h"
 #include "model/IssueService.h"
-#include "state/IssueFilters.h"
 #include "state/Observed.h"
-#include "state/PaletteMode.h"
 #include "state/Toast.h"
 
 #include <QObject>

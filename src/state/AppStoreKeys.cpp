@@ -1,5 +1,5 @@
+#include "commands/KeyRouting.h"
 #include "state/AppStore.h"
-#include "state/KeyRouting.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #include "async/Spawn.h"
 #include "async/WhileAlive.h"
+#include "derivation/IssueDerivationIndex.h"
 #include "state/AppStore.h"
-#include "state/IssueDerivationIndex.h"
-#include "state/IssueUpkeep.h"
+#include "state/edits/IssueUpkeep.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "state/ActivityRecap.h"
 #include "state/AppStore.h"
+#include "state/recap/ActivityRecap.h"
 
 using namespace Qt::StringLiterals;
 

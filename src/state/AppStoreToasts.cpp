@@ -1,5 +1,5 @@
+#include "commands/AppearanceWords.h"
 #include "state/AppStore.h"
-#include "state/AppearanceWords.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

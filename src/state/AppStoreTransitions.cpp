@@ -2,7 +2,7 @@
 #include "async/WhileAlive.h"
 #include "model/JiraError.h"
 #include "state/AppStore.h"
-#include "state/TransitionChoice.h"
+#include "state/edits/TransitionChoice.h"
 
 namespace {
 

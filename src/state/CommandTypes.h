@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/AppCommand.h"
-#include "state/ShortcutReference.h"
+#include "commands/AppCommand.h"
+#include "commands/ShortcutReference.h"
 
 #include <QtQml/qqml.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/ShortcutHints.h"
 #include "platform/Wording.h"
-#include "state/ShortcutHints.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/ActivityHeaderData.h"
-#include "state/ActivityNavigation.h"
+#include "state/recap/ActivityHeaderData.h"
+#include "state/recap/ActivityNavigation.h"
 
 #include <QtQml/qqml.h>
 

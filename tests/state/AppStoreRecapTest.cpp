@@ -1,5 +1,5 @@
-#include "ActivitySamples.h"
 #include "state/AppStoreFixture.h"
+#include "state/recap/ActivitySamples.h"
 
 #include <QSignalSpy>
 

@@ -2,7 +2,7 @@
 # Writes the tables of all layouts that the tests of the key map know.
 set -eu
 cd "$(dirname "$0")"
-target=../../tests/state/layouts
+target=../../tests/commands/layouts
 
 dump() {
     ./dump-layout.py "$2" "${3-}" > "$target/$1.tsv"

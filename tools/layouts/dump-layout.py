@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes what the keys of one keyboard layout produce, from the xkb data of the system, as a table.
 
-Usage: dump-layout.py LAYOUT [VARIANT] > tests/state/layouts/NAME.tsv
+Usage: dump-layout.py LAYOUT [VARIANT] > tests/commands/layouts/NAME.tsv
 
 One row per key of a PC keyboard: the scan code (evdev's plus 8, as the window system reports it), the key's xkb name, and
 for the key alone and for the key with Shift the key symbol's name and the character it stands for (U+XXXX, or - for

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/KeyPress.h"
+#include "commands/KeyPress.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/OptionItem.h"
+#include "commands/OptionItem.h"
 
 #include <QList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/OptionIcon.h"
+#include "commands/OptionIcon.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>

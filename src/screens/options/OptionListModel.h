@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/OptionItem.h"
 #include "screens/options/OptionIconValue.h"
-#include "state/OptionItem.h"
 #include "state/models/KeyedListModel.h"
 
 #include <QtQml/qqmlregistration.h>

@@ -1,6 +1,6 @@
 #include "screens/options/OptionPictures.h"
 
-#include "screens/kit/Pictures.h"
+#include "screens/kit/drawn/Pictures.h"
 
 using namespace Qt::StringLiterals;
 using enum OptionIcons::Kind;

@@ -1,6 +1,6 @@
 #include "screens/palette/PaletteFocus.h"
 
-#include "screens/kit/OpenPopups.h"
+#include "screens/kit/overlays/OpenPopups.h"
 
 #include <QKeyEvent>
 

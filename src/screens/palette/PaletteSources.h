@@ -1,7 +1,7 @@
 #pragma once
 
+#include "derivation/IssueDerivationIndex.h"
 #include "state/AppStore.h"
-#include "state/IssueDerivationIndex.h"
 #include "state/palette/PaletteActions.h"
 #include "state/palette/PaletteSections.h"
 

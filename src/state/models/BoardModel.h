@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/IssueGroup.h"
+#include "derivation/IssueGroup.h"
 #include "state/models/IssueListModel.h"
 #include "state/models/KeyedListModel.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/ActivityBadge.h"
+#include "state/recap/ActivityBadge.h"
 
 #include <QtQml/qqmlregistration.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/KeyIndex.h"
+#include "derivation/KeyIndex.h"
 #include "state/models/RowDiff.h"
 
 #include <QAbstractListModel>

@@ -1,6 +1,6 @@
 #include "state/models/RowDiff.h"
 
-#include "state/KeyIndex.h"
+#include "derivation/KeyIndex.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,6 +1,6 @@
 #include "state/palette/PaletteActions.h"
 
-#include "state/AppearanceWords.h"
+#include "commands/AppearanceWords.h"
 #include "state/palette/PaletteTexts.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/OptionItem.h"
 #include "model/Enums.h"
-#include "state/OptionItem.h"
 
 /// What the actions of the palette depend on.
 struct PaletteActionInputs

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/IssueDerivationSearch.h"
-#include "state/OptionItem.h"
+#include "commands/OptionItem.h"
+#include "derivation/IssueDerivationSearch.h"
 
 /// The most issues that the palette shows.
 constexpr qsizetype mostPaletteIssues = 12;

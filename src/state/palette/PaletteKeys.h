@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/KeyPress.h"
+#include "commands/KeyPress.h"
 
 /// What the palette takes from a press before the search field sees it.
 struct PaletteKey

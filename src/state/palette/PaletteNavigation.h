@@ -1,8 +1,8 @@
 #pragma once
 
+#include "commands/OptionItem.h"
 #include "model/Project.h"
-#include "state/ActivityNavigation.h"
-#include "state/OptionItem.h"
+#include "state/recap/ActivityNavigation.h"
 
 /// How many destinations of the program's own an empty query offers: the first six.
 constexpr qsizetype fixedDestinations = 6;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/PaletteMode.h"
 #include "model/Issue.h"
-#include "state/PaletteMode.h"
 #include "state/palette/SearchableItems.h"
 
 /// Rows of the palette that belong together.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/PaletteMode.h"
+#include "commands/PaletteMode.h"
 #include "state/palette/PaletteRow.h"
 
 /// What the action that opens the picker is called, with its ellipsis.

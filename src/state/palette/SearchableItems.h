@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/OptionItem.h"
+#include "commands/OptionItem.h"
 
 /// Rows with their searchable texts folded once, so that each key typed costs one pass over texts and nothing else.
 class SearchableItems

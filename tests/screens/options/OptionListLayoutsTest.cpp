@@ -1,6 +1,6 @@
+#include "commands/KeyboardLayout.h"
 #include "screens/options/ListedOptions.h"
 #include "screens/options/OptionList.h"
-#include "state/KeyboardLayout.h"
 
 #include <gtest/gtest.h>
 

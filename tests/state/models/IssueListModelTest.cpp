@@ -1,7 +1,7 @@
 #include "state/models/IssueListModel.h"
 
-#include "state/IssueDerivation.h"
-#include "state/IssueDerivationSamples.h"
+#include "derivation/IssueDerivation.h"
+#include "derivation/IssueDerivationSamples.h"
 #include "state/models/ShadowList.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "state/models/SidebarModel.h"
 
-#include "state/IssueDerivationSamples.h"
+#include "derivation/IssueDerivationSamples.h"
 #include "state/models/ShadowList.h"
 
 #include <gtest/gtest.h>

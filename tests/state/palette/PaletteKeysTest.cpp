@@ -1,6 +1,6 @@
 #include "state/palette/PaletteKeys.h"
 
-#include "state/KeyboardLayout.h"
+#include "commands/KeyboardLayout.h"
 
 #include <gtest/gtest.h>
 

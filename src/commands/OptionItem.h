@@ -1,0 +1,23 @@
+#pragma once
+
+#include "commands/OptionAction.h"
+#include "commands/OptionIcon.h"
+
+/// One row of a picker.
+struct OptionItem
+{
+    /// Stable, and unique in its list.
+    QString id;
+    QString title;
+    std::optional<QString> subtitle;
+    OptionIcon icon;
+    /// Shows a check mark.
+    bool isSelected = false;
+    /// The digit key that picks the row.
+    std::optional<QString> shortcut;
+    /// Picking the row leaves the list open.
+    bool keepsOpen = false;
+    OptionAction run;
+
+    bool operator==(const OptionItem &) const = default;
+};

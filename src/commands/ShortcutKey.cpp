@@ -1,0 +1,102 @@
+#include "commands/ShortcutKey.h"
+
+#include "commands/PhysicalKeys.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+using Shift = ShortcutKey::Shift;
+
+constexpr ShortcutKey shortcut(char16_t character, Qt::KeyboardModifiers flags, Shift shift,
+                               AppCommand command)
+{
+    return {character, flags, shift, command};
+}
+
+constexpr Qt::KeyboardModifiers control = Qt::ControlModifier;
+constexpr Qt::KeyboardModifiers controlAlt = Qt::ControlModifier | Qt::AltModifier;
+
+constexpr std::array shortcuts{
+    shortcut(u'n', control, Shift::NotHeld, AppCommand::NewIssue),
+    shortcut(u'k', control, Shift::NotHeld, AppCommand::CommandPalette),
+    shortcut(u'r', control, Shift::NotHeld, AppCommand::Reload),
+    shortcut(u'.', control, Shift::NotHeld, AppCommand::CopyKey),
+    shortcut(u'.', control, Shift::Held, AppCommand::CopyBranch),
+    shortcut(u',', control, Shift::Held, AppCommand::CopyLink),
+    shortcut(u'o', control, Shift::Held, AppCommand::OpenInBrowser),
+    shortcut(u'1', controlAlt, Shift::NotHeld, AppCommand::ShowList),
+    shortcut(u'2', controlAlt, Shift::NotHeld, AppCommand::ShowBoard),
+    shortcut(u'i', controlAlt, Shift::NotHeld, AppCommand::TogglePeek),
+};
+
+/// One way to read a press.
+struct Reading
+{
+    QString character;
+    Shift shift;
+};
+
+Shift heldShift(const KeyPress &press)
+{
+    return press.isShiftHeld() ? Shift::Held : Shift::NotHeld;
+}
+
+Reading byOwnCharacter(const KeyPress &press)
+{
+    const QString typed = press.characters.toLower();
+    const bool isLetter = !typed.isEmpty() && typed.front().isLetter();
+    // A letter is the same with Shift; of other keys Shift hides what they type alone.
+    const QString own = press.ownCharacter();
+    return {own.isEmpty() && isLetter ? typed : own, heldShift(press)};
+}
+
+Reading byShiftedCharacter(const KeyPress &press)
+{
+    const QString typed = press.characters.toLower();
+    const bool isUsedUp = press.isShiftHeld() && typed != byOwnCharacter(press).character;
+    return {isUsedUp ? typed : QString(), Shift::NotHeld};
+}
+
+bool isLatinLetter(const QString &text)
+{
+    return !text.isEmpty() && text.front().isLetter() && !isOtherScript(text);
+}
+
+/// What the place says. Among signs it counts for signs, and in a layout of another script for letters too; the top
+/// row's letters with accents stand where the digits are.
+Reading byPlace(const KeyPress &press)
+{
+    const QString own = press.ownCharacter().isEmpty() ? press.characters : press.ownCharacter();
+    const auto character = characterAtPlace(press.scanCode);
+    const bool isDigit = character && character->isDigit();
+    const bool isHidden = isDigit || isOtherScript(own) ||
+                          (!isLatinLetter(own) && character && !character->isLetter());
+    return {isHidden && character ? QString(*character) : QString(), heldShift(press)};
+}
+
+std::optional<AppCommand> commandOf(const Reading &reading, Qt::KeyboardModifiers flags)
+{
+    const auto row = std::ranges::find_if(shortcuts, [&](const ShortcutKey &key) {
+        return reading.character == QChar(key.character) && key.shift == reading.shift &&
+               key.flags == flags;
+    });
+    return row == shortcuts.end() ? std::nullopt : std::optional(row->command);
+}
+
+} // namespace
+
+std::span<const ShortcutKey> shortcutKeys()
+{
+    return shortcuts;
+}
+
+std::optional<AppCommand> shortcutCommand(const KeyPress &press)
+{
+    for (const auto &read : {byOwnCharacter, byShiftedCharacter, byPlace}) {
+        if (const auto command = commandOf(read(press), press.flags()))
+            return command;
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,169 @@
+#include "derivation/IssueDerivationOrder.h"
+
+#include <algorithm>
+
+namespace {
+
+template <typename MakeKey>
+IssueOrder sortedBy(const IssueList &issues, MakeKey makeKey)
+{
+    IssueOrder order;
+    order.keys.reserve(issues.size());
+    for (const auto &issue : issues) {
+        SortKey key = makeKey(*issue);
+        key.row = quint32(order.keys.size());
+        order.keys.push_back(key);
+    }
+    auto sorted = order.keys;
+    std::sort(sorted.begin(), sorted.end());
+    order.rows.resize(sorted.size());
+    std::transform(sorted.begin(), sorted.end(), order.rows.begin(),
+                   [](const SortKey &key) { return key.row; });
+    return order;
+}
+
+/// Sorts later instants before earlier ones.
+qint64 latestFirst(const QDateTime &instant)
+{
+    return -instant.toMSecsSinceEpoch();
+}
+
+QDateTime lastActivityDate(const Issue &issue)
+{
+    if (issue.activity.isEmpty())
+        return issue.updated;
+    const auto isEarlier = [](const ActivityEvent &a, const ActivityEvent &b) {
+        return a.date < b.date;
+    };
+    return std::max_element(issue.activity.begin(), issue.activity.end(), isEarlier)->date;
+}
+
+/// The place of each project key in plain text order.
+QHash<QString, qint64> projectPlaces(const IssueList &issues)
+{
+    QHash<QString, qint64> places;
+    for (const auto &issue : issues)
+        places.insert(issue->projectKey, 0);
+    auto keys = places.keys();
+    std::sort(keys.begin(), keys.end());
+    for (qsizetype place = 0; place < keys.size(); ++place)
+        places[keys[place]] = place;
+    return places;
+}
+
+IssueOrder keyOrder(const IssueList &issues)
+{
+    const auto places = projectPlaces(issues);
+    return sortedBy(issues, [&places](const Issue &issue) {
+        return SortKey{places.value(issue.projectKey), issue.number()};
+    });
+}
+
+SortKey recapKey(const Issue &issue)
+{
+    return {latestFirst(lastActivityDate(issue))};
+}
+
+/// All but the place by key, which hangs on the projects of the whole list.
+SortKey keyIn(Ordering ordering, const Issue &issue)
+{
+    switch (ordering) {
+    case Ordering::Priority:
+        return {qint64(issue.priorityLevel()), latestFirst(issue.updated)};
+    case Ordering::Updated:
+        return {latestFirst(issue.updated)};
+    case Ordering::Created:
+        return {latestFirst(issue.created)};
+    case Ordering::Key:
+    case Ordering::Manual:
+        break;
+    }
+    return {};
+}
+
+int listRank(StatusCategory category, DoneFirst doneFirst)
+{
+    switch (category) {
+    case StatusCategory::InProgress:
+        return 0;
+    case StatusCategory::Todo:
+        return 1;
+    case StatusCategory::Backlog:
+        return 2;
+    case StatusCategory::Done:
+        return doneFirst == DoneFirst::Yes ? -1 : 3;
+    case StatusCategory::Cancelled:
+        return 4;
+    }
+    return 4;
+}
+
+} // namespace
+
+LocalizedKey NameOrder::key(const QString &name) const
+{
+    auto known = m_keys.constFind(name);
+    if (known == m_keys.constEnd())
+        known = m_keys.insert(name, m_comparator.key(name));
+    return *known;
+}
+
+StatusRanks::StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses)
+{
+    auto projects = projectStatuses.keys();
+    std::sort(projects.begin(), projects.end());
+    for (const auto &project : projects) {
+        const auto statuses = projectStatuses.value(project);
+        for (int rank = 0; rank < statuses.size(); ++rank) {
+            if (!m_ranks.contains(statuses[rank].groupKey()))
+                m_ranks.insert(statuses[rank].groupKey(), rank);
+        }
+    }
+}
+
+StatusPlace listPlace(const IssueStatus &status, const StatusRanks &ranks, const NameOrder &names,
+                      DoneFirst doneFirst)
+{
+    return {listRank(status.category(), doneFirst), -status.progress(), ranks.of(status.groupKey()),
+            names.key(status.name())};
+}
+
+StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, const NameOrder &names)
+{
+    return {int(status.category()), status.progress(), ranks.of(status.groupKey()),
+            names.key(status.name())};
+}
+
+IssueOrder recapOrder(const IssueList &issues)
+{
+    return sortedBy(issues, recapKey);
+}
+
+IssueOrder issueOrder(const IssueList &issues, Ordering ordering)
+{
+    if (ordering == Ordering::Key)
+        return keyOrder(issues);
+    return sortedBy(issues, [ordering](const Issue &issue) { return keyIn(ordering, issue); });
+}
+
+SortKey changedRecapKey(const SortKey &before, const Issue &issue)
+{
+    SortKey key = recapKey(issue);
+    key.row = before.row;
+    return key;
+}
+
+SortKey changedKey(const SortKey &before, const Issue &issue, Ordering ordering)
+{
+    if (ordering == Ordering::Key)
+        return before;
+    SortKey key = keyIn(ordering, issue);
+    key.row = before.row;
+    return key;
+}
+
+qsizetype placeOf(const SortKey &key, const IssueRows &rows, const SortKeys &keys)
+{
+    const auto isBefore = [&keys](quint32 row, const SortKey &other) { return keys[row] < other; };
+    return std::lower_bound(rows.begin(), rows.end(), key, isBefore) - rows.begin();
+}

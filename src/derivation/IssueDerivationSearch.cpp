@@ -1,0 +1,116 @@
+#include "derivation/IssueDerivationSearch.h"
+
+#include "model/TextFolding.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// Stands behind each text. Never part of UTF-8, so no needle can reach over the end of a text.
+constexpr char endOfText = '\xff';
+
+QString assigneeName(const Issue &issue)
+{
+    return issue.assignee ? issue.assignee->name : QString();
+}
+
+void appendText(QByteArray &texts, const QString &text)
+{
+    texts += folded(text).toUtf8();
+    texts += endOfText;
+}
+
+void appendTexts(QByteArray &texts, const Issue &issue)
+{
+    appendText(texts, issue.key);
+    appendText(texts, issue.summary);
+    for (const auto &label : issue.labels)
+        appendText(texts, label);
+    appendText(texts, assigneeName(issue));
+}
+
+} // namespace
+
+QByteArray SearchTexts::needle(const QString &filterText)
+{
+    return folded(filterText.trimmed()).toUtf8();
+}
+
+bool SearchTexts::sameTexts(const Issue &a, const Issue &b)
+{
+    return a.key == b.key && a.summary == b.summary && a.labels == b.labels &&
+           assigneeName(a) == assigneeName(b);
+}
+
+void SearchTexts::reserve(qsizetype issues, qsizetype bytes)
+{
+    m_ends.reserve(issues);
+    m_texts.reserve(bytes);
+}
+
+void SearchTexts::append(const Issue &issue)
+{
+    appendTexts(m_texts, issue);
+    m_ends.push_back(m_texts.size());
+}
+
+void SearchTexts::append(const SearchTexts &other, qsizetype row)
+{
+    m_texts.append(other.textsOf(row));
+    m_ends.push_back(m_texts.size());
+}
+
+void SearchTexts::replace(qsizetype row, const Issue &issue)
+{
+    QByteArray texts;
+    appendTexts(texts, issue);
+    m_replaced.insert(row, texts);
+}
+
+std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
+{
+    std::vector<quint8> hits(m_ends.size(), needle.isEmpty() ? 1 : 0);
+    if (needle.isEmpty())
+        return hits;
+    const char *const begin = m_texts.constData();
+    const char *const end = begin + m_texts.size();
+    const char *at = begin;
+    std::size_t row = 0;
+    while (
+        (at = static_cast<const char *>(memmem(at, end - at, needle.constData(), needle.size())))) {
+        while (m_ends[row] <= at - begin)
+            ++row;
+        hits[row] = 1;
+        at = begin + m_ends[row];
+    }
+    for (auto texts = m_replaced.cbegin(); texts != m_replaced.cend(); ++texts)
+        hits[texts.key()] = texts.value().contains(needle);
+    return hits;
+}
+
+std::vector<quint8> SearchTexts::containing(const QByteArray &needle,
+                                            std::vector<quint8> hits) const
+{
+    // One pass over all texts costs less than many looks into single ones.
+    constexpr std::ptrdiff_t few = 8;
+    if (std::ranges::count(hits, 1) * few > std::ssize(hits))
+        return containing(needle);
+    for (std::size_t row = 0; row < hits.size(); ++row)
+        hits[row] = hits[row] != 0 && contains(qsizetype(row), needle);
+    return hits;
+}
+
+bool SearchTexts::contains(qsizetype row, const QByteArray &needle) const
+{
+    return needle.isEmpty() || textsOf(row).contains(needle);
+}
+
+QByteArrayView SearchTexts::textsOf(qsizetype row) const
+{
+    const auto replaced = m_replaced.constFind(row);
+    if (replaced != m_replaced.constEnd())
+        return *replaced;
+    const auto start = row == 0 ? 0 : m_ends[row - 1];
+    return QByteArrayView(m_texts).sliced(start, m_ends[row] - start);
+}

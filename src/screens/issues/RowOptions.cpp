@@ -1,7 +1,0 @@
-#include "screens/issues/RowOptions.h"
-
-void RowOptions::aim(int kind, const QString &key)
-{
-    setKind(Kind(kind));
-    setKeys(store() ? store()->contextKeys(key) : QStringList());
-}

@@ -1,0 +1,41 @@
+#include "screens/issues/board/CardCaptions.h"
+
+#include "screens/issues/face/IssueCaptions.h"
+#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/list/RowFit.h"
+
+using namespace IssueCaptions;
+
+namespace {
+
+/// Within the chips, which stand in the middle of the lower line.
+Caption onFoot(double x, const CardPlan &plan, const Caption &caption)
+{
+    const double top =
+        plan.foot + IssuePictures::centred(CardPlan::footHeight, IssuePictures::chipHeight);
+    return inMiddle({x, top}, IssuePictures::chipHeight, caption);
+}
+
+Caption labelOn(const CardLabel &place, const QString &name, const CardCaptionsInput &card)
+{
+    Caption caption = onFoot(place.x + nameInset, card.plan, label(name, card.style.quiet));
+    if (place.width < RowFitting::labelsWidth({name}))
+        caption.width = place.width - chipFrame;
+    return caption;
+}
+
+} // namespace
+
+QList<Caption> cardCaptions(const CardCaptionsInput &card)
+{
+    const auto &plan = card.plan;
+    QList<Caption> captions{inMiddle({plan.key, CardPlan::margin}, CardPlan::headHeight,
+                                     key(card.key, card.style.quiet))};
+    if (plan.due != CardPlan::absent) {
+        const QColor color = card.isOverdue ? card.style.late : card.style.quiet;
+        captions += onFoot(plan.due + dateInset, plan, due(card.contents.dueText, color));
+    }
+    for (qsizetype i = 0; i < plan.labels.size(); ++i)
+        captions += labelOn(plan.labels[i], card.contents.labels.value(i), card);
+    return captions;
+}

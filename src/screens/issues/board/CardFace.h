@@ -1,0 +1,69 @@
+#pragma once
+
+#include "screens/issues/board/CardGround.h"
+#include "screens/issues/board/CardPlan.h"
+#include "screens/issues/board/CardStyle.h"
+#include "screens/issues/face/IssueFace.h"
+
+#include <QVariantAnimation>
+
+/// The base of a card of the board: its ground, a line with type, key and assignee, the summary, which stands in QML, and
+/// a line with priority, due date and labels.
+class CardFace : public IssueFace
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(CardStyle *style READ style WRITE setStyle NOTIFY styleChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isFocused MEMBER m_isFocused NOTIFY edgeChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isChecked MEMBER m_isChecked NOTIFY edgeChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isOpen MEMBER m_isOpen NOTIFY edgeChanged REQUIRED FINAL)
+    /// Its menu is open: it looks as under the pointer, which is on the menu.
+    Q_PROPERTY(bool hasMenu MEMBER m_hasMenu NOTIFY menuChanged FINAL)
+    /// Of the summary's lines, in logical pixels.
+    Q_PROPERTY(
+        double titleHeight READ titleHeight WRITE setTitleHeight NOTIFY titleHeightChanged FINAL)
+    Q_PROPERTY(QRectF titleBox READ titleBox NOTIFY sizeChanged FINAL)
+    /// The cells that can be changed on the spot.
+    Q_PROPERTY(QRectF priorityCell READ priorityCell NOTIFY planned FINAL)
+    Q_PROPERTY(QRectF assigneeCell READ assigneeCell NOTIFY planned FINAL)
+
+public:
+    explicit CardFace(QQuickItem *parent = nullptr);
+
+    CardStyle *style() const { return m_style; }
+    void setStyle(CardStyle *style);
+    double titleHeight() const { return m_titleHeight; }
+    void setTitleHeight(double height);
+    QRectF titleBox() const;
+    QRectF priorityCell() const { return m_plan.priority; }
+    QRectF assigneeCell() const { return m_plan.assignee; }
+
+    Q_INVOKABLE HotSpot spotAt(double x, double y) const override;
+
+Q_SIGNALS:
+    void edgeChanged();
+    void menuChanged();
+    void titleHeightChanged();
+    void sizeChanged();
+
+protected:
+    void makePlan() override;
+    void geometryChange(const QRectF &now, const QRectF &before) override;
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override;
+
+private:
+    void followLift();
+    CardGround ground() const;
+
+    QPointer<CardStyle> m_style;
+    bool m_isFocused = false;
+    bool m_isChecked = false;
+    bool m_isOpen = false;
+    bool m_hasMenu = false;
+    double m_titleHeight = 0;
+    CardPlan m_plan;
+    /// From 0, at rest, to 1, raised.
+    double m_lift = 0;
+    /// Made when the card is first raised.
+    QVariantAnimation *m_rise = nullptr;
+};

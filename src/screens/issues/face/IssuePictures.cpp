@@ -1,0 +1,191 @@
+#include "screens/issues/face/IssuePictures.h"
+
+#include "screens/kit/images/PictureProvider.h"
+#include "screens/kit/painters/AvatarPainter.h"
+#include "screens/kit/painters/PriorityPainter.h"
+#include "screens/kit/painters/StatusPainter.h"
+#include "screens/kit/painters/SymbolPainter.h"
+#include "screens/kit/painters/TypePainter.h"
+#include "screens/kit/providers/SymbolProvider.h"
+#include "screens/theme/IdentityColors.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace IssuePictures {
+
+namespace {
+
+enum Kind { Priority, Status, Type, Chip, Dot, Due, Nobody, Initials, Person, CellFill, CellEdge };
+
+constexpr double typeFont = 11;
+constexpr double chipPadding = 7;
+constexpr double calendarFont = 10;
+/// Of a cell's fill; of the outline of a card's cell.
+constexpr double fillRadius = 6;
+constexpr double edgeRadius = 5;
+
+void strokeRounded(QPainter &painter, QSizeF size, double radius, const QColor &color)
+{
+    painter.setPen(QPen(color, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5,
+                            radius - 0.5);
+}
+
+void strokeCapsule(QPainter &painter, double width, const QColor &color)
+{
+    strokeRounded(painter, {width, chipHeight}, chipHeight / 2, color);
+}
+
+void fillDot(QPainter &painter, QPointF corner, const QColor &color)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(QRectF(corner, QSizeF(dotSide, dotSide)));
+}
+
+PlacedPicture initials(const JiraUser &user)
+{
+    const QColor color = IdentityColors::person(user.id);
+    const QString initials = user.initials();
+    return {{.kind = Initials, .text = initials, .color = color, .size = {avatarSide, avatarSide}},
+            [=](QPainter &painter) { paintAvatar(painter, color, initials, avatarSide); },
+            {}};
+}
+
+PlacedPicture person(const JiraUser &user, const QImage &face)
+{
+    const auto paint = [face](QPainter &painter) {
+        const int pixels = painter.device()->width();
+        painter.drawImage(QRectF(0, 0, avatarSide, avatarSide), roundPicture(face, pixels));
+    };
+    return {{.kind = Person,
+             .value = double(face.cacheKey()),
+             .text = user.id,
+             .size = {avatarSide, avatarSide}},
+            paint,
+            {}};
+}
+
+PlacedPicture nobody()
+{
+    return {{.kind = Nobody, .size = {avatarSide, avatarSide}},
+            [](QPainter &painter) { paintNobody(painter, avatarSide); },
+            {}};
+}
+
+} // namespace
+
+double centred(double room, double length)
+{
+    const auto half = [](double whole) { return std::ceil(std::floor(whole) / 2); };
+    return half(room) - half(length);
+}
+
+PlacedPicture priority(PriorityLevel level, const IssueStyle &style, double side)
+{
+    const QColor tint = level == PriorityLevel::None ? style.faint : style.ink;
+    const PictureKey key{
+        .kind = Priority, .value = double(level), .color = tint, .size = {side, side}};
+    return {key, [=](QPainter &painter) { paintPriorityIcon(painter, level, tint, side); }, {}};
+}
+
+PlacedPicture status(const IssueStatus &status, const IssueStyle &style, double side)
+{
+    const StatusDrawing drawing{status.category(), status.progress(), style.done};
+    const PictureKey key{.kind = Status,
+                         .value = double(drawing.category),
+                         .detail = drawing.progress,
+                         .color = drawing.accent,
+                         .size = {side, side}};
+    return {key, [=](QPainter &painter) { paintStatusIcon(painter, drawing, side); }, {}};
+}
+
+double typeBorder()
+{
+    return symbolBorder(symbolSide(typeFont));
+}
+
+PlacedPicture type(const IssueType &type)
+{
+    const auto kind = type.kind();
+    const double border = typeBorder();
+    const double side = typeSide + 2 * border;
+    const auto paint = [=](QPainter &painter) {
+        painter.translate(border, border);
+        paintTypeIcon(painter, kind, typeFont);
+    };
+    return {{.kind = Type, .value = double(kind), .size = {side, side}}, paint, {}};
+}
+
+PlacedPicture chip(const QString &label, double width, const IssueStyle &style)
+{
+    const QColor dot = IdentityColors::label(label);
+    const QColor outline = style.outline;
+    const PictureKey key{.kind = Chip,
+                         .value = width,
+                         .color = dot,
+                         .secondColor = outline,
+                         .size = {width, chipHeight}};
+    const auto paint = [=](QPainter &painter) {
+        strokeCapsule(painter, width, outline);
+        fillDot(painter, {chipPadding, (chipHeight - dotSide) / 2}, dot);
+    };
+    return {key, paint, {}};
+}
+
+PlacedPicture dot(const QString &label)
+{
+    const QColor color = IdentityColors::label(label);
+    return {{.kind = Dot, .color = color, .size = {dotSide, dotSide}},
+            [=](QPainter &painter) { fillDot(painter, {}, color); },
+            {}};
+}
+
+PlacedPicture due(double width, bool isOverdue, const IssueStyle &style)
+{
+    const QColor ink = isOverdue ? style.late : style.quiet;
+    const QColor outline = isOverdue ? style.lateOutline : style.outline;
+    const PictureKey key{.kind = Due,
+                         .value = width,
+                         .color = ink,
+                         .secondColor = outline,
+                         .size = {width, chipHeight}};
+    const auto paint = [=](QPainter &painter) {
+        strokeCapsule(painter, width, outline);
+        const double side = symbolSide(calendarFont);
+        paintSymbol(painter, {u"calendar"_s, ink},
+                    {chipPadding, centred(chipHeight, side), side, side});
+    };
+    return {key, paint, {}};
+}
+
+PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face)
+{
+    if (!user)
+        return nobody();
+    return face.isNull() ? initials(*user) : person(*user, face);
+}
+
+PlacedPicture cellFill(QSizeF size, const QColor &color)
+{
+    const auto paint = [=](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRoundedRect(QRectF(QPointF(), size), fillRadius, fillRadius);
+    };
+    return {{.kind = CellFill, .color = color, .size = size}, paint, {}};
+}
+
+PlacedPicture cellEdge(QSizeF size, const QColor &color)
+{
+    return {{.kind = CellEdge, .color = color, .size = size},
+            [=](QPainter &painter) { strokeRounded(painter, size, edgeRadius, color); },
+            {}};
+}
+
+} // namespace IssuePictures

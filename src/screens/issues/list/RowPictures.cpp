@@ -1,0 +1,67 @@
+#include "screens/issues/list/RowPictures.h"
+
+#include "screens/issues/list/RowFit.h"
+
+using namespace IssuePictures;
+
+namespace {
+
+constexpr double iconSide = 14;
+constexpr double dotStep = 10;
+constexpr double chipGap = 4;
+
+/// In the middle of a cell that begins at `x`.
+PlacedPicture inCell(const PlacedPicture &picture, double x, double height)
+{
+    const QSizeF size = picture.key.size;
+    return picture.at({x + (cellSide - size.width()) / 2, centred(height, size.height())});
+}
+
+PlacedPicture atX(const PlacedPicture &picture, double x, double height)
+{
+    return picture.at({x, centred(height, picture.key.size.height())});
+}
+
+void addNames(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
+{
+    const auto &labels = row.issue.labels;
+    double x = row.plan.labels;
+    for (const auto &label : labels.first(std::min(qsizetype(2), labels.size()))) {
+        const double width = RowFitting::labelsWidth({label});
+        pictures.push_back(atX(chip(label, width, row.style), x, row.height));
+        x += width + chipGap;
+    }
+}
+
+void addDots(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
+{
+    const auto &labels = row.issue.labels;
+    double x = row.plan.labels;
+    for (const auto &label : labels.first(std::min(qsizetype(4), labels.size()))) {
+        pictures.push_back(atX(dot(label), x, row.height));
+        x += dotStep;
+    }
+}
+
+} // namespace
+
+std::vector<PlacedPicture> rowPictures(const RowPicturesInput &row)
+{
+    const auto &[issue, plan, style, isOverdue, person, height, hotSpot] = row;
+    std::vector<PlacedPicture> pictures;
+    if (hotSpot.isCell())
+        pictures.push_back(cellFill(hotSpot.box.size(), style.cellFill).at(hotSpot.box.topLeft()));
+    if (plan.priority != RowPlan::absent)
+        pictures.push_back(
+            inCell(priority(issue.priorityLevel(), style, iconSide), plan.priority, height));
+    pictures.push_back(inCell(status(issue.status, style, iconSide), plan.status, height));
+    if (plan.type != RowPlan::absent && issue.type)
+        pictures.push_back(atX(type(*issue.type), plan.type - typeBorder(), height));
+    if (plan.labels != RowPlan::absent)
+        plan.showsLabelNames ? addNames(pictures, row) : addDots(pictures, row);
+    if (plan.due != RowPlan::absent)
+        pictures.push_back(atX(due(plan.dueWidth, isOverdue, style), plan.due, height));
+    if (plan.assignee != RowPlan::absent)
+        pictures.push_back(inCell(assignee(issue.assignee, person), plan.assignee, height));
+    return pictures;
+}

@@ -1,0 +1,115 @@
+#include "screens/issues/list/RowPlan.h"
+
+#include "screens/issues/list/RowFit.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double margin = 12;
+constexpr double gap = 10;
+constexpr double checkWidth = 14;
+constexpr double cellWidth = 22;
+constexpr double typeWidth = 14;
+constexpr double updatedWidth = 54;
+constexpr double activityWidth = 132;
+constexpr double compactDueWidth = 26;
+constexpr double dotWidth = 7;
+constexpr double dotGap = 3;
+constexpr qsizetype mostDots = 4;
+
+double dotsWidth(const QStringList &labels)
+{
+    const auto count = double(std::min(mostDots, labels.size()));
+    return count > 0 ? count * dotWidth + (count - 1) * dotGap : 0;
+}
+
+double withGap(double width)
+{
+    return width > 0 ? width + gap : 0;
+}
+
+/// Takes the columns' places one after the other; the first has no gap before it.
+class Places
+{
+public:
+    explicit Places(double start) : m_start(start), m_end(start) {}
+
+    double take(bool isShown, double width)
+    {
+        if (!isShown)
+            return RowPlan::absent;
+        const double place = m_end > m_start ? m_end + gap : m_end;
+        m_end = place + width;
+        return place;
+    }
+    double end() const { return m_end; }
+
+private:
+    double m_start;
+    double m_end;
+};
+
+/// How wide the columns behind the due date are together.
+double trailingWidth(const RowContents &contents)
+{
+    Places places(0);
+    places.take(contents.display.assignee, cellWidth);
+    places.take(contents.display.updated, contents.hasActivity ? activityWidth : updatedWidth);
+    return places.end();
+}
+
+void placeLeading(RowPlan &plan, Places &places, const RowContents &contents)
+{
+    plan.check = places.take(true, checkWidth);
+    plan.priority = places.take(contents.display.priority, cellWidth);
+    plan.key = places.take(contents.display.key, contents.keyWidth);
+    plan.status = places.take(true, cellWidth);
+    plan.type = places.take(contents.display.type, typeWidth);
+}
+
+void placeTrailing(RowPlan &plan, double start, const RowContents &contents)
+{
+    Places places(start);
+    plan.assignee = places.take(contents.display.assignee, cellWidth);
+    plan.updated = places.take(contents.display.updated, updatedWidth);
+}
+
+/// Places labels, due date and summary from the right, in the forms that fit between the other columns.
+void placeMiddle(RowPlan &plan, const RowContents &contents, double start, double end)
+{
+    const bool hasDue = contents.display.dueDate && !contents.dueText.isEmpty();
+    const bool hasLabels = contents.display.labels && !contents.labels.isEmpty();
+    const double namesWidth = hasLabels ? RowFitting::labelsWidth(contents.labels) : 0;
+    const double dots = hasLabels ? dotsWidth(contents.labels) : 0;
+    const double dueWidth = hasDue ? RowFitting::dueWidth(contents.dueText) : 0;
+    const auto fit = RowFitting::fit(end - start, withGap(namesWidth), withGap(dots),
+                                     withGap(dueWidth), hasDue ? withGap(compactDueWidth) : 0);
+    plan.showsLabelNames = fit.showsLabelNames;
+    plan.showsDueText = fit.showsDueText;
+    double right = end;
+    if (hasDue) {
+        plan.dueWidth = fit.showsDueText ? dueWidth : compactDueWidth;
+        plan.due = right - plan.dueWidth;
+        right = plan.due - gap;
+    }
+    if (hasLabels) {
+        plan.labels = right - (fit.showsLabelNames ? namesWidth : dots);
+        right = plan.labels - gap;
+    }
+    plan.summary = start;
+    plan.summaryWidth = std::max(0.0, right - start);
+}
+
+} // namespace
+
+RowPlan rowPlan(const RowContents &contents, double width)
+{
+    RowPlan plan;
+    Places leading(margin);
+    placeLeading(plan, leading, contents);
+    const double trailing = width - margin - trailingWidth(contents);
+    placeTrailing(plan, trailing, contents);
+    placeMiddle(plan, contents, leading.end() + gap, trailing - gap);
+    return plan;
+}

@@ -1,0 +1,121 @@
+#include "screens/issues/menus/IssueMenu.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Submenu
+{
+    QLatin1StringView id;
+    PickerKind kind;
+    QStringView title;
+};
+
+constexpr std::array submenus{Submenu{"status"_L1, PickerKind::Status, u"Statut"},
+                              Submenu{"priority"_L1, PickerKind::Priority, u"Priorité"},
+                              Submenu{"assignee"_L1, PickerKind::Assignee, u"Assigner"},
+                              Submenu{"labels"_L1, PickerKind::Labels, u"Étiquettes"}};
+
+constexpr QLatin1StringView toMe("assign:me");
+constexpr QLatin1StringView toNobody("assignee:none");
+
+bool ticksChoices(PickerKind kind)
+{
+    return kind == PickerKind::Labels;
+}
+
+QList<MenuChoice> optionChoices(PickerKind kind, const QList<OptionItem> &options)
+{
+    QList<MenuChoice> choices;
+    for (const auto &option : options)
+        choices += {option.id, option.title, option.icon, ticksChoices(kind) && option.isSelected};
+    return choices;
+}
+
+/// The row for nobody comes first among the options; the menu has an entry in words for it.
+QList<MenuChoice> assigneeChoices(const QList<OptionItem> &options)
+{
+    QList<MenuChoice> choices{
+        {toMe, u"M'assigner"_s, OptionIcon{OptionIcon::Symbol{u"person.fill.checkmark"_s}}},
+        {toNobody, u"Retirer l'assignation"_s, OptionIcon{OptionIcon::Symbol{u"person.slash"_s}}}};
+    auto people = optionChoices(PickerKind::Assignee, options.sliced(1));
+    if (!people.isEmpty())
+        people.front().startsGroup = true;
+    return choices + people;
+}
+
+} // namespace
+
+QList<MenuSection> issueMenuSections(const AppStore &store, const QStringList &keys)
+{
+    QList<MenuSection> sections;
+    for (const auto &submenu : submenus) {
+        const auto options = store.options(submenu.kind, keys);
+        const auto choices = submenu.kind == PickerKind::Assignee
+                                 ? assigneeChoices(options)
+                                 : optionChoices(submenu.kind, options);
+        if (!choices.isEmpty() || submenu.kind != PickerKind::Labels)
+            sections += {submenu.id, submenu.title.toString(), choices};
+    }
+    return sections;
+}
+
+QString IssueMenu::copyKeysTitle() const
+{
+    return u"Copier les %1 clés"_s.arg(m_keys.size());
+}
+
+void IssueMenu::prepare(const QString &key)
+{
+    if (!m_store)
+        return;
+    m_keys = m_store->contextKeys(key);
+    m_sections = issueMenuSections(*m_store, m_keys);
+    Q_EMIT changed();
+}
+
+void IssueMenu::choose(const QString &section, const QString &choice)
+{
+    const auto *submenu = std::ranges::find(submenus, section, &Submenu::id);
+    if (!m_store || submenu == submenus.end())
+        return;
+    if (choice == toMe)
+        return m_store->assignToMe(m_keys);
+    const auto options = m_store->options(submenu->kind, m_keys);
+    const auto option = std::ranges::find(options, choice, &OptionItem::id);
+    if (option != options.end())
+        m_store->run(option->run);
+}
+
+void IssueMenu::openWindow()
+{
+    if (m_store && isSingle())
+        Q_EMIT m_store->openWindowRequested(m_keys.front());
+}
+
+void IssueMenu::openInBrowser()
+{
+    if (m_store && isSingle())
+        m_store->openInBrowser(m_keys.front());
+}
+
+void IssueMenu::copyKeys()
+{
+    if (m_store)
+        m_store->copyKeys(m_keys);
+}
+
+void IssueMenu::copyLink()
+{
+    if (m_store && isSingle())
+        m_store->copyLink(m_keys.front());
+}
+
+void IssueMenu::copyBranch()
+{
+    if (m_store && isSingle())
+        m_store->copyBranch(m_keys.front());
+}

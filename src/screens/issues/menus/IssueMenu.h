@@ -1,0 +1,50 @@
+#pragma once
+
+#include "screens/issues/menus/MenuSection.h"
+#include "state/AppStore.h"
+
+#include <QPointer>
+
+/// The submenus of the context menu of some issues: statuses, priorities, people and, where the list has any, labels.
+QList<MenuSection> issueMenuSections(const AppStore &store, const QStringList &keys);
+
+/// The context menu of a row or a card. It keeps the issues it was opened on, whatever is checked meanwhile.
+class IssueMenu : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store MEMBER m_store NOTIFY storeChanged FINAL REQUIRED)
+    /// At least one while the menu is shown.
+    Q_PROPERTY(QStringList keys READ keys NOTIFY changed FINAL)
+    Q_PROPERTY(QList<MenuSection> sections READ sections NOTIFY changed FINAL)
+    Q_PROPERTY(bool isSingle READ isSingle NOTIFY changed FINAL)
+    /// "Copier les 3 clés".
+    Q_PROPERTY(QString copyKeysTitle READ copyKeysTitle NOTIFY changed FINAL)
+
+public:
+    using QObject::QObject;
+
+    const QStringList &keys() const { return m_keys; }
+    const QList<MenuSection> &sections() const { return m_sections; }
+    bool isSingle() const { return m_keys.size() == 1; }
+    QString copyKeysTitle() const;
+
+    /// Takes the menu to the row of an issue: to all checked issues if it is one of them, else to it alone.
+    Q_INVOKABLE void prepare(const QString &key);
+    /// Carries out an entry of a submenu; unknown ones do nothing.
+    Q_INVOKABLE void choose(const QString &section, const QString &choice);
+    Q_INVOKABLE void openWindow();
+    Q_INVOKABLE void openInBrowser();
+    Q_INVOKABLE void copyKeys();
+    Q_INVOKABLE void copyLink();
+    Q_INVOKABLE void copyBranch();
+
+Q_SIGNALS:
+    void storeChanged();
+    void changed();
+
+private:
+    QPointer<AppStore> m_store;
+    QStringList m_keys;
+    QList<MenuSection> m_sections;
+};

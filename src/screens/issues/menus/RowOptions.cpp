@@ -1,0 +1,7 @@
+#include "screens/issues/menus/RowOptions.h"
+
+void RowOptions::aim(int kind, const QString &key)
+{
+    setKind(Kind(kind));
+    setKeys(store() ? store()->contextKeys(key) : QStringList());
+}

@@ -1,0 +1,47 @@
+#include "screens/issues/toolbar/BulkActions.h"
+
+using namespace Qt::StringLiterals;
+
+QString selectedCountText(int count)
+{
+    return QString::number(count) + (count < 2 ? u" sélectionné"_s : u" sélectionnés"_s);
+}
+
+void BulkActions::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    if (m_store)
+        m_store->disconnect(this);
+    m_store = store;
+    if (m_store) {
+        connect(m_store, &AppStore::checkedChanged, this, &BulkActions::update);
+        update();
+    }
+    Q_EMIT storeChanged();
+}
+
+void BulkActions::update()
+{
+    if (m_store->isSelecting())
+        m_countText = selectedCountText(m_store->checkedCount());
+    Q_EMIT changed();
+}
+
+void BulkActions::pick(PickerKind kind)
+{
+    if (m_store)
+        m_store->openPicker(kind);
+}
+
+void BulkActions::copyKeys()
+{
+    if (m_store)
+        m_store->copyKeys();
+}
+
+void BulkActions::clear()
+{
+    if (m_store)
+        m_store->setChecked({});
+}

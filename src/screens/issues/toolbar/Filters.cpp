@@ -1,0 +1,57 @@
+#include "screens/issues/toolbar/Filters.h"
+
+void Filters::setStore(AppStore *store)
+{
+    if (m_store == store)
+        return;
+    if (m_store)
+        m_store->disconnect(this);
+    m_store = store;
+    if (m_store) {
+        connect(m_store, &AppStore::filtersChanged, this, &Filters::update);
+        connect(m_store, &AppStore::issuesChanged, this, &Filters::update);
+        update();
+    }
+    Q_EMIT storeChanged();
+}
+
+FilterSources Filters::sources() const
+{
+    return {m_store->derivation().menus(), m_store->issues(), m_store->calendar().locale};
+}
+
+void Filters::update()
+{
+    // What the menus offer is worth making only for filters that name it.
+    const auto chips = m_store->filters().isEmpty() ? QList<FilterChip>()
+                                                    : filterChips(m_store->filters(), sources());
+    if (m_chips == chips)
+        return;
+    m_chips = chips;
+    Q_EMIT changed();
+}
+
+QList<MenuSection> Filters::sections() const
+{
+    return m_store ? filterSections(m_store->filters(), sources()) : QList<MenuSection>();
+}
+
+void Filters::toggle(const QString &section, const QString &choice)
+{
+    const auto set = filterSetFromId(section);
+    if (m_store && set)
+        m_store->setFilters(toggledFilter(m_store->filters(), *set, choice, sources()));
+}
+
+void Filters::remove(const QString &chip)
+{
+    const auto set = filterSetFromId(chip);
+    if (m_store && set)
+        m_store->setFilters(emptiedFilter(m_store->filters(), *set));
+}
+
+void Filters::clear()
+{
+    if (m_store)
+        m_store->setFilters({});
+}

@@ -1,0 +1,24 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// A check box with its words behind it; pressing either turns it over. A long text wraps where the width is set.
+FocusableItem {
+    id: control
+
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: Math.max(Metrics.smallButton, implicitContentHeight + topPadding + bottomPadding)
+    leftPadding: 4
+    rightPadding: 6
+    topPadding: 2
+    bottomPadding: 2
+    checkable: true
+    corner: Metrics.radiusSquare
+
+    contentItem: CheckBoxLabel {
+        text: control.text
+        checked: control.checked
+        hovered: control.lit
+        pressed: control.down
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// A title with a chevron that turns down while what belongs to it is shown. A press turns `expanded` over, and so do the
+/// right and left keys.
+FocusableItem {
+    id: control
+
+    property bool expanded: false
+
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: Metrics.filterChipHeight
+    leftPadding: 6
+    rightPadding: 8
+    accessibleName: text
+    Accessible.description: expanded ? "Déplié" : "Replié"
+    Keys.onRightPressed: expanded = true
+    Keys.onLeftPressed: expanded = false
+    onClicked: expanded = !expanded
+
+    contentItem: DisclosureLabel {
+        text: control.text
+        expanded: control.expanded
+        ink: control.enabled ? Theme.text1 : Theme.text4
+    }
+
+    background: HoverFill {
+        radius: control.corner
+        shown: control.lit
+        fill: control.down ? Theme.openFill : Theme.hoverFill
+    }
+}

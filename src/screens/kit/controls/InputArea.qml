@@ -1,0 +1,58 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Kit
+import Velmora.Theme
+
+/// A text field of several lines. It grows with its text from `lowest` to `highest`, and scrolls from there on. Tab and
+/// Shift+Tab leave it. `name`, `placeholderText` and `problem` are as in an `InputField`.
+FocusScope {
+    id: area
+
+    required property string name
+    property alias text: editor.text
+    property alias placeholderText: editor.placeholderText
+    property alias role: editor.role
+    property alias cursorPosition: editor.cursorPosition
+    property real lowest: 76
+    property real highest: 240
+    property real corner: Metrics.radiusRow
+    property string problem
+    /// Under the pointer.
+    property bool lit: enabled && editor.hovered
+    /// Shows the keyboard's focus.
+    property bool ringed: activeFocus
+
+    implicitWidth: 290
+    implicitHeight: Math.max(lowest, Math.min(highest, editor.wholeHeight + 2))
+
+    FieldSurface {
+        anchors.fill: parent
+        corner: area.corner
+        hovered: area.lit
+        focused: area.ringed
+        invalid: area.enabled && area.problem.length > 0
+    }
+
+    Flickable {
+        id: view
+
+        anchors.fill: parent
+        anchors.margins: 1
+        clip: true
+        // What needs no scrolling leaves the wheel to the page.
+        interactive: editor.wholeHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        T.TextArea.flickable: InputAreaEditor {
+            id: editor
+
+            name: area.name
+            problem: area.problem
+        }
+
+        T.ScrollBar.vertical: OverlayScrollBar {
+            thickness: 5
+        }
+    }
+}

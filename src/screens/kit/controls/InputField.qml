@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Kit
+import Velmora.Theme
+
+/// A text field of one line. `name` is what screen readers call it; the placeholder is what it shows while empty.
+/// `problem` says what is wrong with what was typed: the field turns red, and screen readers say it; show it beside it.
+T.TextField {
+    id: field
+
+    required property string name
+    property real corner: Metrics.radiusRow
+    property bool glass: false
+    property int role: TypeScale.Body
+    property string problem
+    /// What screen readers say of it besides its name.
+    property string spoken: problem
+    /// Under the pointer.
+    property bool lit: enabled && hovered
+    /// Shows the keyboard's focus.
+    property bool ringed: activeFocus
+
+    implicitWidth: 190
+    implicitHeight: Metrics.fieldHeight
+    leftPadding: 10
+    rightPadding: 10
+    topPadding: 0
+    bottomPadding: 0
+    verticalAlignment: TextInput.AlignVCenter
+    font: TypeScale.font(role)
+    color: enabled ? Theme.text1 : Theme.text4
+    placeholderTextColor: enabled ? Theme.text3 : Theme.text4
+    selectionColor: Theme.textSelection
+    selectedTextColor: Theme.text1
+    selectByMouse: true
+    hoverEnabled: true
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
+    Accessible.description: spoken
+    // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
+    Accessible.onDescriptionChanged: speak()
+
+    function speak() {
+        if (Accessible.description !== spoken)
+            Accessible.description = Qt.binding(() => field.spoken)
+    }
+
+    cursorDelegate: TextCaret {
+        shown: field.activeFocus && field.selectionStart === field.selectionEnd
+    }
+
+    background: FieldSurface {
+        corner: field.corner
+        glass: field.glass
+        hovered: field.lit
+        focused: field.ringed
+        invalid: field.enabled && field.problem.length > 0
+    }
+
+    AppText {
+        x: field.leftPadding
+        width: field.width - field.leftPadding - field.rightPadding
+        height: field.height
+        verticalAlignment: Text.AlignVCenter
+        visible: field.length === 0 && field.preeditText.length === 0
+        text: field.placeholderText
+        role: field.role
+        color: field.placeholderTextColor
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,50 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// A button with a label, and a symbol before it where one is given. Plain: words in the accent. Glass: a floating
+/// capsule. Prominent: the accent, one per screen. `destructive` is red: what it does cannot be taken back. `large` is
+/// 40 high instead of 30.
+FocusableItem {
+    id: control
+
+    enum Look { Plain, Glass, Prominent }
+
+    property int look: PushButton.Glass
+    property bool large: false
+    property bool destructive: false
+    property string symbol
+    readonly property bool plain: look === PushButton.Plain
+    readonly property bool prominent: look === PushButton.Prominent
+    readonly property color ink: !enabled ? Theme.text4 : prominent ? Theme.textOnAccent
+                               : destructive ? Theme.redText : plain ? Theme.accentText : Theme.text1
+
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: large ? Metrics.largeButtonHeight : plain ? Metrics.filterChipHeight : Metrics.buttonHeight
+    leftPadding: plain ? 8 : 14
+    rightPadding: leftPadding
+    corner: height / 2
+    scale: down && !plain ? Motion.pressScale : 1
+
+    Behavior on scale {
+        NumberAnimation {
+            duration: Motion.pressDuration
+        }
+    }
+
+    contentItem: PushButtonLabel {
+        text: control.text
+        symbol: control.symbol
+        weight: control.prominent || control.large ? Font.DemiBold : Font.Medium
+        ink: control.ink
+    }
+
+    background: ButtonSurface {
+        corner: control.corner
+        floating: control.look === PushButton.Glass
+        prominent: control.prominent
+        destructive: control.destructive
+        hovered: control.lit
+        pressed: control.down
+    }
+}

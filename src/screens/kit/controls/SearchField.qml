@@ -1,0 +1,40 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// A floating search capsule with its symbol, and a button that empties it while there is text.
+InputField {
+    id: field
+
+    implicitHeight: Metrics.capsuleHeight
+    corner: height / 2
+    glass: true
+    leftPadding: 32
+    Accessible.searchEdit: true
+    rightPadding: clear.visible ? 30 : 12
+
+    Symbol {
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        name: "magnifyingglass"
+        size: 11.5
+        color: field.enabled ? Theme.text3 : Theme.text4
+    }
+
+    IconButton {
+        id: clear
+
+        anchors.right: parent.right
+        anchors.rightMargin: 6
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.length > 0
+        focusPolicy: Qt.NoFocus
+        name: "Effacer la recherche"
+        symbol: "xmark"
+        symbolSize: 8.5
+        symbolWeight: "semibold"
+        side: 20
+        corner: 10
+        onClicked: field.clear()
+    }
+}

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+
+/// One choice out of a few words, side by side. Each segment is a radio button of its own; `name` is what the group is
+/// called. The left and right keys choose the neighbour.
+Rectangle {
+    id: picker
+
+    required property string name
+    required property list<string> choices
+    required property int current
+
+    signal chosen(index: int)
+
+    implicitWidth: segments.implicitWidth + 4
+    implicitHeight: 28
+    radius: height / 2
+    color: Theme.ink(0.06)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: name
+    Keys.onLeftPressed: step(-1)
+    Keys.onRightPressed: step(1)
+
+    function step(by: int) {
+        if (choices[current + by] === undefined)
+            return
+        chosen(current + by)
+        segments.children[current].forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    Row {
+        id: segments
+
+        x: 2
+        y: 2
+
+        Repeater {
+            model: picker.choices
+
+            Segment {
+                required property int index
+                required property string modelData
+
+                height: picker.height - 4
+                text: modelData
+                on: index === picker.current
+                onChosen: picker.chosen(index)
+            }
+        }
+    }
+}

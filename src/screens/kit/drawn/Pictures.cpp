@@ -1,0 +1,137 @@
+#include "screens/kit/drawn/Pictures.h"
+
+#include "model/IssuePriority.h"
+#include "screens/kit/painters/BadgePainter.h"
+#include "screens/kit/painters/GlyphPainter.h"
+#include "screens/kit/painters/SymbolPainter.h"
+#include "screens/kit/providers/SymbolProvider.h"
+#include "screens/theme/IdentityColors.h"
+
+#include <QUrlQuery>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Values = std::initializer_list<std::pair<QString, QString>>;
+
+// A text value must not end the value it stands in.
+QString escaped(const QString &text)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+QUrl address(const QString &provider, const QString &path, const Values &values)
+{
+    QUrlQuery query;
+    for (const auto &[key, value] : values)
+        query.addQueryItem(key, escaped(value));
+    QUrl url;
+    url.setScheme(u"image"_s);
+    url.setHost(provider);
+    url.setPath(u'/' + path);
+    url.setQuery(query);
+    return url;
+}
+
+QString number(qreal value)
+{
+    return QString::number(value);
+}
+
+template <typename E>
+QString number(E value)
+    requires std::is_enum_v<E>
+{
+    return QString::number(static_cast<int>(value));
+}
+
+QString hex(const QColor &color)
+{
+    return color.name(QColor::HexArgb);
+}
+
+} // namespace
+
+QUrl Pictures::status(const IssueStatus &status, qreal size, const QColor &accent) const
+{
+    return address(u"icon"_s, u"status"_s,
+                   {{u"v"_s, number(status.category())},
+                    {u"p"_s, number(status.progress())},
+                    {u"s"_s, number(size)},
+                    {u"c"_s, hex(accent)}});
+}
+
+QUrl Pictures::priority(Model::PriorityLevel level, qreal size, const QColor &tint) const
+{
+    return address(u"icon"_s, u"priority"_s,
+                   {{u"v"_s, number(level)}, {u"s"_s, number(size)}, {u"c"_s, hex(tint)}});
+}
+
+QUrl Pictures::type(const IssueType &type, qreal size) const
+{
+    return address(u"icon"_s, u"type"_s, {{u"v"_s, number(type.kind())}, {u"s"_s, number(size)}});
+}
+
+QUrl Pictures::project(const Project &project, qreal size) const
+{
+    return address(u"icon"_s, u"project"_s,
+                   {{u"t"_s, badgeLetter(project.name)},
+                    {u"s"_s, number(size)},
+                    {u"c"_s, hex(IdentityColors::project(project.key))}});
+}
+
+QUrl Pictures::avatar(const JiraUser &user, qreal size) const
+{
+    return address(u"icon"_s, u"avatar"_s,
+                   {{u"t"_s, user.initials()},
+                    {u"s"_s, number(size)},
+                    {u"c"_s, hex(IdentityColors::person(user.id))}});
+}
+
+QUrl Pictures::avatarAddress(const JiraUser &user) const
+{
+    return user.avatarURL.value_or(QUrl());
+}
+
+QUrl Pictures::nobody(qreal size) const
+{
+    return address(u"icon"_s, u"nobody"_s, {{u"s"_s, number(size)}});
+}
+
+QUrl Pictures::spinner(qreal size, const QColor &color) const
+{
+    return address(u"icon"_s, u"spinner"_s, {{u"s"_s, number(size)}, {u"c"_s, hex(color)}});
+}
+
+QUrl Pictures::glyph(qreal size) const
+{
+    return address(u"icon"_s, u"glyph"_s, {{u"s"_s, number(size)}});
+}
+
+int Pictures::glyphMargin(qreal size) const
+{
+    return static_cast<int>(appGlyphMargin(size));
+}
+
+QUrl Pictures::symbol(const QString &name, qreal fontSize, const QString &weight,
+                      const QColor &color) const
+{
+    return address(u"symbol"_s, name,
+                   {{u"f"_s, number(fontSize)}, {u"w"_s, weight}, {u"c"_s, hex(color)}});
+}
+
+int Pictures::symbolSide(qreal fontSize) const
+{
+    return ::symbolSide(fontSize);
+}
+
+int Pictures::symbolBorder(int side) const
+{
+    return ::symbolBorder(side);
+}
+
+QString Pictures::priorityName(Model::PriorityLevel level) const
+{
+    return displayName(level);
+}

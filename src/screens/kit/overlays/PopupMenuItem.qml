@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Kit
+import Velmora.Theme
+
+/// A row of a menu: a tick and a symbol or a drawn icon before the title, an arrow behind it.
+T.MenuItem {
+    id: item
+
+    property string symbol
+    property Item leading: null
+    property string shortcut
+    /// The menu sets it where one of its rows has a tick, so that all titles begin in one line.
+    property bool hasMarkRoom: checked
+    readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
+    readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2
+
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: Metrics.menuRowHeight
+    leftPadding: 9
+    rightPadding: 9
+    hoverEnabled: true
+    Keys.onReturnPressed: activate()
+    Keys.onEnterPressed: activate()
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: text
+    Accessible.checkable: checkable
+    Accessible.checked: checked
+    Accessible.onPressAction: activate()
+
+    function activate() {
+        if (checkable)
+            toggle()
+        triggered()
+        if (!subMenu)
+            menu?.dismiss()
+    }
+
+    contentItem: PopupMenuLabel {
+        text: item.text
+        symbol: item.symbol
+        leading: item.leading
+        shortcut: item.shortcut
+        hasMarkRoom: item.hasMarkRoom
+        isMarked: item.checked
+        opensMenu: item.subMenu !== null
+        ink: item.ink
+        quietInk: item.quietInk
+    }
+
+    background: Rectangle {
+        radius: 7
+        color: item.highlighted ? Theme.accentFill : "transparent"
+
+        PressShade {
+            radius: 7
+            accented: true
+            hovered: item.highlighted && item.down
+            pressed: true
+        }
+    }
+}

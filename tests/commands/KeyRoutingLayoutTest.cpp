@@ -1,0 +1,203 @@
+// The whole key map under real keyboard layouts, with the scan codes and symbols of the window system.
+#include "commands/KeyRouting.h"
+#include "commands/KeyboardLayout.h"
+#include "commands/ShortcutKey.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Own = KeyboardLayout::OwnCharacters;
+constexpr quint32 oneKey = 10;
+constexpr quint32 firstKeypadKey = 79;
+
+struct Layout
+{
+    const char *name;
+    /// Where the layout's keys of the letters of the map are, in the order "jkcspalix".
+    std::array<quint32, 9> letters;
+    /// All presses of the copy shortcuts, written as the scan code, and with Shift as its negative.
+    std::set<int> copyKey;
+    std::set<int> copyBranch;
+    std::set<int> copyLink;
+};
+
+std::ostream &operator<<(std::ostream &out, const Layout &layout)
+{
+    return out << layout.name;
+}
+
+const std::array layouts{
+    Layout{"us", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+    Layout{"us-dvorak", {54, 55, 31, 47, 27, 38, 33, 42, 56}, {26}, {-26}, {-25}},
+    Layout{"de", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+    Layout{"ch-de", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+    Layout{"ch-fr", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+    Layout{"ca", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+    // The full stop needs Shift here: the key with it, and the key at its place.
+    Layout{"fr", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
+    Layout{"fr-oss", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
+    Layout{"be", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
+    Layout{"fr-afnor", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {58, 60}, {-58, -60}, {-59}},
+    Layout{"fr-bepo", {33, 56, 43, 45, 26, 38, 32, 40, 54}, {55}, {-55}, {-42}},
+    // Letters of another script: those at the places of the map's.
+    Layout{"ru", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60, 61}, {-60, -61}, {-59}},
+    Layout{"gr", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
+};
+
+constexpr std::array letterCommands{
+    KeyCommand::MoveDown,   KeyCommand::MoveUp,       KeyCommand::NewIssue,
+    KeyCommand::PickStatus, KeyCommand::PickPriority, KeyCommand::PickAssignee,
+    KeyCommand::PickLabels, KeyCommand::AssignToMe,   KeyCommand::ToggleCheck,
+};
+
+class KeyMapUnderLayout : public testing::TestWithParam<Layout>
+{
+protected:
+    /// All presses with the modifiers that lead to the command, Shift written as a negative scan code.
+    std::set<int> pressesOf(AppCommand command, Qt::KeyboardModifiers modifiers,
+                            Own own = Own::Known) const
+    {
+        std::set<int> presses;
+        for (const quint32 code : layout.scanCodes()) {
+            // The keypad has signs of its own under every layout.
+            if (code >= firstKeypadKey)
+                continue;
+            if (shortcutCommand(layout.press(code, modifiers, own)) == command)
+                presses.insert(int(code));
+            if (shortcutCommand(layout.press(code, modifiers | Qt::ShiftModifier, own)) == command)
+                presses.insert(-int(code));
+        }
+        return presses;
+    }
+    std::set<quint32> keysOf(KeyCommand command,
+                             Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        std::set<quint32> keys;
+        for (const quint32 code : layout.scanCodes()) {
+            if (route(layout.press(code, modifiers)) == command)
+                keys.insert(code);
+        }
+        return keys;
+    }
+
+    const KeyboardLayout layout = KeyboardLayout::load(QString::fromLatin1(GetParam().name));
+};
+
+using KeySet = std::set<quint32>;
+
+} // namespace
+
+TEST_P(KeyMapUnderLayout, EveryLetterWorksWithoutShift)
+{
+    for (std::size_t i = 0; i < letterCommands.size(); ++i)
+        EXPECT_EQ(route(layout.press(GetParam().letters[i])), letterCommands[i]) << i;
+}
+
+TEST_P(KeyMapUnderLayout, EveryLetterWorksWithShiftAsWell)
+{
+    for (std::size_t i = 0; i < letterCommands.size(); ++i)
+        EXPECT_EQ(route(layout.press(GetParam().letters[i], Qt::ShiftModifier)), letterCommands[i])
+            << i;
+}
+
+TEST_P(KeyMapUnderLayout, LettersAreOnNoOtherKeys)
+{
+    for (std::size_t i = 2; i < letterCommands.size(); ++i)
+        EXPECT_EQ(keysOf(letterCommands[i]), KeySet{GetParam().letters[i]}) << i;
+    EXPECT_EQ(keysOf(KeyCommand::MoveDown), (KeySet{GetParam().letters[0], 88, 116}));
+    EXPECT_EQ(keysOf(KeyCommand::MoveUp), (KeySet{GetParam().letters[1], 80, 111}));
+}
+
+TEST_P(KeyMapUnderLayout, EveryDigitOfTheTopRowWorksWithoutShift)
+{
+    for (int digit = 1; digit <= 9; ++digit)
+        EXPECT_EQ(layout.press(oneKey + quint32(digit) - 1).digit(), digit);
+    EXPECT_EQ(layout.press(oneKey + 9).digit(), std::nullopt);
+}
+
+TEST_P(KeyMapUnderLayout, ListAndBoardAreOnTheFirstDigitsWithoutShiftOnly)
+{
+    EXPECT_EQ(keysOf(KeyCommand::ShowList), KeySet{oneKey});
+    EXPECT_EQ(keysOf(KeyCommand::ShowBoard), KeySet{oneKey + 1});
+    EXPECT_EQ(keysOf(KeyCommand::ShowList, Qt::ShiftModifier), KeySet{});
+    EXPECT_EQ(keysOf(KeyCommand::ShowBoard, Qt::ShiftModifier), KeySet{});
+}
+
+TEST_P(KeyMapUnderLayout, NamedKeysWork)
+{
+    EXPECT_EQ(keysOf(KeyCommand::OpenInspector), (KeySet{36, 104}));
+    EXPECT_EQ(keysOf(KeyCommand::OpenWindow, Qt::ControlModifier), (KeySet{36, 104}));
+    EXPECT_EQ(keysOf(KeyCommand::Escape), KeySet{9});
+    EXPECT_EQ(keysOf(KeyCommand::Peek), KeySet{65});
+    EXPECT_EQ(keysOf(KeyCommand::Peek, Qt::ShiftModifier), KeySet{65});
+}
+
+TEST_P(KeyMapUnderLayout, CopyingTheKeyAndTheBranchAreTwoCommands)
+{
+    EXPECT_EQ(pressesOf(AppCommand::CopyKey, Qt::ControlModifier), GetParam().copyKey);
+    EXPECT_EQ(pressesOf(AppCommand::CopyBranch, Qt::ControlModifier), GetParam().copyBranch);
+    EXPECT_EQ(pressesOf(AppCommand::CopyLink, Qt::ControlModifier), GetParam().copyLink);
+}
+
+TEST_P(KeyMapUnderLayout, CopyingTheKeyNeedsNoShift)
+{
+    const auto presses = pressesOf(AppCommand::CopyKey, Qt::ControlModifier);
+    EXPECT_TRUE(std::ranges::any_of(presses, [](int press) { return press > 0; }));
+}
+
+TEST_P(KeyMapUnderLayout, EveryShortcutIsOnOneOfItsKeysAlone)
+{
+    for (const ShortcutKey &key : shortcutKeys())
+        EXPECT_FALSE(pressesOf(key.command, key.flags).empty()) << int(key.command);
+    const auto palette = pressesOf(AppCommand::CommandPalette, Qt::ControlModifier);
+    EXPECT_EQ(palette, std::set{int(GetParam().letters[1])});
+    const auto peek = pressesOf(AppCommand::TogglePeek, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(peek, std::set{int(GetParam().letters[7])});
+}
+
+TEST_P(KeyMapUnderLayout, TheLayoutShortcutsAreOnTheDigitsWithoutShift)
+{
+    const auto controlAlt = Qt::ControlModifier | Qt::AltModifier;
+    EXPECT_TRUE(pressesOf(AppCommand::ShowList, controlAlt).contains(10));
+    EXPECT_TRUE(pressesOf(AppCommand::ShowBoard, controlAlt).contains(11));
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapUnderLayout, testing::ValuesIn(layouts),
+                         [](const auto &parameter) {
+                             std::string name = parameter.param.name;
+                             std::erase(name, '-');
+                             return name;
+                         });
+
+// Where the platform has no keyboard map, the characters typed and the places must do; the two copy commands stay apart
+// on every layout on which the full stop is at its place.
+class KeyMapWithoutOwnCharacters : public testing::TestWithParam<const char *>
+{
+};
+
+TEST_P(KeyMapWithoutOwnCharacters, CopyingTheKeyAndTheBranchAreTwoCommands)
+{
+    const KeyboardLayout layout = KeyboardLayout::load(QString::fromLatin1(GetParam()));
+    const auto shifted = Qt::ControlModifier | Qt::ShiftModifier;
+    EXPECT_EQ(shortcutCommand(layout.press(60, Qt::ControlModifier, Own::Unknown)),
+              AppCommand::CopyKey);
+    EXPECT_EQ(shortcutCommand(layout.press(60, shifted, Own::Unknown)), AppCommand::CopyBranch);
+}
+
+TEST_P(KeyMapWithoutOwnCharacters, EveryDigitOfTheTopRowWorksWithoutShift)
+{
+    const KeyboardLayout layout = KeyboardLayout::load(QString::fromLatin1(GetParam()));
+    for (int digit = 1; digit <= 9; ++digit)
+        EXPECT_EQ(layout.press(oneKey + quint32(digit) - 1, {}, Own::Unknown).digit(), digit);
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapWithoutOwnCharacters,
+                         testing::Values("us", "de", "ch-fr", "fr", "fr-oss", "be", "ru"),
+                         [](const auto &parameter) {
+                             std::string name = parameter.param;
+                             std::erase(name, '-');
+                             return name;
+                         });

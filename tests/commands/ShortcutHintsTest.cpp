@@ -1,0 +1,40 @@
+#include "commands/ShortcutHints.h"
+
+#include "commands/KeyRouting.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(ShortcutHints, TheyTellTheKeysOfTheKeyMapAndOfTheShortcuts)
+{
+    EXPECT_EQ(searchHint(), u"Rechercher (⌘K)"_s);
+    EXPECT_EQ(newIssueHint(), u"Nouveau ticket (C)"_s);
+    EXPECT_EQ(reloadHint(), u"Actualiser (⌘R)"_s);
+    EXPECT_EQ(layoutHint(), u"Liste (1) · Tableau (2)"_s);
+    EXPECT_EQ(selectHint(), u"Sélectionner (X)"_s);
+    EXPECT_EQ(commandHint(AppCommand::CopyBranch), u"Copier le nom de branche git (⌘⇧.)"_s);
+    EXPECT_EQ(commandHint(AppCommand::OpenInBrowser), u"Ouvrir dans Jira (⌘⇧O)"_s);
+    EXPECT_EQ(openWindowHint(), u"Ouvrir dans une nouvelle fenêtre (⌘↩)"_s);
+    EXPECT_EQ(deselectHint(), u"Désélectionner (Échap)"_s);
+}
+
+TEST(ShortcutHints, ACommandWithoutAShortcutIsItsWordsAlone)
+{
+    EXPECT_EQ(withShortcut(u"Statut"_s, AppCommand::ChangeStatus), u"Statut"_s);
+}
+
+TEST(ShortcutHints, EveryKeyOfTheKeyMapHasAName)
+{
+    for (const KeyBinding &binding : keyBindings()) {
+        for (const QString &text : keyTexts(binding.command))
+            EXPECT_FALSE(text.isEmpty() || text == u"⌘"_s) << int(binding.command);
+    }
+}
+
+TEST(ShortcutHints, KeysThatDoTheSameAreToldOnceEach)
+{
+    EXPECT_EQ(keyTexts(KeyCommand::MoveDown), (QStringList{u"↓"_s, u"J"_s}));
+    EXPECT_EQ(keyTexts(KeyCommand::OpenInspector), QStringList{u"↩"_s});
+    EXPECT_EQ(keyTexts(KeyCommand::OpenWindow), QStringList{u"⌘↩"_s});
+}

@@ -1,0 +1,187 @@
+#include "derivation/IssueDerivation.h"
+#include "derivation/IssueDerivationSamples.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using Step = IssueDerivation::Step;
+
+namespace {
+
+class IssueDerivationReuse : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        inputs.issues = randomIssues(1, 200);
+        apply();
+    }
+
+    /// Hands the inputs over and reads everything that a list shows.
+    void apply()
+    {
+        derivation.setInputs(inputs);
+        derivation.visibleIssues();
+        derivation.groups();
+        derivation.flatVisibleKeys();
+    }
+
+    QList<int> counts() const
+    {
+        QList<int> counts;
+        for (int step = 0; step < int(Step::Count); ++step)
+            counts.append(derivation.timesComputed(Step(step)));
+        return counts;
+    }
+
+    IssueDerivationInputs inputs = inputsOf({});
+    IssueDerivation derivation;
+};
+
+} // namespace
+
+TEST_F(IssueDerivationReuse, SameInputsComputeNothing)
+{
+    const auto before = counts();
+    apply();
+    EXPECT_EQ(counts(), before);
+}
+
+TEST_F(IssueDerivationReuse, AKeystrokeNeitherSortsNorFoldsNorFilters)
+{
+    inputs.filterText = u"été"_s;
+    apply();
+    EXPECT_EQ(derivation.timesComputed(Step::Search), 2);
+    EXPECT_EQ(derivation.timesComputed(Step::Visible), 2);
+    EXPECT_EQ(derivation.timesComputed(Step::Groups), 2);
+    EXPECT_EQ(derivation.timesComputed(Step::Index), 1);
+    EXPECT_EQ(derivation.timesComputed(Step::Order), 1);
+    EXPECT_EQ(derivation.timesComputed(Step::Filter), 1);
+    EXPECT_EQ(derivation.foldedIssues(), 200);
+}
+
+TEST_F(IssueDerivationReuse, AKeystrokeThatHitsTheSameIssuesGroupsNothing)
+{
+    inputs.filterText = u"accents"_s;
+    apply();
+    inputs.filterText = u"ACCENTS "_s;
+    apply();
+    EXPECT_EQ(derivation.timesComputed(Step::Search), 3);
+    EXPECT_EQ(derivation.timesComputed(Step::Groups), 2);
+    EXPECT_EQ(derivation.timesComputed(Step::Keys), 2);
+}
+
+TEST_F(IssueDerivationReuse, CollapsingAGroupComputesTheKeysAlone)
+{
+    const auto groups = derivation.timesComputed(Step::Groups);
+    inputs.collapsedGroups = {derivation.groups().first().id};
+    apply();
+    EXPECT_EQ(derivation.timesComputed(Step::Groups), groups);
+    EXPECT_EQ(derivation.timesComputed(Step::Keys), 2);
+}
+
+TEST_F(IssueDerivationReuse, AReloadOfEqualRecordsComputesNothing)
+{
+    const auto before = counts();
+    inputs.issues = randomIssues(1, 200);
+    apply();
+    EXPECT_EQ(counts(), before);
+}
+
+TEST_F(IssueDerivationReuse, AReloadFoldsOnlyWhatReadsDifferently)
+{
+    auto fresh = randomIssues(1, 200);
+    std::reverse(fresh.begin(), fresh.end());
+    Issue renamed = *fresh[10];
+    renamed.summary = u"Nouveau résumé"_s;
+    fresh[10] = renamed;
+    Issue moved = *fresh[11];
+    moved.status = done();
+    fresh[11] = moved;
+    inputs.issues = fresh;
+    apply();
+    EXPECT_EQ(derivation.foldedIssues(), 201);
+}
+
+TEST_F(IssueDerivationReuse, AnEditedIssueIsFollowedWithoutAnyStepComputedAnewOrAListCopied)
+{
+    auto before = counts();
+    const auto folded = derivation.foldedIssues();
+    const SharedIssue *const place = inputs.issues.constData();
+    derivation.letGo();
+    Issue moved = *inputs.issues.at(7);
+    moved.status = moved.status == done() ? todo() : done();
+    moved.updated = minute(999);
+    inputs.issues[7] = moved;
+    derivation.takeBack(inputs.issues, {7});
+    derivation.visibleIssues();
+    derivation.groups();
+    EXPECT_EQ(counts(), before);
+    EXPECT_EQ(derivation.foldedIssues(), folded + 1);
+    EXPECT_EQ(inputs.issues.constData(), place) << "changed in place";
+    EXPECT_EQ(derivation.inputs().issues.constData(), place);
+}
+
+TEST_F(IssueDerivationReuse, StepsAreToldFromTheVersionThatIsShownUntilThereAreTooMany)
+{
+    const auto shown = derivation.groupsVersion();
+    const auto edit = [this](quint32 row, int minutes) {
+        derivation.letGo();
+        Issue issue = *inputs.issues.at(row);
+        issue.updated = minute(minutes);
+        inputs.issues[row] = issue;
+        derivation.takeBack(inputs.issues, {row});
+    };
+    edit(3, 900);
+    const auto between = derivation.groupsVersion();
+    edit(4, 901);
+    EXPECT_EQ(derivation.groupSteps(shown)->size(), 2);
+    EXPECT_EQ(derivation.groupSteps(between)->size(), 1);
+    EXPECT_EQ(derivation.groupSteps(derivation.groupsVersion())->size(), 0);
+    for (int turn = 0; turn < 100; ++turn) {
+        const auto last = derivation.groupsVersion();
+        edit(5, 1000 + turn);
+        EXPECT_TRUE(derivation.groupSteps(last)) << "whoever keeps up is told every time";
+    }
+    EXPECT_FALSE(derivation.groupSteps(shown));
+
+    inputs.grouping = Grouping::Priority;
+    apply();
+    EXPECT_FALSE(derivation.groupSteps(between));
+}
+
+TEST_F(IssueDerivationReuse, ANarrowerSearchFindsWhatAWholeOneFinds)
+{
+    for (const auto &text : {u"é"_s, u"ét"_s, u"été"_s, u"t"_s, u""_s, u"web-1"_s, u"web-12"_s}) {
+        inputs.filterText = text;
+        apply();
+        IssueDerivation fresh;
+        fresh.setInputs(inputs);
+        EXPECT_EQ(keysOf(derivation.visibleIssues()), keysOf(fresh.visibleIssues()))
+            << qPrintable(text);
+    }
+}
+
+TEST_F(IssueDerivationReuse, TheBoardIsNotComputedWhileTheListIsShown)
+{
+    EXPECT_EQ(derivation.timesComputed(Step::Board), 0);
+    EXPECT_EQ(derivation.timesComputed(Step::Menus), 0);
+}
+
+TEST(ReusingRecords, EqualRecordsBecomeTheSameObject)
+{
+    const IssueList known = randomIssues(1, 20);
+    IssueList fresh = randomIssues(1, 20);
+    std::reverse(fresh.begin(), fresh.end());
+    Issue edited = *fresh[3];
+    edited.summary = u"Autre"_s;
+    fresh[3] = edited;
+
+    const auto reused = reusingRecords(fresh, known);
+
+    ASSERT_EQ(reused.size(), 20);
+    for (qsizetype row = 0; row < 20; ++row) {
+        EXPECT_EQ(reused[row].isSameObject(known[19 - row]), row != 3) << row;
+        EXPECT_TRUE(reused[row] == fresh[row]) << row;
+    }
+}
