@@ -19,17 +19,18 @@ struct ADFMark
     bool operator==(const ADFMark &) const = default;
 };
 
-/// One node of a document in the Atlassian Document Format, kept as it arrived: the kind is text, so that kinds unknown
-/// to the program survive a round trip. Absent and empty are different states in every optional field.
+/// One node of a document in the Atlassian Document Format, kept as it was received. The kind is a string, so that
+/// kinds unknown to the program are preserved when the document is written back. Every optional field distinguishes
+/// absent from empty.
 struct ADFNode
 {
     QString type;
-    /// The text of a text node.
+    /// The text; present on text nodes only.
     std::optional<QString> text;
     std::optional<QList<ADFNode>> content;
     std::optional<QList<ADFMark>> marks;
     std::optional<ADFAttributes> attrs;
-    /// The document's version, on the root only.
+    /// The version of the document; present on the root node only.
     std::optional<int> version;
 
     bool operator==(const ADFNode &other) const;

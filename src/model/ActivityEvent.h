@@ -11,7 +11,7 @@
 /// One change of one issue, as the issue's history reports it.
 struct ActivityEvent
 {
-    /// The status changed; names as the history spells them.
+    /// The status changed. Both names are spelled as in the history.
     struct StatusChanged
     {
         std::optional<QString> from;

@@ -63,7 +63,7 @@ DateInterval ActivityPeriod::interval(const QDateTime &now, const UserCalendar &
 {
     const QDate currentStart = firstDay(range, calendar.day(now), calendar.locale.firstDayOfWeek());
     const DateInterval current = intervalFrom(range, currentStart, calendar);
-    // Only an instant at the very edge of the calendar belongs to no period.
+    // The current interval is unusable only for an instant at the limit of the supported calendar dates.
     const DateInterval fallback =
         isUsable(current) ? current : DateInterval{now, now.addSecs(86400)};
     const QDate start = shifted(range, currentStart, offset);
@@ -83,7 +83,7 @@ QString ActivityPeriod::rangeLabel(const QDateTime &now, const UserCalendar &cal
 {
     const DateInterval period = interval(now, calendar);
     const QDate first = calendar.day(period.start);
-    // The end is the next period's start; a second less is on the last day.
+    // The end is the start of the next period, so one second earlier lies on the last day of this period.
     const QDate last = calendar.day(period.end.addSecs(-1));
     return "du "_L1 + dayAndShortMonth(first, calendar.locale) + " au "_L1 +
            dayShortMonthAndYear(last, calendar.locale);

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// One week or month of recap, counted relative to now.
+/// One week or one month of the recap, counted relative to the current one.
 struct ActivityPeriod
 {
     Q_GADGET
@@ -15,16 +15,17 @@ struct ActivityPeriod
 
 public:
     ActivityRange range = ActivityRange::Week;
-    /// Periods from the current one: 0 is the current, -1 the one before.
+    /// The number of periods after the current one: 0 is the current period, -1 the previous one.
     int offset = 0;
-    /// The recap covers the whole team and not only the signed-in user.
+    /// True if the recap covers the whole team, false if it covers only the signed-in user.
     bool teamWide = false;
 
-    /// The period's start and the next one's start. Weeks begin on the locale's first day.
+    /// The interval from the start of the period to the start of the next one. Weeks begin on the locale's first day of
+    /// the week.
     DateInterval interval(const QDateTime &now, const UserCalendar &calendar) const;
-    /// "Cette semaine", "Semaine du 5 octobre", "Le mois dernier", "Septembre 2026"…
+    /// The title of the period: "Cette semaine", "Semaine du 5 octobre", "Le mois dernier", "Septembre 2026" and so on.
     QString title(const QDateTime &now, const UserCalendar &calendar) const;
-    /// "du 26 oct. au 1 nov. 2026"; ends on the period's last day.
+    /// The first and the last day of the period, both included: "du 26 oct. au 1 nov. 2026".
     QString rangeLabel(const QDateTime &now, const UserCalendar &calendar) const;
 
     bool operator==(const ActivityPeriod &) const = default;

@@ -9,18 +9,18 @@
 
 #include <optional>
 
-/// A comment of an issue.
+/// A comment on an issue.
 struct Comment
 {
     QString id;
     std::optional<JiraUser> author;
     std::optional<ADFNode> body;
     QDateTime created;
-    /// A note for the agents of a service project, not public.
+    /// True for a comment that only the agents of a service project can see.
     bool isInternal = false;
-    /// The role or group that its visibility is restricted to.
+    /// The name of the role or group that the comment is visible to; absent when visibility is not restricted.
     std::optional<QString> restrictedTo;
-    /// The attachments that belong to this comment.
+    /// The identifiers of the attachments that belong to this comment.
     QStringList attachmentIDs;
 
     bool operator==(const Comment &) const = default;

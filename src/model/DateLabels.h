@@ -7,11 +7,11 @@
 #include <QDateTime>
 #include <QString>
 
-/// How long ago an instant was: "à l'instant" below a minute and for the future, then whole minutes ("5 min"), hours
-/// ("3 h") and days ("6 j"); from seven days on the day and the short month.
+/// The time elapsed since `date`: "à l'instant" below one minute and for future dates, then whole minutes ("5 min"),
+/// hours ("3 h") and days ("6 j"). From seven days on, the day and the short month.
 QString compactRelative(const QDateTime &date, const QDateTime &now, const UserCalendar &calendar);
 
-/// "Aujourd'hui", "Demain" or "Hier", otherwise the day and the short month.
+/// "Aujourd'hui", "Demain" or "Hier" relative to `now`; the day and the short month for any other day.
 QString dueLabel(const QDate &day, const QDateTime &now, const UserCalendar &calendar);
 
 /// "samedi 31 octobre à 14:32": the weekday, the day, the month and the time in full, in the user's zone.

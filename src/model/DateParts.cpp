@@ -17,11 +17,11 @@ struct Piece
 
     QChar letter() const { return field.isEmpty() ? QChar() : field.front(); }
     bool isLiteral() const { return field.isEmpty(); }
-    /// From three letters on a day is the name of the weekday.
+    /// Three or more letters "d" stand for the name of the weekday.
     bool isWeekday() const { return letter() == u'd' && field.size() > 2; }
 };
 
-/// What to print of a date, by the letters of a pattern ("dM", "dMy"; E is the weekday), and how to write the month.
+/// Which fields of a date to print, given as letters ("dM", "dMy"; "E" is the weekday), and the format of the month.
 struct Style
 {
     QStringView fields;
@@ -48,7 +48,7 @@ qsizetype runLength(QStringView text)
     return length;
 }
 
-/// The length of a quoted literal with both its quotes.
+/// The length of the quoted literal at the start of `text`, including both quotes.
 qsizetype quotedLength(QStringView text)
 {
     const qsizetype end = text.indexOf(u'\'', 1);
@@ -75,14 +75,15 @@ std::vector<Piece> parsed(QStringView pattern)
     return pieces;
 }
 
-/// The letters at the start of a literal: they belong to the field before it, as in "d日".
+/// The letters at the start of a literal. They belong to the field before the literal, as in "d日".
 QString suffix(const QString &literal)
 {
     const auto end = std::ranges::find_if_not(literal, [](QChar c) { return c.isLetter(); });
     return literal.left(end - literal.begin());
 }
 
-/// The pieces from the first wanted field to the last; a field between them that is not wanted goes, with what follows.
+/// The pieces from the first requested field to the last one. A field that was not requested is dropped together with
+/// the literal that follows it.
 std::vector<Piece> selected(const std::vector<Piece> &pieces, QStringView fields)
 {
     std::vector<Piece> result;
@@ -101,7 +102,7 @@ std::vector<Piece> selected(const std::vector<Piece> &pieces, QStringView fields
 
 QString printedMonth(QStringView field, int month, const Style &style, const QLocale &locale)
 {
-    // One or two letters: the language writes its months as numbers.
+    // In a field of one or two letters, the language writes months as numbers.
     if (field.size() <= 2)
         return locale.toString(month);
     return style.fields.contains(u'd') ? locale.monthName(month, style.month)

@@ -4,7 +4,8 @@
 #include <QLocale>
 #include <QString>
 
-// Parts of a date in the order and with the signs of the locale's own long date. An invalid date gives an empty text.
+// These functions print parts of a date in the order and with the punctuation of the locale's long date format. An
+// invalid date gives an empty string.
 
 /// "31 oct." in French, "Oct 31" in American English.
 QString dayAndShortMonth(const QDate &day, const QLocale &locale);
@@ -16,8 +17,8 @@ QString weekdayDayAndMonth(const QDate &day, const QLocale &locale);
 QString dayShortMonthAndYear(const QDate &day, const QLocale &locale);
 /// "31 octobre 2026".
 QString dayMonthAndYear(const QDate &day, const QLocale &locale);
-/// "octobre 2026"; the month's name in the form that stands alone.
+/// "octobre 2026", with the month's name in its standalone form.
 QString monthAndYear(const QDate &day, const QLocale &locale);
 
-/// Each word with an upper-case first letter and the others in lower case.
+/// The text with the first letter of each word in upper case and the other letters in lower case.
 QString capitalizedWords(const QString &text, const QLocale &locale);

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/// Which columns a row of the list shows. Key, status and summary placement are the list's own affair.
+/// Which optional columns a row of the issue list shows. The list itself decides on the other columns and their places.
 struct DisplayProperties
 {
     Q_GADGET
@@ -26,9 +26,9 @@ public:
     bool dueDate = true;
     bool updated = true;
 
-    /// A JSON object with the seven names as keys.
+    /// A JSON object with the names of the seven fields as its keys.
     QByteArray toJson() const;
-    /// Nothing unless the bytes are such an object with all seven keys, each a boolean.
+    /// Parses the format of `toJson`. Nothing unless the bytes are an object with all seven keys, each a boolean.
     static std::optional<DisplayProperties> fromJson(const QByteArray &json);
 
     bool operator==(const DisplayProperties &) const = default;

@@ -2,21 +2,22 @@
 
 #include <QObject>
 
-/// The enumerations that records and screens share, in a namespace so that QML can name them (`Model.PriorityLevel.High`).
+/// The enumerations that records and screens share. They are in a namespace so that QML can name them
+/// (`Model.PriorityLevel.High`).
 namespace Model {
 Q_NAMESPACE
-// Several enumerations have a `Priority` or a `Backlog`; only the scoped names are told to QML.
+// Several enumerations have a case `Priority` or `Backlog`, so QML gets only the scoped names.
 Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
-/// The coarse class of a status; ordered by its value, which is also the board's left-to-right order.
+/// The general category of a status. The order of the values is also the board's order from left to right.
 enum class StatusCategory { Backlog = 0, Todo = 1, InProgress = 2, Done = 3, Cancelled = 4 };
 Q_ENUM_NS(StatusCategory)
 
-/// How pressing a priority is; a lower value is more pressing.
+/// The urgency of a priority; a lower value is more urgent.
 enum class PriorityLevel { Urgent = 0, High = 1, Medium = 2, Low = 3, None = 4 };
 Q_ENUM_NS(PriorityLevel)
 
-/// What part of a project a scope shows; `Active` is the running sprint.
+/// The part of a project that a scope shows; `Active` is the running sprint.
 enum class ProjectView { All, Active, Backlog };
 Q_ENUM_NS(ProjectView)
 
@@ -28,18 +29,18 @@ Q_ENUM_NS(ActivityRange)
 enum class IssueTypeKind { Epic, Story, Bug, Task, Subtask, Other };
 Q_ENUM_NS(IssueTypeKind)
 
-/// The order of issues in a list; `Manual` is the service's own.
+/// The order of issues in a list; `Manual` keeps the order that the service returned.
 enum class Ordering { Priority, Updated, Created, Key, Manual };
 Q_ENUM_NS(Ordering)
 
-/// What the sections of a list stand for.
+/// The criterion by which a list is divided into sections.
 enum class Grouping { Status, Assignee, Priority, Project, None };
 Q_ENUM_NS(Grouping)
 
 enum class LayoutMode { List, Board };
 Q_ENUM_NS(LayoutMode)
 
-/// `System` follows the desktop.
+/// `System` follows the setting of the desktop.
 enum class AppearanceMode { System, Light, Dark };
 Q_ENUM_NS(AppearanceMode)
 
@@ -62,7 +63,7 @@ using Model::ProjectView;
 using Model::RowDensity;
 using Model::StatusCategory;
 
-/// True for a category in which no work is left: done or cancelled.
+/// True for the categories in which no work is left: done and cancelled.
 constexpr bool isClosed(StatusCategory category)
 {
     return category == StatusCategory::Done || category == StatusCategory::Cancelled;

@@ -4,13 +4,14 @@
 
 #include <exception>
 
-/// The base of everything that an operation can fail with. Its text is French and fit to be shown as it stands.
+/// The base class of every error that an operation can fail with. Its text is in French and can be shown to the user
+/// unchanged.
 class Failure : public std::exception
 {
 public:
     explicit Failure(QString message) : m_message(std::move(message)), m_utf8(m_message.toUtf8()) {}
 
-    /// What the user reads.
+    /// The text for the user.
     const QString &message() const { return m_message; }
     const char *what() const noexcept override { return m_utf8.constData(); }
 
@@ -19,7 +20,7 @@ private:
     QByteArray m_utf8;
 };
 
-/// The operation was called off. Nobody ever reports it.
+/// The operation was cancelled. This failure is never reported to the user.
 class Cancelled final : public Failure
 {
 public:

@@ -20,7 +20,7 @@ QString Issue::branchName() const
 
 std::optional<ActivityEvent> Issue::lastActivity() const
 {
-    // The first of equal dates, which is what max_element gives.
+    // `max_element` returns the first of several events with the same date.
     const auto latest = std::ranges::max_element(activity, {}, &ActivityEvent::date);
     return latest == activity.end() ? std::nullopt : std::optional(*latest);
 }

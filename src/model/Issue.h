@@ -17,7 +17,7 @@
 
 #include <optional>
 
-/// A light reference to an issue, for parents and sub-tasks.
+/// A reference to an issue with only its main fields, used for parents and sub-tasks.
 struct IssueRef
 {
     QString id;
@@ -29,7 +29,7 @@ struct IssueRef
     bool operator==(const IssueRef &) const = default;
 };
 
-/// The central record.
+/// One issue of the site. This is the central record of the program.
 struct Issue
 {
     Q_GADGET
@@ -50,9 +50,9 @@ struct Issue
     Q_PROPERTY(QString parentSummary READ parentSummary CONSTANT FINAL)
 
 public:
-    /// Jira's numeric identifier, as text.
+    /// Jira's numeric identifier, as a string.
     QString id;
-    /// What users see and what every dictionary and selection uses.
+    /// The key that users see, such as "ABC-12". Dictionaries and selections identify issues by it.
     QString key;
     QString summary;
     IssueStatus status;
@@ -61,20 +61,21 @@ public:
     /// Absent when unassigned.
     std::optional<JiraUser> assignee;
     std::optional<JiraUser> reporter;
-    /// In the service's order.
+    /// In the order returned by the service.
     QStringList labels;
     std::optional<IssueType> type;
     QString projectKey;
     QDateTime created;
     QDateTime updated;
-    /// A calendar day, never an instant.
+    /// A calendar day without a time or zone.
     std::optional<QDate> dueDate;
     std::optional<ADFNode> description;
     std::optional<IssueRef> parent;
     QList<IssueRef> subtasks;
-    /// Set only by the fetch of a single issue: description, sub-tasks and attachments can be trusted as complete.
+    /// True only for an issue that was fetched individually. Only then are the description, the sub-tasks and the
+    /// attachments known to be complete.
     bool hasDetails = false;
-    /// The history within a period; filled only by the activity scope.
+    /// The history within a period; filled only for the activity scope.
     QList<ActivityEvent> activity;
     QList<Attachment> attachments;
 
@@ -88,16 +89,16 @@ public:
     bool hasParent() const { return parent.has_value(); }
     QString parentSummary() const { return parent ? parent->summary : QString(); }
 
-    /// The level that lists sort and group by; an issue without a priority counts as `None`.
+    /// The level by which lists sort and group; `None` for an issue without a priority.
     PriorityLevel priorityLevel() const
     {
         return priority ? priority->level() : PriorityLevel::None;
     }
-    /// What follows the last dash of the key, as a number; 0 if there is none.
+    /// The number after the last dash of the key; 0 if there is none.
     qint64 number() const;
-    /// "feature/", the key, and the slug of the summary.
+    /// "feature/", the key, and the slug of the summary after a dash; without the dash if the slug is empty.
     QString branchName() const;
-    /// The latest event; of events with one date the first.
+    /// The latest event; if several have the latest date, the first of them.
     std::optional<ActivityEvent> lastActivity() const;
 
     bool operator==(const Issue &) const = default;

@@ -10,7 +10,7 @@
 #include <optional>
 #include <variant>
 
-/// One edit of one field of an issue. An absent payload clears the field.
+/// A change to one field of an issue. An absent value clears the field.
 struct IssueFieldUpdate
 {
     struct Summary
@@ -44,7 +44,7 @@ struct IssueFieldUpdate
     bool operator==(const IssueFieldUpdate &) const = default;
 };
 
-/// What the create screen hands over.
+/// The contents of the screen that creates an issue. Absent fields are left to the site's defaults.
 struct IssueDraft
 {
     QString projectKey;

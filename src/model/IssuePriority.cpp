@@ -17,7 +17,7 @@ struct LevelWords
     std::vector<QLatin1StringView> words;
 };
 
-/// In the order of the tests: "highest" contains "high" and "lowest" contains "low", so the extremes come first.
+/// The order matters: "highest" contains "high" and "lowest" contains "low", so the extreme levels are tested first.
 const std::vector<LevelWords> &levelWords()
 {
     static const std::vector<LevelWords> table{

@@ -4,12 +4,12 @@
 
 #include <QString>
 
-/// The level that a priority's name means, in French or English; `None` when no word is known.
+/// The level that the name of a priority indicates, in French or English; `None` when it contains no known word.
 PriorityLevel priorityLevelFromName(const QString &jiraName);
-/// What every screen calls a level: "Urgente", "Haute", "Moyenne", "Basse", "Aucune priorité".
+/// The French name of a level: "Urgente", "Haute", "Moyenne", "Basse", "Aucune priorité".
 QString displayName(PriorityLevel level);
 
-/// A priority of the site. The level is derived from the name at creation.
+/// A priority of the site. Its level is derived from its name on construction.
 class IssuePriority
 {
     Q_GADGET
@@ -25,7 +25,7 @@ public:
     const QString &id() const { return m_id; }
     const QString &name() const { return m_name; }
     PriorityLevel level() const { return m_level; }
-    /// A French word for Jira's five standard names; every other name as Jira spells it.
+    /// The French name of each of Jira's five standard priorities; any other name as Jira spells it.
     QString displayName() const;
 
     bool operator==(const IssuePriority &) const = default;

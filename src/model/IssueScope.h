@@ -7,7 +7,7 @@
 
 #include <variant>
 
-/// Which list of issues is being looked at; also the key of the scope cache.
+/// Identifies a list of issues; also the key of the cache of lists.
 class IssueScope
 {
     Q_GADGET
@@ -40,11 +40,11 @@ public:
     };
     using Value = std::variant<MyIssues, Recent, Reported, InProject, Activity>;
 
-    /// The issues assigned to the signed-in user: where every session starts.
+    /// The issues assigned to the signed-in user. This is the scope that every session starts with.
     IssueScope() = default;
 
     static IssueScope myIssues() { return {}; }
-    /// The issues viewed lately.
+    /// The issues that the signed-in user viewed recently.
     static IssueScope recent() { return IssueScope(Recent{}); }
     /// The issues that the signed-in user created.
     static IssueScope reported() { return IssueScope(Reported{}); }
@@ -52,13 +52,13 @@ public:
     {
         return IssueScope(InProject{std::move(key), view});
     }
-    /// The recap of a period.
+    /// The issues changed within a period, for the recap.
     static IssueScope activity(ActivityPeriod period) { return IssueScope(Activity{period}); }
 
     const Value &value() const { return m_value; }
-    /// The project and its view, for a project scope; null otherwise.
+    /// The project and its view if this is a project scope; null otherwise.
     const InProject *asProject() const { return std::get_if<InProject>(&m_value); }
-    /// The period, for an activity scope; null otherwise.
+    /// The period if this is an activity scope; null otherwise.
     const ActivityPeriod *asActivity() const
     {
         const auto *activity = std::get_if<Activity>(&m_value);

@@ -16,9 +16,10 @@
 #include <optional>
 #include <stop_token>
 
-/// All that the application asks of a back end. Every asynchronous operation may fail with a `Failure` whose text is fit
-/// to be shown; results come back on the thread of the call. A requested stop makes an operation fail with `Cancelled`
-/// as soon as it can. Two operations are synchronous, never fail and never touch the network: `siteName`, `browseURL`.
+/// The interface between the application and a back end. Every asynchronous operation may fail with a `Failure` whose
+/// text can be shown to the user. Results are returned on the thread of the caller. When a stop is requested, an
+/// operation fails with `Cancelled` as soon as possible. Two operations are synchronous, never fail and never use the
+/// network: `siteName` and `browseURL`.
 class IssueService
 {
 public:
@@ -27,55 +28,55 @@ public:
     IssueService(const IssueService &) = delete;
     IssueService &operator=(const IssueService &) = delete;
 
-    /// The name of the site for display: its host, or its whole address when it has none.
+    /// The name of the site to display: its host, or its whole address if it has no host.
     virtual QString siteName() const = 0;
-    /// The signed-in account.
+    /// The account that is signed in.
     virtual QCoro::Task<JiraUser> currentUser(std::stop_token stop = {}) = 0;
     /// Every project that the user can see.
     virtual QCoro::Task<QList<Project>> projects(std::stop_token stop = {}) = 0;
-    /// One project with its issue types filled.
+    /// One project, including its issue types.
     virtual QCoro::Task<Project> project(QString key, std::stop_token stop = {}) = 0;
-    /// The project's statuses across its workflows, each once.
+    /// The statuses of all workflows of the project, without duplicates.
     virtual QCoro::Task<QList<IssueStatus>> statuses(QString projectKey,
                                                      std::stop_token stop = {}) = 0;
-    /// The site's priorities, in the site's order.
+    /// The priorities of the site, in the site's order.
     virtual QCoro::Task<QList<IssuePriority>> priorities(std::stop_token stop = {}) = 0;
-    /// The users who can take an issue of the project.
+    /// The users to whom issues of the project can be assigned.
     virtual QCoro::Task<QList<JiraUser>> assignableUsers(QString projectKey,
                                                          std::stop_token stop = {}) = 0;
-    /// The list for a scope, in the order that the scope prescribes; `hasDetails` is false on all of them.
+    /// The issues of a scope, in the order that the scope defines. `hasDetails` is false for all of them.
     virtual QCoro::Task<IssueList> issues(IssueScope scope, std::stop_token stop = {}) = 0;
-    /// Free-text search across the site.
+    /// The issues of the whole site that match a free text.
     virtual QCoro::Task<IssueList> search(QString text, std::stop_token stop = {}) = 0;
-    /// The full record, `hasDetails` true. An unknown key fails.
+    /// The full record, with `hasDetails` true. Fails for an unknown key.
     virtual QCoro::Task<Issue> issue(QString key, std::stop_token stop = {}) = 0;
-    /// The comments of the issue, in the service's order.
+    /// The comments on the issue, in the order returned by the service.
     virtual QCoro::Task<QList<Comment>> comments(QString key, std::stop_token stop = {}) = 0;
-    /// What the workflow allows from the issue's present status.
+    /// The transitions that the workflow allows from the issue's current status.
     virtual QCoro::Task<QList<WorkflowTransition>> transitions(QString key,
                                                                std::stop_token stop = {}) = 0;
-    /// Carries out the transition on the issue.
+    /// Performs the transition on the issue.
     virtual QCoro::Task<> perform(WorkflowTransition transition, QString key,
                                   std::stop_token stop = {}) = 0;
-    /// Changes the one field.
+    /// Changes one field of the issue.
     virtual QCoro::Task<> update(QString key, IssueFieldUpdate update,
                                  std::stop_token stop = {}) = 0;
-    /// Assigns; an absent user unassigns.
+    /// Assigns the issue to the user, or unassigns it if the user is absent.
     virtual QCoro::Task<> assign(QString key, std::optional<JiraUser> user,
                                  std::stop_token stop = {}) = 0;
-    /// Adds a comment and returns it as stored.
+    /// Adds a comment and returns it as the service stored it.
     virtual QCoro::Task<Comment> addComment(QString key, ADFNode body, bool isInternal,
                                             std::stop_token stop = {}) = 0;
     /// Creates the issue and returns its new key.
     virtual QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) = 0;
-    /// Users whose name matches, for mentions and assignment.
+    /// The users whose name matches the query, for mentions and assignment.
     virtual QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) = 0;
-    /// Uploads local files in one go and returns the stored attachments.
+    /// Uploads local files in one operation and returns the stored attachments.
     virtual QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
                                                              std::stop_token stop = {}) = 0;
-    /// A local file that holds the attachment's content.
+    /// Downloads the attachment and returns the address of the local file.
     virtual QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) = 0;
     virtual QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) = 0;
-    /// The address of the issue's web page; nothing when it cannot be made.
+    /// The address of the issue's web page; absent if it cannot be built.
     virtual std::optional<QUrl> browseURL(const QString &key) const = 0;
 };

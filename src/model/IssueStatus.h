@@ -7,7 +7,8 @@
 
 #include <optional>
 
-/// One workflow status, as a value that crosses projects. Fixed at creation: made by the constructor or by `guessed`.
+/// A workflow status, comparable across projects. It does not change after construction; the constructor and `guessed`
+/// create it.
 class IssueStatus
 {
     Q_GADGET
@@ -20,23 +21,26 @@ class IssueStatus
 
 public:
     IssueStatus() = default;
-    /// Classifies a status by its name and by Jira's category key ("new", "indeterminate", "done"; may be absent).
+    /// Classifies a status by its name and by the key of its Jira category ("new", "indeterminate", "done"; may be
+    /// absent).
     IssueStatus(QString id, QString name, const std::optional<QString> &jiraCategoryKey);
 
-    /// A status made from nothing but a name, as in an issue's history; its id is "name:" and the folded name.
+    /// Creates a status from its name alone, as it occurs in an issue's history. The id is "name:" followed by the
+    /// folded name.
     static IssueStatus guessed(const QString &name);
-    /// The French label of each canonical group key.
+    /// Maps each canonical group key to its French label.
     static const QHash<QString, QString> &canonicalLabels();
 
     const QString &id() const { return m_id; }
     /// The name as Jira spells it.
     const QString &name() const { return m_name; }
     StatusCategory category() const { return m_category; }
-    /// The key under which statuses of different projects that mean the same are merged, such as "inprogress".
+    /// The key that groups equivalent statuses of different projects, such as "inprogress".
     const QString &groupKey() const { return m_groupKey; }
-    /// The fill of the status icon, 0 to 1; not 0 only for work in progress.
+    /// How much of the status icon is filled, from 0 to 1. Only statuses of the category in progress have a value other
+    /// than 0.
     double progress() const;
-    /// What every screen calls the status: the canonical label of its group, else its name.
+    /// The name to display: the canonical label of the group, or the status's own name if the group has none.
     QString displayName() const;
 
     bool operator==(const IssueStatus &) const = default;
@@ -50,12 +54,12 @@ private:
 
 size_t qHash(const IssueStatus &status, size_t seed = 0);
 
-/// One move that the workflow offers for an issue.
+/// A transition that the workflow offers for an issue.
 struct WorkflowTransition
 {
-    /// What the service wants back to perform it.
+    /// The identifier that the service expects when the transition is performed.
     QString id;
-    /// The transition's own name, which need not be the target's.
+    /// The transition's own name, which may differ from the name of the target status.
     QString name;
     IssueStatus to;
 

@@ -18,10 +18,11 @@ public:
     QString id;
     QString name;
     bool isSubtask = false;
-    /// Jira's level: negative for sub-tasks, 0 for the ordinary level, positive above it.
+    /// The level in Jira's hierarchy: negative for sub-tasks, 0 for standard issues, positive for the levels above,
+    /// such as epics.
     qint64 hierarchyLevel = 0;
 
-    /// The family of the type, from its name and level.
+    /// The kind of the type, derived from its name and level.
     Kind kind() const;
 
     bool operator==(const IssueType &) const = default;

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Doubles from here on no longer fit a signed 64-bit integer; exactly representable.
+/// 2^63. Doubles of this value or more do not fit into a signed 64-bit integer; the constant itself is exact.
 constexpr double integerLimit = 9223372036854775808.0;
 
 bool fitsInteger(double number)

@@ -35,9 +35,9 @@ public:
     const Array *asArray() const { return std::get_if<Array>(&m_value); }
     const Object *asObject() const { return std::get_if<Object>(&m_value); }
 
-    /// A text as it is, or a number in its shortest decimal form ("2", "2.5"); nothing for the other kinds.
+    /// The text itself, or a number in its shortest decimal form ("2", "2.5"); nothing for other kinds of value.
     std::optional<QString> string() const;
-    /// The integer part of a number, or the integer that a text spells (with an optional sign); nothing otherwise.
+    /// The integer part of a number, or the integer that a text contains (with an optional sign); nothing otherwise.
     std::optional<qint64> integer() const;
 
     bool operator==(const JSONValue &other) const { return m_value == other.m_value; }

@@ -4,35 +4,35 @@
 
 #include <variant>
 
-/// The failures of the road to Jira.
+/// The errors of the communication with Jira.
 class JiraError final : public Failure
 {
 public:
-    /// The server answered with an error status; `message` is what it said, empty when it said nothing.
+    /// The server returned an error status. `message` is the server's explanation, or empty if it gave none.
     struct Http
     {
         int status = 0;
         QString message;
         bool operator==(const Http &) const = default;
     };
-    /// The answer could not be read; the text names the place.
+    /// The response could not be decoded; `detail` names the position of the error.
     struct Decoding
     {
         QString detail;
         bool operator==(const Decoding &) const = default;
     };
-    /// The workflow offers no way to the status of this name. Raised by the store, not by a service.
+    /// The workflow has no transition to the status with this name. Raised by the store, not by a service.
     struct TransitionUnavailable
     {
         QString statusName;
         bool operator==(const TransitionUnavailable &) const = default;
     };
-    /// The answer is not one that the interface allows.
+    /// The response has a form that the interface does not allow.
     struct InvalidResponse
     {
         bool operator==(const InvalidResponse &) const = default;
     };
-    /// The address is not one of a site.
+    /// The given address is not the address of a Jira site.
     struct InvalidSite
     {
         bool operator==(const InvalidSite &) const = default;

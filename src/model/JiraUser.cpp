@@ -13,7 +13,7 @@ QStringList words(const QString &name)
     return name.split(u' ', Qt::SkipEmptyParts);
 }
 
-/// What a reader takes for the first letter, accents and surrogates included.
+/// The first user-perceived character, with its combining accents and complete surrogate pairs.
 QString firstCharacter(const QString &word)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, word);

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// A person.
+/// A user of the site.
 struct JiraUser
 {
     Q_GADGET
@@ -18,13 +18,13 @@ public:
     /// Jira's account identifier.
     QString id;
     QString name;
-    /// Present where the service discloses it.
+    /// Absent if the service does not disclose it.
     std::optional<QString> email;
     std::optional<QUrl> avatarURL;
 
-    /// The first characters of the first two words, in upper case; "?" for an empty name.
+    /// The first characters of the first two words of the name, in upper case; "?" for an empty name.
     QString initials() const;
-    /// The first word of the name, or the whole name.
+    /// The first word of the name; the whole name if there is none.
     QString firstName() const;
 
     bool operator==(const JiraUser &) const = default;

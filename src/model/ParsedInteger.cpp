@@ -16,7 +16,7 @@ bool isDecimalDigit(QChar c)
 std::optional<qint64> parsedInteger(QStringView text)
 {
     const bool isSigned = text.startsWith(u'-') || text.startsWith(u'+');
-    // Checked by hand because the conversion below also takes blanks.
+    // The digits are checked here because the conversion below also accepts blanks.
     if (!std::ranges::all_of(text.sliced(isSigned ? 1 : 0), isDecimalDigit))
         return std::nullopt;
     bool isNumber = false;

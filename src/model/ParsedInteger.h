@@ -4,6 +4,6 @@
 
 #include <optional>
 
-/// The integer that a text spells in decimal ASCII digits, with an optional leading "+" or "-"; nothing for any other
-/// text (blanks included) and for a number beyond 64 bits.
+/// Parses a decimal integer in ASCII digits with an optional leading "+" or "-". Nothing for any other text (including
+/// one with blanks) and for a number that does not fit into 64 bits.
 std::optional<qint64> parsedInteger(QStringView text);

@@ -19,13 +19,13 @@ struct Project
 
 public:
     QString id;
-    /// What stands before the dash of an issue's key.
+    /// The part of an issue's key before the dash.
     QString key;
     QString name;
     std::optional<QUrl> avatarURL;
-    /// The types that can be created in it; empty until the project's detail was fetched.
+    /// The issue types that can be created in the project; empty until the details of the project were fetched.
     QList<IssueType> issueTypes;
-    /// A service project, whose comments can be internal.
+    /// True for a service project, in which comments can be internal.
     bool isServiceDesk = false;
 
     bool operator==(const Project &) const = default;

@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-/// One row of an enumeration's table of stored texts.
+/// Maps one case of an enumeration to its stored text.
 template <typename E>
 struct RawValue
 {
@@ -21,7 +21,7 @@ struct RawValue
 template <typename E>
 std::span<const RawValue<E>> rawValues();
 
-/// The text that stands for a case in the preferences.
+/// The text that the preferences store for a case.
 template <typename E>
 QString rawValue(E value)
 {
@@ -32,7 +32,7 @@ QString rawValue(E value)
     return {};
 }
 
-/// The case of a stored text; nothing for a text that no case has.
+/// The case for a stored text; nothing if no case has this text.
 template <typename E>
 std::optional<E> fromRawValue(QStringView text)
 {

@@ -3,8 +3,9 @@
 #include <memory>
 #include <utility>
 
-/// An immutable value, shared by every list that shows it: copying costs one reference count, and two holders of the
-/// same value compare equal without looking inside. Never null. To change a value, copy it out, edit and share anew.
+/// An immutable value, shared by every list that contains it. Copying it increments a reference count, and two holders
+/// of the same object are equal without a comparison of their contents. Never null. To change a value, copy it, edit
+/// the copy and share it as a new value.
 template <typename T>
 class Shared
 {
@@ -15,10 +16,10 @@ public:
     const T &operator*() const { return *m_value; }
     const T *operator->() const { return m_value.get(); }
 
-    /// True when both hold the very same object; cheaper than and implied by neither side of `==` failing.
+    /// True if both hold the same object. This is cheaper than `==`, and when it is true, `==` is true as well.
     bool isSameObject(const Shared &other) const { return m_value == other.m_value; }
 
-    /// Deep equality, skipped where both share one object.
+    /// Compares the contents, except when both hold the same object.
     friend bool operator==(const Shared &a, const Shared &b)
     {
         return a.m_value == b.m_value || *a.m_value == *b.m_value;

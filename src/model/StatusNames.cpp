@@ -12,7 +12,7 @@ struct CanonicalName
 {
     QString key;
     QString label;
-    /// All folded, as they are compared with folded names.
+    /// In folded form, because they are compared with folded names.
     QStringList synonyms;
 };
 

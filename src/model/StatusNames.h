@@ -3,9 +3,9 @@
 #include <QHash>
 #include <QString>
 
-/// The canonical key of a status name's synonym ("inprogress" for "en cours"), or the name itself, without the spaces
-/// and tabs at its ends, when no synonym is known. Expects a folded name.
+/// The canonical key for a known status name ("inprogress" for "en cours"). For an unknown name, the name itself
+/// without leading and trailing spaces and tabs. `foldedName` must be folded.
 QString statusGroupKey(const QString &foldedName);
 
-/// The French label of each canonical key.
+/// Maps each canonical key to its French label.
 const QHash<QString, QString> &statusLabels();

@@ -13,7 +13,7 @@ bool isCombiningMark(QChar c)
            (code >= 0x1DC0 && code <= 0x1DFF) || (code >= 0x20D0 && code <= 0x20FF);
 }
 
-/// "ß" and the ligatures "ﬀ" to "ﬆ", whose folded case has more than one letter.
+/// True for "ß" and for the ligatures "ﬀ" to "ﬆ", whose folded form has more than one letter.
 bool isSeveralLetters(QChar c)
 {
     const char16_t code = c.unicode();
@@ -33,14 +33,15 @@ QString foldedByDecomposition(QStringView text)
 {
     QString result = text.toString().normalized(QString::NormalizationForm_D);
     result.removeIf(isCombiningMark);
-    // Composed again, for the scripts whose marks and syllables are no diacritics.
+    // Compose the text again, for scripts in which the decomposed marks and syllables are not diacritics.
     return caseFolded(result).normalized(QString::NormalizationForm_C);
 }
 
-/// Up to here, which covers French and all other Western languages, folding is a look-up for most characters.
+/// The end of the table of folded characters. The table covers French and the other Western European languages, so that
+/// folding them is a look-up for most characters.
 constexpr char16_t tableEnd = 0x0180;
 
-/// The fold of each character that folds to one character; 0 for the others.
+/// The folded form of each character that folds to exactly one character; 0 for the others.
 using FoldTable = std::array<char16_t, tableEnd>;
 
 FoldTable makeFoldTable()
@@ -54,13 +55,13 @@ FoldTable makeFoldTable()
     return table;
 }
 
-/// The dashes, quotes and dots of typeset text, which fold to themselves.
+/// True for the dashes, quotation marks and dots of typeset text, which fold to themselves.
 bool isTypographicSign(char16_t code)
 {
     return code >= 0x2010 && code <= 0x2027;
 }
 
-/// The fold of a character by itself, or 0 where it takes the long way.
+/// The folded form of a single character, or 0 if it must be computed by decomposition.
 char16_t quickFold(char16_t code)
 {
     static const FoldTable table = makeFoldTable();

@@ -4,25 +4,25 @@
 #include <QLocale>
 #include <QTimeZone>
 
-/// Where the user is in time: the language and week of their locale, and their time zone. Everything that computes days
-/// or prints dates takes one, so that results depend on their arguments alone.
+/// The user's locale, which determines the language and the first day of the week, and the user's time zone. Functions
+/// that compute days or print dates take it as an argument, so that their results depend on their arguments only.
 struct UserCalendar
 {
     QLocale locale;
     QTimeZone zone;
 
-    /// The system's language and zone. A system that names no language ("C") speaks French, as the program does.
+    /// The locale and the time zone of the system. A system locale without a language ("C") is replaced by French.
     static UserCalendar system();
-    /// The locale to use on a system of the given one: itself, or that of France for a system without a language.
+    /// The locale to use for a given system locale: the same locale, or the French one if it has no language.
     static QLocale localeFor(const QLocale &systemLocale);
 
-    /// The calendar day of an instant, in the user's zone.
+    /// The calendar day of an instant in the user's time zone.
     QDate day(const QDateTime &instant) const;
-    /// The first instant of a day, in UTC.
+    /// The first instant of a day in the user's time zone, as UTC.
     QDateTime startOfDay(const QDate &day) const;
 };
 
-/// A stretch of time in UTC, closed at its start and open at its end.
+/// A time interval in UTC that includes its start and excludes its end.
 struct DateInterval
 {
     QDateTime start;

@@ -13,7 +13,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Names of the records in QML. The records themselves know nothing of QML.
+/// Registers the records with QML under their names. The records themselves do not depend on QML.
 namespace ModelTypes {
 
 struct IssueValue
