@@ -12,8 +12,9 @@
 #include <stop_token>
 #include <utility>
 
-/// The newest request wins. Each `start` calls off the task before it; only the newest task's outcome is delivered, and
-/// none once this object is gone or `cancel` was called. Used by every search that is tied to a text being typed.
+/// Runs at most one task at a time: each `start` cancels the previous task, and only the result of the newest task is
+/// delivered. Nothing is delivered after `cancel` or after the destruction of this object. Used by every search that
+/// follows a text while the user types it.
 template <typename T>
 class LatestTask
 {
@@ -27,8 +28,8 @@ public:
     LatestTask(const LatestTask &) = delete;
     LatestTask &operator=(const LatestTask &) = delete;
 
-    /// Calls off the running task, if any, and starts a new one. `deliver` gets its result or its failure, but never a
-    /// cancellation, on the calling thread.
+    /// Cancels the running task, if any, and starts a new one. `deliver` receives its result or its failure on the
+    /// calling thread. It is not called for a cancellation.
     void start(Operation operation, Deliver deliver)
     {
         cancel();
@@ -36,10 +37,11 @@ public:
         spawn(follow(m_run, std::move(operation), std::move(deliver)));
     }
 
-    /// Calls off the running task; its outcome will not be delivered.
+    /// Cancels the running task; its result will not be delivered.
     void cancel()
     {
-        // Taken out first: a stop may end the task, and its owner's code, before request_stop returns.
+        // `m_run` is cleared first, because `request_stop` may end the task and run code of its owner before it
+        // returns.
         if (const auto run = std::exchange(m_run, nullptr)) {
             run->isCurrent = false;
             run->stop.request_stop();

@@ -9,7 +9,8 @@
 #include <optional>
 #include <type_traits>
 
-/// Runs a function on another thread and resumes the coroutine on its own. To be awaited once.
+/// An awaitable that runs a function on another thread and resumes the coroutine on the original one. May be awaited
+/// once.
 template <typename Function>
 class OffThread
 {
@@ -42,19 +43,19 @@ private:
         } catch (...) {
             m_failure = std::current_exception();
         }
-        // What it worked on may take long to take apart, too.
+        // The function is destroyed on this thread, because destroying the values that it captured may also take long.
         m_function.reset();
     }
 
     std::optional<Function> m_function;
-    /// Lives on the thread that waits.
+    /// Belongs to the waiting thread; the coroutine is resumed through it.
     QObject m_home;
     std::optional<Result> m_result;
     std::exception_ptr m_failure;
 };
 
-/// Runs `function` on another thread: gives its result, or throws what it threw, on the thread of the call. What the
-/// function works on must be its own.
+/// Runs `function` on another thread and returns its result, or throws its exception, on the calling thread. The
+/// function must own all the data that it uses.
 template <typename Function>
 QCoro::Task<std::invoke_result_t<Function>> offThread(Function function)
 {

@@ -8,12 +8,12 @@
 #include <memory>
 #include <type_traits>
 
-/// How a task failed, as a value.
+/// The failure of a task, as a value.
 struct TaskFailure
 {
-    /// What the user reads.
+    /// The text for the user.
     QString message;
-    /// The task was called off, which nobody reports.
+    /// True if the task was cancelled; cancellations are not reported to the user.
     bool isCancellation = false;
 
     bool operator==(const TaskFailure &) const = default;
@@ -22,9 +22,9 @@ struct TaskFailure
 template <typename T>
 using Settled = std::expected<T, TaskFailure>;
 
-/// Awaits `task` and gives its result or its failure as a value, so that several tasks can run side by side and each be
-/// looked at in its turn. `kept` lives until the task has ended: what the task works on. Exceptions that are no
-/// `Failure` pass through.
+/// Awaits `task` and returns its result or its failure as a value, so that several tasks can run concurrently and be
+/// examined one after the other. `kept` holds the objects that the task uses; they are destroyed after the task has
+/// ended. Exceptions that are not a `Failure` are rethrown.
 template <typename T>
 QCoro::Task<Settled<T>> settled(std::shared_ptr<const void> kept, QCoro::Task<T> task)
 {

@@ -28,6 +28,6 @@ QCoro::Task<> runToItsEnd(QCoro::Task<> task)
 
 void spawn(QCoro::Task<> task)
 {
-    // A QCoro task runs on when its handle is dropped; the coroutine above owns the task until it ends.
+    // A QCoro task continues when its handle is destroyed; the coroutine above owns the task until it ends.
     runToItsEnd(std::move(task));
 }

@@ -2,7 +2,8 @@
 
 #include <QCoro/QCoroTask>
 
-/// Runs a task that nobody awaits, to its end, whatever becomes of the caller. `Cancelled` and `OwnerGone` end it
-/// silently. Any other exception is a fault of the task, which should have handled it: it is reported on stderr in
-/// debug builds and swallowed otherwise, because a lost background task must not take the window with it.
+/// Starts a task that nobody awaits. It runs until it ends, even if the caller is destroyed. `Cancelled` and
+/// `OwnerGone` end it silently. Any other exception is a programming error, because the task should have handled it. It
+/// is reported on stderr in debug builds and ignored otherwise, so that a failed background task does not end the
+/// program.
 void spawn(QCoro::Task<> task);

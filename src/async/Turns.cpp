@@ -9,7 +9,7 @@ struct Turns::State
 
     bool isFree() const { return underWay < limit; }
 
-    /// A loop, not a recursion: tasks that end at once may be many.
+    /// A loop instead of a recursion, because many tasks may end immediately one after the other.
     void wakeWaiting()
     {
         if (isWaking)
@@ -32,13 +32,13 @@ struct Turns::State
 
 namespace {
 
-/// `Access` stands for the private state.
+/// `Access` is a template parameter because the state is a private type of `Turns`.
 template <typename Access>
 struct Place
 {
     std::shared_ptr<Access> state;
 
-    /// Whoever asks while others wait stands behind them.
+    /// A new request queues behind the ones that are already waiting.
     bool await_ready() const
     {
         if (!state->waiting.empty() || !state->isFree())

@@ -4,14 +4,14 @@
 
 #include <memory>
 
-/// Lets a limited number of tasks be under way at once; the others wait, and go on in the order in which they asked.
-/// What waits goes on even when this object is gone, as the turns before it end.
+/// Limits how many tasks run concurrently. The others wait and continue in the order in which they asked. Tasks that
+/// already wait still get their turn after the destruction of this object.
 class Turns
 {
     struct State;
 
 public:
-    /// The right to be under way; ends with this object, which lets the next task go on before its end returns.
+    /// The permission to run. Its destructor resumes the next waiting task before it returns.
     class Turn
     {
     public:
@@ -26,10 +26,10 @@ public:
         std::shared_ptr<State> m_state;
     };
 
-    /// `limit` is at least 1.
+    /// `limit` is the number of turns that can be held at the same time; at least 1.
     explicit Turns(int limit);
 
-    /// Waits for a turn.
+    /// Waits until a turn is free.
     QCoro::Task<Turn> next();
     int underWay() const;
     int waiting() const;

@@ -8,16 +8,17 @@
 #include <optional>
 #include <type_traits>
 
-/// Thrown into a coroutine whose owner was destroyed while it waited, so that it unwinds without touching the owner.
-/// Deliberately no `Failure`: a handler for failures must not run without its owner.
+/// Thrown into a coroutine whose owner was destroyed while it waited, so that the coroutine ends without using the
+/// owner. Deliberately not a `Failure`: handlers of failures must not run without the owner.
 class OwnerGone final : public std::exception
 {
 public:
     const char *what() const noexcept override { return "the owner of the task is gone"; }
 };
 
-/// Awaits `task` for a member of `owner`: gives its result or its failure as they are while the owner lives, and throws
-/// `OwnerGone` in their place once it has been destroyed. Members of QObjects await everything through this.
+/// Awaits `task` on behalf of a member function of `owner`. Returns its result or throws its failure as long as the
+/// owner exists, and throws `OwnerGone` instead once the owner was destroyed. Member functions of QObjects await
+/// everything through this function.
 template <typename T>
 QCoro::Task<T> whileAlive(QPointer<QObject> owner, QCoro::Task<T> task)
 {
