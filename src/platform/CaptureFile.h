@@ -6,12 +6,13 @@
 #include <QString>
 #include <QUrl>
 
-/// A picture as a file, made off the caller's thread.
+/// Encodes a picture and writes it to a file, outside the caller's thread.
 namespace CaptureFile {
 
-/// The picture as PNG; empty when it cannot be one.
+/// The picture in PNG format; empty if it cannot be encoded.
 QCoro::Task<QByteArray> png(QImage image);
-/// Writes the bytes under this name, in a new folder of its own below `parent`, where they stay. Fails with `Failure`.
+/// Writes the bytes to a file called `name` in a new folder below `parent`. The file is never deleted. Returns the
+/// file's address; fails with `Failure`.
 QCoro::Task<QUrl> store(QByteArray bytes, QString name, QString parent);
 
 } // namespace CaptureFile

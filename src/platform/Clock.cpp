@@ -24,7 +24,7 @@ private:
     QTimer m_timer;
 };
 
-/// Suspends until the clock or the stop token wakes it; whichever comes first.
+/// Suspends the coroutine until the clock or the stop token resumes it, whichever happens first.
 class Sleep
 {
 public:
@@ -51,7 +51,7 @@ public:
 private:
     void wake()
     {
-        // The timer, the stop callback and this object itself may be destroyed by the coroutine going on.
+        // Resuming the coroutine may destroy the timer, the stop callback and this object itself.
         if (const auto waiting = std::exchange(m_waiting, nullptr))
             waiting.resume();
     }

@@ -8,11 +8,11 @@
 #include <memory>
 #include <stop_token>
 
-/// Time, as it comes in from outside: tests turn it by hand. UI thread only.
+/// The source of time and timers. Tests replace it by a clock that they advance themselves. UI thread only.
 class Clock
 {
 public:
-    /// A pending call; destroying it calls it off.
+    /// A scheduled call. Destroying the timer cancels it.
     class Timer
     {
     public:
@@ -28,20 +28,20 @@ public:
     Clock(const Clock &) = delete;
     Clock &operator=(const Clock &) = delete;
 
-    /// The present instant, in UTC.
+    /// The current time in UTC.
     virtual QDateTime now() const = 0;
-    /// Calls `callback` once, after `delay`, unless the handle is destroyed before.
+    /// Calls `callback` once after `delay`, unless the returned handle is destroyed before.
     [[nodiscard]] virtual TimerHandle after(std::chrono::milliseconds delay,
                                             std::function<void()> callback) = 0;
-    /// Calls `callback` each time `period` has gone by, until the handle is destroyed.
+    /// Calls `callback` repeatedly, each time `period` has elapsed, until the returned handle is destroyed.
     [[nodiscard]] virtual TimerHandle every(std::chrono::milliseconds period,
                                             std::function<void()> callback) = 0;
 
-    /// Waits. A requested stop ends the wait at once with `Cancelled`.
+    /// Waits for `duration`. A requested stop ends the wait immediately with `Cancelled`.
     QCoro::Task<> sleep(std::chrono::milliseconds duration, std::stop_token stop = {});
 };
 
-/// The machine's own clock.
+/// The clock of the machine.
 class SystemClock final : public Clock
 {
 public:

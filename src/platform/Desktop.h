@@ -7,7 +7,7 @@
 
 #include <memory>
 
-/// What the desktop round the program knows and does. One object for the process; UI thread only.
+/// The services and settings of the user's desktop. There is one object per process; UI thread only.
 class Desktop : public QObject
 {
     Q_OBJECT
@@ -15,25 +15,25 @@ class Desktop : public QObject
 public:
     using QObject::QObject;
 
-    /// The desktop that the program runs on.
+    /// Creates the implementation for the operating system that the program runs on.
     static std::unique_ptr<Desktop> ofThisSystem();
 
-    /// True while the program is the active application.
+    /// True if the program is the active application.
     virtual bool isApplicationActive() const = 0;
-    /// True when the desktop asks for a dark appearance.
+    /// True if the desktop requests a dark appearance.
     virtual bool prefersDark() const = 0;
-    /// True when the desktop asks for less motion.
+    /// True if the desktop requests reduced motion.
     virtual bool prefersReducedMotion() const = 0;
-    /// Gives the address to the default browser.
+    /// Opens the address in the default browser.
     virtual void open(const QUrl &address) = 0;
-    /// Replaces the general pasteboard by a plain text.
+    /// Replaces the contents of the clipboard with a plain text.
     virtual void copyText(const QString &text) = 0;
-    /// The local files on the general pasteboard, in their order.
+    /// The local files on the clipboard, in the order of the clipboard.
     virtual QList<QUrl> pastedFiles() const = 0;
-    /// The picture on the general pasteboard; null when there is none.
+    /// The picture on the clipboard; null if there is none.
     virtual QImage pastedImage() const = 0;
 
 Q_SIGNALS:
-    /// `prefersDark` or `prefersReducedMotion` has changed.
+    /// The value of `prefersDark` or of `prefersReducedMotion` has changed.
     void appearanceChanged();
 };

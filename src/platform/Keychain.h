@@ -9,9 +9,9 @@
 #include <memory>
 #include <variant>
 
-/// The system's store of secrets: one secret text per account. Operations never block, answer on the UI thread, and run
-/// one after the other in the order of their calls; the system may ask the user for leave while one is under way. What
-/// is still waiting when this object goes ends with `Cancelled`.
+/// The system's store for secrets. It holds one secret text per account. Operations do not block, return their results
+/// on the UI thread, and run one after the other in the order of the calls. The system may ask the user for permission
+/// during an operation. When this object is destroyed, waiting operations end with `Cancelled`.
 class Keychain
 {
 public:
@@ -20,12 +20,12 @@ public:
         QString token;
         bool operator==(const Found &) const = default;
     };
-    /// The store, or the user, refused to hand the secret over: it is locked, absent or silent.
+    /// The store or the user did not release the secret: the store is locked, missing or does not respond.
     struct Failed
     {
-        /// The system's number for the reason.
+        /// The system's error code.
         qint32 status = 0;
-        /// The system's words for it, fit to stand in brackets; empty when it has none.
+        /// The system's description of the error, in a form that can be put in parentheses; empty if it has none.
         QString reason;
         bool operator==(const Failed &) const = default;
     };
@@ -35,11 +35,11 @@ public:
     };
     using Lookup = std::variant<Found, Failed, Missing>;
 
-    /// The store refused to keep a secret.
+    /// The store did not save a secret.
     class Failure final : public ::Failure
     {
     public:
-        /// `text` is what the user reads; without one, the number is told.
+        /// `text` is the text for the user. If it is empty, the text contains the error code instead.
         explicit Failure(qint32 status, const QString &text = {});
 
         qint32 status() const { return m_status; }
@@ -48,11 +48,11 @@ public:
         qint32 m_status;
     };
 
-    /// The name under which all items of this program stand.
+    /// The service name under which all items of this program are stored.
     static QString serviceName();
-    /// What the system's own tool for secrets shows.
+    /// The label of an account's item, which the system's own tool for secrets displays.
     static QString label(const QString &account);
-    /// The store of the system that the program runs on. `clock` outlives it.
+    /// Creates the store for the operating system that the program runs on. `clock` must outlive it.
     static std::unique_ptr<Keychain> ofThisSystem(Clock &clock);
 
     Keychain() = default;
@@ -60,10 +60,11 @@ public:
     Keychain(const Keychain &) = delete;
     Keychain &operator=(const Keychain &) = delete;
 
-    /// A secret that is no text reads as missing.
+    /// The secret of the account. A secret that is not valid text counts as missing.
     virtual QCoro::Task<Lookup> read(QString account) = 0;
-    /// Puts the secret in the place of the one before. Fails with `Keychain::Failure`, and then there may be none.
+    /// Saves the secret and replaces the previous one. Fails with `Keychain::Failure`; after a failure the account may
+    /// have no secret.
     virtual QCoro::Task<> save(QString token, QString account) = 0;
-    /// Fails never: what cannot be deleted stays.
+    /// Deletes the secret. Never fails: an item that cannot be deleted is kept.
     virtual QCoro::Task<> remove(QString account) = 0;
 };

@@ -5,6 +5,6 @@
 
 class QMimeData;
 
-/// The local files that a pasteboard or a drop holds, in their order; none for addresses of other kinds, and none for
-/// no data.
+/// The local files in the data of a clipboard or of a drop, in their order. Addresses of other kinds are ignored; null
+/// data gives an empty list.
 QList<QUrl> localFilesOf(const QMimeData *data);

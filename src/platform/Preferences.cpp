@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Flags are kept as words, so that a value reads alike in the instance that wrote it and in the next one.
+/// Booleans are stored as words, so that the running program and its next start read the same type of value.
 constexpr auto True = "true"_L1;
 constexpr auto False = "false"_L1;
 
-/// Lists are kept as JSON: the file format itself cannot tell a list of one text from a text, nor an empty list from
-/// nothing.
+/// Lists are stored as JSON, because the file format does not distinguish a list of one text from a text, nor an empty
+/// list from an absent value.
 QByteArray encoded(const QStringList &texts)
 {
     return QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact);
@@ -34,7 +34,7 @@ std::optional<QStringList> decoded(const QByteArray &json)
 
 std::unique_ptr<QSettings> prepared(std::unique_ptr<QSettings> settings)
 {
-    // Only the user's own store counts, not what an administrator may have put beside it.
+    // Read only the user's own file and not the system-wide settings of an administrator.
     settings->setFallbacksEnabled(false);
     return settings;
 }
@@ -109,6 +109,6 @@ void Preferences::setBytes(const QString &key, const QByteArray &value)
 void Preferences::write(const QString &key, const QVariant &value)
 {
     m_settings->setValue(key, value);
-    // A disk that cannot be written leaves the value in force until the program ends.
+    // If the file cannot be written, the value still applies until the program ends.
     m_settings->sync();
 }

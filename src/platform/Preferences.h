@@ -10,14 +10,15 @@
 
 class QSettings;
 
-/// The per-user store of small values under plain names. A value of another kind than asked for reads as absent, so a
-/// broken or foreign store never fails. Every write reaches the disk before the operation returns. UI thread only.
+/// The user's store of small values, each under a plain name. A value of another type than requested counts as absent,
+/// so a damaged file or one written by another program causes no failure. Every write operation stores the value on
+/// disk before it returns. UI thread only.
 class Preferences
 {
 public:
-    /// The user's own store, in the folder that the desktop prescribes.
+    /// Opens the user's own store, in the desktop's standard folder for settings.
     Preferences();
-    /// A store in the given file.
+    /// Opens a store in the given file.
     explicit Preferences(const QString &file);
     ~Preferences();
     Preferences(const Preferences &) = delete;

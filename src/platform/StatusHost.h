@@ -4,14 +4,14 @@
 
 #include <memory>
 
-/// Whether the desktop shows status items now. What is told is known a moment after it is made, and followed from then
-/// on. UI thread only.
+/// Tells whether the desktop currently displays status items. The answer is available shortly after construction, and
+/// changes are followed from then on. UI thread only.
 class StatusHost : public QObject
 {
     Q_OBJECT
 
 public:
-    /// That of this system.
+    /// Creates the implementation for the operating system that the program runs on.
     static std::unique_ptr<StatusHost> ofThisSystem();
 
     virtual bool isPresent() const = 0;

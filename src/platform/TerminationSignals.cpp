@@ -10,7 +10,8 @@ namespace {
 
 constexpr int caught[] = {SIGTERM, SIGINT, SIGHUP};
 
-// A signal comes in the midst of anything: it may only write here, and the event loop reads what it wrote.
+// A signal handler may interrupt any code. It only writes to this descriptor, and the event loop reads what was
+// written.
 int writing = -1;
 int reading = -1;
 
@@ -37,7 +38,7 @@ void listenFor(int signal)
 {
     struct sigaction before;
     ::sigaction(signal, nullptr, &before);
-    // Whoever started the process may have wanted it to outlive this signal.
+    // The parent process may have chosen to ignore this signal so that this process survives it.
     if (before.sa_handler == SIG_IGN)
         return;
     struct sigaction action = {};

@@ -3,8 +3,9 @@
 #include <QObject>
 #include <QSocketNotifier>
 
-/// Tells when the system asks the process to end: by SIGTERM, SIGINT or SIGHUP, as it does when the desktop's session
-/// ends. The second signal of a kind ends the process at once, as every signal does without this object. One per process.
+/// Reports when the system asks the process to end with SIGTERM, SIGINT or SIGHUP, for example at the end of the
+/// desktop session. A second signal of the same kind ends the process immediately, which is the default action. At most
+/// one object per process.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

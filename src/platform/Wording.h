@@ -2,12 +2,13 @@
 
 #include <QString>
 
-/// Texts are stored in the words of the Mac. This is the one place that turns them into those of the system the program
-/// runs on.
+/// The texts of the program are written with the terms of macOS. This is the only place that converts them to the terms
+/// of the operating system that the program runs on.
 namespace Wording {
 
-/// The text as this system's user should read it: on Linux shortcuts are spelt out ("⌘K" is "Ctrl+K", "⇧⌘." is
-/// "Ctrl+Maj+.") and the Mac's own words are replaced ("Finder" is "gestionnaire de fichiers"); on macOS unchanged.
+/// The text in the terms of the current system. On Linux, shortcuts are spelled out ("⌘K" becomes "Ctrl+K", "⇧⌘."
+/// becomes "Ctrl+Maj+.") and macOS terms are replaced ("Finder" becomes "gestionnaire de fichiers"). On macOS the text
+/// is returned unchanged.
 QString localized(const QString &macText);
 
 } // namespace Wording

@@ -25,13 +25,13 @@ const auto ReducedMotionKey = u"reduced-motion"_s;
 const auto GnomeGroup = u"org.gnome.desktop.interface"_s;
 const auto AnimationsKey = u"enable-animations"_s;
 
-/// The portal's values of "color-scheme"; 0 is no preference.
+/// The portal's value of "color-scheme" for a dark appearance; 0 means no preference.
 constexpr uint PreferDark = 1;
 constexpr uint PreferLight = 2;
-/// The portal's value of "reduced-motion".
+/// The portal's value of "reduced-motion" for less motion.
 constexpr uint PreferReducedMotion = 1;
 
-/// The portal wraps the value of a read twice, that of a change once.
+/// The result of a read is wrapped in two variants, the value in a change signal in one.
 QVariant unwrapped(QVariant value)
 {
     while (value.canConvert<QDBusVariant>() && value.typeId() == qMetaTypeId<QDBusVariant>())
@@ -55,7 +55,7 @@ bool themePrefersDark()
     const QString theme = qEnvironmentVariable("GTK_THEME");
     if (!theme.isEmpty())
         return theme.endsWith(u":dark"_s) || theme.endsWith(u"-dark"_s, Qt::CaseInsensitive);
-    // Without a graphical application there is no palette to look at.
+    // A program without a graphical application has no palette.
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return false;
     const QPalette palette = QGuiApplication::palette();
@@ -66,9 +66,10 @@ bool themePrefersDark()
 DesktopLinux::DesktopLinux(QDBusConnection bus, QObject *parent)
     : Desktop(parent), m_bus(std::move(bus))
 {
-    // Qt finds the slot only once it knows the type by its name, and tells nobody when it does not.
+    // Qt finds the slot only if the type is registered under its name, and reports no error otherwise.
     qRegisterMetaType<QDBusVariant>();
-    // No service name: naming it would make Qt look its owner up on the bus and wait for the answer.
+    // The service name is left empty, because Qt would otherwise look up its owner on the bus and block until the
+    // response.
     m_bus.connect({}, PortalPath, PortalSettings, u"SettingChanged"_s, this,
                   SLOT(takeSetting(QString, QString, QDBusVariant)));
     ask(AppearanceGroup, ColorSchemeKey);
@@ -119,7 +120,7 @@ void DesktopLinux::ask(const QString &group, const QString &key)
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        // A key that the portal does not know, like no portal at all, leaves the theme's word in force.
+        // If the portal does not know the key, or if there is no portal, the theme still decides.
         if (!reply.isError())
             takeSetting(group, key, reply.value());
         watcher->deleteLater();

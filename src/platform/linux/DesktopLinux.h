@@ -7,14 +7,14 @@
 
 #include <optional>
 
-/// The desktop as Linux gives it: the appearance comes from the settings portal, asked without waiting, and until it
-/// answers, or where there is none, from the toolkit's theme.
+/// The implementation for Linux. The appearance is read from the settings portal without blocking. Until the portal
+/// responds, or if there is none, it is taken from the theme of the toolkit.
 class DesktopLinux final : public Desktop
 {
     Q_OBJECT
 
 public:
-    /// `bus` is where the portal lives.
+    /// `bus` is the bus on which the portal is registered.
     explicit DesktopLinux(QDBusConnection bus = QDBusConnection::sessionBus(),
                           QObject *parent = nullptr);
 
@@ -32,13 +32,13 @@ private:
     void ask(const QString &group, const QString &key);
 
     QDBusConnection m_bus;
-    /// What the portal said; absent while it has said nothing or has no preference.
+    /// The preference reported by the portal; absent before its first response or if it has no preference.
     std::optional<bool> m_portalDark;
-    /// The portal's own setting for reduced motion, and GNOME's older switch for animations.
+    /// The portal's own setting for reduced motion, and the older GNOME setting that turns animations off.
     bool m_portalReducedMotion = false;
     bool m_animationsOff = false;
 };
 
-/// What the toolkit's theme says while the portal is silent: the variant named in GTK_THEME ("Adwaita:dark"), else the
-/// lightness of the window colour.
+/// The appearance according to the theme of the toolkit, used without a value from the portal: the variant named in
+/// GTK_THEME ("Adwaita:dark"), otherwise the lightness of the window colour.
 bool themePrefersDark();

@@ -4,7 +4,7 @@
 
 #include <coroutine>
 
-/// Kept alive by whoever waits and, until GLib has answered, by GLib's callback.
+/// The state of one call. It is owned by the waiting coroutine and, until GLib has called back, by GLib's callback.
 struct GLibCalls::Call
 {
     GLibPointer<GCancellable> cancellable{g_cancellable_new()};
@@ -20,7 +20,7 @@ struct GLibCalls::Call
         if (const auto handle = std::exchange(waiting, nullptr))
             handle.resume();
     }
-    /// Does not wait for GLib, whose answer to a call that was called off may never come.
+    /// Ends the call without waiting for GLib, which may never respond to a cancelled call.
     static void giveUp(std::shared_ptr<Call> call, std::exception_ptr failure)
     {
         if (call->isOver())
@@ -61,7 +61,7 @@ QCoro::Task<GLibPointer<GAsyncResult>> GLibCalls::run(std::shared_ptr<GLibCalls>
         if (const auto late = weak.lock())
             Call::giveUp(late, std::make_exception_ptr(TimedOut()));
     });
-    // The callback owns this reference, and always comes, if only after the call was given up.
+    // The callback owns this reference. GLib always calls it in the end, even after the call was given up.
     start(call->cancellable.get(), &GLibCalls::takeResult,
           std::make_unique<std::shared_ptr<Call>>(call).release());
     const Answer answer(call);

@@ -9,15 +9,15 @@
 #include <list>
 #include <memory>
 
-/// Asynchronous calls of GLib as tasks, each with a limit, on Qt's own event loop.
+/// Runs asynchronous GLib calls as tasks on Qt's event loop, each with a time limit.
 class GLibCalls
 {
 public:
-    /// What a call ends with that was not answered within its limit.
+    /// Thrown if GLib did not respond within the limit.
     struct TimedOut : std::exception
     {
     };
-    /// Begins a call; the last two arguments go to GLib as they are.
+    /// Starts an asynchronous call; the last two arguments must be passed to GLib unchanged.
     using Start = std::function<void(GCancellable *, GAsyncReadyCallback, gpointer)>;
 
     explicit GLibCalls(Clock &clock) : m_clock(&clock) {}
@@ -25,11 +25,11 @@ public:
     GLibCalls(const GLibCalls &) = delete;
     GLibCalls &operator=(const GLibCalls &) = delete;
 
-    /// Begins a call and gives what its `…_finish` takes. A call that hits its limit is called off; so is every call
-    /// once `calls` is closed, with `Cancelled`.
+    /// Starts a call and returns the result object for its `…_finish` function. A call that reaches its limit is
+    /// cancelled and fails with `TimedOut`; once `calls` is closed, every call fails with `Cancelled`.
     static QCoro::Task<GLibPointer<GAsyncResult>> run(std::shared_ptr<GLibCalls> calls,
                                                       std::chrono::milliseconds limit, Start start);
-    /// Ends what is under way and all that comes after; the clock is not touched any more.
+    /// Ends all running and all later calls with `Cancelled`. The clock is no longer used after this.
     void close();
 
 private:

@@ -3,7 +3,7 @@
 #include <gio/gio.h>
 #include <memory>
 
-/// Lets go of what GLib hands out; of nothing, too, as shared owners ask it to.
+/// Releases an object that GLib returned. Accepts null, because shared pointers call their deleter with null too.
 struct GLibRelease
 {
     void operator()(void *object) const

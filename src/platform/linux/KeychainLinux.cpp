@@ -29,7 +29,7 @@ QCoro::Task<Keychain::Lookup> readThrough(Calls calls, QString account)
     co_return lookupOf(secret);
 }
 
-/// The old item goes first, so that a save that fails leaves none.
+/// The old item is deleted first, so that no item is left after a failed save.
 QCoro::Task<> saveThrough(Calls calls, QString token, QString account)
 {
     const auto service = co_await SecretSteps::open(calls);
@@ -52,7 +52,7 @@ KeychainLinux::~KeychainLinux()
     m_calls->close();
 }
 
-// After its turn has come, an operation does not touch this object, which may have gone.
+// An operation does not use this object after it got its turn, because the object may have been destroyed by then.
 
 QCoro::Task<Keychain::Lookup> KeychainLinux::read(QString account)
 {
@@ -83,7 +83,7 @@ QCoro::Task<> KeychainLinux::remove(QString account)
     try {
         co_await removeThrough(calls, account);
     } catch (const KeychainRefusal &refusal) {
-        // It stays: there is nothing that the user could do about it here.
+        // The item is kept: the user could do nothing about the error here.
         Q_UNUSED(refusal)
     }
 }

@@ -5,20 +5,20 @@
 
 class GLibCalls;
 
-/// The desktop's Secret Service (GNOME Keyring, KWallet and others) through libsecret. Every operation looks the service
-/// up anew, so a service that was restarted is found again. Qt's event loop must be GLib's, as it is unless it was told
-/// otherwise; if it is not, every operation ends as timed out.
+/// The desktop's Secret Service (GNOME Keyring, KWallet and others), used through libsecret. Every operation connects
+/// to the service again, so a restarted service is found. Qt must run on the event loop of GLib, which is the default
+/// on Linux. With another event loop, every operation ends with a timeout.
 class KeychainLinux final : public Keychain
 {
 public:
-    /// The reasons of a refusal that have words of ours; any other number is the service's own, and positive.
+    /// The error codes for which the program has its own text. Every other code is the service's own and positive.
     enum Status : qint32 { Locked = -1, Absent = -2, TimedOut = -3 };
 
-    /// How long a service may take to answer, and a user to whom the desktop shows a question.
+    /// The time limits for a response of the service and for an operation in which the desktop may ask the user.
     static constexpr std::chrono::seconds ServiceLimit{10};
     static constexpr std::chrono::seconds PromptLimit{180};
 
-    /// `clock` outlives this object.
+    /// `clock` must outlive this object.
     explicit KeychainLinux(Clock &clock);
     ~KeychainLinux() override;
 

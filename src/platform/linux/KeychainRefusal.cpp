@@ -50,7 +50,7 @@ KeychainRefusal refusalFor(const GError &error)
         return KeychainRefusal(KeychainLinux::Locked);
     if (isSilence(error))
         return KeychainRefusal(KeychainLinux::TimedOut);
-    // What the connection to the bus fails with, in all its kinds.
+    // The errors of a failed connection to the bus all belong to these two domains.
     if (error.domain == G_IO_ERROR || error.domain == G_DBUS_ERROR)
         return KeychainRefusal(KeychainLinux::Absent);
     return KeychainRefusal(error.code, QString::fromUtf8(error.message));

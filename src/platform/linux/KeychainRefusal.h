@@ -4,7 +4,7 @@
 
 #include <gio/gio.h>
 
-/// Why the Secret Service did not do what it was asked, on its way through the steps of an operation.
+/// Why the Secret Service did not perform a step of an operation; used as an exception.
 struct KeychainRefusal : std::exception
 {
     explicit KeychainRefusal(qint32 status, QString detail = {})
@@ -13,14 +13,14 @@ struct KeychainRefusal : std::exception
     }
 
     qint32 status;
-    /// What the service said, for a reason that has no words of ours.
+    /// The service's description, for a code that has no text in this program.
     QString detail;
 };
 
-/// The reason that an error of GLib, D-Bus or libsecret stands for. No bus and no service are the same: absent.
+/// The reason for an error of GLib, D-Bus or libsecret. A missing bus and a missing service both give `Absent`.
 KeychainRefusal refusalFor(const GError &error);
 
-/// As the outcome of a read: the reason in a few words.
+/// The refusal as the result of a read; its text is a short reason.
 Keychain::Failed asLookup(const KeychainRefusal &refusal);
-/// As the outcome of a save: a sentence with what to do about it.
+/// The refusal as the failure of a save; its text is a sentence that tells the user what to do.
 Keychain::Failure asFailure(const KeychainRefusal &refusal);

@@ -8,7 +8,7 @@ namespace {
 constexpr auto ServiceKey = "service";
 constexpr auto AccountKey = "account";
 
-/// Collects the error that a `…_finish` leaves.
+/// Receives the error of a `…_finish` function.
 class ErrorSlot
 {
 public:
@@ -57,7 +57,7 @@ answered(SecretSteps::Calls calls, std::chrono::milliseconds limit, GLibCalls::S
     }
 }
 
-/// A bus that ends must not take the process with it, as GLib would have it.
+/// By default, GLib ends the process when the bus closes, so this is turned off.
 QCoro::Task<std::shared_ptr<GDBusConnection>> openBus(SecretSteps::Calls calls)
 {
     const GLibCalls::Start start = [](GCancellable *stop, GAsyncReadyCallback done, gpointer data) {
@@ -69,7 +69,7 @@ QCoro::Task<std::shared_ptr<GDBusConnection>> openBus(SecretSteps::Calls calls)
                                          GLibRelease());
     error.throwIfSet();
     g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
-    // On a bus that has ended, libsecret takes no answer for "nothing found".
+    // On a closed bus, libsecret would report the missing response as "nothing found".
     if (g_dbus_connection_is_closed(bus.get()))
         throw KeychainRefusal(KeychainLinux::Absent);
     co_return bus;
@@ -176,7 +176,7 @@ QCoro::Task<> SecretSteps::store(Calls calls, Service service, QString account, 
     ErrorSlot error;
     const bool isStored = secret_service_store_finish(service.get(), result.get(), error.out());
     error.throwIfSet();
-    // No error and no item: the user turned the desktop's question down.
+    // No error and no item mean that the user refused the desktop's request.
     if (!isStored)
         throw KeychainRefusal(KeychainLinux::Locked);
 }

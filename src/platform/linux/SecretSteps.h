@@ -8,25 +8,25 @@
 #include <libsecret/secret.h>
 #include <optional>
 
-/// The steps that operations on the Secret Service are made of. Each fails with `KeychainRefusal`, or with `Cancelled`
-/// once the calls are closed.
+/// The steps of the operations on the Secret Service. Each fails with `KeychainRefusal`, or with `Cancelled` once the
+/// calls are closed.
 namespace SecretSteps {
 
 using Calls = std::shared_ptr<GLibCalls>;
 using Service = std::shared_ptr<SecretService>;
 using Item = std::shared_ptr<SecretItem>;
 
-/// The service of the session bus, with a session to carry secrets.
+/// Connects to the service on the session bus and opens a session for the transfer of secrets.
 QCoro::Task<Service> open(Calls calls);
-/// The account's item, of several rather one that is unlocked; null when there is none.
+/// The item of the account; null if there is none. If there are several, an unlocked one is preferred.
 QCoro::Task<Item> find(Calls calls, Service service, QString account);
-/// Has the desktop ask the user, where need be. Refused when the item is still locked then.
+/// Unlocks the item; the desktop asks the user if needed. Fails if the item is still locked afterwards.
 QCoro::Task<> unlock(Calls calls, Service service, Item item);
-/// What an unlocked item holds.
+/// The secret of an unlocked item.
 QCoro::Task<QByteArray> secretOf(Calls calls, Item item);
-/// Deletes all items of the account that are not locked.
+/// Deletes all unlocked items of the account.
 QCoro::Task<> clear(Calls calls, Service service, QString account);
-/// Puts an item into the collection that the user has as default; the desktop may ask the user.
+/// Stores an item in the user's default collection; the desktop may ask the user.
 QCoro::Task<> store(Calls calls, Service service, QString account, QByteArray secret);
 
 } // namespace SecretSteps

@@ -17,7 +17,7 @@ QDBusMessage question()
     auto message = QDBusMessage::createMethodCall(Service, Path,
                                                   u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     message.setArguments({Service, u"IsStatusNotifierHostRegistered"_s});
-    // Asking is no reason to start a desktop's panel.
+    // The query must not start the desktop's panel if it does not run.
     message.setAutoStartService(false);
     return message;
 }

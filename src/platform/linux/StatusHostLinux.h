@@ -7,7 +7,7 @@
 
 class QDBusPendingCallWatcher;
 
-/// Asks the watcher of status notifier items on a bus whether a host shows them.
+/// Asks the status notifier watcher on a bus whether a host displays the items.
 class StatusHostLinux final : public StatusHost
 {
     Q_OBJECT

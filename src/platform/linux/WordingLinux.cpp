@@ -12,7 +12,7 @@ struct Replacement
     QStringView linux;
 };
 
-/// In order of application: the longer text before the word that it contains.
+/// Applied in this order: a longer text must come before a word that it contains.
 constexpr std::array Replacements = {
     Replacement{u"trousseau macOS", u"trousseau du système"},
     Replacement{u"nécessite macOS", u"nécessite le système en version"},
@@ -24,12 +24,12 @@ constexpr std::array Replacements = {
 
 struct Modifier
 {
-    /// The Mac's keys that this one stands for.
+    /// The modifier signs of macOS that this modifier replaces.
     QStringView macSigns;
     QStringView name;
 };
 
-/// In the order in which a French Linux desktop spells a shortcut.
+/// In the order in which French Linux desktops write the modifiers of a shortcut.
 constexpr std::array Modifiers = {
     Modifier{u"⌘⌃", u"Ctrl"},
     Modifier{u"⌥", u"Alt"},
@@ -52,7 +52,7 @@ QString modifierNames(QStringView run)
     return names.join(u'+');
 }
 
-/// True if a shortcut goes on at `rest`: modifiers named alone take no "+".
+/// True if `rest` starts with the key of a shortcut. Modifiers without a key get no "+".
 bool startsWithKey(QStringView rest)
 {
     return !rest.isEmpty() && !rest.front().isSpace() && rest.front() != u')';

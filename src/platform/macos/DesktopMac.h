@@ -4,7 +4,7 @@
 
 #include <memory>
 
-/// The desktop as macOS gives it. UI thread only, after the application object was made.
+/// The implementation for macOS. Use it on the UI thread only, after the application object was created.
 class DesktopMac final : public Desktop
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// Listens for changes of the system's appearance for as long as it lives.
+/// Observes changes of the system's appearance during its lifetime.
 class DesktopMac::Observers {
 public:
     explicit Observers(DesktopMac *desktop)

@@ -2,12 +2,12 @@
 
 #include "platform/Keychain.h"
 
-/// The user's keychain. Its calls are synchronous and may wait for the system's own question to the user; each is made
-/// from the event loop, never within the caller's turn, so that the window stands first.
+/// The user's keychain. Its functions are synchronous and may block while the system asks the user. Each is therefore
+/// called from the event loop and not directly in the caller's function, so that the window is displayed first.
 class KeychainMac final : public Keychain
 {
 public:
-    /// `clock` outlives this object.
+    /// `clock` must outlive this object.
     explicit KeychainMac(Clock &clock) : m_clock(clock) {}
 
     QCoro::Task<Lookup> read(QString account) override;

@@ -18,7 +18,7 @@ NSMutableDictionary *baseQuery(const QString &account)
     } mutableCopy];
 }
 
-/// The system's words; empty when it has none.
+/// The system's description of the status; empty if it has none.
 QString textOf(OSStatus status)
 {
     NSString *text = CFBridgingRelease(SecCopyErrorMessageString(status, nullptr));

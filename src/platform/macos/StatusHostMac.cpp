@@ -2,7 +2,7 @@
 
 namespace {
 
-/// The menu bar is always there.
+/// macOS always displays the menu bar.
 class StatusHostMac final : public StatusHost
 {
 public:
