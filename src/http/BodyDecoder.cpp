@@ -3,10 +3,10 @@
 #include <array>
 #include <zlib.h>
 
-/// One or more packed streams, one behind the other.
+/// Decompresses one or more compressed streams, concatenated in one body.
 struct BodyDecoder::Inflation
 {
-    /// zlib tells gzip and zlib streams apart by itself when 32 is added to the size of its window.
+    /// Adding 32 to the window size makes zlib detect gzip and zlib streams by itself.
     static constexpr int AnyFormat = 32 + MAX_WBITS;
     static constexpr std::size_t PieceSize = 65536;
 
@@ -15,7 +15,7 @@ struct BodyDecoder::Inflation
     Inflation(const Inflation &) = delete;
     Inflation &operator=(const Inflation &) = delete;
 
-    /// Unpacks one piece; false when the bytes are damaged.
+    /// Decompresses up to one buffer of data; false if the data are damaged.
     bool step()
     {
         if (isAtEnd && inflateReset2(&stream, AnyFormat) != Z_OK)
@@ -24,20 +24,20 @@ struct BodyDecoder::Inflation
         stream.avail_out = uInt(piece.size());
         const int result = inflate(&stream, Z_NO_FLUSH);
         isAtEnd = result == Z_STREAM_END;
-        // No progress for want of bytes is no damage.
+        // Lack of input data is not an error.
         return result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR;
     }
     QByteArrayView unpacked() const
     {
         return QByteArrayView(piece.data(), qsizetype(piece.size() - stream.avail_out));
     }
-    /// More of what was taken in may follow only when a piece was filled.
+    /// The stream may have more output for the same input only if it filled the buffer.
     bool mayHoldMore() const { return stream.avail_in > 0 || (stream.avail_out == 0 && !isAtEnd); }
 
     z_stream stream{};
     std::array<Bytef, PieceSize> piece{};
     bool isAtEnd = false;
-    /// An empty body is whole, whatever it is said to be packed with.
+    /// An empty body is complete, whatever its `Content-Encoding` is.
     bool hasBytes = false;
 };
 
@@ -68,7 +68,7 @@ bool BodyDecoder::feed(QByteArrayView packed, const Sink &sink)
     if (!m_inflation)
         return m_isKnown && sink(packed);
     m_inflation->hasBytes = true;
-    // zlib only reads; its interface is older than const.
+    // zlib only reads from this pointer; its interface does not declare it const.
     m_inflation->stream.next_in =
         const_cast<Bytef *>(reinterpret_cast<const Bytef *>(packed.data()));
     m_inflation->stream.avail_in = uInt(packed.size());

@@ -5,30 +5,31 @@
 #include <functional>
 #include <memory>
 
-/// Unpacks the body of an answer as it comes in. Strict: a packed body that is damaged, cut short or followed by
-/// anything else is no body.
+/// Decompresses the body of a response while it is received. The decoder is strict: it rejects a compressed body that
+/// is damaged, truncated or followed by other data.
 class BodyDecoder
 {
 public:
-    /// Takes a piece of the body; false when it wants no more.
+    /// Receives a part of the decompressed body; returns false to stop the decoding.
     using Sink = std::function<bool(QByteArrayView)>;
 
-    /// For the value of the header `Content-Encoding`: nothing, "identity", "gzip", "x-gzip" or "deflate". Any other
-    /// is one that nobody asked for, and every body in it is damaged.
+    /// `coding` is the value of the header `Content-Encoding`: empty, "identity", "gzip", "x-gzip" or "deflate". The
+    /// program never requests any other coding, so bodies with another one count as damaged.
     explicit BodyDecoder(const QByteArray &coding);
     ~BodyDecoder();
     BodyDecoder(const BodyDecoder &) = delete;
     BodyDecoder &operator=(const BodyDecoder &) = delete;
 
-    /// Unpacks the next bytes, in pieces of a bounded size. False when they are damaged or the sink wants no more.
+    /// Decompresses the next bytes and passes them to the sink in parts of a limited size. False if they are damaged or
+    /// the sink returned false.
     bool feed(QByteArrayView packed, const Sink &sink);
-    /// Whether the bytes so far make a whole body.
+    /// True if the bytes so far form a complete body.
     bool isComplete() const;
 
 private:
     struct Inflation;
 
     bool m_isKnown;
-    /// Absent for a body that is not packed.
+    /// Null for a body that is not compressed.
     std::unique_ptr<Inflation> m_inflation;
 };

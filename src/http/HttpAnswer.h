@@ -6,20 +6,22 @@
 
 #include <memory>
 
-/// What a server answered, whatever its status; no redirect, since those are followed.
+/// The response of a server, with any status except a redirect, since redirects are followed.
 struct HttpAnswer
 {
-    /// 200 to 599.
+    /// The HTTP status, from 200 to 599.
     int status = 0;
-    /// Of the body, in lower case and without parameters: "application/json". Empty when the server named none.
+    /// The media type of the body, in lower case and without parameters: "application/json". Empty if the server sent
+    /// none.
     QByteArray mediaType;
-    /// Unpacked. Empty when the body was stored.
+    /// The decompressed body. Empty if the body was stored in a file.
     QByteArray body;
-    /// Where the body was stored, complete; the file goes with the last copy of the answer unless it was moved away.
+    /// The file with the complete body, if it was stored. It is deleted with the last copy of the response unless it
+    /// was moved.
     std::shared_ptr<QTemporaryFile> file;
 
-    /// The server announced the body's length, and it was met. Of a body whose length was not announced nobody can tell
-    /// that it was cut short.
+    /// True if the server announced the length of the body and sent that many bytes. Without an announced length, a
+    /// truncated body cannot be detected.
     bool hasKnownLength = false;
 
     bool operator==(const HttpAnswer &) const = default;

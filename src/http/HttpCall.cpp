@@ -55,7 +55,7 @@ void HttpCall::resume()
 {
     m_idle.reset();
     m_whole.reset();
-    // Going on destroys this object, and what called it.
+    // Resuming the coroutine destroys this object and its caller.
     if (const auto waiting = std::exchange(m_waiting, nullptr))
         waiting.resume();
 }

@@ -12,24 +12,24 @@
 #include <optional>
 #include <stop_token>
 
-/// One request seen from where it is awaited: ends with the outcome of its exchange, when its time is over, or when it
-/// is called off, whichever comes first. UI thread only.
+/// One request from the point of view of the code that awaits it. It ends with the result of its exchange, at a time
+/// limit, or when it is cancelled, whichever happens first. UI thread only.
 class HttpCall final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Ends on time by itself; the clock outlives it.
+    /// Starts the time limits, at which the call ends by itself. The clock must outlive the call.
     HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits);
 
-    /// The exchange whose outcome this call waits for. It has not been started.
+    /// Sets the exchange whose result this call waits for. The exchange must not have been started yet.
     void follow(std::unique_ptr<HttpExchange> exchange);
-    /// Ends it with `Cancelled`, at once.
+    /// Ends the call immediately with `Cancelled`.
     void cancel();
-    /// Ends the exchange at once, and the call with `Cancelled` when events are next handled.
+    /// Ends the exchange immediately, and the call with `Cancelled` in the next iteration of the event loop.
     void abandon();
 
-    /// To be awaited once: the answer, or the failure as an exception.
+    /// May be awaited once: returns the response, or throws the failure.
     auto answer(std::stop_token stop);
 
 private:
@@ -40,7 +40,7 @@ private:
     };
 
     void restartIdleTime();
-    /// Ends the call after that long.
+    /// A timer that ends the call after the given time.
     Clock::TimerHandle timer(std::chrono::milliseconds limit);
     void end(HttpOutcome outcome);
     void resume();
@@ -52,7 +52,7 @@ private:
     Clock::TimerHandle m_whole;
     std::coroutine_handle<> m_waiting;
     bool m_isOver = false;
-    /// Absent in a call that was called off.
+    /// Absent if the call was cancelled.
     std::optional<HttpOutcome> m_outcome;
 };
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Parsers read a little past the end of what they parse, and would copy a body without this room.
+/// Parsers read slightly beyond the end of their input, and copy a body that has no reserved space after it.
 constexpr qsizetype RoomBehind = 64;
 
 } // namespace
@@ -29,7 +29,7 @@ HttpExchange::~HttpExchange()
 void HttpExchange::start(QNetworkAccessManager &shared)
 {
     m_shared = &shared;
-    // The network stack would open files of this machine too.
+    // Without this check, the network stack would also open local files.
     if (!Redirects::isAddress(m_request.url))
         return finish(std::unexpected(TransportError::Kind::NoWebAddress));
     transmit();
@@ -63,7 +63,8 @@ QNetworkReply *HttpExchange::sentOnce()
     m_own = std::make_unique<QNetworkAccessManager>();
     m_own->setProxyFactory(std::make_unique<SystemProxies>().release());
     QNetworkRequest request = networkRequest(m_request, m_identity);
-    // A body is what keeps the network stack from sending twice, so a request without one gets one of no bytes.
+    // Only a body that cannot be read twice keeps the network stack from sending a request twice, so a request without
+    // a body gets an empty one.
     auto body = std::make_unique<OneWayBody>(m_request.body.value_or(QByteArray()));
     request.setHeader(QNetworkRequest::ContentLengthHeader, body->bytesAvailable());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
@@ -86,7 +87,7 @@ void HttpExchange::takeBytes()
 
 bool HttpExchange::store(QByteArrayView piece)
 {
-    // What a redirect has to say is of no use, and may be long.
+    // The body of a redirect is not needed and may be long.
     if (Redirects::isRedirect(status(), location()))
         return true;
     if (m_request.saveAs && status() >= 200 && status() < 300)
@@ -128,7 +129,7 @@ void HttpExchange::completeReply()
     m_answer.status = status();
     m_answer.mediaType = mediaType(m_reply->rawHeader("Content-Type"));
     m_answer.hasKnownLength = m_reply->hasRawHeader("Content-Length");
-    // An empty file is a file too.
+    // An empty body is stored as an empty file.
     if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
         return finish(std::unexpected(TransportError::Kind::NotStored));
     finish(std::move(m_answer));
@@ -138,7 +139,7 @@ std::optional<TransportError::Kind> HttpExchange::flaw() const
 {
     if (const auto failure = replyFailure(*m_reply, m_certificateErrors))
         return failure;
-    // Of an answer that is a failure, the stack tells the failure and not that it is incomplete.
+    // For a response with an error status, the stack reports the status and not that the body is incomplete.
     if (m_received < m_reply->rawHeader("Content-Length").toLongLong())
         return TransportError::Kind::ConnectionLost;
     return m_decoder->isComplete() ? std::nullopt : std::optional(TransportError::Kind::Broken);

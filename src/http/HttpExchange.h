@@ -17,8 +17,8 @@
 
 using HttpOutcome = std::expected<HttpAnswer, TransportError::Kind>;
 
-/// One request on its way: sends it, follows it from redirect to redirect, and gathers the answer. Lives on the network
-/// thread; deleting it ends what is under way.
+/// One request in progress: sends it, follows its redirects and collects the response. Belongs to the network thread;
+/// deleting it ends the request.
 class HttpExchange final : public QObject
 {
     Q_OBJECT
@@ -27,13 +27,13 @@ public:
     HttpExchange(HttpRequest request, Identity identity);
     ~HttpExchange() override;
 
-    /// `shared` keeps connections alive for the reads, and outlives this object.
+    /// Starts the request. `shared` keeps the connections of reads open and must outlive this object.
     void start(QNetworkAccessManager &shared);
 
 Q_SIGNALS:
-    /// Something went out or came in.
+    /// Bytes were sent or received.
     void progressed();
-    /// Once, and nothing after it.
+    /// The request has ended. Emitted once, and no other signal follows.
     void finished(const HttpOutcome &outcome);
 
 private:
@@ -56,14 +56,14 @@ private:
     HttpRequest m_request;
     Identity m_identity;
     QPointer<QNetworkAccessManager> m_shared;
-    /// The manager of a write, so that it finds no connection to share.
+    /// The separate manager of a write, so that the write does not share a connection.
     std::unique_ptr<QNetworkAccessManager> m_own;
     QPointer<QNetworkReply> m_reply;
     QList<QSslError> m_certificateErrors;
     std::unique_ptr<BodyDecoder> m_decoder;
-    /// Bytes of the body as they came in, packed or not.
+    /// The number of bytes of the body as received, before decompression.
     qint64 m_received = 0;
-    /// Why the bytes of the answer were refused, if they were.
+    /// Why the response was rejected; absent if it was not.
     std::optional<TransportError::Kind> m_refusal;
     HttpAnswer m_answer;
     int m_redirects = 0;

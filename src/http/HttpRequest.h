@@ -8,7 +8,7 @@
 #include <chrono>
 #include <optional>
 
-/// One field of a request's head.
+/// One header field of a request.
 struct HttpHeader
 {
     QByteArray name;
@@ -17,46 +17,49 @@ struct HttpHeader
     bool operator==(const HttpHeader &) const = default;
 };
 
-/// One request, as it goes out.
+/// One request as it is sent.
 struct HttpRequest
 {
-    /// What the request does to the server.
+    /// The effect of the request on the server.
     enum class Purpose {
-        /// Changes nothing: it goes over connections that are kept alive, and when such a connection turns out dead the
-        /// network stack sends it again over another.
+        /// Changes nothing. It uses connections that are kept open, and if such a connection turns out to be closed,
+        /// the network stack sends the request again over another one.
         Read,
-        /// Changes something: it goes over a connection of its own and reaches the server at most once. A connection
-        /// that breaks before the answer is a failure, and nobody knows then whether the change was made.
+        /// Changes data. It uses a connection of its own and reaches the server at most once. If the connection breaks
+        /// before the response, the request fails, and it is unknown whether the change was made.
         Write
     };
 
-    /// When a request is given up. Those of a JSON request, as they stand.
+    /// The time limits of a request. The defaults are those of a JSON request.
     struct TimeLimits
     {
-        /// How long nothing may go out or come in, the wait for the answer included.
+        /// The longest time in which no byte is sent or received, including the wait for the response.
         std::chrono::milliseconds idle = std::chrono::seconds(30);
-        /// From its start to the last byte of its answer; absent where bytes may keep coming.
+        /// The longest time from the start of the request to the last byte of its response; absent for transfers of any
+        /// duration.
         std::optional<std::chrono::milliseconds> whole = std::chrono::seconds(60);
 
         bool operator==(const TimeLimits &) const = default;
     };
-    /// Those of a file's transfer: a server may look long at what it was sent, and a slow line is no failure.
+    /// The limits for the transfer of a file. A server may process an uploaded file for a long time, and a slow
+    /// connection is not an error.
     static constexpr TimeLimits transferLimits() { return {std::chrono::seconds(300), {}}; }
-    /// The most bytes that an answer kept in memory usually may have, unpacked. Some ten times a page of a hundred issues
-    /// with long histories.
+    /// The default maximum size in bytes of a response kept in memory, after decompression. About ten times the size of
+    /// a page of a hundred issues with long histories.
     static constexpr qint64 MaximumInMemory = 64LL * 1024 * 1024;
 
     QByteArray verb = "GET";
     QUrl url;
     Purpose purpose = Purpose::Read;
-    /// Beside what every request carries: `Authorization`, `User-Agent` and `Accept-Encoding`.
+    /// The header fields, in addition to those that every request has: `Authorization`, `User-Agent` and
+    /// `Accept-Encoding`.
     QList<HttpHeader> headers;
     std::optional<QByteArray> body;
     TimeLimits limits = {};
-    /// The most bytes that the answer may have, unpacked, if it is kept in memory.
+    /// The maximum size in bytes of a response kept in memory, after decompression.
     qint64 mostInMemory = MaximumInMemory;
-    /// Where the body of a 2xx answer is stored: the pattern of a temporary file's path, ending in "XXXXXX". Missing
-    /// folders are made. Without it the body stays in memory.
+    /// Where the body of a 2xx response is stored: the template of a temporary file's path, ending in "XXXXXX". Missing
+    /// folders are created. If absent, the body is kept in memory.
     std::optional<QString> saveAs;
 
     bool operator==(const HttpRequest &) const = default;

@@ -34,7 +34,7 @@ QCoro::Task<HttpAnswer> HttpSession::send(HttpRequest request, std::stop_token s
         throw Cancelled();
     const auto call = std::make_unique<HttpCall>(m_clock, request.limits);
     start(*call, std::move(request));
-    // The session may be gone after this.
+    // The session may have been destroyed when this returns.
     co_return co_await call->answer(std::move(stop));
 }
 

@@ -14,31 +14,35 @@
 class HttpCall;
 class QNetworkAccessManager;
 
-/// The road by which requests leave the program. All traffic, unpacking and storing runs on a thread of the session's
-/// own; answers come back on the thread of the call.
+/// Sends all requests of the program to a site. Communication, decompression and storage run on a thread of the
+/// session;
+/// results are returned on the thread of the caller.
 ///
-/// - Sends a request once, whatever comes back, over HTTP/1.1, with no cookies, no cache, and no second try at a
-///   challenge. Only what is `Purpose::Read` may be sent again, when a connection breaks before any answer.
-/// - Follows at most ten redirects, never from https to http; a body goes to no other origin.
-/// - Sends the identity's header to the identity's own origin and to no other, whatever an address or a redirect says.
-/// - Trusts the system's authorities and uses the system's proxies.
-/// - Two limits hold together: 30 seconds in which nothing goes out or comes in, and the request's own limit from its
-///   start to the last byte, redirects included.
+/// - Sends a request once, whatever the response is, over HTTP/1.1, without cookies and without a cache. It does not
+///   respond to authentication challenges. Only a request with `Purpose::Read` may be sent again, if a connection
+///   breaks before any response.
+/// - Follows at most ten redirects, never from https to http, and sends a body to no other origin.
+/// - Sends the identity's `Authorization` header only to the identity's own origin, whatever an address or a redirect
+///   says.
+/// - Trusts the certificate authorities of the system and uses its proxies.
+/// - Applies two time limits: 30 seconds without a byte sent or received, and the request's own limit from its start to
+///   the last byte, redirects included.
 class HttpSession final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The clock outlives the session.
+    /// The clock must outlive the session.
     HttpSession(Identity identity, Clock &clock);
-    /// Closes itself.
+    /// Calls `close`.
     ~HttpSession() override;
 
-    /// The server's answer, whatever its status. Fails with `TransportError` when there is none that can be used, and
-    /// with `Cancelled` once a stop is requested.
+    /// Returns the response of the server, whatever its status. Fails with `TransportError` if there is no usable
+    /// response, and with `Cancelled` once a stop is requested.
     QCoro::Task<HttpAnswer> send(HttpRequest request, std::stop_token stop = {});
 
-    /// Ends what is under way with `Cancelled`, when events are next handled. What is sent from now on fails so too.
+    /// Ends running requests with `Cancelled` in the next iteration of the event loop. Later calls of `send` fail in
+    /// the same way.
     void close();
 
 Q_SIGNALS:
@@ -51,6 +55,6 @@ private:
     Clock &m_clock;
     bool m_isClosed = false;
     QThread m_thread;
-    /// Lives on the thread, and ends with it.
+    /// Belongs to the network thread and is deleted with it.
     QNetworkAccessManager *m_manager;
 };

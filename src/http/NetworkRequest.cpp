@@ -18,12 +18,14 @@ void switchOffWhatTheStackDoesByItself(QNetworkRequest &request)
 
 QNetworkRequest networkRequest(const HttpRequest &request, const Identity &identity)
 {
-    // A name in an address is no credential of ours; the stack would answer challenges with it.
+    // A user name in an address is not used as a credential; otherwise the stack would answer authentication challenges
+    // with it.
     QNetworkRequest result(request.url.adjusted(QUrl::RemoveUserInfo));
     switchOffWhatTheStackDoesByItself(result);
-    // The stack's own name is that of a browser, from which Jira wants proof that no other site sent the request.
+    // The stack's default value is that of a browser, for which Jira requires proof against cross-site requests.
     result.setRawHeader("User-Agent", "Velmora");
-    // Asked for here, a packed body is handed on as it is, so that damage to it does not go unseen.
+    // If the program sets this header itself, the stack does not decompress the body, so that damaged data are detected
+    // here.
     result.setRawHeader("Accept-Encoding", request.saveAs ? "identity" : "gzip");
     for (const HttpHeader &header : request.headers)
         result.setRawHeader(header.name, header.value);

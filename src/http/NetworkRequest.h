@@ -5,9 +5,10 @@
 
 #include <QNetworkRequest>
 
-/// The request in the network stack's terms, with all that the stack does by itself switched off: HTTP/2, redirects,
-/// cookies, its cache, and answers to a challenge. `Authorization` goes along to the identity's own origin only.
+/// Converts the request for Qt's network stack and turns the automatic features of the stack off: HTTP/2, redirects,
+/// cookies, the cache, and responses to authentication challenges. `Authorization` is sent only to the identity's own
+/// origin.
 QNetworkRequest networkRequest(const HttpRequest &request, const Identity &identity);
 
-/// The media type of a header `Content-Type`, in lower case and without parameters.
+/// The media type of a `Content-Type` header, in lower case and without parameters.
 QByteArray mediaType(const QByteArray &contentType);

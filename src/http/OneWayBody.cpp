@@ -4,7 +4,7 @@
 
 OneWayBody::OneWayBody(QByteArray bytes) : m_bytes(std::move(bytes))
 {
-    // Unbuffered: what is taken is counted here alone.
+    // Unbuffered, so that the read position is counted only here.
     open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
 

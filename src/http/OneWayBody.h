@@ -2,8 +2,9 @@
 
 #include <QIODevice>
 
-/// A request's body that can be read once. Qt's network stack sends a request again by itself when its connection breaks
-/// before the answer, and for that it takes the body back to its start; here it cannot, and gives up instead.
+/// The body of a request, which can be read only once. If a connection breaks before the response, Qt's network stack
+/// sends the request again, for which it resets the body to its start. This body refuses the reset, so the request
+/// fails instead.
 class OneWayBody final : public QIODevice
 {
     Q_OBJECT
@@ -14,7 +15,7 @@ public:
     bool isSequential() const override { return true; }
     qint64 bytesAvailable() const override;
     bool atEnd() const override { return m_bytes.size() == m_taken; }
-    /// Refuses.
+    /// Always refuses.
     bool reset() override { return false; }
 
 protected:

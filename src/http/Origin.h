@@ -4,12 +4,12 @@
 #include <QString>
 #include <QUrl>
 
-/// Scheme, host and port: what credentials belong to.
+/// The scheme, host and port that credentials belong to.
 struct Origin
 {
     QString scheme;
     QString host;
-    /// The scheme's own where the address names none; -1 for a scheme that has none.
+    /// The default port of the scheme if the address contains none; -1 for a scheme without a default.
     int port = -1;
 
     static Origin of(const QUrl &url);
@@ -17,10 +17,10 @@ struct Origin
     bool operator==(const Origin &) const = default;
 };
 
-/// A secret and the only place that may see it.
+/// A secret and the only origin that it may be sent to.
 struct Identity
 {
     Origin origin;
-    /// The value of the header `Authorization`; empty for none.
+    /// The value of the `Authorization` header; empty for no header.
     QByteArray authorization;
 };

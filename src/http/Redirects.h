@@ -5,20 +5,21 @@
 
 #include <expected>
 
-/// Where requests go on to when a server sends them elsewhere.
+/// The rules for following redirects.
 namespace Redirects {
 
-/// The most redirects that one request follows.
+/// The maximum number of redirects that one request follows.
 inline constexpr int Most = 10;
 
-/// True for an address that requests may go to: one of http or https, with a host.
+/// True for an address that requests may be sent to: http or https, with a host.
 bool isAddress(const QUrl &url);
 
-/// True for an answer that sends a request to `location`, which may be relative.
+/// True if a response with this status and this `Location` header, which may be relative, is a redirect.
 bool isRedirect(int status, const QByteArray &location);
 
-/// What to send next. 301 and 302 make a GET of a POST, 303 of everything, 307 and 308 change nothing. Fails when the
-/// next address is no http, leaves https, or lies in another origin though a body would have to go there.
+/// The request to send after a redirect. 301 and 302 change POST to GET, 303 changes every method to GET, 307 and 308
+/// change nothing. Fails if the new address is neither http nor https, if it leads from https to http, or if a body
+/// would be sent to another origin.
 std::expected<HttpRequest, TransportError::Kind> next(const HttpRequest &request, int status,
                                                       const QByteArray &location);
 

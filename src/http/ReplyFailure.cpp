@@ -13,7 +13,7 @@ struct CertificateFault
     Kind kind;
 };
 
-/// One certificate may have several faults; the first of these is told.
+/// In order of priority: a certificate may have several errors, and the first of this list is reported.
 constexpr std::array CertificateFaults = {
     CertificateFault{QSslError::HostNameMismatch, Kind::WrongHost},
     CertificateFault{QSslError::CertificateExpired, Kind::CertificateExpired},
@@ -65,7 +65,7 @@ Kind connectionFailure(QNetworkReply::NetworkError error)
     }
 }
 
-/// Errors from here on are the network stack's names for statuses.
+/// The first error code by which the network stack represents an HTTP status; all higher codes do so too.
 constexpr int FirstErrorOfStatus = QNetworkReply::ContentAccessDenied;
 
 } // namespace

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// What kept a reply from being an answer, in the words of `TransportError`; nothing when it is one, of any status.
-/// `certificateErrors` is what the network stack complained of while the connection was made secure.
+/// Why a reply of the network stack is not a usable response; nothing if it is one, whatever its status.
+/// `certificateErrors` are the errors that the network stack reported while it established the secure connection.
 std::optional<TransportError::Kind> replyFailure(const QNetworkReply &reply,
                                                  const QList<QSslError> &certificateErrors);

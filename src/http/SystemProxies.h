@@ -2,7 +2,7 @@
 
 #include <QNetworkProxyFactory>
 
-/// The proxies that the system is set to use; this machine itself is asked directly.
+/// The proxies configured in the system. Connections to the local machine use no proxy.
 class SystemProxies final : public QNetworkProxyFactory
 {
 public:

@@ -2,46 +2,46 @@
 
 #include "model/Failure.h"
 
-/// Why a request brought no answer that can be used.
+/// Why a request got no usable response.
 class TransportError final : public Failure
 {
 public:
     enum class Kind {
-        /// The address that was asked for is not one of https or http.
+        /// The requested address is neither http nor https.
         NoWebAddress,
-        /// No address is known for the name of the host.
+        /// The host name could not be resolved.
         HostNotFound,
-        /// Nobody listens at the address.
+        /// The server refused the connection.
         Refused,
-        /// The connection broke before the answer was complete.
+        /// The connection broke before the response was complete.
         ConnectionLost,
-        /// One of the request's time limits is over.
+        /// A time limit of the request was exceeded.
         TimedOut,
         /// The host cannot be reached.
         Unreachable,
-        /// The certificate names other hosts.
+        /// The certificate was issued for other hosts.
         WrongHost,
         CertificateExpired,
         CertificateNotYetValid,
-        /// The certificate comes from no authority that the system trusts.
+        /// The certificate was not issued by an authority that the system trusts.
         UnknownAuthority,
-        /// No secure connection came about, for any other reason.
+        /// The secure connection could not be established for any other reason.
         NotSecure,
-        /// The proxy cannot be reached, or does not do its work.
+        /// The proxy cannot be reached or does not work.
         ProxyFailed,
-        /// The proxy wants to know who asks.
+        /// The proxy requires authentication.
         ProxyWantsLogin,
         /// More than ten redirects.
         TooManyRedirects,
-        /// A redirect from https to anything else.
+        /// A redirect from https to another scheme.
         UnsafeRedirect,
-        /// A redirect of a body to another origin, which bodies do not follow.
+        /// A redirect to another origin of a request with a body, which is not followed.
         ForeignRedirect,
-        /// The answer has more bytes than are kept in memory.
+        /// The response is larger than the maximum size kept in memory.
         TooLarge,
-        /// The answer cannot be unpacked, or is no HTTP.
+        /// The response cannot be decompressed or is not valid HTTP.
         Broken,
-        /// The answer could not be stored on disk.
+        /// The response could not be stored on disk.
         NotStored
     };
 
