@@ -8,9 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Below what common file systems allow, and enough to tell names apart.
+/// The maximum length of a file name in UTF-8. Common file systems allow 255 bytes, and 200 are enough to tell names
+/// apart.
 constexpr qsizetype MaximumBytes = 200;
-/// A longer ending is none that a program goes by.
+/// The maximum length of an extension, including its dot. Longer ones are not file types known to programs.
 constexpr qsizetype MaximumEnding = 20;
 
 bool isPlainWord(const QString &id)
@@ -19,7 +20,7 @@ bool isPlainWord(const QString &id)
     return plain.match(id).hasMatch();
 }
 
-/// Starts with a sign that no plain word has, so that the two kinds never meet.
+/// Starts with a character that no plain word contains, so that a hash never equals another identifier.
 QString wordFor(const QString &id)
 {
     const QByteArray hash =
@@ -27,7 +28,7 @@ QString wordFor(const QString &id)
     return u'~' + QString::fromLatin1(hash);
 }
 
-/// Separators of paths, control characters, and marks that turn the order in which a name is read.
+/// True for path separators, control characters and characters that change the direction of writing.
 bool isUnsafe(QChar character)
 {
     return character == u'/' || character == u':' || character.category() == QChar::Other_Control ||

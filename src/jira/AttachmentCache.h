@@ -4,22 +4,23 @@
 
 #include <QString>
 
-/// Where downloaded attachments are kept: one folder for each attachment, so that two of one name never meet. An
-/// attachment's content never changes, so what is there is right. Nothing is ever removed.
+/// The paths under which downloaded attachments are stored. Each attachment has its own folder, so that attachments
+/// with the same name do not conflict. The content of an attachment never changes, so a stored file stays valid. Files
+/// are never deleted.
 namespace AttachmentCache {
 
-/// "Velmora/attachments" among the user's caches.
+/// "Velmora/attachments" in the user's cache folder.
 QString systemFolder();
 
-/// The folder of one attachment below `cache`: its identifier, or, for an identifier that is no plain word, a name made
-/// from it. It never leads out of `cache`.
+/// The folder of one attachment below `cache`, named after its identifier, or after a hash of it if the identifier
+/// contains more than letters, digits, "_" and "-". The folder is always inside `cache`.
 QString folder(const QString &cache, const Attachment &attachment);
 
-/// The file's name: as uploaded, with "-" for "/", ":" and what cannot be seen; at most 200 bytes long, its ending kept.
-/// "fichier" where nothing is left, or what names a folder.
+/// The name of the file: the uploaded name with "-" in place of "/", ":" and invisible characters, shortened to 200
+/// bytes but with its extension. "fichier" if nothing is left or if the name would denote a folder.
 QString fileName(const Attachment &attachment);
 
-/// The file of an attachment, whether it is there or not.
+/// The path of an attachment's file, whether or not the file exists.
 QString file(const QString &cache, const Attachment &attachment);
 
 } // namespace AttachmentCache

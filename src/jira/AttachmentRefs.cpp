@@ -6,11 +6,11 @@
 
 namespace {
 
-/// What stands between a slash and an attachment's number in the addresses that Jira writes.
+/// The path between the first slash and the number of the attachment, in the addresses that Jira writes.
 constexpr QStringView Prefixes[] = {u"secure/attachment/", u"attachment/content/",
                                     u"attachment/thumbnail/"};
 
-/// The rest of a text that begins as an attachment's address does; empty for any other.
+/// The rest of a text that starts with the path of an attachment; empty for any other text.
 QStringView afterPrefix(QStringView text)
 {
     for (const QStringView prefix : Prefixes) {

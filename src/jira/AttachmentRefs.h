@@ -7,15 +7,15 @@
 
 #include <optional>
 
-/// How the media of a document find their attachments. A document names media by identifiers of another service; only
-/// the HTML that Jira made of it refers to attachments, in the same order.
+/// Finds the attachments that the media of a document stand for. A document identifies its media by identifiers of
+/// another service. Only the HTML that Jira rendered from the document refers to attachments, in the same order.
 namespace AttachmentRefs {
 
-/// The attachments that links and pictures in the HTML refer to, each once, in order of first occurrence. Takes time in
-/// proportion to the text, whatever it holds.
+/// The identifiers of the attachments that links and images in the HTML refer to, without duplicates, in order of first
+/// occurrence. Takes linear time for any text.
 QStringList ids(QStringView html);
 
-/// The document with the n-th of its media tied to the n-th attachment; as it is when there are no attachments.
+/// The document with its n-th media node linked to the n-th attachment; unchanged if there are no attachments.
 std::optional<ADFNode> tied(const std::optional<ADFNode> &document, const QStringList &ids);
 
 } // namespace AttachmentRefs

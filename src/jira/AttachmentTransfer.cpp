@@ -26,7 +26,7 @@ FormFile readFile(const QUrl &url)
     const QString path = url.toLocalFile();
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
-    // A folder opens too, on some systems, and reads as nothing.
+    // On some systems a folder can be opened too, and reads as an empty file.
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
     FormFile result{name, file.readAll()};
@@ -72,8 +72,8 @@ bool isPage(const QByteArray &mediaType)
     return mediaType == "text/html" || mediaType == "application/xhtml+xml";
 }
 
-/// A page that stands in for the file, as the page of a sign-in does, or a file cut short. An attachment may be a page
-/// itself; then only its size can tell.
+/// True if the response is not the attachment: a web page such as a sign-in page, or a truncated file. If the
+/// attachment is a web page itself, only its size shows the difference.
 bool isOtherThan(const Attachment &attachment, const HttpAnswer &answer)
 {
     const bool hasOtherSize = attachment.size > 0 && answer.file->size() != attachment.size;
@@ -82,14 +82,14 @@ bool isOtherThan(const Attachment &attachment, const HttpAnswer &answer)
     return hasOtherSize && !answer.hasKnownLength;
 }
 
-/// Puts a complete file in its place, over anything that stands there.
+/// Moves a complete file to its final path and replaces whatever exists there.
 QUrl moveIntoPlace(QTemporaryFile &file, const QString &target)
 {
     std::error_code failed;
     QDir().mkpath(QFileInfo(target).path());
     if (QFileInfo(target).isDir())
         QDir(target).removeRecursively();
-    // Only now does the file get a name.
+    // `fileName` gives the temporary file a name if it has none yet, which the rename below needs.
     const QString name = file.fileName();
     file.close();
     std::filesystem::rename(name.toStdString(), target.toStdString(), failed);

@@ -6,12 +6,12 @@
 #include <QDateTime>
 #include <QList>
 
-/// Uploads files, all in one request; `now` stands for dates that the answer lacks. Files are read before anything is
-/// sent, and one that cannot be read fails the whole with `FileError`.
+/// Uploads files in one request. `now` replaces dates that are missing in the response. All files are read before
+/// anything is sent; if one cannot be read, the operation fails with `FileError`.
 QCoro::Task<QList<Attachment>> uploaded(SiteConnectionPtr connection, QString key,
                                         QList<QUrl> files, QDateTime now, std::stop_token stop);
 
-/// The local file of an attachment below `folder`: the one downloaded before, or a new one, which is there whole or not
-/// at all. An answer that is a page instead of the file is a failure.
+/// The local file of an attachment below `folder`: an earlier download if there is one, otherwise a new one. The file
+/// exists only once it is complete. A response that is a web page instead of the file is a failure.
 QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment, QString folder,
                              std::stop_token stop);

@@ -8,37 +8,38 @@
 
 #include <variant>
 
-/// Keeps the credentials between starts: site and e-mail in the preferences, the token in the system's store of secrets
-/// and nowhere else. One item for each site. UI thread only.
+/// Stores the credentials between starts of the program: the site and the e-mail in the preferences, the token only in
+/// the system's store for secrets, as one item per site. UI thread only.
 class CredentialsStore
 {
 public:
-    /// The token may be there, but the system refused to hand it over.
+    /// There may be a token, but the system did not release it.
     struct Blocked
     {
-        /// What the user reads.
+        /// The text for the user.
         QString text;
         bool operator==(const Blocked &) const = default;
     };
-    /// Nothing saved, or a site without a token.
+    /// Nothing is stored, or only a site without a token.
     struct None
     {
         bool operator==(const None &) const = default;
     };
     using Stored = std::variant<JiraCredentials, Blocked, None>;
 
-    /// Both outlive this object and what it began; the keychain may end what it began.
+    /// Both arguments must outlive this object and the operations that it started; the keychain may cancel those
+    /// operations.
     CredentialsStore(Preferences &preferences, Keychain &keychain);
 
-    /// The stored texts, whether or not there is a token; empty when there is none. They stay after a removal, so that
-    /// the form can offer them again.
+    /// The stored texts, whether or not there is a token; empty if nothing is stored. They are kept when the token is
+    /// removed, so that the sign-in form can propose them again.
     QString site() const;
     QString email() const;
 
     QCoro::Task<Stored> load();
-    /// Fails with `Keychain::Failure`, and then no preference is written.
+    /// Fails with `Keychain::Failure`; in this case no preference is written.
     QCoro::Task<> save(JiraCredentials credentials);
-    /// Deletes the token of the stored site; never fails.
+    /// Deletes the token of the stored site. Never fails.
     QCoro::Task<> removeToken();
 
 private:

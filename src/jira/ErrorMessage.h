@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// What the body of a failed answer says to the user. A body of Jira's own form gives its messages, one on each line;
-/// any other text its first 300 bytes. A web page, and bytes that are no text (also a character that the 300th byte
-/// cuts), give nothing.
+/// The text for the user in the body of an error response. For a JSON body in Jira's format, its messages, one per
+/// line. For any other text, its first 300 bytes. Empty for a web page and for bytes that are not valid UTF-8, which
+/// includes a character truncated at the 300th byte.
 QString errorMessage(const QByteArray &body);

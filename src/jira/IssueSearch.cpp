@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The most issues that one page brings.
+/// The number of issues requested per page.
 constexpr qsizetype PageSize = 100;
 constexpr qsizetype ListLimit = 300;
 constexpr qsizetype RecentLimit = 50;

@@ -13,58 +13,60 @@
 
 #include <optional>
 
-/// Whether a search brings the issues' history, the heaviest part of an answer.
+/// Whether a search includes the history of the issues, which is the largest part of a response.
 enum class WithHistory { No, Yes };
 
-/// One search for issues, which the site answers in pages.
+/// A search for issues, whose results the site returns in pages.
 struct IssueSearch
 {
     QString jql;
-    /// How many issues are wanted at most.
+    /// The maximum number of issues to fetch.
     qsizetype limit = 0;
     WithHistory history = WithHistory::No;
 
     bool operator==(const IssueSearch &) const = default;
 };
 
-/// How a scope's list is found.
+/// The searches that produce the list of a scope.
 struct ScopeSearch
 {
     IssueSearch search;
-    /// What to search once more when the site rejects the first search (`isRejectedQuery`).
+    /// The search to run instead if the site rejects the first one (`isRejectedQuery`).
     std::optional<IssueSearch> fallback;
 
     bool operator==(const ScopeSearch &) const = default;
 };
 
-/// What to do for a text that someone typed to find issues.
+/// The steps of a search for a text that the user typed.
 struct TextSearch
 {
-    /// Set when the text looks like an issue's key: try that issue first, and search only if it cannot be had.
+    /// Set if the text looks like an issue key. This issue is requested first; the search runs only if the issue cannot
+    /// be fetched.
     std::optional<QString> key;
     IssueSearch search;
 
     bool operator==(const TextSearch &) const = default;
 };
 
-/// The fields that lists show; documents and attachments are left to the fetch of a single issue.
+/// The fields that lists display. Descriptions and attachments are fetched only with a single issue.
 const QStringList &listFields();
 
-/// The search behind a scope. `now` and `calendar` tell what period a recap covers.
+/// The search for a scope. `now` and `calendar` determine the period of a recap.
 ScopeSearch searchFor(const IssueScope &scope, const QDateTime &now, const UserCalendar &calendar);
-/// The search for a text; nothing for a blank one.
+/// The search for a text; nothing for a blank text.
 std::optional<TextSearch> searchFor(const QString &text);
 
-/// True for the answer of a site that does not know a field of the query, such as `sprint`: status 400.
+/// True if the site rejected the query with status 400, for example because it does not know the field `sprint`.
 bool isRejectedQuery(const JiraError &error);
 
-/// The request for a page. `gathered` is how many issues the pages before brought, `token` what the last of them gave.
+/// The request for a page. `gathered` is the number of issues of the previous pages, `token` is the token in the last
+/// of them.
 JiraRequest pageRequest(const IssueSearch &search, qsizetype gathered,
                         const std::optional<QString> &token);
-/// What to ask the next page with, after a page that brought the list to `gathered` issues; nothing when the search is
-/// over.
+/// The token for the request of the next page, after a page that increased the list to `gathered` issues; nothing if
+/// the search is complete.
 std::optional<QString> nextPageToken(const IssueSearch &search, const SearchResponseDTO &page,
                                      qsizetype gathered);
 
-/// The issues that have an event within the period, in their order, each with only those events.
+/// The issues that have an event within the period, in the same order, each with only the events of the period.
 QList<Issue> eventsWithin(QList<Issue> issues, const DateInterval &period);

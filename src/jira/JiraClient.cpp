@@ -8,7 +8,7 @@
 #include "jira/wire/Models.h"
 #include "jira/wire/PriorityDTO.h"
 
-// No operation touches the client after its first wait: it may be gone by then.
+// No operation uses the client after its first `co_await`, because the client may have been destroyed by then.
 
 JiraClient::JiraClient(const JiraCredentials &credentials, Clock &clock, UserCalendar calendar,
                        QString attachmentFolder)

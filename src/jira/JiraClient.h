@@ -8,42 +8,42 @@
 
 #include <QString>
 
-/// The back end on a real Jira site, of Jira Cloud or Jira Data Center.
+/// The back end for a real Jira site, either Jira Cloud or Jira Data Center.
 ///
-/// UI thread only; any number of operations run at once and share nothing. Requests and files run on a thread of the
-/// client's own, and answers are decoded and mapped on further ones. Operations fail with `JiraError`, or with
-/// `TransportError` when there was no answer, and with `Cancelled` after a requested stop or when the client is gone.
-/// Nothing is tried again, but for the fall-backs that are told with their operations. What changes the site reaches it
-/// at most once.
+/// UI thread only. Any number of operations can run at once; they share no state. The communication runs on a thread of
+/// the client, and responses are decoded and mapped on other threads. Operations fail with `JiraError`, with
+/// `TransportError` if there was no response, and with `Cancelled` after a requested stop or the destruction of the
+/// client. Failed requests are not repeated, except for the alternatives documented at the single operations. A request
+/// that changes data reaches the site at most once.
 class JiraClient final : public IssueService
 {
 public:
-    /// Opens no connection. The clock outlives the client. `calendar` tells periods and the order of names;
-    /// `attachmentFolder` is where downloads are kept, for example `AttachmentCache::systemFolder()`.
+    /// Opens no connection. The clock must outlive the client. `calendar` determines periods and the order of names;
+    /// `attachmentFolder` is the folder for downloads, for example `AttachmentCache::systemFolder()`.
     JiraClient(const JiraCredentials &credentials, Clock &clock, UserCalendar calendar,
                QString attachmentFolder);
-    /// Ends the operations under way.
+    /// Cancels the running operations.
     ~JiraClient() override;
 
     const JiraCredentials &credentials() const { return m_credentials; }
 
     QString siteName() const override;
     QCoro::Task<JiraUser> currentUser(std::stop_token stop = {}) override;
-    /// At most 500, by name.
+    /// At most 500 projects, ordered by name.
     QCoro::Task<QList<Project>> projects(std::stop_token stop = {}) override;
     QCoro::Task<Project> project(QString key, std::stop_token stop = {}) override;
     QCoro::Task<QList<IssueStatus>> statuses(QString projectKey,
                                              std::stop_token stop = {}) override;
-    /// Asks in the way of older sites when the first way fails.
+    /// Uses the endpoint of older sites if the current one fails.
     QCoro::Task<QList<IssuePriority>> priorities(std::stop_token stop = {}) override;
     QCoro::Task<QList<JiraUser>> assignableUsers(QString projectKey,
                                                  std::stop_token stop = {}) override;
-    /// Views of a project's sprints fall back to categories of statuses where the site answers 400.
+    /// If the site answers 400 to a query with sprints, the project views are searched by status category instead.
     QCoro::Task<IssueList> issues(IssueScope scope, std::stop_token stop = {}) override;
-    /// A text that looks like an issue's key is that issue, if it can be had; at most 20 issues else.
+    /// If the text looks like an issue key and the issue can be fetched, only this issue; otherwise at most 20 issues.
     QCoro::Task<IssueList> search(QString text, std::stop_token stop = {}) override;
     QCoro::Task<Issue> issue(QString key, std::stop_token stop = {}) override;
-    /// At most 100, oldest first.
+    /// At most 100 comments, the oldest first.
     QCoro::Task<QList<Comment>> comments(QString key, std::stop_token stop = {}) override;
     QCoro::Task<QList<WorkflowTransition>> transitions(QString key,
                                                        std::stop_token stop = {}) override;
@@ -56,10 +56,10 @@ public:
                                     std::stop_token stop = {}) override;
     QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) override;
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) override;
-    /// All files go in one request, and fail together.
+    /// Sends all files in one request, which succeeds or fails as a whole.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
                                                      std::stop_token stop = {}) override;
-    /// Makes no request for a file that was downloaded before.
+    /// Sends no request for a file that was downloaded before.
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) override;
     std::optional<QUrl> browseURL(const QString &key) const override;

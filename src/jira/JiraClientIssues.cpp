@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A write whose answer says nothing that is needed.
+/// Sends a write whose response body is not needed.
 QCoro::Task<> done(SiteConnectionPtr connection, JiraRequest request, std::stop_token stop)
 {
     co_await write(std::move(connection), std::move(request), std::move(stop));

@@ -4,12 +4,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the sites of Jira Cloud live.
+/// The domain of all Jira Cloud sites.
 constexpr auto CloudSuffix = ".atlassian.net"_L1;
 
 bool isShortName(const QString &host)
 {
-    // An address of IPv6 has no dot either, and is no name.
+    // An IPv6 address contains no dot either, but is not a name.
     return !host.contains(u'.') && !host.contains(u':');
 }
 

@@ -6,25 +6,25 @@
 
 #include <optional>
 
-/// What a connection to a site is made from.
+/// The data needed to connect to a site.
 struct JiraCredentials
 {
-    /// Scheme and host, and a port where one was typed; no path.
+    /// The scheme and the host, and the port if the user typed one; no path.
     QUrl site;
-    /// The account's e-mail on Jira Cloud; empty for a personal access token of Jira Data Center.
+    /// The e-mail of the account on Jira Cloud; empty for a personal access token of Jira Data Center.
     QString email;
     /// The API token or the personal access token.
     QString token;
 
-    /// The value of the header `Authorization`: "Basic" with e-mail and token, or "Bearer" with the token alone when
+    /// The value of the `Authorization` header: "Basic" with the e-mail and the token, or "Bearer" with the token if
     /// there is no e-mail.
     QByteArray authorizationHeader() const;
-    /// The site for display: its host, or its whole address when it has none.
+    /// The name of the site to display: its host, or its whole address if it has no host.
     QString siteName() const;
 
-    /// The address of a site from what someone typed: blanks around it, path, query and fragment go, https is added
-    /// where no scheme was typed, and a name without a dot is one of Jira Cloud. Nothing when that gives no address
-    /// with a host.
+    /// The address of a site from a text that the user typed. Surrounding blanks, path, query and fragment are removed;
+    /// https is added if there is no scheme; a name without a dot gets the domain of Jira Cloud. Nothing if the result
+    /// has no host.
     static std::optional<QUrl> normalizeSite(const QString &text);
 
     bool operator==(const JiraCredentials &) const = default;

@@ -4,13 +4,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Takes a text apart from its start. After the first thing that is not there, it takes nothing more.
+/// Reads a text from its start. After the first mismatch it reads nothing more.
 class Scanner
 {
 public:
     explicit Scanner(QStringView text) : m_rest(text) {}
 
-    /// A number of exactly so many digits.
+    /// Reads a number of exactly the given count of digits.
     int number(qsizetype digits)
     {
         int value = 0;
@@ -26,7 +26,7 @@ public:
             m_rest = m_rest.sliced(1);
         return isThere;
     }
-    /// Milliseconds, from one digit or more behind a point; 0 when there is no point.
+    /// Reads a decimal point and one or more digits and returns them as milliseconds; returns 0 if there is no point.
     int fraction()
     {
         if (!take(u'.'))
@@ -78,7 +78,7 @@ QTime scanTime(Scanner &scanner)
     return QTime(hour, minute, second, scanner.fraction());
 }
 
-/// Seconds east of Greenwich.
+/// Reads a time zone offset and returns it in seconds east of UTC.
 int scanOffset(Scanner &scanner)
 {
     if (scanner.take(u'Z'))

@@ -8,21 +8,21 @@
 
 #include <optional>
 
-/// One request of Jira's REST interface, before it knows a site.
+/// A request to Jira's REST interface, independent of a site.
 struct JiraRequest
 {
     enum class Method { Get, Post, Put, Delete };
 
     Method method = Method::Get;
-    /// The path from the site on, in segments that are not yet encoded.
+    /// The segments of the path below the site's address, not yet percent-encoded.
     QStringList path;
-    /// Not yet encoded; goes out by name.
+    /// The parameters of the query, not yet percent-encoded; sent in the order of their names.
     QMap<QString, QString> query;
     /// JSON in UTF-8.
     std::optional<QByteArray> body;
 
-    /// The whole address on a site. What a segment or a value holds arrives as itself: a slash, "+", "%41", "&", "#" or
-    /// "é" has no meaning of its own. Nothing when the site has no host.
+    /// The complete address on a site. Segments and values are encoded so that the server receives them unchanged,
+    /// including "/", "+", "%41", "&", "#" and "é". Nothing if the site has no host.
     std::optional<QUrl> url(const QUrl &site) const;
 
     bool operator==(const JiraRequest &) const = default;

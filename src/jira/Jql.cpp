@@ -16,7 +16,7 @@ QString quoted(const QString &text)
     return u'"' + text + u'"';
 }
 
-/// The conditions on a stretch of time that the recaps are made of.
+/// The conditions for a time interval that the recap queries are composed of.
 struct PeriodTerms
 {
     PeriodTerms(const DateInterval &period, const QTimeZone &zone)

@@ -5,24 +5,25 @@
 
 #include <QString>
 
-/// The queries behind every list, in Jira's query language.
+/// The queries of all lists, in Jira's query language (JQL).
 namespace Jql {
 
-/// What is assigned to the user: open, or changed within 14 days; last change first.
+/// The user's assigned issues that are open or were changed within 14 days; the latest change first.
 QString myIssues();
-/// What the user viewed; last view first.
+/// The issues that the user viewed; the latest view first.
 QString recent();
-/// What the user created; newest first.
+/// The issues that the user created; the newest first.
 QString reported();
-/// The issues of a project in one of its views. The key is put in as it stands.
+/// The issues in a view of a project. The key is inserted without escaping.
 QString project(const QString &key, ProjectView view);
-/// The view without sprints, for a site or project that has none. Empty for `All`, which needs none.
+/// The same view without sprints, for a site or project that has none. Empty for `All`, whose query uses no sprints.
 QString projectWithoutSprints(const QString &key, ProjectView view);
-/// What the user moved in the period, what moved while it was theirs, and what they created in it.
+/// The issues that the user changed in the period, those that changed while assigned to the user, and those that the
+/// user created in it.
 QString personalRecap(const DateInterval &period, const QTimeZone &zone);
-/// What moved or was created in the period.
+/// The issues that were changed or created in the period.
 QString teamRecap(const DateInterval &period, const QTimeZone &zone);
-/// Issues with these words, the last of which may be only the beginning of one; last change first.
+/// The issues that contain these words; the last one may be the beginning of a word. The latest change first.
 QString textSearch(const QString &words);
 
 } // namespace Jql

@@ -9,7 +9,7 @@ namespace {
 QByteArray quotable(QString name)
 {
     name.replace(u'"', u'\'');
-    // A line break would end the line that the name stands on.
+    // A line break in the name would end the header line that contains it.
     name.replace(u'\r', u' ');
     name.replace(u'\n', u' ');
     return name.toUtf8();

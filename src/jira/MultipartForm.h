@@ -4,24 +4,24 @@
 #include <QList>
 #include <QString>
 
-/// One file of an upload.
+/// A file to upload.
 struct FormFile
 {
-    /// Goes out with each double quote as a single one, and each line break as a blank.
+    /// In the request, double quotes are replaced by single quotes and line breaks by blanks.
     QString name;
     QByteArray content;
 
     bool operator==(const FormFile &) const = default;
 };
 
-/// The form in which files go to Jira.
+/// The multipart form in which files are sent to Jira.
 namespace MultipartForm {
 
-/// "Velmora-" and a random UUID in capitals.
+/// A new boundary: "Velmora-" and a random UUID in upper case.
 QByteArray newBoundary();
-/// The media type by the name's ending; "application/octet-stream" for an unknown one, or none.
+/// The media type for the name's extension; "application/octet-stream" if it is unknown or missing.
 QByteArray mediaType(const QString &name);
-/// The body that holds the files in their order.
+/// The body of a request that contains the files in the given order.
 QByteArray body(const QList<FormFile> &files, const QByteArray &boundary);
 
 } // namespace MultipartForm

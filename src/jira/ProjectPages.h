@@ -5,6 +5,6 @@
 
 #include <QList>
 
-/// All projects of a site, page after page, up to the bound told by `SiteAnswers::nextProjects`. A failure of one page
-/// fails the whole.
+/// Fetches all projects of a site, page by page, up to the limit of `SiteAnswers::nextProjects`. If a page fails, the
+/// whole operation fails.
 QCoro::Task<QList<Project>> allProjects(SiteConnectionPtr connection, std::stop_token stop);

@@ -44,7 +44,7 @@ struct FieldOfUpdate
     }
 };
 
-/// The property by which a service project knows a note of its agents.
+/// The property that marks a comment in a service project as internal.
 JSONValue agentsOnly()
 {
     const Object property{{u"key"_s, u"sd.public.comment"_s},

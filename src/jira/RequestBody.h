@@ -9,19 +9,21 @@
 
 #include <optional>
 
-/// Who can read a comment; internal ones are seen by the agents of a service project only.
+/// The readers of a comment; internal comments are visible only to the agents of a service project.
 enum class CommentAudience { Everyone, Agents };
 
-/// The JSON that the edits of an issue send.
+/// The JSON bodies of the requests that change issues.
 namespace RequestBody {
 
+/// The body that performs a transition.
 QByteArray transition(const WorkflowTransition &transition);
-/// One field; an absent description or due date goes out as null, which clears it.
+/// The body for one changed field; an absent description or due date is sent as null, which clears the field.
 QByteArray update(const IssueFieldUpdate &update);
-/// No user unassigns.
+/// The body for an assignment; an absent user unassigns the issue.
 QByteArray assignee(const std::optional<JiraUser> &user);
+/// The body for a new comment.
 QByteArray comment(const ADFNode &body, CommentAudience audience);
-/// Only what the draft has; labels only when there are some.
+/// The body for a new issue, with only the fields that the draft contains; labels are included only if there are any.
 QByteArray create(const IssueDraft &draft);
 
 } // namespace RequestBody

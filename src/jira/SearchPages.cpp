@@ -10,11 +10,11 @@
 
 namespace {
 
-/// What becomes of the issues of a page.
+/// The parameters of the mapping of a page.
 struct Reading
 {
     QDateTime now;
-    /// Only issues with an event in it are wanted, with those events.
+    /// If set, only issues with an event in this period are returned, each with only those events.
     std::optional<DateInterval> period;
 };
 
@@ -53,7 +53,7 @@ QCoro::Task<IssueList> issuesOf(PagePtr page, Reading reading)
 QCoro::Task<IssueList> allPages(SiteConnectionPtr connection, IssueSearch search, Reading reading,
                                 std::stop_token stop)
 {
-    // A page becomes records while the next one is on its way.
+    // Each page is mapped while the next one is fetched.
     std::vector<QCoro::Task<IssueList>> parts;
     qsizetype gathered = 0;
     std::optional<QString> token;
@@ -108,7 +108,7 @@ QCoro::Task<IssueList> textIssues(SiteConnectionPtr connection, QString text, QD
             co_return IssueList{Shared<Issue>(*issue)};
         if (issue.error().isCancellation)
             throw Cancelled();
-        // The text only looks like a key.
+        // The issue could not be fetched, so the text may only look like a key.
     }
     const Reading reading{now, {}};
     co_return co_await allPages(connection, search->search, reading, stop);

@@ -5,13 +5,13 @@
 #include "model/IssueScope.h"
 #include "model/UserCalendar.h"
 
-/// The operations that list issues. `now` stands for dates that are missing, and tells what period a recap covers. A
-/// failure of one page fails the whole search.
+/// The operations that list issues. `now` replaces missing dates and determines the period of a recap. If a page fails,
+/// the whole search fails.
 
-/// The list of a scope; of a recap, what happened in its period.
+/// The issues of a scope; for a recap, only the issues with events in its period.
 QCoro::Task<IssueList> scopeIssues(SiteConnectionPtr connection, IssueScope scope, QDateTime now,
                                    UserCalendar calendar, std::stop_token stop);
-/// What a typed text finds. A blank one finds nothing and asks nothing.
+/// The issues found for a text that the user typed. A blank text gives an empty list without a request.
 QCoro::Task<IssueList> textIssues(SiteConnectionPtr connection, QString text, QDateTime now,
                                   std::stop_token stop);
 /// One issue with its details.

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The list of projects is bounded; what lies beyond is not fetched.
+/// The maximum number of projects to fetch.
 constexpr qsizetype MaximumProjects = 500;
 
 QString accountType(const UserDTO &user)

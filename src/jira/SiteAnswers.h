@@ -14,23 +14,24 @@
 
 #include <optional>
 
-/// What the operations make of answers, where that is more than the mapping of each record.
+/// Processing of responses beyond the mapping of single records.
 namespace SiteAnswers {
 
-/// Where the next page of projects starts, after a page that began at `startAt` and brought the list to `gathered`
-/// projects. Nothing when the list is over: unless the page says that it is not the last, when it is empty, and from
-/// 500 projects on.
+/// The index of the first project of the next page, after a page that began at `startAt` and increased the list to
+/// `gathered` projects. Nothing if the list is complete: if the page does not state that more pages follow, if it is
+/// empty, or once there are 500 projects.
 std::optional<qsizetype> nextProjects(const ProjectSearchDTO &page, qsizetype startAt,
                                       qsizetype gathered);
-/// The statuses of all types of a project, the first of each group key.
+/// The statuses of all issue types of a project; of those with the same group key, only the first.
 QList<IssueStatus> statuses(const QList<IssueTypeStatusesDTO> &types);
-/// The active people, by name in the order of the locale: no application and no customer.
+/// The active human users, without apps and customers, ordered by name in the locale.
 QList<JiraUser> assignableUsers(const QList<UserDTO> &users, const QLocale &locale);
-/// The active users that are no application, in the server's order.
+/// The active users that are not apps, in the order of the server.
 QList<JiraUser> foundUsers(const QList<UserDTO> &users);
-/// The record of a single fetch, whose details are complete.
+/// The record of an issue that was fetched individually, with `hasDetails` set.
 Issue detailedIssue(const IssueDTO &issue, const QDateTime &now);
-/// A comment just written. The answer does not reliably say that a note is internal; what was sent does.
+/// The record of a comment that was just added. Its visibility is taken from the request, because the response does not
+/// report it reliably.
 Comment storedComment(const CommentDTO &comment, CommentAudience audience, const QDateTime &now);
 
 } // namespace SiteAnswers

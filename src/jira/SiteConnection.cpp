@@ -56,6 +56,6 @@ QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
 QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
                                  std::stop_token stop)
 {
-    // Holds the connection while it is under way.
+    // The coroutine keeps the connection alive while the request runs.
     co_return co_await connection->session.send(std::move(request), std::move(stop));
 }

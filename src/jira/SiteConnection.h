@@ -12,7 +12,7 @@
 #include <memory>
 #include <stop_token>
 
-/// What all operations on a site share: its address, and the road to it.
+/// The data that all operations on a site share: its address and its HTTP session.
 struct SiteConnection
 {
     SiteConnection(const JiraCredentials &credentials, Clock &clock);
@@ -23,7 +23,7 @@ struct SiteConnection
 
 using SiteConnectionPtr = std::shared_ptr<SiteConnection>;
 
-/// The record that the body of a 2xx answer spells; throws `JiraError::Decoding` when it spells none.
+/// Decodes the body of a 2xx response as a record; throws `JiraError::Decoding` if this fails.
 template <typename DTO>
 DTO decoded(const QByteArray &body)
 {
@@ -33,18 +33,18 @@ DTO decoded(const QByteArray &body)
     return *std::move(record);
 }
 
-/// Sends a request that changes nothing, or one that does, and gives the body of its 2xx answer. Fails with
-/// `JiraError::Http` for any other status, `JiraError::InvalidSite` when the site makes no address, and as
-/// `HttpSession::send` does.
+/// `read` sends a request that changes nothing, `write` one that changes data. Both return the body of a 2xx response.
+/// They fail with `JiraError::Http` for any other status, with `JiraError::InvalidSite` if the site's address is
+/// invalid, and with the failures of `HttpSession::send`.
 QCoro::Task<QByteArray> read(SiteConnectionPtr connection, JiraRequest request,
                              std::stop_token stop);
 QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
                               std::stop_token stop);
-/// The same for a request that is not one of JSON.
+/// Sends a request whose body or response is not JSON. Fails as `HttpSession::send` does.
 QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
                                  std::stop_token stop);
 
-/// What `mapping` makes of the record in a body. Decoding and mapping run on another thread.
+/// Decodes a body as a record and applies `mapping` to it. Both run on another thread.
 template <typename DTO, typename Mapping>
 QCoro::Task<std::invoke_result_t<Mapping, DTO>> mapped(QByteArray body, Mapping mapping,
                                                        std::stop_token stop)
@@ -58,7 +58,7 @@ QCoro::Task<std::invoke_result_t<Mapping, DTO>> mapped(QByteArray body, Mapping 
     co_return record;
 }
 
-/// Reads a record and maps it.
+/// Sends a read request and maps the record in its response.
 template <typename DTO, typename Mapping>
 QCoro::Task<std::invoke_result_t<Mapping, DTO>>
 readMapped(SiteConnectionPtr connection, JiraRequest request, Mapping mapping, std::stop_token stop)

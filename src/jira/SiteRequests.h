@@ -3,24 +3,24 @@
 #include "jira/JiraRequest.h"
 #include "jira/RequestBody.h"
 
-/// The requests of the operations that are no search.
+/// The requests of all operations except searches.
 namespace SiteRequests {
 
 JiraRequest currentUser();
-/// One page of 100 projects, by name, from the project of index `startAt` on.
+/// A page of 100 projects, ordered by name, starting at the index `startAt`.
 JiraRequest projects(qsizetype startAt);
 JiraRequest project(const QString &key);
 JiraRequest statuses(const QString &projectKey);
-/// The paged form, of which one page is read. Not every site has it.
+/// The paged list of priorities, of which only the first page is read. Some sites do not support it.
 JiraRequest priorities();
-/// What to ask when `priorities` fails in any way.
+/// The request to send if `priorities` fails for any reason.
 JiraRequest prioritiesOfOlderSites();
 JiraRequest assignableUsers(const QString &projectKey);
 JiraRequest searchUsers(const QString &query);
 
-/// The issue with its document and attachments, and the HTML that ties the two.
+/// The issue with its description and attachments, and with the HTML that relates the two.
 JiraRequest issue(const QString &key);
-/// The first 100 comments, oldest first, with the HTML that ties media to attachments.
+/// The first 100 comments, the oldest first, with the HTML that relates media to attachments.
 JiraRequest comments(const QString &key);
 JiraRequest transitions(const QString &key);
 JiraRequest perform(const WorkflowTransition &transition, const QString &key);
@@ -28,7 +28,7 @@ JiraRequest update(const QString &key, const IssueFieldUpdate &update);
 JiraRequest assign(const QString &key, const std::optional<JiraUser> &user);
 JiraRequest addComment(const QString &key, const ADFNode &body, CommentAudience audience);
 JiraRequest create(const IssueDraft &draft);
-/// Where uploads go. The form is not part of it.
+/// The request for an upload, without the form.
 JiraRequest attachments(const QString &key);
 JiraRequest deleteAttachment(const QString &id);
 

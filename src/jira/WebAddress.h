@@ -5,5 +5,5 @@
 
 #include <optional>
 
-/// The absolute address that a text spells; nothing for a text that spells none, or for no text.
+/// Parses an absolute address; nothing for an absent text and for a text that is not an absolute address.
 std::optional<QUrl> webAddress(const std::optional<QString> &text);

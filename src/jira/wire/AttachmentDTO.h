@@ -9,7 +9,7 @@
 #include <optional>
 #include <tuple>
 
-/// An attachment, as Jira sends one.
+/// An attachment in Jira's JSON.
 struct AttachmentDTO
 {
     QString id;
@@ -18,11 +18,11 @@ struct AttachmentDTO
     std::optional<QString> created;
     std::optional<qint64> size;
     std::optional<QString> mimeType;
-    /// The addresses of the content and of a preview.
+    /// The addresses of the content and of a preview image.
     std::optional<QString> content;
     std::optional<QString> thumbnail;
 
-    /// `now` stands for a date of creation that is missing or unreadable.
+    /// Converts to a domain record; `now` replaces a creation date that is missing or invalid.
     Attachment model(const QDateTime &now) const;
 
     static constexpr auto wireMembers()

@@ -4,12 +4,12 @@
 
 #include <optional>
 
-/// The addresses of a picture by size. Jira names four of them for every user in every history; only those that the
-/// program shows are kept.
+/// The addresses of a user's picture in several sizes. Jira sends four of them for every user in every history; only
+/// the sizes that the program displays are kept.
 struct AvatarUrlsDTO
 {
-    /// "48x48".
+    /// The member "48x48".
     std::optional<QString> large;
-    /// "32x32".
+    /// The member "32x32".
     std::optional<QString> medium;
 };

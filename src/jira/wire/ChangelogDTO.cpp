@@ -7,13 +7,13 @@ namespace {
 
 using History = ChangelogDTO::History;
 
-/// Which field changed: its identifier, or for older entries its name in lower case.
+/// The identifier of the changed field; for older entries, which have none, its name in lower case.
 QString changedField(const History::Item &item)
 {
     return item.fieldId ? *item.fieldId : item.field.value_or(QString()).toLower();
 }
 
-/// What the item says happened, for the changes that matter here.
+/// The event that the item describes; nothing for changes that the program does not use.
 std::optional<ActivityEvent::Kind> kindOf(const History::Item &item)
 {
     const QString field = changedField(item);
@@ -29,7 +29,7 @@ void append(QList<ActivityEvent> &events, const History &history)
     const auto date = JiraDate::parse(history.created);
     if (!date || !history.items)
         return;
-    // Most histories tell of other fields: their authors are never looked at.
+    // Most history entries concern other fields, so the author is converted only when it is needed.
     for (const History::Item &item : *history.items) {
         if (auto kind = kindOf(item))
             events.append({*date, modelOf(history.author), *std::move(kind)});

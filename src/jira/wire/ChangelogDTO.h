@@ -10,7 +10,7 @@
 #include <optional>
 #include <tuple>
 
-/// The history of an issue, as Jira sends it.
+/// The history of an issue in Jira's JSON.
 struct ChangelogDTO
 {
     struct History
@@ -45,8 +45,8 @@ struct ChangelogDTO
 
     std::optional<QList<History>> histories;
 
-    /// The changes of status and assignee, in the order of the histories and of the items in each. A history whose date
-    /// is missing or unreadable gives none.
+    /// The changes of status and assignee, in the order of the entries and of their items. An entry with a missing or
+    /// invalid date is ignored.
     QList<ActivityEvent> events() const;
 
     static constexpr auto wireMembers()

@@ -11,14 +11,14 @@
 #include <optional>
 #include <tuple>
 
-/// A comment, as Jira sends one.
+/// A comment in Jira's JSON.
 struct CommentDTO
 {
     struct Visibility
     {
         /// "role" or "group".
         std::optional<QString> type;
-        /// The name of that role or group.
+        /// The name of the role or group.
         std::optional<QString> value;
 
         static constexpr auto wireMembers()
@@ -32,13 +32,13 @@ struct CommentDTO
     std::optional<UserDTO> author;
     std::optional<ADFNode> body;
     std::optional<QString> created;
-    /// False on a note of a service project that only its agents see.
+    /// False for a comment that only the agents of a service project can see.
     std::optional<bool> jsdPublic;
     std::optional<Visibility> visibility;
-    /// The body as HTML, which names the attachments that the body's media stand for.
+    /// The body as HTML, which refers to the attachments that the media in the body stand for.
     std::optional<QString> renderedBody;
 
-    /// `now` stands for a date that is missing or unreadable.
+    /// Converts to a domain record; `now` replaces a date that is missing or invalid.
     Comment model(const QDateTime &now) const;
 
     static constexpr auto wireMembers()
@@ -52,7 +52,7 @@ struct CommentDTO
     }
 };
 
-/// The comments of an issue.
+/// The comments on an issue.
 struct CommentsDTO
 {
     QList<CommentDTO> comments;

@@ -6,7 +6,7 @@
 
 #include <tuple>
 
-/// What Jira answers to a creation.
+/// The response to the creation of an issue.
 struct CreatedIssueDTO
 {
     QString id;

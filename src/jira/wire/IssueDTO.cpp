@@ -13,7 +13,7 @@ IssueStatus statusOf(const FieldsDTO &fields)
     return fields.status ? fields.status->model() : IssueStatus(u"?"_s, u"Inconnu"_s, std::nullopt);
 }
 
-/// The project that the answer names, or else what stands before the first dash of the issue's key.
+/// The key of the project in the response; if it is missing, the part of the issue's key before the first dash.
 QString projectKeyOf(const IssueDTO &issue)
 {
     if (issue.fields.project)
@@ -29,7 +29,7 @@ std::optional<ADFNode> descriptionOf(const IssueDTO &issue)
     return AttachmentRefs::tied(issue.fields.description, AttachmentRefs::ids(html));
 }
 
-/// By date; events of one date keep their order.
+/// Sorted by date; events with the same date keep their order.
 QList<ActivityEvent> sortedByDate(QList<ActivityEvent> events)
 {
     std::vector<std::pair<qint64, qsizetype>> order;
@@ -44,7 +44,7 @@ QList<ActivityEvent> sortedByDate(QList<ActivityEvent> events)
     return sorted;
 }
 
-/// The history with the issue's creation; nothing at all when the history was not asked for.
+/// The history including the creation of the issue; empty if the history was not requested.
 QList<ActivityEvent> activityOf(const ChangelogDTO &changelog, const Issue &issue)
 {
     QList<ActivityEvent> events = changelog.events();

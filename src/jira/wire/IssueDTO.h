@@ -18,7 +18,7 @@
 #include <optional>
 #include <tuple>
 
-/// The fields of an issue, as Jira sends them. Which are there depends on what was asked for.
+/// The fields of an issue in Jira's JSON. Only the requested fields are present.
 struct FieldsDTO
 {
     std::optional<QString> summary;
@@ -53,7 +53,7 @@ struct FieldsDTO
     }
 };
 
-/// Fields as the HTML that Jira made of them.
+/// The fields that Jira rendered as HTML.
 struct RenderedFieldsDTO
 {
     std::optional<QString> description;
@@ -64,7 +64,7 @@ struct RenderedFieldsDTO
     }
 };
 
-/// An issue, as Jira sends one.
+/// An issue in Jira's JSON.
 struct IssueDTO
 {
     QString id;
@@ -73,8 +73,8 @@ struct IssueDTO
     std::optional<ChangelogDTO> changelog;
     std::optional<RenderedFieldsDTO> renderedFields;
 
-    /// Each gap has a default; `now` stands for dates that are missing or unreadable. `hasDetails` is false: only the
-    /// fetch of a single issue knows that its record is complete.
+    /// Converts to a domain record. Missing values get a default; `now` replaces dates that are missing or invalid.
+    /// `hasDetails` is false, because only the code that fetches a single issue knows that its record is complete.
     Issue model(const QDateTime &now) const;
 
     static constexpr auto wireMembers()

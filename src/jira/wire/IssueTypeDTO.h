@@ -8,7 +8,7 @@
 #include <optional>
 #include <tuple>
 
-/// A type of issue, as Jira sends one.
+/// An issue type in Jira's JSON.
 struct IssueTypeDTO
 {
     QString id;
@@ -16,7 +16,8 @@ struct IssueTypeDTO
     std::optional<bool> subtask;
     std::optional<qint64> hierarchyLevel;
 
-    /// Without `subtask` no sub-task type; without a level the ordinary one.
+    /// Converts to a domain record. If `subtask` is missing, the type is not a sub-task; if the level is missing, it is
+    /// 0.
     IssueType model() const;
 
     static constexpr auto wireMembers()

@@ -9,15 +9,16 @@
 #include <optional>
 #include <tuple>
 
-/// The body of a failed answer.
+/// The body of an error response.
 struct JiraErrorDTO
 {
     std::optional<QStringList> errorMessages;
-    /// Messages by the name of the field that they are about.
+    /// Maps the name of a field to the message about it.
     std::optional<QMap<QString, QString>> errors;
     std::optional<QString> message;
 
-    /// One line for each message: the general ones, those of fields by name ("summary : …"), then `message`.
+    /// All messages, one per line: the general ones, then those of fields, ordered by name ("summary : …"), then
+    /// `message`.
     QString text() const;
 
     static constexpr auto wireMembers()

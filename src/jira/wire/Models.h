@@ -4,7 +4,8 @@
 
 #include <optional>
 
-/// The domain record of an optional wire record. `context` is what the mapping needs beside it, such as the present.
+/// Converts an optional wire record to its domain record. `context` contains further arguments of the conversion, such
+/// as the current time.
 template <typename DTO, typename... Context>
 auto modelOf(const std::optional<DTO> &wire, const Context &...context)
 {
@@ -12,7 +13,7 @@ auto modelOf(const std::optional<DTO> &wire, const Context &...context)
     return wire ? std::optional<Record>(wire->model(context...)) : std::nullopt;
 }
 
-/// The domain records of a list of wire records, in its order.
+/// Converts a list of wire records to domain records, in the same order.
 template <typename DTO, typename... Context>
 auto modelsOf(const QList<DTO> &wires, const Context &...context)
 {
@@ -23,7 +24,7 @@ auto modelsOf(const QList<DTO> &wires, const Context &...context)
     return records;
 }
 
-/// The same for a list that may be missing, which counts as empty.
+/// The same for a list that may be missing, which gives an empty list.
 template <typename DTO, typename... Context>
 auto modelsOf(const std::optional<QList<DTO>> &wires, const Context &...context)
 {

@@ -10,7 +10,7 @@
 #include <optional>
 #include <tuple>
 
-/// A parent or a sub-task, as Jira sends one within an issue.
+/// The parent or a sub-task of an issue in Jira's JSON.
 struct ParentDTO
 {
     struct Fields
@@ -31,7 +31,7 @@ struct ParentDTO
     QString key;
     std::optional<Fields> fields;
 
-    /// An issue whose title is not told is called by its key.
+    /// Converts to a domain record. The key replaces a missing summary.
     IssueRef model() const;
 
     static constexpr auto wireMembers()

@@ -8,7 +8,7 @@
 
 #include <tuple>
 
-/// A priority, as Jira sends one.
+/// A priority in Jira's JSON.
 struct PriorityDTO
 {
     QString id;

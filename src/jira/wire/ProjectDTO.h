@@ -11,19 +11,19 @@
 #include <optional>
 #include <tuple>
 
-/// A project, as Jira sends one.
+/// A project in Jira's JSON.
 struct ProjectDTO
 {
     QString id;
     QString key;
     std::optional<QString> name;
-    /// Only the large one counts.
+    /// Only the large picture is used.
     std::optional<AvatarUrlsDTO> avatarUrls;
     std::optional<QList<IssueTypeDTO>> issueTypes;
     /// "service_desk" for a service project.
     std::optional<QString> projectTypeKey;
 
-    /// A project without a name is called by its key.
+    /// Converts to a domain record. The key replaces a missing name.
     Project model() const;
 
     static constexpr auto wireMembers()

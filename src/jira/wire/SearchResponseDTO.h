@@ -9,11 +9,11 @@
 #include <optional>
 #include <tuple>
 
-/// One page of a search.
+/// One page of the results of a search.
 struct SearchResponseDTO
 {
     QList<IssueDTO> issues;
-    /// What to send to get the page after this one.
+    /// The token with which to request the next page.
     std::optional<QString> nextPageToken;
     std::optional<bool> isLast;
 

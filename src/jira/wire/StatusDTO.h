@@ -9,7 +9,7 @@
 #include <optional>
 #include <tuple>
 
-/// A status, as Jira sends one.
+/// A status in Jira's JSON.
 struct StatusDTO
 {
     struct Category

@@ -6,16 +6,18 @@
 #include <string>
 #include <string_view>
 
-/// Makes texts, and remembers the last ones, since answers say the same over and over: names, identifiers, addresses of
-/// pictures. A text that is remembered costs no memory of its own, neither here nor in the records made from it.
+/// Creates strings and remembers the most recent ones, because responses repeat the same names, identifiers and
+/// addresses of pictures. A remembered text shares its memory with all records that contain it.
 class TextPool
 {
 public:
+    /// The string with the given text in UTF-8.
     QString text(std::string_view utf8);
 
 private:
-    /// Longer texts are hardly ever said twice.
+    /// Longer texts are not remembered, because they are rarely repeated.
     static constexpr std::size_t LongestRemembered = 120;
+    /// The number of texts that can be remembered at the same time.
     static constexpr std::size_t Places = 512;
 
     struct Place

@@ -8,7 +8,7 @@
 
 #include <tuple>
 
-/// The moves that the workflow offers for an issue, as Jira sends them.
+/// The transitions of an issue in Jira's JSON.
 struct TransitionsDTO
 {
     struct Transition

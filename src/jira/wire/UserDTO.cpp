@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The large picture that the site names decides, even when its address is no address.
+/// The picture of 48 pixels if the site names one, even if its address is invalid; otherwise the picture of 32 pixels.
 std::optional<QUrl> pictureOf(const AvatarUrlsDTO &addresses)
 {
     return webAddress(addresses.large ? addresses.large : addresses.medium);

@@ -9,7 +9,7 @@
 #include <optional>
 #include <tuple>
 
-/// A user, as Jira sends one.
+/// A user in Jira's JSON.
 struct UserDTO
 {
     QString accountId;
@@ -19,8 +19,8 @@ struct UserDTO
     std::optional<AvatarUrlsDTO> avatarUrls;
     std::optional<bool> active;
 
-    /// A user without a name is "Utilisateur inconnu". The picture is that of 48 pixels, or of 32 where the site names
-    /// none of 48.
+    /// Converts to a domain record. "Utilisateur inconnu" replaces a missing name. The picture is the one of 48 pixels,
+    /// or the one of 32 pixels if the site names no larger one.
     JiraUser model() const;
 
     static constexpr auto wireMembers()

@@ -18,12 +18,13 @@
 
 namespace {
 
-/// What of an error's description is shown.
+/// The maximum length of the displayed description of an error, in user-perceived characters.
 constexpr qsizetype MaximumCharacters = 240;
 
 QString shortened(const QString &text)
 {
-    // A character can be made of any number of code units; nobody misses the rest of such a one.
+    // A single user-perceived character may consist of any number of code units, so the text is first limited to this
+    // length.
     QString head = text.left(16 * MaximumCharacters);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);
     for (qsizetype i = 0; i < MaximumCharacters; ++i) {
@@ -33,7 +34,8 @@ QString shortened(const QString &text)
     return head.left(finder.position());
 }
 
-/// A parser holds some fifteen times what it last read. One for each thread is kept for what is usual.
+/// A parser keeps about fifteen times the size of the last text that it read. Therefore, each thread keeps one parser
+/// for texts up to this size in bytes.
 constexpr qsizetype UsualSize = 1024LL * 1024;
 
 simdjson::dom::parser &keptParser()
@@ -42,7 +44,7 @@ simdjson::dom::parser &keptParser()
     return parser;
 }
 
-/// A parser for something larger, which goes after it; nothing for what is usual.
+/// A temporary parser for a larger text; null for a text of usual size.
 std::unique_ptr<simdjson::dom::parser> parserForOne(qsizetype size)
 {
     return size > UsualSize ? std::make_unique<simdjson::dom::parser>() : nullptr;
@@ -61,7 +63,7 @@ std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
     const std::unique_ptr<simdjson::dom::parser> ownParser = parserForOne(json.size());
     simdjson::dom::parser &parser = ownParser ? *ownParser : keptParser();
     simdjson::dom::element root;
-    // Without room behind the text, the parser works on a copy.
+    // If there is not enough space after the text, the parser works on a copy.
     const bool hasRoom = json.capacity() - json.size() >= qsizetype(simdjson::SIMDJSON_PADDING);
     const auto size = size_t(json.size());
     if (const auto error = parser.parse(json.constData(), size, !hasRoom).get(root))

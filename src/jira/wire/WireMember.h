@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-/// Ties a member of a JSON object to the field that holds it. A field that is a `std::optional` may be missing or null;
-/// any other must be there.
+/// Maps the member of a JSON object to the field that stores it. A `std::optional` field may be missing or null in the
+/// JSON; any other field is required.
 template <typename DTO, typename Field>
 struct WireMember
 {

@@ -11,7 +11,7 @@ namespace WireReader {
 
 QString textOf(std::string_view utf8)
 {
-    // One for each thread that decodes.
+    // Each thread that decodes has its own pool.
     thread_local TextPool pool;
     return pool.text(utf8);
 }

@@ -17,8 +17,9 @@
 #include <tuple>
 #include <utility>
 
-/// Reads parsed JSON into fields and records. How deep it goes is bounded by the records themselves, and within a
-/// document by the bound on documents. An error is given its place on the way out, so that reading pays nothing for it.
+/// Reads parsed JSON into fields and records. The depth of the recursion is limited by the record types, and within a
+/// document by the limit for documents. The position of an error is added while the functions return, so that
+/// successful reading has no cost for it.
 namespace WireReader {
 
 using Element = simdjson::dom::element;
@@ -26,10 +27,10 @@ using Result = std::expected<void, DecodingError>;
 
 Result read(const Element &element, QString &text);
 Result read(const Element &element, bool &value);
-/// Takes any whole number within 64 bits, however it is spelled (3, 3.0, 3e0).
+/// Reads any integer that fits into 64 bits, in every notation (3, 3.0, 3e0).
 Result read(const Element &element, qint64 &number);
 Result read(const Element &element, ADFNode &document);
-/// Every address must be a text, also those that are not kept.
+/// Every address must be a string, including those that are not kept.
 Result read(const Element &element, AvatarUrlsDTO &addresses);
 template <typename T>
 Result read(const Element &element, std::optional<T> &value);
@@ -43,9 +44,9 @@ Result read(const Element &element, DTO &record);
 
 QString textOf(std::string_view utf8);
 Result failure(const char *message);
-/// The error, seen from an object that holds the failed value as `name`.
+/// Adds the position to the error of a value that is the member `name` of an object.
 Result inMember(std::string_view name, Result failed);
-/// The error, seen from an array that holds the failed value at `index`.
+/// Adds the position to the error of a value that is the item `index` of an array.
 Result inItem(qsizetype index, Result failed);
 
 template <typename T>
@@ -91,7 +92,7 @@ Result read(const Element &element, QMap<QString, T> &map)
     return {};
 }
 
-/// Reads one member into the field of its name, and notes that it was there. A name that no field has is passed over.
+/// Reads one member into the field with the same name and records that it was present. Unknown names are ignored.
 template <typename DTO, typename... Members, size_t... Index>
 Result readMember(DTO &record, std::string_view name, const Element &value,
                   const std::tuple<Members...> &members,
@@ -109,7 +110,7 @@ Result readMember(DTO &record, std::string_view name, const Element &value,
     return done ? done : inMember(name, std::move(done));
 }
 
-/// The name of the first field that must be there and was not found; empty when there is none.
+/// The name of the first required field that was not present; empty if there is none.
 template <typename DTO, typename... Field, size_t... Index>
 std::string_view missingMember(const std::tuple<WireMember<DTO, Field>...> &members,
                                const std::array<bool, sizeof...(Field)> &found,
