@@ -15,7 +15,7 @@ QString toText(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
-/// Stores a result in its field, or hands the error on.
+/// Stores a result in its field, or returns the error.
 template <typename Field, typename T>
 std::expected<void, DecodingError> store(Field &field, std::expected<T, DecodingError> result)
 {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-/// One walk over parsed JSON. Keeps the path to the member being read, so that an error can name its place.
+/// Decodes parsed JSON recursively. Keeps the path to the current member, so that an error can name its position.
 class ADFDecoder
 {
 public:
@@ -16,20 +16,20 @@ public:
     template <typename T>
     using Result = std::expected<T, DecodingError>;
 
-    /// `maximumDepth`: how many nodes and values may stand in one another.
+    /// `maximumDepth` is the maximum number of nested nodes and values.
     explicit ADFDecoder(int maximumDepth) : m_maximumDepth(maximumDepth) {}
 
     Result<ADFNode> node(const Element &element);
     Result<JSONValue> value(const Element &element);
 
 private:
-    /// One step from a value to a part of it: a member's name, or an item's index.
+    /// One element of the path: the name of a member or the index of an item.
     struct Part
     {
         std::string_view name;
         qsizetype index = -1;
     };
-    /// A step of the path, taken back at the end of its scope.
+    /// Adds an element to the path and removes it at the end of the scope.
     class Step;
 
     Result<void> readMember(ADFNode &node, std::string_view name, const Element &element);

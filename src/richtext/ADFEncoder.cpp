@@ -86,13 +86,13 @@ private:
 
     void write(double number)
     {
-        // Every whole double below this bound is an exact 64-bit integer.
+        // Every integral double below this limit is exactly representable as a 64-bit integer.
         constexpr double exactBound = 9e18;
         if (!std::isfinite(number))
             m_json += "null";
         else if (number == std::trunc(number) && std::abs(number) < exactBound)
             m_json += QByteArray::number(qint64(number));
-        else // A whole number beyond 64 bits is read as a number only when it is told with an exponent.
+        else // An integer beyond 64 bits is decoded as a number only if it has an exponent.
             m_json += QByteArray::number(number, std::abs(number) < exactBound ? 'g' : 'e',
                                          QLocale::FloatingPointShortest);
     }

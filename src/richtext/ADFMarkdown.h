@@ -6,28 +6,30 @@
 
 #include <functional>
 
-/// Markdown as users type it, to documents. A small grammar: headings, rules, quotes, nested lists, task lists, fenced
-/// code, paragraphs; inline, the rules of CommonMark with "~~" for strikethrough. Nothing fails: what is no markup is
-/// text. Mentions are not part of it; see `ADF::linkingMentions`.
+/// Converts Markdown, as users type it, to documents. The grammar is small: headings, rules, quotes, nested lists, task
+/// lists, fenced code and paragraphs; inside a line, the rules of CommonMark with "~~" for strikethrough. The
+/// conversion never fails: text that is not valid markup stays text. Mentions are not part of it; see
+/// `ADF::linkingMentions`.
 namespace ADFMarkdown {
 
-/// Gives the local id of a task list or of a task, fresh at each call.
+/// Returns the local id of a task list or of a task, a new one at each call.
 using LocalIDSource = std::function<QString()>;
 
-/// A random UUID.
+/// Returns a random UUID.
 QString randomLocalID();
 
-/// Lists nest at most this deep; what is indented further joins the deepest level. Keeps a document of any text within
-/// what `ADFCoding` reads back.
+/// The maximum nesting depth of lists; lines with a deeper indent are added to the deepest list. It ensures that
+/// `ADFCoding` can decode every document made here.
 inline constexpr int maximumListDepth = 100;
 
-/// The document of a text; without any content for the empty text. Line ends are LF or CR LF.
+/// Converts a text to a document; an empty text gives a document without content. Line breaks are LF or CR LF.
 ADFNode document(const QString &text, const LocalIDSource &localIDs = randomLocalID);
 
-/// The blocks of the lines. Blank lines separate paragraphs; there is no other separator.
+/// Converts lines to blocks. Only blank lines separate paragraphs.
 QList<ADFNode> parseBlocks(const QStringList &lines, const LocalIDSource &localIDs = randomLocalID);
 
-/// The inline nodes of a text of any number of lines: each line break is a hard break. Empty for the empty text.
+/// Converts a text of any number of lines to inline nodes; each line break becomes a hard break. Empty for an empty
+/// text.
 QList<ADFNode> inlineNodes(const QString &text);
 
 } // namespace ADFMarkdown

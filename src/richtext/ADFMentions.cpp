@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The number of characters as a reader counts them.
+/// The number of user-perceived characters.
 qsizetype characterCount(const QString &text)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -23,7 +23,7 @@ qsizetype characterCount(const QString &text)
     return count;
 }
 
-/// The users with a name, those with the longest first; of equal lengths, in the given order.
+/// The users that have a name, the longest name first; users with names of equal length keep their order.
 QList<JiraUser> longestNameFirst(const QList<JiraUser> &users)
 {
     std::multimap<qsizetype, JiraUser, std::greater<>> byLength;
@@ -48,8 +48,8 @@ ADFNode mentionNode(const JiraUser &user)
     return node;
 }
 
-/// Splits one text around the mentions in it. Positions are of characters as a reader sees them: an "@" with a
-/// combining mark on it is another character.
+/// Splits a text at its mentions. Positions count user-perceived characters, so an "@" with a combining mark is a
+/// different character from "@".
 class MentionSplitter
 {
 public:
@@ -85,7 +85,7 @@ private:
         return m_boundaries.isAtBoundary();
     }
 
-    /// The first code point of the character at `position`, which decides what kind of character it is.
+    /// The first code point of the character at `position`, from which the class of the character is determined.
     char32_t characterAt(qsizetype position) const
     {
         const QChar first = m_text[position];

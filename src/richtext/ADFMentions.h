@@ -5,9 +5,10 @@
 
 namespace ADF {
 
-/// A copy of the document in which each "@" followed by the exact name of one of the users has become a mention node.
-/// The longest name wins. A name counts only as a whole word, and an "@" right after a letter or a digit is an address,
-/// not a mention. Text in inline code and in links stays; so does everything when no user has a name.
+/// Returns a copy of the document in which each "@" followed by the exact name of one of the users is replaced by a
+/// mention node. If several names match, the longest is used. The name must end at the end of a word, and an "@"
+/// directly after a letter or a digit is part of an address and not a mention. Text in inline code and in links is not
+/// changed. Without users that have a name, the copy is unchanged.
 ADFNode linkingMentions(ADFNode node, const QList<JiraUser> &users);
 
 } // namespace ADF

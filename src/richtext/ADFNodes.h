@@ -4,14 +4,14 @@
 
 #include <QStringView>
 
-/// The nodes that the program itself makes.
+/// Constructors for the nodes that the program creates.
 namespace ADF {
 
-/// A node of the kind with nothing else: a rule, a hard break.
+/// A node of the given kind without other members, such as a rule or a hard break.
 ADFNode plain(QStringView type);
-/// A node of the kind with children; `content` is present even when there are none.
+/// A node of the given kind with children; `content` is present even if there are none.
 ADFNode container(QStringView type, QList<ADFNode> content);
-/// A text node; `marks` is absent when there are none.
+/// A text node; `marks` is absent if there are none.
 ADFNode text(QString text, QList<ADFMark> marks = {});
 /// The root of a document, in the version that Jira expects.
 ADFNode document(QList<ADFNode> content);

@@ -29,7 +29,7 @@ std::optional<QString> read(const std::optional<ADFAttributes> &attrs, const QSt
     return attrs ? attrs->value(name).string() : std::nullopt;
 }
 
-/// Calls `visit` for the node and then for all below it, in document order.
+/// Calls `visit` for the node and then for all its descendants, in document order.
 template <typename Node, typename Visit>
 void walk(Node &node, const Visit &visit)
 {

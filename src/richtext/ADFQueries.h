@@ -5,36 +5,36 @@
 
 #include <QStringList>
 
-/// What the program asks of a document. Pure walks in document order; an attribute of the wrong kind reads as absent.
+/// Queries on documents. They visit the nodes in document order; an attribute of the wrong type counts as absent.
 namespace ADF {
 
 /// The node kinds whose children are inline: paragraph, heading, taskItem, decisionItem, codeBlock.
 bool isInlineContainer(QStringView type);
 
-/// The attribute as text (a number in its decimal form), or nothing.
+/// The attribute as text (a number in its decimal form), or nothing if it is absent.
 std::optional<QString> attribute(const ADFNode &node, const QString &name);
 
-/// The words of the document: blocks on lines of their own, inline nodes run together.
+/// The text of the document: each block on a line of its own, inline nodes joined without a separator.
 QString plainText(const ADFNode &node);
 
-/// True when there is no word to read (white space aside) and no rich content.
+/// True if the node contains neither text other than white space nor rich content.
 bool isEmpty(const ADFNode &node);
 
-/// True for content that Markdown can't carry or words don't show: tables, media, panels, expands, layouts, extensions;
-/// on the node itself or below it.
+/// True if the node or one of its descendants has content that Markdown cannot represent or plain text does not show:
+/// tables, media, panels, expands, layouts, extensions.
 bool containsRichContent(const ADFNode &node);
 
-/// The attachments that media nodes are tied to (attribute velmoraAttachmentID), a node before its children.
+/// The attachments that media nodes are linked to (attribute velmoraAttachmentID); a node comes before its children.
 QStringList mediaAttachmentIDs(const ADFNode &node);
 
-/// The targets of link marks and inline cards, a node before its children.
+/// The addresses in link marks and inline cards; a node comes before its children.
 QStringList linkURLs(const ADFNode &node);
 
-/// The people mentioned, one per mention that has an id, in document order; the name without its leading "@".
+/// The mentioned users, one for each mention that has an id, in document order; the names without their leading "@".
 QList<JiraUser> mentionedUsers(const ADFNode &node);
 
-/// Ties media to attachments by position: the n-th media or mediaInline node of the walk gets the n-th id, as far as
-/// there are ids. `index` counts the media nodes seen, so that one series of ids can span several documents.
+/// Links media to attachments by position: the n-th media or mediaInline node gets the n-th id, as long as there are
+/// ids. `index` is the number of media nodes visited so far, so that one list of ids can apply to several documents.
 ADFNode annotated(ADFNode node, const QStringList &ids, qsizetype &index);
 
 } // namespace ADF

@@ -2,15 +2,15 @@
 
 #include <QString>
 
-/// Why a piece of JSON could not be read.
+/// Why a text could not be decoded as JSON.
 struct DecodingError
 {
-    /// Where, as a path from the root: "content[2].type"; empty for the root itself.
+    /// The position, as a path from the root: "content[2].type"; empty for the root itself.
     QString place;
-    /// What is wrong there, for the user to read.
+    /// The description of the error, for the user.
     QString message;
 
-    /// Both in one line: "content[2].type : texte attendu".
+    /// The position and the message in one line: "content[2].type : texte attendu".
     QString description() const
     {
         return place.isEmpty() ? message : QString(place).append(u" : ").append(message);

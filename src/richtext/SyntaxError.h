@@ -4,5 +4,5 @@
 
 #include <simdjson.h>
 
-/// Says for the user why a text could not be parsed as JSON; the parser's own words are English.
+/// The French description of a syntax error in JSON; the parser's own descriptions are in English.
 DecodingError syntaxError(simdjson::error_code error);

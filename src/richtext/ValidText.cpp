@@ -26,6 +26,6 @@ QString repaired(QStringView text)
 
 QByteArray validUTF8(QStringView text)
 {
-    // Qt writes a question mark for half a pair, which would read as the user's own.
+    // Qt would write a question mark for an unpaired surrogate, which could not be told from one that the user typed.
     return text.isValidUtf16() ? text.toUtf8() : repaired(text).toUtf8();
 }

@@ -3,5 +3,5 @@
 #include <QByteArray>
 #include <QStringView>
 
-/// The text in UTF-8. Half a surrogate pair, which UTF-8 cannot say, becomes U+FFFD.
+/// The text in UTF-8. Unpaired surrogates, which UTF-8 cannot encode, become U+FFFD.
 QByteArray validUTF8(QStringView text);

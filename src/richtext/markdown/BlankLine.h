@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// A line of spaces and tabs: separates, and leaves nothing.
+/// A line of spaces and tabs. It separates blocks and produces no node.
 namespace Markdown::BlankLine {
 
 bool begins(const Line &line);

@@ -4,11 +4,11 @@
 
 namespace Markdown {
 
-/// What the blocks of one text share.
+/// The parameters that all blocks of a text share.
 struct BlockContext
 {
     ADFMarkdown::LocalIDSource localID;
-    /// True for the lines of a quote. A quote admits no quote, so one inside another is dropped without being parsed.
+    /// True for the lines of a quote. A quote cannot contain quotes, so a nested one is dropped without being parsed.
     bool insideQuote = false;
 };
 

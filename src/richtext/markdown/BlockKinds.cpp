@@ -15,14 +15,14 @@ namespace Markdown {
 
 namespace {
 
-/// One kind of block: which line begins it, and how it is read from there.
+/// A kind of block: the test whether a line starts it, and the function that reads it.
 struct BlockKind
 {
     bool (*begins)(const Line &line);
     QList<ADFNode> (*read)(LineCursor &lines, const BlockContext &context);
 };
 
-/// In order of precedence, which is part of the grammar: "- - -" is a list, "---" a rule.
+/// In order of precedence, which is part of the grammar: "- - -" is a list, "---" is a rule.
 constexpr std::array kinds{
     BlockKind{CodeFence::begins, CodeFence::read}, BlockKind{BlankLine::begins, BlankLine::read},
     BlockKind{Heading::begins, Heading::read},     BlockKind{Rule::begins, Rule::read},

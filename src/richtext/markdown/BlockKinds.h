@@ -9,10 +9,10 @@
 
 namespace Markdown {
 
-/// The blocks of the lines: at each line the first kind that it begins takes over.
+/// Converts lines to blocks. Each block is read by the first kind whose test accepts its first line.
 QList<ADFNode> parseBlocks(std::span<const QStringView> lines, const BlockContext &context);
 
-/// True when the line begins some kind of block other than a paragraph.
+/// True if the line starts a block of a kind other than a paragraph.
 bool beginsBlock(const Line &line);
 
 } // namespace Markdown

@@ -8,7 +8,7 @@ namespace {
 
 constexpr QStringView fence = u"```";
 
-/// The lines up to the closing fence, which is consumed.
+/// The lines up to the closing fence. The fence is consumed too.
 QString verbatim(Markdown::LineCursor &lines)
 {
     QString code;

@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// Verbatim lines between two lines of three backticks; to the end of the text when it is never closed.
+/// Code between two lines of three backticks; if the closing line is missing, the code extends to the end of the text.
 namespace Markdown::CodeFence {
 
 bool begins(const Line &line);

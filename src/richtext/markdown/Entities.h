@@ -2,11 +2,11 @@
 
 #include <QByteArray>
 
-/// Character references as in HTML: "&amp;", "&#233;", "&#xE9;".
+/// HTML character references: "&amp;", "&#233;", "&#xE9;".
 namespace Entities {
 
-/// What a reference stands for, in UTF-8; an unknown name stands for itself. A number that is no character (zero, a
-/// surrogate, beyond Unicode) gives U+FFFD.
+/// The text that a reference stands for, in UTF-8; a reference with an unknown name is returned unchanged. A number
+/// that is not a valid character (zero, a surrogate, beyond Unicode) gives U+FFFD.
 QByteArray decoded(const QByteArray &reference);
 
 } // namespace Entities

@@ -9,7 +9,7 @@ namespace {
 
 constexpr qsizetype deepestLevel = 6;
 
-/// The number of "#" at the start; counts no further than one beyond the deepest level.
+/// The number of "#" characters at the start; counting stops one beyond the deepest level.
 qsizetype leadingHashes(QStringView line)
 {
     qsizetype count = 0;

@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// One to six "#", a space, and the words; closed by nothing but the end of the line.
+/// One to six "#", a space, and the text to the end of the line. A closing sequence of "#" is not recognised.
 namespace Markdown::Heading {
 
 bool begins(const Line &line);

@@ -14,7 +14,7 @@ ADFMark mark(const QString &type)
     return ADFMark{type, std::nullopt};
 }
 
-/// The marks of a run, in the order that documents keep. Code is never also bold, italic or struck through.
+/// The marks of a run of text, in the order used in documents. Code is never also bold, italic or struck through.
 QList<ADFMark> marksOf(const InlineStyle &style)
 {
     QList<ADFMark> marks;

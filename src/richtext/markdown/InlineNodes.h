@@ -8,9 +8,9 @@
 
 namespace Markdown {
 
-/// The inline nodes of the lines, a hard break between each two. An empty line gives none of its own.
+/// The inline nodes of the lines, with a hard break between consecutive lines. An empty line adds no other node.
 QList<ADFNode> inlineNodes(std::span<const QStringView> lines);
-/// The inline nodes of one line; none when it is empty.
+/// The inline nodes of one line; none for an empty line.
 QList<ADFNode> inlineNodes(QStringView line);
 
 } // namespace Markdown

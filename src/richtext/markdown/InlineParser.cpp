@@ -37,7 +37,8 @@ int addText(MD_TEXTTYPE type, const MD_CHAR *text, MD_SIZE size, void *data)
     return 0;
 }
 
-/// The guard keeps blocks from being seen; the flags are a second lock on those that could change a paragraph.
+/// `LineGuard` already keeps the parser from recognising blocks; the flags also turn off the kinds that could change a
+/// paragraph.
 constexpr MD_PARSER inlineRules{
     .abi_version = 0,
     .flags = MD_FLAG_STRIKETHROUGH | MD_FLAG_NOINDENTEDCODEBLOCKS | MD_FLAG_NOHTMLBLOCKS,

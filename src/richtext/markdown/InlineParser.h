@@ -7,10 +7,11 @@
 
 namespace Markdown {
 
-/// One line by the inline rules of CommonMark, with "~~" for strikethrough, as runs of text; no run is empty, and
-/// neighbours differ in style (code inside bold and plain code differ, too). White space stays as it is. HTML tags and
-/// comments stay text, and nothing in them is markup. An image leaves its description, set like its surroundings. A
-/// link without a target leaves its words. U+0000 and half surrogate pairs become U+FFFD, one for one.
+/// Parses one line by the inline rules of CommonMark, with "~~" for strikethrough, and returns it as runs of text. No
+/// run is empty, and adjacent runs differ in style (code inside bold and plain code count as different). White space is
+/// kept. HTML tags and comments stay text, and their contents are not parsed. An image is replaced by its description,
+/// in the surrounding style. A link without a target is replaced by its text. Each U+0000 and each unpaired surrogate
+/// becomes U+FFFD.
 QList<InlineRun> inlineRuns(QStringView line);
 
 } // namespace Markdown

@@ -4,20 +4,20 @@
 
 namespace Markdown {
 
-/// How a run of text is set.
+/// The style of a run of text.
 struct InlineStyle
 {
     bool code = false;
     bool strong = false;
     bool emphasized = false;
     bool struckThrough = false;
-    /// The target of the link that the run is in; empty outside of links.
+    /// The target of the link that contains the run; empty outside links.
     QString link;
 
     bool operator==(const InlineStyle &) const = default;
 };
 
-/// A piece of a line that is set in one way.
+/// A part of a line with a uniform style.
 struct InlineRun
 {
     QString text;

@@ -6,14 +6,14 @@
 
 namespace Markdown {
 
-/// A line, as it is and without the spaces and tabs at its ends.
+/// A line in its original form, and without spaces and tabs at its ends.
 struct Line
 {
     QStringView whole;
     QStringView trimmed;
 };
 
-/// Walks over lines. The current line may be asked for only until the end.
+/// Iterates over lines. The current line must not be requested at the end.
 class LineCursor
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     bool atEnd() const { return m_lines.empty(); }
     const Line &line() const { return m_line; }
-    /// The current line; moves on to the next.
+    /// Returns the current line and advances to the next one.
     Line take()
     {
         const Line taken = m_line;

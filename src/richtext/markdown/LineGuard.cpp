@@ -6,8 +6,9 @@ namespace {
 
 constexpr QByteArrayView edgeBytes("\xC2\xA0");
 
-/// The pairs are of the same class as what they stand for (punctuation, white space), so that the rules of emphasis
-/// see no difference. The first of a pair, standing for itself, is doubled.
+/// A replacement for one character. Its two characters belong to the same class as the replaced one (punctuation or
+/// white space), so that the rules for emphasis give the same result. If the first character of a pair occurs in the
+/// text itself, it is doubled.
 struct Pair
 {
     char plain;
@@ -17,7 +18,7 @@ struct Pair
 constexpr Pair tilde{'~', '{', '}'};
 constexpr Pair carriageReturn{'\r', '\v', '\f'};
 
-/// The length of the run of the byte at `start`.
+/// The length of the sequence of equal bytes that begins at `start`.
 qsizetype runLength(const QByteArray &text, qsizetype start)
 {
     qsizetype end = start;
@@ -31,7 +32,7 @@ void append(QByteArray &result, Pair pair)
     result.append(pair.first).append(pair.second);
 }
 
-/// Appends a byte of a text, doubled when it is the first of a pair.
+/// Appends a byte of the text; doubles it if it is the first character of a pair.
 void appendPlain(QByteArray &result, char byte)
 {
     if (byte == carriageReturn.plain)
@@ -48,7 +49,7 @@ void appendTildes(QByteArray &result, qsizetype count)
     result.append(count, tilde.plain);
 }
 
-/// The markup of a line, dressed. A backslash takes the byte behind it out of any run.
+/// Appends the encoded form of a line. The byte after a backslash is not counted in a sequence.
 void appendMarkup(QByteArray &result, const QByteArray &line)
 {
     for (qsizetype i = 0; i < line.size(); ++i) {
@@ -85,7 +86,7 @@ QByteArray LineGuard::guarded(QStringView line)
     result += edgeBytes;
     appendMarkup(result, text);
     result += edgeBytes;
-    // The parser looks one byte beyond a link that breaks off at the end of its input.
+    // The parser reads one byte beyond an incomplete link at the end of its input.
     result += '\n';
     return result;
 }

@@ -3,22 +3,22 @@
 #include <QByteArray>
 #include <QStringView>
 
-/// Dresses one line so that a parser of whole documents applies inline rules only, and undresses what comes back.
+/// Encodes one line so that a parser for whole documents applies only inline rules to it, and decodes the result.
 ///
-/// - A no-break space stands at each end. It is white space to the rules of emphasis, as the ends of a line are, but
-///   opens no block, is not trimmed, and keeps what is behind it from being a trailing backslash or a hard break.
-/// - A single "~" is dressed as a pair of braces, since the parser takes it for strikethrough like "~~".
-/// - A carriage return is dressed as a pair of other white space, since the parser takes it for the end of the line.
+/// - A no-break space is added at each end. The rules for emphasis treat it as white space, like the ends of a line. It
+///   starts no block, is not trimmed, and prevents the parser from seeing a trailing backslash or a hard break.
+/// - A single "~" is replaced by a pair of braces, because the parser would treat it as strikethrough like "~~".
+/// - A carriage return is replaced by a pair of other white space, because the parser would treat it as a line break.
 namespace LineGuard {
 
-/// The line in UTF-8, dressed. U+0000 and half surrogate pairs become U+FFFD.
+/// The encoded line in UTF-8. U+0000 and unpaired surrogates become U+FFFD.
 QByteArray guarded(QStringView line);
-/// A text within the dressing, such as one that markup has brought in, dressed like its surroundings.
+/// The encoded form of a text that is inserted into an encoded line, such as the result of a character reference.
 QByteArray dressed(const QByteArray &text);
-/// The text of a part of a dressed line; parts must not split a pair.
+/// The original text of a part of an encoded line; parts must not split a pair.
 QString undressed(const QByteArray &text);
 
-/// What stands at each end of a dressed line.
+/// The character at each end of an encoded line.
 inline constexpr QChar edge = u'\u00A0';
 
 } // namespace LineGuard

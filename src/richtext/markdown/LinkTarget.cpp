@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The reserved and unreserved characters of RFC 3986.
+/// True for the reserved and unreserved characters of RFC 3986.
 bool isURLCharacter(char byte)
 {
     constexpr std::string_view punctuation = "-._~:/?#[]@!$&'()*+,;=";

@@ -3,10 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
-/// What a link in Markdown points to.
+/// The target of a link in Markdown.
 namespace LinkTarget {
 
-/// The target as typed, with what a URL cannot hold percent-encoded; a valid "%20" stays. Empty for an empty one.
+/// The target as typed, with characters that a URL must not contain percent-encoded; valid escapes such as "%20" are
+/// kept. Empty for an empty target.
 QString absoluteString(const QByteArray &utf8);
 
 } // namespace LinkTarget

@@ -13,7 +13,7 @@ namespace {
 
 using ListLines = std::span<const ListLine>;
 
-/// List items know no check box, so a task there shows its own.
+/// List items have no check boxes, so the check box of a nested task is written as text.
 ADFNode listItem(const ListLine &line)
 {
     QString text = line.text.toString();
@@ -30,8 +30,8 @@ ADFNode emptyList(const ListLine &first)
     return list;
 }
 
-/// Makes the list at the front of `lines`, with those nested in it, and takes its lines away. It ends before a smaller
-/// indent, and before another kind of marker at its own.
+/// Builds the list at the start of `lines`, including nested lists, and removes its lines from `lines`. The list ends
+/// at a line with a smaller indent, and at a line with the same indent but another kind of marker.
 ADFNode buildList(ListLines &lines, int depth)
 {
     const ListLine &first = lines.front();

@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// A run of list lines: one or more bullet, ordered and task lists.
+/// A sequence of list lines, which forms one or more bullet, ordered and task lists.
 namespace Markdown::List {
 
 bool begins(const Line &line);

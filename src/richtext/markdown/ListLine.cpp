@@ -7,7 +7,7 @@ namespace {
 constexpr qsizetype tabWidth = 4;
 constexpr int longestNumber = 3;
 
-/// Reads the text behind a bullet, with the check box if there is one.
+/// Parses the text after a bullet, including the check box if there is one.
 Markdown::ListLine bulletLine(QStringView text)
 {
     constexpr qsizetype boxWidth = 4;
@@ -18,7 +18,7 @@ Markdown::ListLine bulletLine(QStringView text)
     return line;
 }
 
-/// The length of the first character when it is a number of some script, else 0.
+/// The length of the first character if it is a numeric character of any script, otherwise 0.
 qsizetype numberCharacter(QStringView text)
 {
     if (text.isEmpty())

@@ -9,23 +9,23 @@ namespace Markdown {
 /// The parsed form of one line of a list.
 struct ListLine
 {
-    /// Width of the leading white space: a space counts 1, a tab 4.
+    /// The width of the leading white space: 1 for a space, 4 for a tab.
     qsizetype indent = 0;
-    /// The line has a number marker.
+    /// True if the line has a number marker.
     bool ordered = false;
-    /// The number of the marker; 1 for a bullet, and for digits that are not those of ASCII.
+    /// The number in the marker; 1 for a bullet and for digits other than ASCII digits.
     int number = 1;
-    /// The line is a bullet with a check box.
+    /// True if the line is a bullet with a check box.
     bool isTask = false;
     bool checked = false;
-    /// What follows the marker, as it stands.
+    /// The text after the marker, unchanged.
     QStringView text;
 
-    /// Tasks of the outermost level make a task list; further in, lists know no check boxes.
+    /// Only tasks of the outermost level make a task list, because nested lists have no check boxes.
     bool beginsTaskList() const { return isTask && indent == 0; }
 };
 
-/// The line read as one of a list; nothing when it has no marker.
+/// Parses a line of a list; nothing if the line has no marker.
 std::optional<ListLine> parseListLine(QStringView line);
 
 } // namespace Markdown

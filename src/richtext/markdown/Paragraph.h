@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// What no other kind begins: the lines up to the next one that begins something.
+/// The lines up to the next one that starts a block of another kind.
 namespace Markdown::Paragraph {
 
 QList<ADFNode> read(LineCursor &lines, const BlockContext &context);

@@ -11,7 +11,7 @@ bool isAdmitted(const ADFNode &block)
            block.type == u"orderedList" || block.type == u"codeBlock";
 }
 
-/// What stands behind the ">" and the one space that may follow it.
+/// The line without the ">" and the one space that may follow it.
 QStringView unquoted(QStringView line)
 {
     line = line.sliced(1);

@@ -3,7 +3,8 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// Lines behind ">". Keeps the paragraphs, bullet and ordered lists and code blocks in them; a quote admits nothing else.
+/// Lines that start with ">". A quote keeps the paragraphs, bullet lists, ordered lists and code blocks in it; other
+/// blocks are not allowed in a quote.
 namespace Markdown::Quote {
 
 bool begins(const Line &line);

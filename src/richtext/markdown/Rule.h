@@ -3,7 +3,7 @@
 #include "richtext/markdown/BlockContext.h"
 #include "richtext/markdown/LineCursor.h"
 
-/// Exactly "---", "***" or "___".
+/// A line that is exactly "---", "***" or "___".
 namespace Markdown::Rule {
 
 bool begins(const Line &line);

@@ -9,7 +9,7 @@
 
 namespace Markdown {
 
-/// Turns the parser's events of one guarded line into runs.
+/// Collects the parser's events for one encoded line into runs.
 class RunCollector
 {
 public:
@@ -17,20 +17,20 @@ public:
     void leave(MD_SPANTYPE type);
     void add(MD_TEXTTYPE type, QByteArrayView text);
 
-    /// The runs of the whole line, without the guard. Call once, at the end.
+    /// The runs of the whole line, decoded. Call this once, at the end.
     QList<InlineRun> runs() &&;
 
 private:
     void flush();
 
-    /// How many spans of each kind are open: emphasis nests in itself.
+    /// The number of open spans of each kind; emphasis can be nested in emphasis.
     int m_code = 0;
     int m_strong = 0;
     int m_emphasized = 0;
     int m_struckThrough = 0;
-    /// An image's description is plain: spans inside it don't count.
+    /// The number of open images. Spans inside the description of an image are ignored.
     int m_images = 0;
-    /// Links don't nest in each other.
+    /// The target of the open link; links cannot be nested.
     QString m_link;
 
     InlineStyle m_style;

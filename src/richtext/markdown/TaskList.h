@@ -5,10 +5,11 @@
 
 #include <span>
 
-/// Tasks of the outermost level, ticked or not. Each task and the list itself carry a local id.
+/// Tasks of the outermost level, done or not. Each task and the list itself have a local id.
 namespace Markdown::TaskList {
 
-/// Makes the list of the task lines at the front of `lines`, and takes these away. The front line begins a task list.
+/// Builds the list from the task lines at the start of `lines` and removes them from `lines`. The first line must begin
+/// a task list.
 ADFNode build(std::span<const ListLine> &lines, const BlockContext &context);
 
 } // namespace Markdown::TaskList
