@@ -11,7 +11,7 @@ namespace DemoEdits {
 
 namespace {
 
-/// Edits the issue and dates it; does nothing for an unknown key.
+/// Applies the change to the issue and sets its date of last change; does nothing for an unknown key.
 template <typename Change>
 void edit(DemoSite &site, const QString &key, const QDateTime &now, Change change)
 {
@@ -29,7 +29,7 @@ void log(DemoSite &site, const QString &key, const QDateTime &now, ActivityEvent
     site.events[key].append({now, DemoSeed::me(), std::move(kind)});
 }
 
-/// Puts the payload of an edit into its field.
+/// Stores the new value of an edit in its field.
 struct Apply
 {
     Issue &issue;
@@ -47,7 +47,7 @@ struct Apply
     void operator()(const IssueFieldUpdate::DueDate &edit) const { issue.dueDate = edit.day; }
 };
 
-/// The first item whose field is the wanted text; nothing when no text is wanted or none has it.
+/// The first item whose field equals the given text; nothing if there is no text or no such item.
 template <typename T>
 std::optional<T> firstWith(const QList<T> &items, auto field, const std::optional<QString> &wanted)
 {

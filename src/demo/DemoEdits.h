@@ -5,38 +5,39 @@
 
 #include <QDateTime>
 
-/// How a demo's site changes. Every change is the signed-in user's and happens at the given instant. Unless an operation
-/// says otherwise, an unknown key is no error: what belongs to the issue itself is skipped and the rest is done.
+/// The changes to a demo site. Every change is made by the signed-in user at the given time. Unless stated otherwise,
+/// an unknown key is not an error: the change to the issue itself is skipped and the rest is done.
 namespace DemoEdits {
 
-/// Puts the key at the front of the recently opened issues.
+/// Adds the key at the start of the list of recently opened issues.
 void opened(DemoSite &site, const QString &key);
 
-/// Moves the issue to the transition's target and logs it. Whether the workflow allows it is not checked.
+/// Sets the issue's status to the target of the transition and adds a log entry. It is not checked whether the workflow
+/// allows the transition.
 void perform(DemoSite &site, const WorkflowTransition &transition, const QString &key,
              const QDateTime &now);
 
-/// Changes one field, without a log entry. An unknown key fails with `JiraError` 404.
+/// Changes one field, without a log entry. Fails for an unknown key with `JiraError` 404.
 void update(DemoSite &site, const QString &key, const IssueFieldUpdate &fieldUpdate,
             const QDateTime &now);
 
-/// Assigns and logs it; an absent user unassigns.
+/// Changes the assignee and adds a log entry; an absent user unassigns the issue.
 void assign(DemoSite &site, const QString &key, const std::optional<JiraUser> &user,
             const QDateTime &now);
 
-/// Appends the comment to the issue's thread. The issue does not count as changed.
+/// Appends the comment to the issue's comments. The issue's date of last change stays the same.
 void append(DemoSite &site, const QString &key, const Comment &comment);
 
-/// Creates the issue in the running sprint, in the status "À faire", and gives its key: the next number of the project,
-/// which may be one that the site does not know. Identifiers of the draft that match nothing count as absent; a type
-/// that matches nothing becomes a plain task.
+/// Creates the issue in the running sprint with the status "À faire" and returns its key, which has the next number of
+/// the project. The project may be unknown to the site. Unknown identifiers in the draft count as absent; without a
+/// known type, the issue becomes a plain task.
 QString create(DemoSite &site, const IssueDraft &draft, const QString &id, const QDateTime &now);
 
-/// Adds attachments to the issue, which counts as changed.
+/// Adds attachments to the issue and updates its date of last change.
 void attach(DemoSite &site, const QString &key, const QList<Attachment> &attachments,
             const QDateTime &now);
 
-/// Removes every attachment with this id. An unknown id is no error.
+/// Removes every attachment with this id. An unknown id is not an error.
 void detach(DemoSite &site, const QString &attachmentID);
 
 } // namespace DemoEdits

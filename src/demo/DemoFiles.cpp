@@ -32,7 +32,7 @@ QString reason(const QFileInfo &source)
                   reason(QFileInfo(file.toLocalFile())));
 }
 
-/// The media type that the extension declares; a name without one is never guessed at.
+/// The media type for the file's extension; the contents are never examined, not even without an extension.
 QString mediaType(const QFileInfo &file)
 {
     const QString anyNameWithSuffix = u"file."_s + file.suffix();

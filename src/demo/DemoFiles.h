@@ -9,16 +9,15 @@
 
 #include <optional>
 
-/// The files behind the demo's attachments: real ones, so that they open and save like any other.
+/// The files of the demo's attachments. They are real files, so that they can be opened and saved like others.
 namespace DemoFiles {
 
-/// Copies a local file into a new folder `id` inside `folder`, under its own name, and gives the copy's address. The
-/// folders are made as needed. Fails with a `Failure` that names the file.
+/// Copies a local file under its own name into a new folder `id` inside `folder` and returns the address of the copy.
+/// Missing folders are created. Fails with a `Failure` that names the file.
 QUrl store(const QUrl &file, const QString &folder, const QString &id);
 
-/// The record of a local file. Its id depends on nothing but the path; its date lies as many hours before `now` as the
-/// file's name has characters, which spreads files over the past without storing a date. A file that cannot be read has
-/// the size 0.
+/// The attachment record of a local file. Its id depends only on the path. Its date lies as many hours before `now` as
+/// the file's name has characters, so that dates vary without being stored. A file that cannot be read has the size 0.
 Attachment attachment(const QUrl &file, const std::optional<JiraUser> &author,
                       const QDateTime &now);
 

@@ -21,7 +21,8 @@ IssueList kept(const DemoSite &site, Keep keep)
     return result;
 }
 
-/// Sorts by a rank, and what has one rank by key, which is the order of the store: the outcome of a stable sort.
+/// Sorts by a rank, and issues of equal rank by key, which is the order of the store. The result is that of a stable
+/// sort.
 template <typename Rank>
 IssueList sorted(IssueList issues, Rank rank)
 {
@@ -77,7 +78,7 @@ bool belongsToRecap(const Issue &issue, const QList<ActivityEvent> &events, bool
            });
 }
 
-/// The list of each scope.
+/// Computes the list for each kind of scope.
 struct ListOfScope
 {
     const DemoSite &site;

@@ -49,7 +49,7 @@ std::optional<JiraUser> assigneeOf(const Row &row)
     return user(*row.assignee);
 }
 
-/// Every third issue is the user's own report; the others go round the team.
+/// The user is the reporter of every third issue; the other issues are distributed over the team in turn.
 const JiraUser &reporterAt(qsizetype index)
 {
     return index % 3 == 0 ? me() : users().at((index + 1) % users().size());

@@ -16,13 +16,14 @@
 
 #include <functional>
 
-/// The made-up data that every demo starts from. Its dates are relative to the demo's start, so it always looks fresh.
+/// The fictitious data that every demo starts with. Its dates are relative to the start of the demo, so they are always
+/// recent.
 namespace DemoSeed {
 
-/// Gives an identifier unlike any before.
+/// Returns an identifier that was not returned before.
 using NewID = std::function<QString()>;
 
-/// What changes during a demo, as it is at the start.
+/// The initial state of the data that can change during a demo.
 struct Seed
 {
     /// In the order of the table of rows.
@@ -31,7 +32,7 @@ struct Seed
     QSet<QString> sprint;
     /// The comments by issue key, oldest first.
     QHash<QString, QList<Comment>> threads;
-    /// The keys of the issues opened lately, the latest first.
+    /// The keys of the recently opened issues, the latest first.
     QStringList recentKeys;
     /// The change log by issue key.
     QHash<QString, QList<ActivityEvent>> events;
@@ -39,20 +40,20 @@ struct Seed
 
 /// The signed-in user of the demo, with the identifier "u-me".
 const JiraUser &me();
-/// Everybody who can take an issue; `me()` first.
+/// All users to whom issues can be assigned; `me()` is the first.
 const QList<JiraUser> &users();
-/// The customer of the service project, who can be mentioned but takes no issues.
+/// The customer of the service project, who can be mentioned but not be assigned issues.
 const JiraUser &customer();
 const JiraUser &user(Person person);
 /// The workflow, from the backlog to the closed statuses.
 const QList<IssueStatus> &statuses();
-/// From the most to the least pressing.
+/// From the most urgent to the least urgent.
 const QList<IssuePriority> &priorities();
 const QList<IssueType> &issueTypes();
 const QList<Project> &projects();
 
-/// Makes the data as of `now`; due dates are days of the user's calendar. `newID` names comments and task lists; the
-/// rest depends on nothing but the instant and the calendar.
+/// Creates the data as of `now`; due dates are days of the user's calendar. `newID` provides the ids of comments and
+/// task lists; everything else depends only on the time and the calendar.
 Seed make(const QDateTime &now, const UserCalendar &calendar, const NewID &newID);
 
 } // namespace DemoSeed

@@ -6,10 +6,10 @@ namespace DemoSeed {
 
 namespace {
 
-/// A stage of the road to the present status.
+/// One step in the history that leads to the current status.
 struct Step
 {
-    /// How far between creation (0) and last change (1) it happened.
+    /// When it happened, as a fraction of the time between the creation (0) and the last change (1).
     double at;
     QString from;
     QString to;

@@ -7,8 +7,8 @@
 
 namespace DemoSeed {
 
-/// A change log that explains how the issue came to its present status: its creation by the reporter, then status
-/// changes by the assignee (or the reporter, when nobody is assigned) up to its last change.
+/// A change log that is consistent with the issue's current status: the creation by the reporter, then status changes
+/// by the assignee (or by the reporter if nobody is assigned) up to the date of the last change.
 QList<ActivityEvent> history(const Issue &issue);
 
 } // namespace DemoSeed

@@ -5,7 +5,7 @@
 
 namespace DemoSeed {
 
-/// The people of the demo, in the order of `users()`; the customer stands outside that list.
+/// The people of the demo, in the order of `users()`; the customer is not in that list.
 enum class Person { Me, Nora, Basile, Maud, Yann, Elsa, Customer };
 /// The statuses, priorities and issue types, in the order of their tables.
 enum class RowStatus { Backlog, Todo, InProgress, InReview, Done, Cancelled };
@@ -14,7 +14,7 @@ enum class RowType { Epic, Story, Task, Bug, Subtask };
 /// Whether an issue belongs to the running sprint.
 enum class Planning { Sprint, Later };
 
-/// One issue of the demo as it is written down; everything else about it is derived.
+/// The definition of one issue of the demo; its other data are derived from it.
 struct Row
 {
     std::u16string_view key;
@@ -22,15 +22,15 @@ struct Row
     RowStatus status;
     std::optional<RowPriority> priority;
     std::optional<Person> assignee;
-    /// Separated by blanks, which a label cannot hold.
+    /// Separated by blanks; a label contains none.
     std::u16string_view labels;
     RowType type;
     Planning planning;
-    /// How long before the demo's start the issue was last changed, in days.
+    /// The time between the last change of the issue and the start of the demo, in days.
     double updatedDaysAgo;
-    /// The parent's key; empty for none.
+    /// The key of the parent; empty if there is none.
     std::u16string_view parent;
-    /// The due date, in days from the demo's start.
+    /// The due date, in days after the start of the demo.
     std::optional<int> due;
 };
 

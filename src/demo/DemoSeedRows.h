@@ -6,7 +6,8 @@
 
 namespace DemoSeed {
 
-/// The issues of the demo. A row's place decides who reported it and how old it is, so rows are never reordered.
+/// The issues of the demo. The reporter and the age of an issue depend on the index of its row, so rows must not be
+/// reordered.
 std::span<const Row> rows();
 
 } // namespace DemoSeed

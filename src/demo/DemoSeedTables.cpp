@@ -72,7 +72,7 @@ const QList<Project> &projects()
         {u"100"_s, u"MOB"_s, u"App mobile"_s, {}, issueTypes(), false},
         {u"200"_s, u"WEB"_s, u"Plateforme web"_s, {}, issueTypes(), false},
         {u"300"_s, u"DS"_s, u"Design System"_s, {}, issueTypes(), false},
-        // A customer's request is a story, a task or a bug.
+        // Requests of customers are stories, tasks or bugs.
         {u"400"_s, u"SUP"_s, u"Support client"_s, {}, issueTypes().mid(1, 3), true},
     };
     return table;

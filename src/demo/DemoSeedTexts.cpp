@@ -15,7 +15,7 @@ struct Description
     std::u16string_view text;
 };
 
-// Together they use every kind of block and of inline mark that Markdown is read for.
+// Together they contain every kind of block and of inline mark that the Markdown parser supports.
 constexpr auto descriptions = std::to_array<Description>({
     {u"MOB-101", uR"(## Contexte
 Depuis la version 4.2, les comptes créés avec **Connexion avec Apple** sont déconnectés *exactement* 24 h après leur première ouverture de session.

@@ -10,24 +10,24 @@
 
 namespace DemoSeed {
 
-/// A comment as it is written down.
+/// The definition of a comment.
 struct CommentText
 {
     std::u16string_view issueKey;
     Person author;
-    /// How long before the demo's start it was written; not bound to the age of its issue.
+    /// The time between the comment and the start of the demo, in hours; independent of the age of the issue.
     int hoursAgo;
     bool isInternal;
-    /// The group that may read it; empty for everybody.
+    /// The group that can read it; empty for everybody.
     std::u16string_view restrictedTo;
-    /// Markdown.
+    /// The text in Markdown.
     std::u16string_view text;
 };
 
-/// All comments; those of one issue stand oldest first.
+/// All comments; those on the same issue are in order, the oldest first.
 std::span<const CommentText> commentTexts();
 
-/// The Markdown of an issue's description: its own text, or one made from the title for an issue that has none.
+/// The description of an issue in Markdown: its own text, or a text made from the title if it has none.
 QString descriptionText(std::u16string_view key, std::u16string_view title);
 
 } // namespace DemoSeed

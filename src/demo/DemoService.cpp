@@ -37,7 +37,7 @@ QCoro::Task<> DemoService::pause(std::stop_token stop)
     try {
         co_await whileAlive(this, m_clock.sleep(latency, std::move(stop)));
     } catch (const OwnerGone &) {
-        // To the caller, whose session is over, this is a call that was called off.
+        // The session of the caller is over, so the operation counts as cancelled.
         throw Cancelled();
     }
 }

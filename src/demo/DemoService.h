@@ -7,23 +7,23 @@
 
 #include <QObject>
 
-/// A back end in memory: made-up data behind the common contract, with no network and no account. Nothing of what the
-/// user changes outlives the object.
+/// A back end in memory: fictitious data behind `IssueService`, without network and account. The user's changes are
+/// lost when the object is destroyed.
 ///
-/// UI thread only. Most operations first wait 80 to 220 ms, as a server would; what follows the wait runs whole, so the
-/// event loop lets one operation at a time at the data. A stop during the wait, or the end of the object, makes the
-/// operation fail with `Cancelled` and changes nothing. The only other failures: an unknown project, an unknown issue
-/// in `issue` and `update` (`JiraError` 404), an attachment without a local file (`JiraError::InvalidResponse`), and a
-/// file that cannot be copied.
+/// UI thread only. Most operations first wait 80 to 220 ms, like a server. After the wait, each operation runs without
+/// interruption, so only one operation at a time accesses the data. A requested stop during the wait, or the
+/// destruction of the object, makes the operation fail with `Cancelled` and changes nothing. The only other failures
+/// are: an unknown project, an unknown issue in `issue` and `update` (`JiraError` 404), an attachment without a local
+/// file (`JiraError::InvalidResponse`), and a file that cannot be copied.
 class DemoService final : public QObject, public IssueService
 {
     Q_OBJECT
 
 public:
-    /// Starts from the seed, as of now. The clock outlives the service.
+    /// Starts with the seed data as of the current time. The clock must outlive the service.
     DemoService(Clock &clock, UserCalendar calendar, DemoSources sources = DemoSources::system());
 
-    /// A made-up host.
+    /// A fictitious host name.
     QString siteName() const override;
     QCoro::Task<JiraUser> currentUser(std::stop_token stop = {}) override;
     QCoro::Task<QList<Project>> projects(std::stop_token stop = {}) override;
@@ -50,7 +50,8 @@ public:
     QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) override;
     /// Also finds the service project's customer, who is not assignable.
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) override;
-    /// Copies the files one by one. When one fails nothing is attached, though earlier copies stay on disk.
+    /// Copies the files one after the other. If one fails, nothing is attached, but the copies made before stay on
+    /// disk.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
                                                      std::stop_token stop = {}) override;
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;

@@ -11,31 +11,31 @@
 #include <QString>
 #include <QStringList>
 
-/// All that a demo knows: the made-up site's data, as a value.
+/// All data of a demo site, as a value.
 struct DemoSite
 {
-    /// Every issue by its key, as stored: without details, events, sub-tasks and attachments. Ordered, so that issues
-    /// that a list cannot tell apart keep their places from one fetch to the next.
+    /// Every issue by its key, as stored: without details, events, sub-tasks and attachments. The map is ordered, so
+    /// that issues that a list does not order have the same order in every fetch.
     QMap<QString, SharedIssue> store;
     /// The keys of the issues of the running sprint.
     QSet<QString> sprint;
     /// The comments by issue key, oldest first.
     QHash<QString, QList<Comment>> threads;
-    /// The keys of the issues opened lately, the latest first, each once.
+    /// The keys of the recently opened issues, the latest first, without duplicates.
     QStringList history;
     /// The highest issue number used, by project key.
     QHash<QString, qint64> counters;
-    /// The change log by issue key, in order of appending.
+    /// The change log by issue key; the latest entry is the last.
     QHash<QString, QList<ActivityEvent>> events;
     /// The attachments by issue key.
     QHash<QString, QList<Attachment>> files;
 
-    /// The site as a demo starts with it. Two issues with one key stop the program.
+    /// The site with the data of the seed. The program is aborted if two issues have the same key.
     static DemoSite from(const DemoSeed::Seed &seed);
 
-    /// The issue with this key; null when there is none. Valid until the site changes.
+    /// The issue with this key; null if there is none. The pointer is valid until the site changes.
     const Issue *find(const QString &key) const;
 };
 
-/// The number at the end of an issue's key: its last piece between dashes, empty pieces aside; 0 when that is none.
+/// The number at the end of an issue's key: its last non-empty part between dashes; 0 if that is not a number.
 qint64 keyNumber(const QString &key);

@@ -4,16 +4,16 @@
 
 #include <functional>
 
-/// What the demo takes from the machine, besides the time.
+/// The parts of the environment that the demo uses, besides the clock.
 struct DemoSources
 {
-    /// Draws an integer from 0 to `largest`, both included, each equally likely.
+    /// Returns a random integer from 0 to `largest`, both included, with equal probability.
     std::function<int(int largest)> draw;
-    /// Gives an identifier unlike any before.
+    /// Returns an identifier that was not returned before.
     std::function<QString()> newID;
-    /// Where the demo keeps its files; made when it is needed.
+    /// The folder for the demo's files; created when it is first needed.
     QString folder;
 
-    /// The machine's own, with the folder "Velmora/demo" of the user's caches.
+    /// The system's random numbers and identifiers, and the folder "Velmora/demo" in the user's cache folder.
     static DemoSources system();
 };
