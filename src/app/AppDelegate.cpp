@@ -35,7 +35,7 @@ void AppDelegate::makeItem()
 
 void AppDelegate::createIssue()
 {
-    // First the window, so that the create screen has a place to show.
+    // The window is shown first, because the create screen is part of it.
     showMainWindow();
     m_store.newIssue();
 }

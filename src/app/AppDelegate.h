@@ -8,24 +8,25 @@
 
 #include <memory>
 
-/// What the process does as a whole: it has an item among the desktop's status items wherever these are shown, lives on
-/// without a window only while that item can be seen, and otherwise ends with its last window. When the status items go
-/// away while no window is there, the main window comes back, so that nobody is left with a process that cannot be seen.
+/// Controls the lifetime of the process and its status item. The status item exists as long as the desktop displays
+/// such items. While it is displayed, the process continues without a window; otherwise it ends with its last window.
+/// If the status items disappear while no window is open, the main window is opened again, so that the process does not
+/// continue invisibly.
 class AppDelegate : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All outlive it.
+    /// All arguments must outlive this object.
     AppDelegate(Scenes &scenes, AppStore &store, StatusHost &host);
 
-    /// Null where no status items are shown.
+    /// Null while the desktop displays no status items.
     StatusItem *statusItem() const { return m_item.get(); }
-    /// Brings the main window forward; makes it where there is none.
+    /// Brings the main window to the front; creates it if there is none.
     void showMainWindow();
 
 Q_SIGNALS:
-    /// The process is to end.
+    /// The process should end.
     void quitRequested();
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// Has the engine of QML interpret a function until it has run 200 times, and translate it to machine code only then; by
-/// itself it does so after three, which at a start costs more than it saves. Before the first engine. A threshold that
-/// the user has set through Qt's own variable stands.
+/// Makes the QML engine interpret a function for its first 200 calls and compile it to machine code only then. The
+/// default of three calls costs more time at the start than it saves. Must be called before the first engine is
+/// created. A threshold that the user has set through Qt's environment variable is kept.
 void interpretAtFirst();

@@ -6,16 +6,16 @@
 
 #include <functional>
 
-/// Sessions on Jira sites.
+/// The sessions on Jira sites.
 class JiraSessions final : public SiteSessions
 {
 public:
-    /// Opens a back end on a site.
+    /// Creates a back end for a site.
     using MakeClient = std::function<Service(const JiraCredentials &)>;
-    /// Is told of the credentials with which a session begins.
+    /// Called with the credentials of each new session.
     using OnBegin = std::function<void(const JiraCredentials &)>;
 
-    /// Both stores outlive this object and what it began.
+    /// Both stores must outlive this object and the operations that it started.
     JiraSessions(Preferences &preferences, Keychain &keychain, MakeClient makeClient,
                  OnBegin onBegin);
 
@@ -25,14 +25,14 @@ public:
     QCoro::Task<> keep(SignIn signIn) override;
     QCoro::Task<> forget() override;
 
-    /// Waits until what was to be kept or forgotten is.
+    /// Waits until all pending saves and removals of credentials are complete.
     QCoro::Task<> settled();
 
 private:
-    // Shared with what waits for its turn, which may outlast this object.
+    // Shared with waiting operations, which may outlive this object.
     std::shared_ptr<CredentialsStore> m_credentials;
     MakeClient m_makeClient;
     OnBegin m_onBegin;
-    /// Of those that change what is kept.
+    /// The turns of the operations that change the stored credentials, so that they run one after the other.
     Turns m_turns{1};
 };

@@ -11,24 +11,25 @@
 #include <functional>
 #include <memory>
 
-/// The outside world that the program runs on. Tests and benchmarks put their own parts in place of the machine's.
+/// The external services that the program depends on. Tests and benchmarks replace them by their own.
 struct Outside
 {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Preferences> preferences;
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<StatusHost> statusHost;
-    /// Goes before the parts above, and ends what waits for it, which may use them.
+    /// Declared after the members above, so that it is destroyed before them. Destroying it ends waiting operations,
+    /// which may use those members.
     std::unique_ptr<Keychain> keychain;
     UserCalendar calendar;
-    /// Opens a session on made-up data, in the time that the clock tells.
+    /// Creates the back end of the demo; its times come from the clock.
     std::function<std::shared_ptr<IssueService>(Clock &, const UserCalendar &)> makeDemo;
 
-    /// Opens a session on a site.
+    /// Creates the back end for a site.
     std::function<std::shared_ptr<IssueService>(const JiraCredentials &, Clock &,
                                                 const UserCalendar &)>
         makeClient;
 
-    /// The machine, the desktop and the user's own preferences.
+    /// The services of the machine and its desktop, with the user's own preferences.
     static Outside system();
 };

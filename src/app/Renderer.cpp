@@ -8,7 +8,8 @@ namespace {
 bool hasGraphicsHardware()
 {
 #ifdef Q_OS_LINUX
-    // A driver that can draw offers a render node; virtual machines and bare X servers have none.
+    // A graphics driver with hardware acceleration provides a render node; virtual machines and plain X servers have
+    // none.
     const QDir nodes(QStringLiteral("/dev/dri"));
     return !nodes.entryList({QStringLiteral("renderD*")}, QDir::System).isEmpty();
 #else

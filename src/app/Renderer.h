@@ -1,6 +1,6 @@
 #pragma once
 
-/// Chooses how Qt Quick draws, before the first window: the software renderer where the machine has no graphics hardware,
-/// where it is several times quicker than OpenGL emulated on the processor. A choice that the user made through Qt's own
-/// variables stands.
+/// Chooses the renderer of Qt Quick; must be called before the first window is created. Chooses the software renderer
+/// if the machine has no graphics hardware, because it is then several times faster than OpenGL emulated on the
+/// processor. A renderer that the user has set through Qt's environment variables is kept.
 void chooseRenderer();

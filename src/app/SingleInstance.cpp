@@ -13,7 +13,7 @@ constexpr std::chrono::milliseconds RetryPause = 50ms;
 constexpr std::chrono::milliseconds AnswerLimit = 2000ms;
 const QByteArray Answer = "ok\n";
 
-/// Short: the path of a local socket has room for about a hundred characters.
+/// The name must be short, because the path of a local socket is limited to about a hundred characters.
 QString nameOf(const QString &profile)
 {
     const auto hash = QCryptographicHash::hash(profile.toUtf8(), QCryptographicHash::Sha256);
@@ -53,7 +53,7 @@ void SingleInstance::retry()
 void SingleInstance::listen()
 {
     m_limit.reset();
-    // What a process that died has left.
+    // Removes the socket file of a process that crashed.
     QLocalServer::removeServer(m_name);
     m_server.listen(m_name);
     Q_EMIT isFirst();
@@ -79,7 +79,7 @@ void SingleInstance::ask()
         m_limit.reset();
         Q_EMIT isSecond();
     });
-    // The first may be about to listen, or about to end.
+    // The other process may be about to listen, or about to end.
     connect(m_socket.get(), &QLocalSocket::errorOccurred, this,
             [this] { m_retry = m_clock.after(RetryPause, [this] { retry(); }); });
     m_socket->connectToServer(m_name);

@@ -9,26 +9,27 @@
 
 #include <memory>
 
-/// Lets one process of a profile run. The first answers those that come later, each of which asks it to show itself and
-/// ends. A process that holds the profile but does not answer within two seconds counts as gone.
+/// Ensures that only one process per profile runs. Later processes ask the first one to show itself and then end. A
+/// process that owns the profile but does not respond within two seconds is treated as ended.
 class SingleInstance : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `profile` tells profiles apart; any text. The clock outlives it.
+    /// `profile` identifies the profile; any text. The clock must outlive this object.
     SingleInstance(const QString &profile, Clock &clock);
 
-    /// Finds out which process this is; one of the two signals below comes, now or soon.
+    /// Determines which process this is. One of the signals `isFirst` and `isSecond` follows, possibly before this
+    /// returns.
     void start();
 
 Q_SIGNALS:
-    /// This is the first process of the profile, or the other does not answer.
+    /// This is the first process of the profile, or the other process does not respond.
     void isFirst();
-    /// Another process runs, and was asked to show itself.
+    /// Another process is running and was asked to show itself.
     void isSecond();
-    /// Another process came and asks this one to show itself; `token` is what the desktop wants to see for a window to
-    /// come forward, and may be empty.
+    /// Another process asked this one to show itself. `token` is the activation token that the desktop requires to
+    /// bring a window to the front; it may be empty.
     void asked(const QByteArray &token);
 
 private:

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Holds its session while the request is under way.
+/// The coroutine keeps its session alive while the request runs.
 QCoro::Task<ImageAnswer> fetched(std::shared_ptr<HttpSession> session, HttpRequest request)
 {
     const HttpAnswer answer = co_await session->send(std::move(request));

@@ -6,16 +6,16 @@
 
 #include <memory>
 
-/// Fetches the pictures of people for an image loader, with the credentials of the site that was signed in to last for
-/// pictures of that site, and without any for all others.
+/// Fetches the users' pictures for an image loader. Uses the credentials of the latest session for pictures of its
+/// site, and no credentials for all other addresses.
 class SiteImages final : public ImageFetcher
 {
 public:
-    /// Both outlive this object.
+    /// Both arguments must outlive this object.
     SiteImages(ImageLoader &loader, Clock &clock);
     ~SiteImages() override;
 
-    /// A session on a site begins.
+    /// Sets the credentials of the session that has just begun.
     void showCredentials(const JiraCredentials &credentials);
 
     QCoro::Task<ImageAnswer> fetch(ImageRequest request) override;
@@ -23,7 +23,7 @@ public:
 private:
     ImageLoader &m_loader;
     Clock &m_clock;
-    // Made when first wanted: a program without pictures has no threads for them.
+    // Created when first needed, so that a program without pictures has no threads for them.
     std::shared_ptr<HttpSession> m_site;
     std::shared_ptr<HttpSession> m_elsewhere;
     Identity m_identity;

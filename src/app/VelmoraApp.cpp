@@ -72,7 +72,7 @@ void VelmoraApp::quit()
     spawn(quitAfter(m_sessions.settled()));
 }
 
-/// The system's store of secrets may ask the user something, for which the window stands first.
+/// The window is shown first, because the system's store for secrets may ask the user something.
 void VelmoraApp::bootstrap()
 {
     if (m_store.startsWithDemo())

@@ -8,18 +8,16 @@
 
 #include <QQmlEngine>
 
-/// The application object: owns the one store and what the store stands on, for the life of the process, and opens the
-/// windows that show it.
+/// The application object. Owns the store and its services for the lifetime of the process, and opens the windows.
 class VelmoraApp
 {
 public:
     explicit VelmoraApp(Outside outside = Outside::system());
 
-    /// Opens the main window and brings the session to its first phase; false when the window's description cannot be
-    /// loaded.
+    /// Opens the main window and starts the session; false if the QML of the window cannot be loaded.
     bool open();
-    /// Ends the process. A token that is being deleted has a few seconds for it, so that nobody who signed out is found
-    /// signed in at the next start.
+    /// Ends the process. It waits a few seconds for the deletion of a token in progress, so that a user who has signed
+    /// out is not signed in at the next start.
     void quit();
 
     AppStore &store() { return m_store; }
@@ -36,7 +34,7 @@ private:
     SiteImages m_images;
     JiraSessions m_sessions;
     AppStore m_store;
-    // After the store, so that the screens go before what they show.
+    // Declared after the store, so that the screens are destroyed before the data that they display.
     QQmlEngine m_engine;
     Scenes m_scenes;
     AppDelegate m_delegate;

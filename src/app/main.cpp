@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Lets the windows that follow come forward in the name of what the desktop knows by this token.
+/// Passes the desktop's activation token to the next window, so that the desktop brings it to the front.
 void takeToken(const QByteArray &token)
 {
     if (!token.isEmpty())
@@ -27,7 +27,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setDesktopFileName(QStringLiteral("fr.orvantis.Velmora"));
     const QApplication application(argc, argv);
-    // The delegate decides.
+    // `AppDelegate` decides when the process ends.
     QApplication::setQuitOnLastWindowClosed(false);
 
     SystemClock clock;
