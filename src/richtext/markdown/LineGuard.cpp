@@ -49,7 +49,7 @@ void appendTildes(QByteArray &result, qsizetype count)
     result.append(count, tilde.plain);
 }
 
-/// Appends the encoded form of a line. The byte after a backslash is not counted in a sequence.
+/// Appends the encoded form of a line. A "~" after a backslash is copied and does not count as part of a sequence.
 void appendMarkup(QByteArray &result, const QByteArray &line)
 {
     for (qsizetype i = 0; i < line.size(); ++i) {
