@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The stored texts in the order of the cases; each is checked to lead back to its case.
+/// The stored texts in the order of the cases. Each is also checked to convert back to its case.
 template <typename E>
 QStringList storedTexts()
 {

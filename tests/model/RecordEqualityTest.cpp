@@ -22,7 +22,7 @@ Issue sampleIssue()
     return issue;
 }
 
-/// A copy of the sample with one thing changed.
+/// A copy of the sample with one change.
 template <typename Change>
 Issue changed(Change change)
 {

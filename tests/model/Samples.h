@@ -4,7 +4,7 @@
 
 #include <QDateTime>
 
-/// Records that several tests of the model need.
+/// Sample records that several tests of the model use.
 namespace Samples {
 
 UserCalendar paris();

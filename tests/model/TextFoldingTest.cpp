@@ -118,7 +118,7 @@ TEST(StableHash, MultipliesBy33AndAddsEachScalar)
 {
     EXPECT_EQ(stableHash(u"a"), 5381 * 33 + 97);
     EXPECT_EQ(stableHash(u"ab"), (5381 * 33 + 97) * 33 + 98);
-    // One scalar, though two code units.
+    // One Unicode scalar value, encoded as two code units.
     EXPECT_EQ(stableHash(u"🦊"), 5381 * 33 + 0x1F98A);
 }
 
@@ -128,7 +128,7 @@ TEST(StableHash, WrapsAt64BitsBeforeTheRemainder)
     for (int i = 0; i < 40; ++i)
         hash = hash * 33 + u'z';
     EXPECT_EQ(stableHash(QString(40, u'z')), int(hash % 2147483647));
-    // Reckoned apart from this program, with arbitrary precision.
+    // Computed independently of this program, with arbitrary-precision arithmetic.
     EXPECT_EQ(stableHash(u"The quick brown fox jumps over the lazy dog"), 577812157);
 }
 

@@ -19,7 +19,7 @@ TEST(UserCalendar, OfASystemWithALanguageIsTheSystems)
 
 TEST(UserCalendar, OfTheSystemSpeaksFrenchUnderTheseTests)
 {
-    // The tests run without a language and once more in French.
+    // The tests run twice: in a locale without a language, and in French.
     const UserCalendar calendar = UserCalendar::system();
     EXPECT_EQ(calendar.locale.language(), QLocale::French);
     EXPECT_EQ(calendar.locale.firstDayOfWeek(), Qt::Monday);

@@ -27,7 +27,7 @@ Issue sampleIssue()
     return issue;
 }
 
-/// An object of QML that reads the records through properties of their own types.
+/// A QML object that reads the records through properties of their own types.
 class ModelTypes : public testing::Test
 {
 protected:
