@@ -11,11 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A search whose steps the test drives.
+/// A search whose operations the test completes itself.
 class LatestTaskTest : public testing::Test
 {
 protected:
-    /// Starts an operation that ends with the promise; its stop token is kept.
+    /// Starts an operation that ends with the promise, and stores its stop token.
     void start(const Promise<int> &promise)
     {
         task->start(

@@ -32,7 +32,7 @@ TEST(OffThread, BringsAFailureBack)
     EXPECT_THROW(result.value(), Failure);
 }
 
-/// Tells on which thread it is destroyed.
+/// Records on which thread it is destroyed.
 struct Witness
 {
     ~Witness() { *endedOn = QThread::currentThread(); }

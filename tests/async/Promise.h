@@ -9,12 +9,12 @@
 #include <utility>
 #include <variant>
 
-/// A task that ends when the test says so. Copies stand for the same task.
+/// A task that the test completes. Copies refer to the same task.
 template <typename T>
 class Promise
 {
 public:
-    /// The task. At most one waiter.
+    /// The task. At most one coroutine may wait for it.
     QCoro::Task<T> task() const { return wait(m_state); }
 
     void succeed(T value) const

@@ -16,7 +16,7 @@ QCoro::Task<> store(Promise<int> promise, std::shared_ptr<int> target)
     *target = co_await promise.task();
 }
 
-/// What the program says on stderr when a spawned task ends with the error.
+/// The output on stderr when a spawned task ends with the error.
 template <typename E>
 std::string reportOf(E error)
 {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Takes turns as tasks do, and keeps who is under way.
+/// Tasks that take turns, and a record of those that are running.
 struct Visitors
 {
     explicit Visitors(int limit) : turns(std::make_unique<Turns>(limit)) {}

@@ -15,7 +15,7 @@ QCoro::Task<> withoutValue(Promise<int> promise)
     co_await promise.task();
 }
 
-/// An owner, a task that it awaits, and what became of it.
+/// An owner, a task that it awaits, and the outcome of the wait.
 struct Waiting
 {
     std::unique_ptr<QObject> owner = std::make_unique<QObject>();
