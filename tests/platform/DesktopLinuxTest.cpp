@@ -30,7 +30,7 @@ protected:
     }
     void TearDown() override { qunsetenv("GTK_THEME"); }
 
-    /// A desktop whose three questions the portal has been asked; the answers may still be under way.
+    /// A desktop that has sent its three queries to the portal; it may not have received the responses yet.
     std::unique_ptr<DesktopLinux> askingDesktop()
     {
         auto desktop = std::make_unique<DesktopLinux>(bus.connection(u"client"_s));

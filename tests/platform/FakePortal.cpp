@@ -31,6 +31,6 @@ QDBusVariant FakePortal::Read(const QString &group, const QString &key)
                        u"Requested setting not found"_s);
         return {};
     }
-    // A real portal wraps what it reads twice.
+    // A real portal wraps the result of a read in two variants.
     return QDBusVariant(QVariant::fromValue(QDBusVariant(found->second)));
 }

@@ -9,7 +9,7 @@
 
 #include <map>
 
-/// The settings of a desktop portal, as a test sets them. A read of any other setting fails.
+/// The settings of a desktop portal, with values set by a test. Reading any other setting fails.
 class FakePortal : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ class FakePortal : public QObject, protected QDBusContext
 public:
     explicit FakePortal(QDBusConnection bus);
 
-    /// What a read gives.
+    /// Sets the value that a read returns.
     void set(const QString &group, const QString &key, const QVariant &value);
-    /// Sets it and tells listeners.
+    /// Sets the value and notifies listeners.
     void change(const QString &group, const QString &key, const QVariant &value);
     int reads() const { return m_reads; }
 

@@ -45,7 +45,7 @@ void FakePrompter::StopPrompting(const QDBusObjectPath &callback)
 
 void FakePrompter::answer(const QDBusObjectPath &callback, const QString &reply)
 {
-    // The keyring wants its own call answered before it is called back.
+    // The keyring expects the reply to its own call before it is called back.
     setDelayedReply(true);
     m_bus.send(message().createReply());
     auto call = QDBusMessage::createMethodCall(message().service(), callback.path(), Callback,

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QVariantMap>
 
-/// The desktop's own dialog for keyrings, with a user in front of it who turns every question down, or who is not there.
+/// The desktop's dialog for keyrings, with a simulated user who refuses every question or does not respond.
 class FakePrompter : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     FakePrompter(QDBusConnection bus, User user);
     ~FakePrompter() override;
 
-    /// How many questions were shown.
+    /// The number of questions that were displayed.
     int asked() const { return m_asked; }
 
     Q_SCRIPTABLE void BeginPrompting(const QDBusObjectPath &callback);

@@ -18,14 +18,14 @@ namespace {
 const auto Site = u"https://exemple.atlassian.net"_s;
 const auto OtherSite = u"https://jira.exemple.fr"_s;
 
-/// One for all tests: GLib holds on to its connection for longer than a test.
+/// Shared by all tests, because GLib keeps its connection to the bus for longer than one test.
 PrivateBus &sharedBus()
 {
     static PrivateBus bus;
     return bus;
 }
 
-/// A keychain whose desktop lives on a private bus, and a clock that stands still.
+/// A keychain on a private bus, with a clock that does not advance by itself.
 class KeychainLinuxTest : public testing::Test
 {
 protected:
@@ -48,7 +48,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([&] { return result.isDone(); }));
         return result.isDone() ? result.value() : Keychain::Failed{0, u"no answer"_s};
     }
-    /// What the user reads when the save fails; nothing when it does not.
+    /// The text for the user if the save fails; nothing if it succeeds.
     QString save(const QString &token, const QString &account = Site)
     {
         const TaskResult<void> result(keychain->save(token, account));
@@ -276,7 +276,7 @@ TEST_F(KeychainLinuxTest, whatWaitsWhenTheKeychainGoesIsCalledOff)
     EXPECT_EQ(clock.pending(), 0);
 }
 
-/// In a process of its own: reads, has the bus end in the middle of a second read, and reads once more.
+/// Runs in a separate process: reads, stops the bus during a second read, and reads again.
 [[noreturn]] void outliveTheBus()
 {
     auto bus = std::make_unique<PrivateBus>();

@@ -32,7 +32,7 @@ KeyringDaemon::KeyringDaemon(PrivateBus &bus, const QString &folder)
                    {u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s});
     m_daemon.write("un mot de passe");
     m_daemon.closeWriteChannel();
-    // Whether it runs is for the test to ask.
+    // The test itself checks whether the daemon runs.
     std::ignore = QTest::qWaitFor(
         [this] { return isRunning() || m_daemon.state() == QProcess::NotRunning; }, 10000);
 }

@@ -4,12 +4,12 @@
 
 #include <QProcess>
 
-/// The real keyring of the GNOME desktop on a bus of the test's own, with its files in the given folder, where they
-/// outlive this object.
+/// The real GNOME keyring daemon on a bus of the test. Its files are in the given folder and are not deleted with this
+/// object.
 class KeyringDaemon
 {
 public:
-    /// Starts the daemon with its keyring unlocked (and made, the first time).
+    /// Starts the daemon with its keyring unlocked. The keyring is created if it does not exist.
     KeyringDaemon(PrivateBus &bus, const QString &folder);
     ~KeyringDaemon();
     KeyringDaemon(const KeyringDaemon &) = delete;
@@ -18,7 +18,7 @@ public:
     bool isRunning();
     /// Locks every collection.
     void lock();
-    /// Label and secret's attributes of each item, through the service's own interface.
+    /// The label and the attributes of each item, read through the service's own interface.
     QStringList labels();
     QList<QMap<QString, QString>> attributes();
 

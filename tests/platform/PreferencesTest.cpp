@@ -133,7 +133,7 @@ TEST_F(PreferencesTest, aValueThatTheFormatCannotReadIsAbsentAndTheOthersStand)
 
 TEST_F(PreferencesTest, anUnwritablePlaceKeepsTheValueForTheRun)
 {
-    // A folder that is a file cannot be written, whoever runs the test.
+    // A file in place of the folder makes writing fail for every user, including root.
     writeFile("a file");
     Preferences preferences(path + u"/folder/Velmora.ini"_s);
     preferences.setText(u"layout"_s, u"board"_s);

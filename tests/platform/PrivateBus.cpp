@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A session bus without folders of services.
+/// The configuration of a session bus without folders for services.
 const auto Config =
     uR"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">

@@ -4,8 +4,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-/// A message bus of the test's own, gone with this object. Nothing is on it but what the test puts there: no service of
-/// the machine is started by it.
+/// A message bus of the test, which ends with this object. It has only the services that the test registers; it starts
+/// none of the machine's services.
 class PrivateBus
 {
 public:
@@ -16,7 +16,7 @@ public:
 
     bool isRunning() const { return !m_address.isEmpty(); }
     const QString &address() const { return m_address; }
-    /// A new connection under the given name.
+    /// A new connection with the given name.
     QDBusConnection connection(const QString &name);
 
 private:

@@ -5,7 +5,7 @@
 #include <QDBusVariant>
 #include <QObject>
 
-/// Holds the name of the store of secrets and never answers.
+/// Owns the bus name of the store for secrets and never responds.
 class SilentService : public QObject, protected QDBusContext
 {
     Q_OBJECT
