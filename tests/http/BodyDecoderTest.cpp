@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The body unpacked, fed in pieces of so many bytes; nothing when it is damaged or not whole.
+/// The decompressed body, fed in pieces of the given number of bytes; nothing if it is damaged or incomplete.
 std::optional<QByteArray> unpacked(const QByteArray &body, const QByteArray &coding,
                                    qsizetype piece)
 {

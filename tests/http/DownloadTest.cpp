@@ -91,7 +91,7 @@ TEST_F(DownloadTest, OnlyTheLastAnswerOfARedirectIsStored)
     server.answerNext(RawAnswer::http(200, "content"));
     const HttpAnswer answer = answerTo(download());
     EXPECT_EQ(answer.file->size(), 7);
-    // A file gets its name when it is asked for.
+    // The temporary file gets its name when the name is requested.
     const QString name = QFileInfo(answer.file->fileName()).fileName();
     EXPECT_EQ(files(), QStringList{name});
 }

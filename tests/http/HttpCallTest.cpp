@@ -16,7 +16,7 @@ QCoro::Task<HttpAnswer> answerOf(std::shared_ptr<HttpCall> call, std::stop_token
     co_return co_await call->answer(std::move(stop));
 }
 
-/// A call whose exchange says what the test lets it say.
+/// A call whose exchange emits signals when the test tells it to.
 class HttpCallTest : public testing::Test
 {
 protected:

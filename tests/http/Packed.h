@@ -2,5 +2,5 @@
 
 #include <QByteArray>
 
-/// The bytes as a server sends them with `Content-Encoding: gzip`.
+/// The bytes compressed as a server sends them with `Content-Encoding: gzip`.
 QByteArray packed(const QByteArray &bytes);

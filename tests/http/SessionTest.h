@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-/// A session with an identity of the server that each test scripts.
+/// A session with the identity for a server that each test scripts.
 class SessionTest : public testing::Test
 {
 protected:
@@ -21,7 +21,7 @@ protected:
         open();
     }
 
-    /// A new session, which has no connection yet.
+    /// Creates a new session, which has no connections yet.
     void open() { session.emplace(Identity{Origin::of(server.url()), Secret}, clock); }
 
     HttpRequest request(const char *path, const QByteArray &verb = "GET") const
@@ -38,7 +38,7 @@ protected:
         return result;
     }
 
-    /// The outcome of a request, waited for.
+    /// Waits for the response to a request and returns it.
     HttpAnswer answerTo(const HttpRequest &sent)
     {
         const TaskResult<HttpAnswer> result(session->send(sent));

@@ -12,7 +12,7 @@ struct Write
     Ending ending;
 };
 
-/// A write must never reach the server twice, whatever becomes of its connection.
+/// A write must reach the server at most once, whatever happens to its connection.
 class WriteOnce : public SessionTest, public testing::WithParamInterface<Write>
 {
 protected:
@@ -33,7 +33,7 @@ TEST_P(WriteOnce, WhenItsConnectionBreaksBeforeTheAnswer)
 {
     server.answer(RawAnswer::nothing(GetParam().ending));
     EXPECT_EQ(failureOf(sent()), Kind::ConnectionLost);
-    // Another request shows that nothing else was on its way.
+    // A further request shows that no other request was still pending.
     server.answer(RawAnswer::json("{}"));
     answerTo(request("/read"));
     EXPECT_EQ(arrivals(), 1);
@@ -79,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(Writes, WriteOnce,
                                          Write{"DELETE", "", Ending::Close},
                                          Write{"DELETE", "", Ending::Reset}));
 
-/// The connections of reads that the server has closed meanwhile do not spoil a write.
+/// A write must succeed even if the server has closed the connections that reads left open.
 TEST_F(SessionTest, AWriteGoesThroughThoughEveryOpenConnectionIsDead)
 {
     server.answer(RawAnswer::json("{}"));
@@ -89,7 +89,8 @@ TEST_F(SessionTest, AWriteGoesThroughThoughEveryOpenConnectionIsDead)
     EXPECT_EQ(server.journal().size(), 2);
 }
 
-/// The danger that all this guards against: what the network stack does by itself with a body that it can read again.
+/// Documents the behaviour that the other tests protect against: the network stack itself repeats a request whose body
+/// it can read again.
 TEST_F(SessionTest, AReadMayBeSentAgainWhenItsConnectionIsDead)
 {
     server.answer(RawAnswer::json("{}"));
