@@ -57,7 +57,7 @@ TEST(AttachmentCache, ANameOfAFolderIsNoName)
 TEST(AttachmentCache, WhatCannotBeSeenIsADash)
 {
     EXPECT_EQ(nameOf(QString(u"a"_s + QChar(0) + u"\n\x7F"_s + u"b"_s)), u"a---b"_s);
-    // The mark that shows "fdp.exe" as "exe.pdf".
+    // The right-to-left override, which makes "fdp.exe" appear as "exe.pdf".
     EXPECT_EQ(nameOf(u"\u202Efdp.exe"_s), u"-fdp.exe"_s);
 }
 

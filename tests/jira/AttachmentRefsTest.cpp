@@ -108,7 +108,7 @@ TEST_P(HostileHTML, TakesLinearTime)
         const double once = secondsFor(unit.repeated(size / unit.size()));
         return secondsFor(unit.repeated(4 * size / unit.size())) / std::max(once, 0.0005);
     };
-    // Four times the text takes four times as long in linear work and sixteen times in quadratic work.
+    // For a text four times as long, a linear algorithm takes 4 times the time and a quadratic one 16 times.
     EXPECT_TRUE(ratio() < 9 || ratio() < 9 || ratio() < 9);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using ClientReads = ClientTest;
 
-/// One page of a site with so many projects.
+/// A page of a site with `total` projects.
 RawAnswer projectPage(const RawRequest &request, int total)
 {
     const QUrlQuery query(QUrl::fromEncoded(request.target));

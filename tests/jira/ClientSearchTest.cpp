@@ -193,7 +193,7 @@ TEST_F(ClientSearch, AStopWhileAKeyIsTriedSearchesNothing)
     EXPECT_EQ(asked().size(), 1);
 }
 
-/// The clock stands in the week from 26 October, midnight in Paris.
+/// The current time of the test is in the week that begins on 26 October, at midnight in Paris.
 RawAnswer recapPage()
 {
     const auto issue = [](const QByteArray &key, const QByteArray &date) {

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-/// A client of a site that each test scripts.
+/// A client for a site whose responses each test scripts.
 class ClientTest : public testing::Test
 {
 protected:
@@ -28,7 +28,7 @@ protected:
             cache.filePath(QStringLiteral("attachments")));
     }
 
-    /// The result of an operation, waited for; throws what it failed with.
+    /// Waits for the result of an operation and returns it; throws its failure.
     template <typename T>
     static T resultOf(QCoro::Task<T> task)
     {
@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(runUntil([&] { return result.isDone(); })) << "the operation never ended";
         return result.value();
     }
-    /// What the user reads of a failure; empty when there was none.
+    /// The text that the user reads if the operation fails; empty if it succeeds.
     template <typename T>
     static QString failureOf(QCoro::Task<T> task)
     {
@@ -47,7 +47,7 @@ protected:
         }
         return {};
     }
-    /// The requests so far, each as "GET /path?query".
+    /// The requests received so far, each as "GET /path?query".
     QStringList asked() const
     {
         QStringList requests;

@@ -20,7 +20,8 @@ protected:
         file.write(content);
         return QUrl::fromLocalFile(file.fileName());
     }
-    /// However late the bytes come that were sent before.
+    /// Advances the clock until the operation ends. It may take several steps, because bytes that the server sent
+    /// earlier can arrive late and restart the time limit.
     bool endsByTime(const auto &result)
     {
         return runUntil([&] {
@@ -37,7 +38,7 @@ protected:
         result.contentURL = server.url().resolved(QUrl(u"/rest/api/3/attachment/content/10"_s));
         return result;
     }
-    /// Every file in the cache, below its folder.
+    /// The paths of all files in the cache, relative to its folder.
     QStringList cached() const
     {
         const QDir folder(cache.filePath(u"attachments"_s));
@@ -284,7 +285,7 @@ TEST_F(ClientTransfers, AFileCutShortIsNotKept)
     server.answer(RawAnswer::http(200, "%PDF-1.7").cut(3, Ending::Close));
     EXPECT_EQ(failureOf(client->download(attachment())),
               TransportError(TransportError::Kind::ConnectionLost).message());
-    // Nobody announced how long this one is, but for the attachment itself.
+    // The server does not announce the length of this file, but the attachment's record contains it.
     server.answer(RawAnswer{"HTTP/1.1 200 OK\r\n\r\n%PDF-", Ending::Close});
     Attachment longer = attachment();
     longer.size = 8;

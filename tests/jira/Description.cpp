@@ -24,7 +24,7 @@ QString shown(const QString &text)
     return text.isEmpty() ? u"(empty)"_s : text;
 }
 
-/// Adds "  name: value" when there is a value.
+/// Adds the line "  name: value" if there is a value.
 template <typename T>
 void add(QStringList &lines, const QString &name, const std::optional<T> &value)
 {

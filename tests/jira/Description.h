@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Records as lines of text, one line for each field that says something, so that case files can tell them.
+/// Describes records as text for case files, with one line for each field that has a value.
 namespace Description {
 
 QString of(const JiraUser &user);

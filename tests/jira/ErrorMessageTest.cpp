@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the user reads after a failed answer.
+/// The text that the user reads after an error response.
 QString shown(int status, const QByteArray &body)
 {
     return JiraError(JiraError::Http{status, errorMessage(body)}).message();

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The address of the site that someone typed, or "absent".
+/// The normalized address of a site from the given input, or "absent".
 QString normalized(const QString &text)
 {
     const auto site = JiraCredentials::normalizeSite(text);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where a redirect leads, seen from the site.
+/// The target of a redirect, relative to the site.
 enum class Target { SameHost, OtherPort, SubDomain, OtherHost, HttpsToHttp, Loop };
 enum class Asked { Get, Post, Upload, Download };
 
@@ -22,8 +22,8 @@ struct Case
     Asked asked = Asked::Get;
 };
 
-/// A site of the tests may have any name: requests to it go over a proxy, which is the test's server. It answers as
-/// every host there is, and its journal has whole addresses.
+/// Lets a test use a site with any host name: requests are sent through a proxy, which is the test's server. The server
+/// responds for every host, and its journal contains complete addresses.
 class Proxied
 {
 public:
@@ -58,7 +58,7 @@ protected:
         return GetParam().target == Target::HttpsToHttp ? secure.url()
                                                         : QUrl(u"http://jira.exemple.fr"_s);
     }
-    /// Where the redirect leads; the loop comes back to where it began.
+    /// The address that the redirect leads to. In a loop, it is the address of the first request.
     QByteArray there() const
     {
         switch (GetParam().target) {
@@ -96,7 +96,7 @@ protected:
         return {};
     }
 
-    /// What the user reads of the outcome.
+    /// The text that the user reads after the request.
     QString ask()
     {
         switch (GetParam().asked) {

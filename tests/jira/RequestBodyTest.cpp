@@ -14,7 +14,7 @@ ADFNode document()
     return ADF::document({ADF::container(u"paragraph", {ADF::text(u"été"_s)})});
 }
 
-/// `document()` as it stands within a body, whose members go by name.
+/// `document()` as part of a body, with its members sorted by name.
 const QByteArray DocumentJSON =
     R"({"content":[{"content":[{"text":"été","type":"text"}],"type":"paragraph"}],)"
     R"("type":"doc","version":1})";

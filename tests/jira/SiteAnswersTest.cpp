@@ -14,7 +14,7 @@ ProjectSearchDTO page(qsizetype projects, std::optional<bool> isLast)
     return result;
 }
 
-/// Where the pages of a site start that has so many projects and gives them by 100.
+/// The start indexes of the pages of a site with the given number of projects, which returns 100 per page.
 QList<qsizetype> pageStarts(qsizetype projects)
 {
     QList<qsizetype> starts;

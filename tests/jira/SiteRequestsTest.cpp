@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Verb, path and query as they go out.
+/// The method, path and query as they are sent.
 std::string sent(const JiraRequest &request)
 {
     const QUrl url = request.url(QUrl(u"https://h.fr"_s)).value_or(QUrl());

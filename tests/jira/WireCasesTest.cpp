@@ -15,13 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The present of every case.
+/// The current time in every case.
 QDateTime now()
 {
     return QDateTime(QDate(2026, 10, 29), QTime(13, 32), Qt::UTC);
 }
 
-/// What the program makes of an answer, or why it can't read it.
+/// The description of the record decoded from a response, or the decoding error.
 template <typename DTO>
 QString outcome(const QString &json, const std::function<QString(const DTO &)> &described)
 {
@@ -89,7 +89,7 @@ QString created(const QString &json)
     return outcome<CreatedIssueDTO>(json, [](const auto &wire) { return wire.key; });
 }
 
-/// How to read the cases of a file; the part of its name before a dash tells.
+/// Decodes a case. The part of the file name before the dash determines the type of the record.
 QString outcomeOf(const Case &value)
 {
     static const QHash<QString, QString (*)(const QString &)> readers = {

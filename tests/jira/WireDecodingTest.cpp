@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Why the bytes are no answer to a search; empty when they are one.
+/// The error when the bytes are decoded as the response to a search; empty if they are valid.
 QString failureOf(const QByteArray &json)
 {
     const auto page = decodeWire<SearchResponseDTO>(json);
@@ -181,7 +181,7 @@ const QByteArray Sample =
     R"("2026-10-01T08:00:00.000+0000","items":[{"field":"Status","toString":"C"}]}]},)"
     R"("renderedFields":{"description":"<img src='/attachment/content/5'>"}}],"isLast":false})";
 
-/// One to four bytes of the sample changed, dropped or repeated.
+/// The sample with one to four bytes changed, removed or repeated.
 QByteArray spoiled(std::mt19937 &random)
 {
     QByteArray json = Sample;

@@ -8,23 +8,23 @@
 #include <optional>
 #include <ostream>
 
-/// One way in which a site or the network to it fails, and what the user then reads.
+/// A fault of a site or of the network, and the text that the user then reads.
 struct Fault
 {
     enum class Place {
-        /// The site answers, with `answer`.
+        /// The site responds with `answer`.
         Answer,
-        /// The site's host has no address.
+        /// The host name of the site cannot be resolved.
         Name,
-        /// Nobody listens at the site's port.
+        /// The site's port refuses connections.
         Port,
-        /// The site shows `certificate`.
+        /// The site uses `certificate`.
         Certificate,
-        /// The site answers with `answer`, and then time goes by without another byte.
+        /// The site responds with `answer` and then sends nothing more until a time limit is exceeded.
         Time,
     };
-    /// What the user reads, by what an operation makes of an answer; nothing where it succeeds all the same. Those that
-    /// are not told are as for an operation that reads its answer.
+    /// The text that the user reads, by how an operation uses the response; nothing where the operation succeeds in
+    /// spite of the fault. An absent member means the same text as `reading`.
     struct Texts
     {
         std::optional<QString> reading;
@@ -47,7 +47,7 @@ inline void PrintTo(const Fault &fault, std::ostream *stream)
     *stream << fault.name;
 }
 
-/// Of connections and of answers that are none.
+/// Faults of connections and malformed responses.
 const QList<Fault> &transportFaults();
-/// Answers by which a site refuses.
+/// Responses with which a site refuses a request.
 const QList<Fault> &refusals();

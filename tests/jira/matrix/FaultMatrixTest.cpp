@@ -21,7 +21,7 @@ namespace {
 const QString token = u"Zr7kQ2token9vXw"_s;
 const QString email = u"camille@lumen.example"_s;
 
-/// One operation on a site that fails in one way.
+/// Runs one operation on a site with one fault.
 class FaultMatrix : public testing::TestWithParam<std::tuple<Operation, Fault>>
 {
 protected:
@@ -46,7 +46,7 @@ protected:
         return fault().place == Fault::Place::Name ? QUrl(u"http://jira.invalid"_s) : server.url();
     }
 
-    /// What the user reads; nothing when the operation succeeds.
+    /// The text that the user should read; nothing if the operation should succeed.
     static std::optional<QString> expected()
     {
         const Fault::Texts &texts = fault().texts;
@@ -67,7 +67,8 @@ protected:
         Q_UNREACHABLE();
     }
 
-    /// Lets the operation end. Where the fault is that nothing comes, time goes by each time the server has been asked.
+    /// Waits until the operation ends. For a fault without a response, the clock is advanced after each request that
+    /// the server receives.
     bool ends(const TaskResult<void> &result)
     {
         if (fault().place != Fault::Place::Time)
@@ -111,7 +112,7 @@ protected:
         cacheFolder()};
 };
 
-/// What a failed operation says; nothing of one that succeeded.
+/// The text of a failed operation; nothing if it succeeded.
 std::optional<QString> failureOf(const TaskResult<void> &result)
 {
     try {
@@ -145,19 +146,19 @@ TEST_P(FaultMatrix, EndsInTheRightWords)
     const std::optional<QString> said = failureOf(result);
     EXPECT_EQ(spoken(said, expected()), spoken(expected()));
 
-    // Whatever became of it, a change has been asked for once at most.
+    // Whatever the outcome is, a change must have been requested at most once.
     const bool isRedirected = fault().answer.bytes.contains("Location:");
     if (operation().effect == Operation::Effect::ChangesSite && !isRedirected)
         EXPECT_LE(server.journal().size(), 1);
     if (operation().kind == Operation::Kind::Local)
         EXPECT_EQ(server.connections(), 0);
-    // A failed download leaves nothing behind.
+    // A failed download must leave no file.
     if (said)
         EXPECT_EQ(filesInCache(), QStringList());
     EXPECT_EQ(Scratch::filesWith(token.toUtf8()), QStringList());
 }
 
-/// Comes after the matrix, because suites with parameters run in the order of this file.
+/// Defined after the matrix, because parameterised suites run in the order of this file.
 class SecretsAfterTheMatrix : public testing::TestWithParam<QByteArray>
 {
 };

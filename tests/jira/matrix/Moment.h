@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 
-/// Lets what a server has sent reach the client's thread before the clock is turned. So short a wait that nothing but the
-/// sharpness of a test depends on it.
+/// Lets data that a server has sent reach the client's thread before the clock is advanced. The wait is short: if it is
+/// not sufficient, a test may miss an error, but it does not fail wrongly.
 inline void letPartsArrive()
 {
     const QDeadlineTimer moment(std::chrono::milliseconds(3));

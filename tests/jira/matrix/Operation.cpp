@@ -7,14 +7,14 @@ namespace {
 using Kind = Operation::Kind;
 using Effect = Operation::Effect;
 
-/// An operation whose result does not matter.
+/// Wraps an operation whose result is not needed.
 template <typename T>
 QCoro::Task<> ended(QCoro::Task<T> task)
 {
     co_await std::move(task);
 }
 
-/// An operation that is over before it can be awaited.
+/// An operation that is complete immediately.
 QCoro::Task<> over()
 {
     co_return;
@@ -118,7 +118,7 @@ QList<Operation> writes()
     };
 }
 
-/// These give the same whatever the network does.
+/// Operations whose result does not depend on the network.
 QList<Operation> locals()
 {
     return {

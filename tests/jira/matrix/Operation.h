@@ -7,19 +7,19 @@
 #include <functional>
 #include <ostream>
 
-/// One of the operations of a client, as a fault meets it.
+/// An operation of the client, as tested with a fault.
 struct Operation
 {
     enum class Kind {
-        /// Goes by what the answer says.
+        /// Uses the contents of the response.
         ReadsAnswer,
-        /// The same, and the answer is a list at its top.
+        /// Uses the contents of the response, which is a JSON array.
         ReadsList,
-        /// Any success will do.
+        /// Only checks that the response has a success status.
         IgnoresAnswer,
         Upload,
         Download,
-        /// Never asks the site.
+        /// Sends no request to the site.
         Local,
     };
     enum class Effect { None, ChangesSite };
@@ -27,7 +27,7 @@ struct Operation
     const char *name;
     Kind kind = Kind::ReadsAnswer;
     Effect effect = Effect::None;
-    /// Starts it on a site whose only file to upload is `file`.
+    /// Starts the operation; `file` is a local file to upload.
     std::function<QCoro::Task<>(JiraClient &client, const QUrl &file)> start;
 };
 
@@ -37,5 +37,5 @@ inline void PrintTo(const Operation &operation, std::ostream *stream)
     *stream << operation.name;
 }
 
-/// Every operation of the contract; those that go several ways, once for each way.
+/// All operations of `IssueService`; an operation with several variants occurs once for each.
 const QList<Operation> &allOperations();

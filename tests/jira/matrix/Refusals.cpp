@@ -17,7 +17,7 @@ RawAnswer withWords(int status)
     return RawAnswer::json("{\"errorMessages\":[\"" + words.toUtf8() + "\"]}", status);
 }
 
-/// A download tells nothing of what the site says, but for who may not.
+/// A refusal for which downloads fail with their own text, whatever the site's message is.
 Fault refusal(const char *name, const RawAnswer &answer, const QString &text)
 {
     return {.name = name, .texts = {.reading = text, .download = noDownload}, .answer = answer};

@@ -4,12 +4,13 @@
 #include <QString>
 #include <QStringList>
 
-/// The folder in which the program of the tests has its profile, its caches and its temporary files.
+/// The folder for the profile, the caches and the temporary files of the test program.
 namespace Scratch {
 
-/// Made on the first call, for the rest of the process; the variables that lead programs there are set to it.
+/// Creates the folder on the first call and sets the environment variables that determine these paths. It exists until
+/// the process ends.
 QString folder();
-/// The files below the folder, in whatever way they are hidden, that hold the bytes.
+/// The files below the folder, including hidden ones, that contain the bytes.
 QStringList filesWith(const QByteArray &bytes);
 
 } // namespace Scratch

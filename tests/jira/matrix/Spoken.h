@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-/// A text as people read it, "(success)" when there is none. What is expected may end with an ellipsis; then as much of
-/// the text is as good as all.
+/// The text for comparison, or "(success)" if there is none. If the expected text ends with an ellipsis, only the part
+/// before it is compared.
 inline std::string spoken(const std::optional<QString> &text,
                           const std::optional<QString> &beginning = std::nullopt)
 {

@@ -7,7 +7,7 @@ namespace {
 using Kind = Operation::Kind;
 using Outcome = StoreAction::Outcome;
 
-/// An edit that nobody awaits.
+/// An edit that has no task to await.
 QCoro::Task<> over()
 {
     co_return;
@@ -19,7 +19,7 @@ QCoro::Task<> ended(QCoro::Task<T> task)
     co_await std::move(task);
 }
 
-/// A status that the issue is not in and that its workflow leads to.
+/// A status that a transition of the issue leads to and that is not its current one.
 IssueStatus otherStatus(const AppStore &store, const QString &key)
 {
     const QString present = (*store.issue(key))->status.id();

@@ -7,13 +7,13 @@
 #include <functional>
 #include <ostream>
 
-/// Something that a person does, and the request of it that meets a fault.
+/// A user action, and the operation in it that fails with a fault.
 struct StoreAction
 {
     const char *name;
     SiteOperation operation = SiteOperation::Myself;
     Operation::Kind kind = Operation::Kind::IgnoresAnswer;
-    /// Whether its failure is told in a toast; what only refreshes fails in silence or tells elsewhere.
+    /// Whether a failure is displayed in a toast. Refreshes fail silently or display their failure elsewhere.
     enum class Outcome { Told, Silent } outcome = Outcome::Told;
     std::function<QCoro::Task<>(AppStore &store, const QString &key)> start;
 };

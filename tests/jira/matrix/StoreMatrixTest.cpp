@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// As far as it is shown: the records of lists have no documents, but an edit that comes back puts one into every copy.
+/// The issues as displayed: the records of lists have no description, but a reverted edit stores one in every copy.
 IssueList shown(const IssueList &issues)
 {
     IssueList result;
@@ -41,7 +41,7 @@ QHash<IssueScope, IssueList> shown(QHash<IssueScope, IssueList> scopes)
     return scopes;
 }
 
-/// All that a session knows of the site.
+/// All data of the site that a session holds.
 struct Known
 {
     explicit Known(const AppStore &store)
@@ -64,7 +64,7 @@ struct Known
     bool operator==(const Known &) const = default;
 };
 
-/// What a fault of an answer does to what a person does, in a whole session on a whole site.
+/// The effect of a faulty response on a user action, in a complete session on a simulated site.
 class StoreMatrix : public testing::TestWithParam<std::tuple<StoreAction, Fault>>
 {
 protected:
@@ -79,7 +79,7 @@ protected:
         ASSERT_FALSE(store->transitions().value(key).isEmpty());
     }
 
-    /// What is under way goes on without the store; it ends before the clock does.
+    /// Running operations continue without the store. They are completed here, before the clock is destroyed.
     void TearDown() override
     {
         store.reset();
@@ -89,7 +89,7 @@ protected:
     static const StoreAction &action() { return std::get<StoreAction>(GetParam()); }
     static const Fault &fault() { return std::get<Fault>(GetParam()); }
 
-    /// What the user reads; nothing when the answer is good enough.
+    /// The text that the user should read; nothing if the response is sufficient for the action.
     static std::optional<QString> expected()
     {
         return action().kind == Operation::Kind::IgnoresAnswer
@@ -136,8 +136,8 @@ protected:
     QString key;
 };
 
-/// The faults of one answer in a session which has begun. Those of certificates and names keep one from beginning, and
-/// a loop of redirects leads away from the operation.
+/// The faults that can affect a single response within a running session. Faults of certificates and names prevent a
+/// session from starting, and a loop of redirects leaves the tested operation.
 QList<Fault> laterFaults()
 {
     QList<Fault> faults = transportFaults() + refusals();

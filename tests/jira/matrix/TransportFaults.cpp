@@ -18,7 +18,7 @@ QString unreadable(const QString &detail)
     return u"Réponse Jira illisible : "_s + detail;
 }
 
-/// An answer that no operation can do anything with, but whose form is right.
+/// A well-formed response with contents that no operation can use.
 RawAnswer plain()
 {
     return RawAnswer::json(R"({"errorMessages":[],"values":[],"comments":[]})");
@@ -63,7 +63,7 @@ RawAnswer withHeader(const QByteArray &name, const QByteArray &value, const QByt
     return RawAnswer::http(200, body, {{"Content-Type", "application/json"}, {name, value}});
 }
 
-/// What is no JSON, or another than expected; where the answer is not read, it is as good as any.
+/// Responses that are not JSON or not the expected JSON. Operations that ignore the contents succeed with them.
 QList<Fault> brokenAnswers()
 {
     return {

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whatever is typed, the site takes the document that it becomes.
+/// The site must accept the document made from any typed text.
 class SentDocuments : public testing::TestWithParam<Case>
 {
 };

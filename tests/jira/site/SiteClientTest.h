@@ -12,7 +12,7 @@
 #include <gtest/gtest.h>
 #include <ostream>
 
-/// How a client reaches the site and who it says it is.
+/// How a client connects to the site and how it authenticates.
 struct Road
 {
     const char *name;
@@ -25,12 +25,12 @@ inline void PrintTo(const Road &road, std::ostream *stream)
     *stream << road.name;
 }
 
-/// A client on a whole simulated site: what it sends is what the site takes, what the site sends is what it reads. Over
-/// TCP with e-mail and token, and over TLS with a personal token.
+/// Tests a client with the simulated site, which checks what the client sends and provides realistic responses. Runs
+/// over TCP with e-mail and token, and over TLS with a personal token.
 class SiteClientTest : public testing::TestWithParam<Road>
 {
 protected:
-    /// The result of an operation, waited for; throws what it failed with.
+    /// Waits for the result of an operation and returns it; throws its failure.
     template <typename T>
     static T resultOf(QCoro::Task<T> task)
     {
@@ -39,7 +39,7 @@ protected:
         return result.value();
     }
 
-    /// The keys of issues, in their order.
+    /// The keys of the issues, in the same order.
     static QStringList keysOf(const IssueList &issues)
     {
         QStringList keys;
@@ -47,7 +47,7 @@ protected:
             keys += issue->key;
         return keys;
     }
-    /// The keys of the site's issues that fit, in no order that matters.
+    /// The keys of all issues of the site for which `fits` is true.
     template <typename Fits>
     QSet<QString> siteKeys(Fits fits)
     {
@@ -60,7 +60,7 @@ protected:
     }
     QString categoryOf(const SiteIssue &issue) { return simulated.site().statusOf(issue).category; }
     const SiteIssue &stored(const QString &key) { return *simulated.site().issue(key); }
-    /// An issue of a project that fits.
+    /// The key of an issue for which `fits` is true.
     template <typename Fits>
     QString keyWhere(Fits fits)
     {

@@ -61,7 +61,7 @@ TEST_P(SiteClientTest, ReadsThePeopleWhoCanTakeAnIssue)
     for (const QString &absent :
          {u"Automation for Jira"_s, u"Cliente du portail"_s, u"Paul Ancien"_s})
         EXPECT_FALSE(names.contains(absent));
-    // By the rules of the locale: accents do not send a name to the end.
+    // In the order of the locale, names with accents do not come last.
     EXPECT_LT(names.indexOf(u"Étienne Garnier"_s), names.indexOf(u"Hugo Lefèvre"_s));
 }
 

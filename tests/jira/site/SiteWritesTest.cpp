@@ -119,7 +119,7 @@ TEST_P(SiteClientTest, FilesGoUpAndComeBackWithoutCredentialsLeavingTheSite)
     QFile local(resultOf(client.download(sent[0])).toLocalFile());
     ASSERT_TRUE(local.open(QIODevice::ReadOnly));
     EXPECT_EQ(local.readAll(), content);
-    // The place of the files refuses whoever brings credentials; and it was asked.
+    // The file server rejects requests with credentials; it must have received exactly one request.
     ASSERT_EQ(simulated.files().journal().size(), 1);
     EXPECT_TRUE(simulated.files().journal().first().header("Authorization").isNull());
     EXPECT_TRUE(resultOf(client.download(sent[1])).isLocalFile());
