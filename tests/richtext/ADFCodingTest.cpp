@@ -200,7 +200,7 @@ TEST(ADFCoding, NodeThatNestsTooDeeplyIsNullAsAValue)
 
 TEST(ADFCoding, DocumentAsDeepAsTheDecoderAdmitsGoesRoundAsAValue)
 {
-    // A node's children stand in an array of their own, so a node counts twice as a value.
+    // The children of a node are in an array, so each node takes two levels as a value.
     const ADFNode node =
         ADFCoding::decodeNode(nestedNodes(ADFCoding::maximumDepth / 2 - 1)).value();
     EXPECT_NE(ADFCoding::jsonValueFrom(node), JSONValue());

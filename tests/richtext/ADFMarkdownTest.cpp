@@ -97,7 +97,7 @@ QString staircase(int steps)
 
 TEST(ADFMarkdown, ListsNestToTheLimit)
 {
-    // The document, a list and an item per level, a paragraph and its text.
+    // One level for the document, two for each list level (list and item), and one each for the paragraph and its text.
     EXPECT_EQ(depthOf(ADFMarkdown::document(staircase(ADFMarkdown::maximumListDepth))),
               1 + 2 * ADFMarkdown::maximumListDepth + 2);
 }

@@ -21,7 +21,7 @@ JiraUser user(const QString &id, const QString &name)
 const QList<JiraUser> people{user(u"1"_s, u"Nora Valmy"_s), user(u"2"_s, u"Ann"_s),
                              user(u"3"_s, u"Ann Marie"_s), user(u"4"_s, QString())};
 
-/// The outline of a paragraph with the text, after linking: mentions as "@id", texts in quotes.
+/// The outline of a paragraph with the text after linking: mentions as "@id", texts in quotes.
 std::string linked(const QString &text, const QList<JiraUser> &users = people)
 {
     const ADFNode node =
@@ -96,7 +96,8 @@ TEST(ADFMentions, LongestNameWins)
 
 TEST(ADFMentions, LongestIsByCharactersAsReadersCount)
 {
-    // Three characters in six code points against four in four: both match, the longer in characters is tried first.
+    // The first name has three characters in six code points, the second has four in four. Both match, and the one with
+    // more characters is tried first.
     const QList<JiraUser> users{user(u"short"_s, u"e\u0301e\u0301e\u0301"_s),
                                 user(u"long"_s, u"e\u0301e\u0301e\u0301 a"_s)};
     EXPECT_EQ(linked(u"@e\u0301e\u0301e\u0301 a"_s, users), "@long");

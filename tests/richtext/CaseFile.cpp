@@ -18,7 +18,7 @@ QString spelledOut(QString text)
         .replace(u'␀', QChar(u'\0'));
 }
 
-/// Where a line of the file belongs.
+/// The part of a case that the current line belongs to.
 struct Reader
 {
     QList<Case> cases;

@@ -11,7 +11,7 @@ class CodingCases : public testing::TestWithParam<Case>
 {
 };
 
-/// The document read and written again, or what is wrong with it.
+/// The document after decoding and encoding, or the decoding error.
 QString outcome(const QString &json)
 {
     const auto node = ADFCoding::decodeNode(json.toUtf8());

@@ -16,7 +16,7 @@ namespace {
 
 using Work = std::function<void(const QString &)>;
 
-/// Processor time of this thread, which does not count what other programs do.
+/// The processor time of this thread, which excludes the work of other programs.
 double processorSeconds()
 {
     timespec now{};
@@ -35,8 +35,8 @@ double seconds(const Work &work, const QString &text)
     return best;
 }
 
-/// Four times the text takes four times the time in linear work, sixteen times in quadratic work; the bound stands
-/// between the two. A measurement that caches or the allocator spoiled is made again.
+/// For a text four times as long, a linear algorithm takes 4 times the time and a quadratic one 16 times; the limit is
+/// between the two. The measurement is repeated if it fails, because caches or the allocator may distort it.
 void expectLinear(const Work &work, const std::function<QString(qsizetype)> &textOf, qsizetype size)
 {
     constexpr double bound = 8;

@@ -63,7 +63,7 @@ TEST(MarkdownProperty, AnyTextGivesAWellFormedDocumentThatReadsBack)
     }
 }
 
-/// Lines whose characters mean nothing to Markdown, wherever they stand.
+/// Uses lines of characters that have no meaning in Markdown at any position.
 TEST(MarkdownProperty, TextWithoutMarkupComesBackWord)
 {
     const QStringList harmless{u"a"_s, u"mot"_s, u"é"_s, u"🚀"_s, u"\u00A0"_s, u"{"_s,
@@ -79,7 +79,7 @@ TEST(MarkdownProperty, TextWithoutMarkupComesBackWord)
     }
 }
 
-/// Whatever the markup takes away, words and their order stay.
+/// Markup may be removed, but words must be kept in order.
 TEST(MarkdownProperty, WordsSurviveInOrder)
 {
     const QStringList pieces{u"*"_s, u"**"_s, u"_"_s, u"`"_s, u"~"_s,  u"~~"_s,
@@ -103,7 +103,7 @@ TEST(MarkdownProperty, WordsSurviveInOrder)
     }
 }
 
-/// Every line by itself gives the same as among other lines: nothing leaks across a line break.
+/// Each line must give the same result alone and among other lines, so that no state crosses a line break.
 TEST(MarkdownProperty, LinesAreIndependent)
 {
     QStringList pieces = markup;

@@ -2,7 +2,8 @@
 
 #include "model/ADFNode.h"
 
-/// Nodes as indented lines, for reading and comparing. A text is its marks and its words in JSON quotes:
-/// `strong em "words"`, a link with its target: `link(/url) "words"`. Any other node is its type, then its attributes
-/// in JSON when present, `[]` when its content is present and empty, and its children below it.
+/// Writes nodes as indented lines, for reading and comparison. A text node is written as its marks and its text in JSON
+/// quotes: `strong em "words"`, a link with its target: `link(/url) "words"`. Any other node is written as its type,
+/// then its attributes in JSON if there are any, `[]` if its content is present and empty, and its children on the
+/// following lines.
 QString outline(const QList<ADFNode> &nodes);
