@@ -235,7 +235,7 @@ TEST_F(DemoCreation, fillsTheIssueFromTheDraft)
 TEST_F(DemoCreation, identifiersThatMatchNothingCountAsAbsent)
 {
     IssueDraft draft = draftIn(u"SUP"_s);
-    draft.issueTypeID = u"10000"_s; // epics cannot be made in this project
+    draft.issueTypeID = u"10000"_s; // epics cannot be created in this project
     draft.priorityID = u"99"_s;
     draft.assigneeID = u"u-client"_s;
     const Issue issue = *m_site.find(DemoEdits::create(m_site, draft, u"id"_s, testNow()));

@@ -125,7 +125,7 @@ TEST_F(DemoFilesTest, attachmentLiesAsManyHoursBackAsItsNameHasCharacters)
               testNow().addDuration(-22h));
     EXPECT_EQ(attachmentOf(write(u"facture-septembre-erreur.png"_s, "x")).created,
               testNow().addDuration(-28h));
-    // One character to the reader, however it is encoded.
+    // One user-perceived character, in any encoding.
     EXPECT_EQ(attachmentOf(write(u"e\u0301🙂.txt"_s, "x")).created, testNow().addDuration(-6h));
 }
 

@@ -2,8 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
-// What each list of the demo shows on the Thursday of the tests' clock. The keys follow from the table of issues and the
-// rules of each list: who an issue belongs to, how many days ago it changed, and whether it is closed.
+// Checks the lists of the demo on the Thursday of the test clock. The expected keys follow from the table of issues and
+// the rules of each list: the issue's assignee, the days since its last change, and whether it is closed.
 
 namespace {
 
@@ -19,7 +19,7 @@ protected:
     {
         return list(IssueScope::project(key, view));
     }
-    /// A recap's keys; no order is promised.
+    /// The keys of a recap, sorted, because the order of a recap is not defined.
     QStringList recapKeys(ActivityRange range, int offset, bool teamWide)
     {
         QStringList keys = list(recap(range, offset, teamWide));
@@ -95,7 +95,7 @@ TEST_F(DemoLists, cancelledIssueOutsideTheSprintShowsInTheWholeProjectForThirtyD
     const QString key = u"MOB-111"_s;
     EXPECT_FALSE(project(u"MOB"_s, ProjectView::Active).contains(key));
     EXPECT_FALSE(project(u"MOB"_s, ProjectView::Backlog).contains(key));
-    // It changed 4 days before the demo began.
+    // The issue changed 4 days before the start of the demo.
     m_clock.advance(std::chrono::days(26) - std::chrono::minutes(1));
     EXPECT_TRUE(project(u"MOB"_s, ProjectView::All).contains(key));
     m_clock.advance(std::chrono::minutes(1));

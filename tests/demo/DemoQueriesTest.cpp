@@ -31,7 +31,7 @@ QStringList myIssues(const DemoSite &site)
     return keysOf(DemoQueries::issues(site, IssueScope::myIssues(), testNow(), paris()));
 }
 
-/// This week's recap of one issue that has one event.
+/// The recap of this week for a single issue with one event.
 QStringList recapOf(const Issue &issue, const ActivityEvent &event, bool teamWide)
 {
     DemoSite site = siteOf({issue});
@@ -175,7 +175,7 @@ TEST(DemoQueries, searchFindsALabelButNotAWordOfTheDescription)
 {
     const DemoSite site = DemoSite::from(testSeed());
     EXPECT_EQ(search(site, u"offline"_s), words("MOB-105"));
-    // Only the description of WEB-201 speaks of Stripe; the comments of WEB-205 of Redis.
+    // "Stripe" occurs only in the description of WEB-201, "Redis" only in the comments of WEB-205.
     EXPECT_TRUE(search(site, u"Stripe"_s).isEmpty());
     EXPECT_TRUE(search(site, u"Redis"_s).isEmpty());
 }

@@ -9,38 +9,38 @@
 
 #include <gtest/gtest.h>
 
-/// Where the tests take place: France, with weeks from Monday.
+/// The calendar of the tests: France, with weeks that begin on Monday.
 UserCalendar paris();
-/// The instant at which the tests' clock stands: Thursday, 29 October 2026, 14:32 in Paris.
+/// The initial time of the test clock: Thursday, 29 October 2026, 14:32 in Paris.
 QDateTime testNow();
-/// An instant of the tests' year, told by the clocks of Paris.
+/// An instant in the year of the tests, given as local time in Paris.
 QDateTime inParis(int month, int day, int hour, int minute = 0);
 
 /// Identifiers "1", "2", …
 DemoSeed::NewID countingIDs();
 /// The seed as of `testNow`.
 DemoSeed::Seed testSeed();
-/// Waits that always last 80 ms, counted identifiers, and the given folder.
+/// Sources for which waits always last 80 ms, with counted identifiers and the given folder.
 DemoSources steadySources(const QString &folder = {});
 
-/// An open issue of project "T" with the given key, changed an hour ago.
+/// An open issue of project "T" with the given key, changed one hour before `testNow`.
 Issue sampleIssue(const QString &key);
 DemoSite siteOf(const QList<Issue> &issues);
 
 QStringList keysOf(const IssueList &issues);
-/// The words of a text, for long lists of keys.
+/// Splits a text into words; used for long lists of keys.
 QStringList words(const char *text);
 
-/// The JiraError::Http that the operation fails with; a failure of the test when it does not.
+/// The `JiraError::Http` that the operation fails with; the test fails if the operation does not.
 JiraError::Http httpFailure(const std::function<void()> &operation);
 
-/// A demo on a clock turned by hand.
+/// A demo with a clock that the test advances.
 class DemoServiceFixture : public testing::Test
 {
 protected:
     static constexpr std::chrono::milliseconds latency{80};
 
-    /// The result of an operation, after its wait.
+    /// Advances the clock past the wait of an operation and returns its result.
     template <typename T>
     T settled(QCoro::Task<T> task)
     {

@@ -11,7 +11,7 @@ using DemoSeed::RowStatus;
 const JiraUser assignee{u"u-1"_s, u"Une"_s, {}, {}};
 const JiraUser reporter{u"u-2"_s, u"Deux"_s, {}, {}};
 
-/// An issue that changed ten days after its creation.
+/// An issue that was last changed ten days after its creation.
 Issue tenDays(RowStatus status)
 {
     Issue issue;

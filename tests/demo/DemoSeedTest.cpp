@@ -62,7 +62,7 @@ TEST(DemoSeed, everyThirdIssueIsReportedByTheUser)
     EXPECT_EQ(reporterOf(u"WEB-201"_s), u"u-me"_s);
     const auto mine = std::ranges::count_if(
         seed().issues, [](const Issue &issue) { return issue.reporter == DemoSeed::me(); });
-    // Rows 0, 3, …, 39; and the round of the team comes back to the user at rows 5, 11, 17, …
+    // The user reports rows 0, 3, …, 39. In the distribution over the team, it is the user's turn at rows 5, 11, 17, …
     qsizetype expected = 0;
     for (int index = 0; index < 41; ++index)
         expected += (index % 3 == 0 || (index + 1) % 6 == 0) ? 1 : 0;
@@ -97,7 +97,7 @@ TEST(DemoSeed, onlyThreeIssuesAreDue)
 TEST(DemoSeed, dueDateIsADayOfTheUsersZone)
 {
     const UserCalendar tokyo{QLocale(QLocale::Japanese), QTimeZone("Asia/Tokyo")};
-    // 23:30 in Paris is already the next day in Tokyo.
+    // 23:30 in Paris is on the next day in Tokyo.
     const DemoSeed::Seed late = DemoSeed::make(inParis(10, 29, 23, 30), tokyo, countingIDs());
     EXPECT_EQ(late.issues.first().dueDate, QDate(2026, 11, 1));
 }

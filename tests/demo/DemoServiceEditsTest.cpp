@@ -21,7 +21,7 @@ protected:
         ASSERT_TRUE(result.isDone());
         result.value();
     }
-    /// The place of the issue in its project, sorted by last change.
+    /// The index of the issue in the list of its project, which is sorted by last change.
     qsizetype place() { return list(IssueScope::project(u"MOB"_s, ProjectView::All)).indexOf(key); }
 };
 

@@ -6,7 +6,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Sources whose draws a test sets, and that remember the largest number asked for.
+/// Sources whose random numbers a test sets, and that record the largest requested limit.
 struct SteeredDraws
 {
     int next = 0;
@@ -132,7 +132,7 @@ TEST_F(DemoServicePause, overlappingCreationsGetDifferentNumbers)
     m_draws.next = 10;
     const TaskResult<QString> second(m_service->create(draft()));
     m_clock.advance(220ms);
-    // The numbers go by the end of the waits, not by their beginning.
+    // The issue numbers are assigned when the waits end, not when they begin.
     EXPECT_EQ(second.value(), u"MOB-115"_s);
     EXPECT_EQ(first.value(), u"MOB-116"_s);
 }
@@ -148,7 +148,7 @@ TEST_F(DemoServicePause, stoppedOperationFailsAtOnceAndChangesNothing)
     EXPECT_THROW(result.value(), Cancelled);
     m_clock.advance(1000ms);
     EXPECT_EQ(sprint(), before);
-    // No number was used up.
+    // No number was consumed.
     const TaskResult<QString> next(m_service->create(draft()));
     m_clock.advance(220ms);
     EXPECT_EQ(next.value(), u"MOB-115"_s);

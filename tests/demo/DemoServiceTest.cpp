@@ -91,7 +91,7 @@ TEST_F(DemoServiceTest, transitionsLeaveOutTheIssuesOwnStatus)
 TEST_F(DemoServiceTest, usersAreFoundByNameWithoutAccents)
 {
     EXPECT_EQ(idsOf(atOnce(m_service.searchUsers(u"talvere"_s))), words("u-me"));
-    // Maud Ferrand and Odile Marchais: in the order of the table, the customer last.
+    // Maud Ferrand and Odile Marchais, in the order of the table, with the customer last.
     EXPECT_EQ(idsOf(atOnce(m_service.searchUsers(u"MA"_s))), words("u-maud u-client"));
 }
 

@@ -10,7 +10,7 @@ TEST(DemoSources, drawsEveryIntegerUpToTheLargest)
 {
     const DemoSources sources = DemoSources::system();
     QSet<int> drawn;
-    // 20,000 draws miss one of the 141 with a probability below 1e-59.
+    // The probability that 20,000 draws miss one of the 141 values is below 1e-59.
     for (int draw = 0; draw < 20'000; ++draw)
         drawn.insert(sources.draw(140));
     EXPECT_EQ(drawn.size(), 141);
