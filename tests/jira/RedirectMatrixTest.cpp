@@ -58,7 +58,7 @@ protected:
         return GetParam().target == Target::HttpsToHttp ? secure.url()
                                                         : QUrl(u"http://jira.exemple.fr"_s);
     }
-    /// The address that the redirect leads to. In a loop, it is the address of the first request.
+    /// The address that the redirect leads to. In a loop, this address redirects to itself.
     QByteArray there() const
     {
         switch (GetParam().target) {
