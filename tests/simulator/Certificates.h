@@ -2,24 +2,24 @@
 
 #include <QSslConfiguration>
 
-/// The certificates that the tests' servers show.
+/// The certificates of the test servers.
 namespace Certificates {
 
 enum class Kind {
-    /// For localhost, 127.0.0.1 and ::1, by the authority of the tests.
+    /// Valid for localhost, 127.0.0.1 and ::1, issued by the tests' authority.
     Good,
-    /// By the same authority, for another host.
+    /// Issued by the tests' authority for another host.
     OtherHost,
     /// Expired in 2021.
     Expired,
-    /// By an authority that nobody trusts.
+    /// Issued by an authority that is not trusted.
     Stranger,
 };
 
-/// What a server of this kind is set up with.
+/// The TLS configuration of a server with this certificate.
 QSslConfiguration server(Kind kind);
 
-/// As long as this lives, the process trusts the authority of the tests beside those of the system.
+/// During its lifetime, the process trusts the tests' authority in addition to those of the system.
 class TrustedAuthority
 {
 public:

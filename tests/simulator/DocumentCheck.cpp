@@ -45,7 +45,7 @@ const Names &blockNodes()
     return nodes;
 }
 
-/// Which nodes may stand in which.
+/// The kinds of children that each kind of node may have.
 const QHash<QString, Names> &children()
 {
     static const QHash<QString, Names> table = {
@@ -77,7 +77,7 @@ const QHash<QString, Names> &children()
     return table;
 }
 
-/// Nodes that must hold at least one other.
+/// The kinds of nodes that must have at least one child.
 const Names &neverEmpty()
 {
     static const Names nodes =
@@ -86,7 +86,7 @@ const Names &neverEmpty()
     return nodes;
 }
 
-/// Attributes that a node cannot be without.
+/// The attributes that are required for each kind of node.
 const QHash<QString, QStringList> &neededAttributes()
 {
     static const QHash<QString, QStringList> table = {

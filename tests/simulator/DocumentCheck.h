@@ -5,6 +5,6 @@
 
 #include <optional>
 
-/// What is wrong with a document that someone sends, by the published schema of Jira's documents: which nodes may stand
-/// in which, which marks go with what, and what a node cannot be without. Nothing when it is right.
+/// Checks a received document against the published schema of Jira's documents: the nesting of nodes, the allowed marks
+/// and the required attributes. Returns the first error, or nothing if the document is valid.
 std::optional<QString> faultOf(const QJsonValue &document);

@@ -5,6 +5,6 @@
 #include <QJsonObject>
 #include <QMap>
 
-/// What is wrong with the values of an issue's fields, as someone sends them; messages by field, none when all is right.
-/// A field that an edit cannot set is a fault too.
+/// Checks the received values of an issue's fields. Returns a message for each invalid field, including fields that
+/// cannot be edited; empty if all are valid.
 QMap<QString, QString> faultsOfFields(const Site &site, const QJsonObject &fields);

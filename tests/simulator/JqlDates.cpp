@@ -31,7 +31,8 @@ std::optional<QDateTime> absoluteInstant(const QTimeZone &zone, const QString &t
 
 std::optional<QDateTime> jqlInstant(const Site &site, const QString &text)
 {
-    // A query compares every issue with the same few texts, and reading one takes longer than the rest.
+    // Results are cached, because a query compares every issue with the same few texts, and parsing them would dominate
+    // the time of a search.
     static QHash<std::pair<QByteArray, QString>, std::optional<QDateTime>> known;
     if (text.isEmpty())
         return {};

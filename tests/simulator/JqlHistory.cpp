@@ -12,7 +12,7 @@ struct Period
     QDateTime to;
 };
 
-/// All time when the clause names none.
+/// The period of a clause; unlimited if the clause has none.
 Period periodOf(const Site &site, const JqlClause &clause)
 {
     if (!clause.during)
@@ -26,7 +26,7 @@ QString presentValue(const SiteIssue &issue, const QString &field)
     return field == "status"_L1 ? issue.statusId : issue.assignee;
 }
 
-/// The changes of one field, oldest first.
+/// The changes of one field, the oldest first.
 QList<SiteChange> changesOf(const SiteIssue &issue, const QString &field)
 {
     QList<SiteChange> changes;

@@ -3,8 +3,8 @@
 #include "simulator/JqlQuery.h"
 #include "simulator/Site.h"
 
-/// "field CHANGED BY … DURING (…, …)": whether such a change is in the issue's history.
+/// "field CHANGED BY … DURING (…, …)": true if the issue's history contains such a change.
 bool hasChanged(const Site &site, const SiteIssue &issue, const JqlClause &clause);
-/// "field WAS value DURING (…, …)": whether the field had this value at some instant of that time.
+/// "field WAS value DURING (…, …)": true if the field had this value at any time in the period.
 bool hasBeen(const Site &site, const SiteIssue &issue, const JqlClause &clause,
              const QString &value);

@@ -16,13 +16,13 @@ bool isAbsent(const QString &value)
            value.compare("null"_L1, Qt::CaseInsensitive) == 0;
 }
 
-/// The account that a value stands for.
+/// The account that a value in a query denotes.
 QString account(const Site &site, const QString &value)
 {
     return value == "currentUser()"_L1 ? site.me : value;
 }
 
-/// The category by its key, or by one of the names that it goes by.
+/// The key of a category, from its key or one of its names.
 QString categoryKey(const QString &name)
 {
     static const QHash<QString, QString> keys = {
@@ -110,7 +110,7 @@ bool matches(const Site &site, const SiteIssue &issue, const JqlClause &clause)
     case Operator::Equal:
         return isEqual(site, issue, clause.field, value);
     case Operator::NotEqual:
-        // As on the real site, an issue without a value fulfils neither = nor !=.
+        // As on the real site, an issue without a value satisfies neither = nor !=.
         return hasValue(issue, clause.field) && !isEqual(site, issue, clause.field, value);
     case Operator::In:
         return isIn(site, issue, clause);

@@ -3,5 +3,5 @@
 #include "simulator/JqlQuery.h"
 #include "simulator/Site.h"
 
-/// Whether an issue fulfils a condition, for the site's signed-in user and at its present instant.
+/// True if the issue satisfies the condition, for the signed-in user and at the current time of the site.
 bool matches(const Site &site, const SiteIssue &issue, const JqlTerm &term);

@@ -8,13 +8,13 @@ namespace {
 
 using Operator = JqlClause::Operator;
 
-/// What is wrong with a query; stays inside this file.
+/// An error in a query; used only inside this file.
 struct SyntaxError
 {
     QString text;
 };
 
-/// Reads tokens from left to right, one function for each rule of the language.
+/// A recursive-descent parser over the tokens, with one function for each grammar rule.
 class Parser
 {
 public:
@@ -103,7 +103,7 @@ private:
         return Operator::NotIn;
     }
 
-    /// A function that gives several values, or a list in brackets.
+    /// A function with several values, or a list in parentheses.
     QStringList list()
     {
         if (!takeSign("("_L1))

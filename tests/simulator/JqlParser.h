@@ -4,5 +4,6 @@
 
 #include <expected>
 
-/// Reads a query; the error is for the one who wrote it. Knows the words that the program's queries are made of.
+/// Parses a query; the error is a message for the author of the query. Supports only the part of the language that the
+/// program uses.
 std::expected<JqlQuery, QString> parseJql(const QString &text);

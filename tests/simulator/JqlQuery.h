@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// One condition of a query, as far as the program asks for it: "assignee = currentUser()", "sprint is EMPTY",
-/// "status CHANGED BY currentUser() DURING (…, …)".
+/// One condition of a query, of the kinds that the program uses: "assignee = currentUser()", "sprint is EMPTY", "status
+/// CHANGED BY currentUser() DURING (…, …)".
 struct JqlClause
 {
     enum class Operator {
@@ -29,13 +29,13 @@ struct JqlClause
     /// In lower case.
     QString field;
     Operator op = Operator::Equal;
-    /// Functions with their brackets: "currentUser()".
+    /// Functions include their parentheses: "currentUser()".
     QStringList values;
     std::optional<QString> by;
     std::optional<std::pair<QString, QString>> during;
 };
 
-/// A condition, or several joined.
+/// A single condition, or several conditions with an operator.
 struct JqlTerm
 {
     enum class Kind { Clause, And, Or, Not };
@@ -55,7 +55,7 @@ struct JqlOrder
 /// A query in Jira's query language.
 struct JqlQuery
 {
-    /// Nothing when the query has no condition.
+    /// Absent if the query has no condition.
     std::optional<JqlTerm> where;
     QList<JqlOrder> order;
 };

@@ -33,7 +33,7 @@ QString unknownField(const QString &field)
     return u"Le champ « %1 » n’existe pas ou vous n’êtes pas autorisé à le consulter."_s.arg(field);
 }
 
-/// Whether the site, or a project that the query names, does without sprints.
+/// True if the site, or a project that the query names, has no sprints.
 bool isWithoutSprints(const Site &site, const QList<JqlClause> &clauses)
 {
     return !site.knowsSprints || std::ranges::any_of(clauses, [&](const JqlClause &clause) {
@@ -56,7 +56,7 @@ std::optional<QString> refusal(const Site &site, const QList<JqlClause> &clauses
     return {};
 }
 
-/// What an issue is sorted by; texts and instants compare as they should.
+/// The sort key of an issue; comparing keys gives the order of the texts or times.
 QString sortKey(const SiteIssue &issue, const QString &field)
 {
     const auto instant = [](const QDateTime &date) {
@@ -99,7 +99,7 @@ std::expected<QList<const SiteIssue *>, QString> searchIssues(const Site &site, 
         if (matches(site, issue, *query->where))
             found += &issue;
     }
-    // The first order is the strongest, so it comes last.
+    // The sort is stable and the first criterion is the most important, so it is applied last.
     for (qsizetype at = query->order.size(); at-- > 0;) {
         const JqlOrder &order = query->order[at];
         found = sortedBy(

@@ -5,6 +5,6 @@
 
 #include <expected>
 
-/// The issues that a query finds, in its order; the error is what the site says about a query that it refuses: one it
-/// cannot read, a field or a project that it does not know, or no condition at all.
+/// The issues found by a query, in its order. The error is the message with which the site rejects the query: it cannot
+/// be parsed, names an unknown field or project, or has no condition.
 std::expected<QList<const SiteIssue *>, QString> searchIssues(const Site &site, const QString &jql);

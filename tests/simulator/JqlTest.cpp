@@ -24,7 +24,7 @@ SiteChange assignment(const QDateTime &date, const QString &from, const QString 
     return {.date = date, .author = u"lea"_s, .field = u"assignee"_s, .from = from, .to = to};
 }
 
-/// One project with sprints (A), one without (B), and an issue for each thing that a query can tell apart.
+/// One project with sprints (A), one without (B), and one issue for each case that a query can distinguish.
 Site smallSite()
 {
     Site site;

@@ -2,11 +2,11 @@
 
 #include "simulator/SiteIssue.h"
 
-/// "text ~ words": whether title, document and comments hold all of the words, without regard to case and accents; one
-/// that ends with an asterisk may be only the beginning.
+/// "text ~ words": true if the summary, the description and the comments together contain all the words, ignoring case
+/// and accents. A word with an asterisk at its end matches the beginning of a word.
 bool containsWords(const SiteIssue &issue, const QString &words);
 
-/// Words without case and accents.
+/// The words of the text, without case and accents.
 QStringList foldedWords(const QString &text);
-/// All the text of a document, with blanks between its pieces.
+/// All text of a document, with blanks between its parts.
 QString plainText(const QJsonObject &document);

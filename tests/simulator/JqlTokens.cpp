@@ -9,7 +9,7 @@ bool isWordCharacter(QChar character)
     return character.isLetterOrNumber() || u"-_./"_s.contains(character);
 }
 
-/// The text in quotes that begins at `at`, which then stands behind it.
+/// Reads the quoted text that begins at `at` and moves `at` behind it.
 std::expected<JqlToken, QString> quotedText(const QString &text, qsizetype &at)
 {
     JqlToken token{.kind = JqlToken::Kind::Text};

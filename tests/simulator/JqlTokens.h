@@ -5,13 +5,13 @@
 
 #include <expected>
 
-/// A word, a text in quotes, or a sign of a query.
+/// A word, a quoted text or an operator of a query.
 struct JqlToken
 {
     enum class Kind { Word, Text, Sign };
 
     Kind kind = Kind::Word;
-    /// Of a text, what the quotes and the backslashes stand for.
+    /// For a quoted text, its contents with escapes resolved.
     QString text;
 
     bool isSign(QLatin1StringView sign) const { return kind == Kind::Sign && text == sign; }

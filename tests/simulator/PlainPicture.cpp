@@ -11,7 +11,7 @@ QByteArray bigEndian(quint32 number)
     return bytes;
 }
 
-/// The check sum of PNG and zip, bit by bit.
+/// The CRC-32 checksum of PNG and zip, computed bit by bit.
 quint32 crc32(const QByteArray &bytes)
 {
     quint32 crc = 0xFFFFFFFF;
@@ -35,7 +35,7 @@ QByteArray plainPicture(int width, int height, size_t colour)
     const QByteArray pixel = bigEndian(quint32(colour)).sliced(1);
     const QByteArray row = '\0' + pixel.repeated(width);
     const QByteArray eightBitRgb("\x08\x02\x00\x00\x00", 5);
-    // Qt puts the length before what zlib makes.
+    // Qt adds four bytes with the length before the zlib data.
     const QByteArray packed = qCompress(row.repeated(height)).sliced(4);
     return QByteArray("\x89PNG\r\n\x1A\n", 8) +
            chunk("IHDR", bigEndian(quint32(width)) + bigEndian(quint32(height)) + eightBitRgb) +

@@ -2,5 +2,5 @@
 
 #include <QByteArray>
 
-/// A PNG of one colour (0xRRGGBB; higher bits are ignored), without the library that windows draw with.
+/// A PNG image of one colour (0xRRGGBB; higher bits are ignored), made without Qt GUI.
 QByteArray plainPicture(int width, int height, size_t colour);

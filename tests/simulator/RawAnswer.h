@@ -5,40 +5,42 @@
 
 #include <utility>
 
-/// The bytes that a server sends for a request, right or wrong, and what it does with the connection then.
+/// The bytes that a server sends in response to a request, valid or not, and what it does with the connection
+/// afterwards.
 struct RawAnswer
 {
     enum class Ending {
         /// Waits for the next request.
         KeepOpen,
         Close,
-        /// Tears the connection down (RST), once what was sent has left.
+        /// Resets the connection (RST) after the bytes were sent.
         Reset,
-        /// Leaves the connection open and never says another word.
+        /// Leaves the connection open and sends nothing more.
         Stall,
     };
     using Headers = QList<std::pair<QByteArray, QByteArray>>;
 
     QByteArray bytes;
     Ending ending = Ending::KeepOpen;
-    /// So many more bytes after those, all blanks; sent as the reader takes them, not held in memory.
+    /// The number of additional blanks sent after the bytes. They are generated while the client reads, not kept in
+    /// memory.
     qint64 blanks = 0;
 
-    /// A well-formed answer. Its length is announced unless the headers do so.
+    /// A well-formed response. It has a `Content-Length` header unless the given headers contain one.
     static RawAnswer http(int status, const QByteArray &body, const Headers &headers = {});
     static RawAnswer json(const QByteArray &body, int status = 200);
     static RawAnswer html(const QByteArray &body, int status = 200);
-    /// 302, or another of the codes that lead elsewhere.
+    /// A redirect with status 302 or another redirect status.
     static RawAnswer redirect(const QByteArray &location, int status = 302);
-    /// No byte of an answer, and then this.
+    /// No bytes of a response, followed by the given ending.
     static RawAnswer nothing(Ending ending) { return {{}, ending}; }
-    /// A well-formed head that announces this many blanks, then as many of them as `sent`.
+    /// A well-formed header that announces this many blanks, followed by `sent` blanks.
     static RawAnswer large(qint64 announced, qint64 sent, const QByteArray &contentType);
 
-    /// The same without announcing a length: it ends with the connection.
+    /// The same without an announced length; the end of the connection marks the end of the body.
     static RawAnswer largeOfUnknownLength(qint64 sent, const QByteArray &contentType);
 
-    /// The same with the last bytes left off, then this ending.
+    /// The same response without its last bytes, followed by the given ending.
     RawAnswer cut(qsizetype missing, Ending then) const;
     RawAnswer withEnding(Ending then) const;
 };

@@ -6,26 +6,26 @@
 #include <optional>
 #include <utility>
 
-/// A request as a server received it, byte for byte.
+/// A request exactly as a server received it.
 struct RawRequest
 {
     QByteArray method;
-    /// Path and query, still encoded.
+    /// The path and the query, percent-encoded.
     QByteArray target;
-    /// Names as they were spelled, in order of arrival.
+    /// With the names as they were spelled, in the order received.
     QList<std::pair<QByteArray, QByteArray>> headers;
     QByteArray body;
-    /// The number of the connection that brought it; the first is 1.
+    /// The number of the connection that the request was received on; the first is 1.
     int connection = 0;
 
-    /// The value of the first header of this name, whatever its case; null when there is none.
+    /// The value of the first header with this name, ignoring case; null if there is none.
     QByteArray header(const QByteArray &name) const;
-    /// Path, query and headers, as they were received: what a search for a leaked text has to look at.
+    /// The path, the query and the headers as they were received. Tests search them for leaked secrets.
     QByteArray head() const;
 
     bool operator==(const RawRequest &) const = default;
 };
 
-/// Takes a complete request, with a body of the length that it announces, off the front of what has arrived; nothing
-/// as long as bytes are missing.
+/// Removes a complete request, including its announced body, from the start of the received bytes. Nothing as long as
+/// bytes are missing.
 std::optional<RawRequest> takeRequest(QByteArray &arrived);

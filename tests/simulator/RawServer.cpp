@@ -10,7 +10,7 @@ namespace {
 
 constexpr qint64 chunkSize = 1 << 20;
 
-/// Makes the end of the connection a reset instead of a proper close.
+/// Makes the connection end with a reset instead of a regular close.
 void tearDown(QTcpSocket &socket)
 {
     const linger hard{.l_onoff = 1, .l_linger = 0};
@@ -25,7 +25,7 @@ struct RawServer::Connection
     std::unique_ptr<QTcpSocket> socket;
     int number = 0;
     QByteArray arrived;
-    /// What has been left to say and what comes then; set from a request until the end of its answer.
+    /// The rest of the response and the ending; set from a request until the end of its response.
     std::optional<RawAnswer> current;
 
     void say(RawAnswer answer)
@@ -36,7 +36,7 @@ struct RawServer::Connection
         goOn();
     }
 
-    /// Sends blanks as the reader takes them, then ends the answer.
+    /// Sends blanks as fast as the client reads them, then ends the response.
     void goOn()
     {
         if (!current)

@@ -14,8 +14,8 @@
 #include <memory>
 #include <optional>
 
-/// A server on loopback that says exactly what a test scripts, byte for byte, over TCP or TLS. It lives on the thread of
-/// the test and answers whenever that thread's events run:
+/// A server on the loopback interface that sends exactly the bytes that a test scripts, over TCP or TLS. It belongs to
+/// the thread of the test and responds whenever the event loop of that thread runs:
 ///
 ///     RawServer server;
 ///     server.answerNext(RawAnswer::json("{}"));
@@ -23,8 +23,9 @@
 ///     ... a client asks server.url() ...
 ///     EXPECT_EQ(server.journal().size(), 2);
 ///
-/// A request takes the next of the queued answers, and once they are used up what `answer` or `answerBy` gave; before
-/// either was called, 404.
+/// A request gets the next queued response. If the queue is empty, it gets the response set by `answer` or `answerBy`,
+/// or
+/// 404 if neither was called.
 class RawServer : public QObject
 {
     Q_OBJECT
@@ -32,7 +33,7 @@ class RawServer : public QObject
 public:
     using Answering = std::function<RawAnswer(const RawRequest &)>;
 
-    /// Listens on 127.0.0.1; over TLS when there is a certificate. At `port` if that is free, else at any.
+    /// Listens on 127.0.0.1, over TLS if a certificate is given. Uses `port` if it is free, otherwise any free port.
     explicit RawServer(std::optional<Certificates::Kind> certificate = {}, quint16 port = 0);
     ~RawServer() override;
 
@@ -43,20 +44,20 @@ public:
     void answer(RawAnswer answer);
     void answerBy(Answering answering);
     void answerNext(RawAnswer answer);
-    /// What new connections meet before they can say anything: they are closed, torn down or left without a word.
-    /// `KeepOpen`, as at first, serves them.
+    /// What happens to new connections before they can send a request: they are closed, reset, or left without a
+    /// response. With `KeepOpen`, the initial value, they are served.
     void meetConnections(RawAnswer::Ending fate) { m_fate = fate; }
-    /// Closes or resets every open connection, idle ones too.
+    /// Closes or resets every open connection, including idle ones.
     void dropConnections(RawAnswer::Ending how);
-    /// From now on new connections are refused. The port stays taken, so that no other server answers in this one's place.
+    /// Refuses new connections from now on. The port stays reserved, so that no other server can use it.
     void stopListening();
 
-    /// Every complete request so far.
+    /// All complete requests received so far.
     const QList<RawRequest> &journal() const { return m_journal; }
     void clearJournal() { m_journal.clear(); }
-    /// How many connections were opened so far; over TLS, those that agreed on keys.
+    /// The number of connections opened so far; over TLS, only those that completed the handshake.
     int connections() const { return m_connections; }
-    /// How many of them are open now.
+    /// The number of connections that are currently open.
     int openConnections() const;
 
 Q_SIGNALS:

@@ -14,7 +14,7 @@ namespace {
 
 using Ending = RawAnswer::Ending;
 
-/// Follows a request to its end; nothing when it has none.
+/// Waits for the end of a request; absent if it does not end.
 class Exchange
 {
 public:

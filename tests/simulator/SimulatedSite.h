@@ -6,7 +6,8 @@
 
 #include <QHash>
 
-/// A Jira site that runs on the test's thread, on loopback. It answers as the real one does, and fails as a test wants:
+/// A simulated Jira site that runs on the thread of the test, on the loopback interface. It responds like the real
+/// site, and with faults if a test sets them:
 ///
 ///     SimulatedSite site(SiteSeed::company(300, now));
 ///     site.answer(SiteOperation::AddComment, RawAnswer::nothing(RawAnswer::Ending::Reset));
@@ -17,7 +18,7 @@
 class SimulatedSite
 {
 public:
-    /// Over TLS when there is a certificate; at `port` if that is free. The site's addresses are set to those of the
+    /// Uses TLS if a certificate is given, and `port` if it is free. The addresses in `site` are set to those of the
     /// servers.
     explicit SimulatedSite(Site site, std::optional<Certificates::Kind> certificate = {},
                            quint16 port = 0);
@@ -30,9 +31,9 @@ public:
     RawServer &files() { return m_files; }
     const QList<RawRequest> &journal() const { return m_server.journal(); }
 
-    /// From now on an operation is answered with this, and the site does not see the request.
+    /// From now on, the operation gets this response and the request is not passed to the site.
     void answer(SiteOperation operation, const RawAnswer &answer);
-    /// The site answers everything by itself again.
+    /// Ends all faults: the site handles every operation itself again.
     void recover() { m_faults.clear(); }
 
 private:

@@ -17,7 +17,7 @@ const QDateTime now({2026, 10, 29}, {13, 32}, Qt::UTC);
 class SimulatedSiteTest : public testing::TestWithParam<bool>
 {
 protected:
-    /// Asks with the right credentials and follows no redirect.
+    /// Sends a request with the given credentials and does not follow redirects.
     std::unique_ptr<QNetworkReply> get(const QUrl &url, const QByteArray &authorization)
     {
         QNetworkRequest request(url);

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The record with this identifier; null when there is none.
+/// The record with this identifier; null if there is none.
 const auto *byId(const auto &records, const QString &id)
 {
     const auto found = std::ranges::find(records, id, [](const auto &record) { return record.id; });

@@ -11,23 +11,23 @@
 #include <functional>
 #include <optional>
 
-/// What a simulated Jira site holds, and the edits that it allows. Knows nothing of HTTP.
+/// The data of a simulated Jira site and the edits that it allows. Independent of HTTP.
 class Site
 {
 public:
-    /// Where the site and its files are reached; the records that go out name these.
+    /// The addresses of the site and of its files, which occur in its records.
     QUrl address;
     QUrl media;
-    /// Who may sign in: e-mail and token, or the personal token alone. Both are the same person.
+    /// The accepted credentials: the e-mail with the token, or the personal token alone. Both belong to the same user.
     QString email;
     QString token;
     QString personalToken;
     QString me;
     QTimeZone zone = QTimeZone("Europe/Paris");
     std::function<QDateTime()> now;
-    /// Whether queries may speak of sprints.
+    /// True if queries may contain sprints.
     bool knowsSprints = true;
-    /// The most issues on a page of a search, and the largest upload that is taken, in bytes.
+    /// The maximum number of issues on a page of a search, and the maximum size of an upload in bytes.
     qsizetype largestPage = 100;
     qsizetype largestUpload = 20 << 20;
 
@@ -37,11 +37,11 @@ public:
     QList<SiteSprint> sprints;
 
     const QList<SiteIssue> &issues() const { return m_issues; }
-    /// By key or id, whatever the case; none is null.
+    /// Found by key or id, ignoring case; null if there is none.
     SiteIssue *issue(const QString &keyOrId);
     const SiteIssue *issue(const QString &keyOrId) const;
     const SiteUser *user(const QString &accountId) const;
-    /// By key or id.
+    /// Found by key or id; null if there is none.
     const SiteProject *project(const QString &keyOrId) const;
     const SiteProject &projectOf(const SiteIssue &issue) const;
     const SiteStatus &statusOf(const SiteIssue &issue) const;
@@ -50,21 +50,22 @@ public:
     const SitePriority *priority(const QString &id) const;
     const SiteSprint *sprint(const QString &id) const;
     QList<const SiteIssue *> subtasksOf(const SiteIssue &issue) const;
-    /// What the workflow offers from the issue's present status.
+    /// The transitions that the workflow allows from the issue's current status.
     QList<SiteTransition> transitionsOf(const SiteIssue &issue) const;
 
-    /// An identifier that nothing has yet.
+    /// An identifier that is not in use yet.
     QString newId();
-    /// The next key of a project.
+    /// The next free issue key of a project.
     QString newKey(const QString &projectKey);
     SiteIssue &add(SiteIssue issue);
-    /// The edits go into the history, in the name of the signed-in user, and count as a change of the issue.
+    /// These edits are added to the history in the name of the signed-in user and update the date of the issue's last
+    /// change.
     void perform(SiteIssue &issue, const SiteTransition &transition);
     void assign(SiteIssue &issue, const QString &accountId);
     void change(SiteIssue &issue, const QString &field, const QString &from, const QString &to);
     const SiteComment &comment(SiteIssue &issue, SiteComment comment);
     const SiteAttachment &attach(SiteIssue &issue, SiteAttachment attachment);
-    /// False when there is no such attachment.
+    /// Returns false if there is no such attachment.
     bool removeAttachment(const QString &id);
     const SiteAttachment *attachment(const QString &id) const;
 

@@ -2,5 +2,5 @@
 
 #include "simulator/Site.h"
 
-/// A document as the site shows it in a browser. Only its media matter, which name the attachments by number.
+/// The HTML that the site renders from a document. Only the media are complete; they refer to attachments by number.
 QString htmlOf(const Site &site, const SiteIssue &issue, const QJsonObject &document);

@@ -12,19 +12,19 @@
 struct SiteComment
 {
     QString id;
-    /// Account of who wrote it.
+    /// The account of the author.
     QString author;
     QJsonObject body;
     QDateTime created;
     bool isInternal = false;
-    /// The role that alone can read it; empty for all.
+    /// The only role that can read it; empty if everybody can.
     QString role;
 };
 
 struct SiteAttachment
 {
     QString id;
-    /// The name under which documents show it.
+    /// The identifier that documents use for it.
     QString mediaId;
     QString filename;
     QString mimeType;
@@ -33,7 +33,7 @@ struct SiteAttachment
     QString author;
 };
 
-/// A change of one field. Statuses and users are told by id and by name, empty where there is none.
+/// A change of one field. Statuses and users have an id and a name, which are empty if there is no value.
 struct SiteChange
 {
     QDateTime date;
@@ -45,7 +45,7 @@ struct SiteChange
     QString toName;
 };
 
-/// An issue of the simulated site. References go by id, by account or by key; empty ones are absent.
+/// An issue of the simulated site. References to other records are ids, accounts or keys; an empty reference is absent.
 struct SiteIssue
 {
     QString id;
@@ -61,16 +61,16 @@ struct SiteIssue
     QDateTime created;
     QDateTime updated;
     std::optional<QDate> due;
-    /// Empty when there is none.
+    /// Empty if there is none.
     QJsonObject description;
     QString parentKey;
     QString sprintId;
-    /// Lower comes first.
+    /// Issues with a lower rank come first.
     int rank = 0;
-    /// When the signed-in user last looked at it.
+    /// The time at which the signed-in user last viewed it.
     std::optional<QDateTime> viewed;
     QList<SiteComment> comments;
     QList<SiteAttachment> attachments;
-    /// Oldest first.
+    /// The oldest change first.
     QList<SiteChange> history;
 };

@@ -36,7 +36,7 @@ QString categoryName(const QString &category)
     return names.value(category);
 }
 
-/// What issues tell of those above and below them.
+/// The fields of a parent or sub-task within another issue.
 QJsonObject reference(const Site &site, const SiteIssue &issue)
 {
     return {{u"id"_s, issue.id},
@@ -122,7 +122,7 @@ QJsonObject history(const Site &site, const SiteIssue &issue, qsizetype at)
             {u"items"_s, QJsonArray{item}}};
 }
 
-/// The newest first, as the site sends it.
+/// With the newest change first, as the site sends it.
 QJsonObject changelog(const Site &site, const SiteIssue &issue)
 {
     QJsonArray histories;

@@ -5,13 +5,13 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-/// The records of the site in the JSON of its interface, version 3.
+/// Converts the site's records to the JSON of version 3 of the interface.
 namespace SiteJson {
 
-/// Which extra parts a request asks for.
+/// The fields and expansions that a request asks for.
 struct Wanted
 {
-    /// Names of fields; "*all" stands for every one.
+    /// The names of fields; "*all" stands for all of them.
     QStringList fields;
     bool history = false;
     bool html = false;
@@ -19,7 +19,7 @@ struct Wanted
 
 QJsonObject user(const Site &site, const QString &accountId);
 QJsonObject project(const Site &site, const SiteProject &project);
-/// With its issue types.
+/// Includes the issue types of the project.
 QJsonObject detailedProject(const Site &site, const SiteProject &project);
 QJsonObject type(const Site &site, const SiteIssueType &type);
 QJsonObject status(const Site &site, const SiteStatus &status);
@@ -31,7 +31,7 @@ QJsonObject comment(const Site &site, const SiteIssue &issue, const SiteComment 
                     const Wanted &wanted);
 QJsonObject issue(const Site &site, const SiteIssue &issue, const Wanted &wanted);
 
-/// An instant in the site's zone: "2026-10-29T14:32:05.123+0100".
+/// A time in the site's time zone: "2026-10-29T14:32:05.123+0100".
 QString instant(const Site &site, const QDateTime &date);
 
 } // namespace SiteJson

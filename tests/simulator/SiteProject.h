@@ -18,12 +18,12 @@ struct SitePriority
     QString name;
 };
 
-/// A move that a workflow offers.
+/// A transition of a workflow.
 struct SiteTransition
 {
     QString id;
     QString name;
-    /// Statuses by id; no one in `from` stands for all.
+    /// The ids of the statuses that it can start from; an empty list means all.
     QStringList from;
     QString to;
 };
@@ -52,7 +52,7 @@ struct SiteProject
     /// "software", "business" or "service_desk".
     QString typeKey;
     QList<SiteIssueType> types;
-    /// The workflow of all its types.
+    /// The workflow of all issue types of the project.
     QList<SiteStatus> statuses;
     QList<SiteTransition> transitions;
     bool hasSprints = true;

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// One page of JSON values, as the paged operations send it.
+/// One page of JSON values in the format of the paged operations.
 QJsonObject page(const QJsonArray &all, int startAt, int maxResults)
 {
     QJsonArray values;

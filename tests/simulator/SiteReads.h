@@ -4,28 +4,28 @@
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
 
-/// The answers of the operations that only read.
+/// The responses of the operations that only read.
 namespace SiteReads {
 
 RawAnswer myself(const Site &site);
-/// A page, by `startAt` and `maxResults` (50 unless told, at most 100), by name.
+/// A page according to `startAt` and `maxResults` (default 50, at most 100), ordered by name.
 RawAnswer projects(const Site &site, const SiteRoute &route);
 RawAnswer project(const Site &site, const SiteRoute &route);
-/// An entry for each type of the project.
+/// One entry for each issue type of the project.
 RawAnswer statuses(const Site &site, const SiteRoute &route);
 RawAnswer prioritySearch(const Site &site, const SiteRoute &route);
 RawAnswer priorities(const Site &site);
-/// Everyone who can take an issue of the project, programs and customers too; at most 1000.
+/// All accounts to which issues of the project can be assigned, including apps and customers; at most 1000.
 RawAnswer assignableUsers(const Site &site, const SiteRoute &route);
-/// By a word of the name, or the beginning of the e-mail.
+/// Finds users by a word of the name or the beginning of the e-mail.
 RawAnswer userSearch(const Site &site, const SiteRoute &route);
-/// `fields` and `expand` tell what comes; without fields, all do.
+/// `fields` and `expand` select the contents; without `fields`, all fields are included.
 RawAnswer issue(const Site &site, const SiteRoute &route);
 RawAnswer comments(const Site &site, const SiteRoute &route);
 RawAnswer transitions(const Site &site, const SiteRoute &route);
-/// A redirect to where the site keeps its files.
+/// A redirect to the server for files.
 RawAnswer attachment(const Site &site, const SiteRoute &route);
-/// A page of a search; the body is as told in the interface, and nothing else.
+/// A page of a search. The body must have the documented members and no others.
 RawAnswer search(const Site &site, const QByteArray &body);
 
 } // namespace SiteReads

@@ -7,18 +7,18 @@
 #include <QMap>
 #include <QStringList>
 
-/// The forms in which the site answers.
+/// The formats of the site's responses.
 namespace SiteReply {
 
 RawAnswer found(const QJsonObject &body, int status = 200);
 RawAnswer found(const QJsonArray &body);
 /// 204, without a body.
 RawAnswer done();
-/// With messages for the whole, and by the name of a field.
+/// An error with general messages and with messages by field name.
 RawAnswer refused(int status, const QStringList &messages,
                   const QMap<QString, QString> &errors = {});
 RawAnswer noSuchIssue();
-/// The body is not what the operation takes.
+/// The error for a body that the operation does not accept.
 RawAnswer badBody();
 
 } // namespace SiteReply

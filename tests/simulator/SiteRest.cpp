@@ -86,7 +86,7 @@ bool wantsJsonBody(const RawRequest &request, const SiteRoute &route)
            route.operation != SiteOperation::Upload;
 }
 
-/// The pages of the site for people; all that matters is that they are there.
+/// A web page of the site for browsers; tests only need it to exist.
 RawAnswer page(const RawRequest &request)
 {
     const QByteArray path = QByteArray(request.target).replace('<', "&lt;");

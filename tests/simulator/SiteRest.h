@@ -4,10 +4,10 @@
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
 
-/// The site's interface as a function: what a request gets, and does to the site. Requests without the right
-/// `Authorization` get 401, paths that the interface does not have 404.
+/// The REST interface of the site as a function from a request to a response, which may also change the site. Requests
+/// without the right `Authorization` get 401, paths unknown to the interface get 404.
 RawAnswer answerOf(Site &site, const RawRequest &request);
 
-/// The same for the place where the site keeps files and pictures: it wants a token in the address, and no credentials
-/// of the site.
+/// The same for the server for files and pictures, which requires a token in the address and rejects the site's
+/// credentials.
 RawAnswer fileAnswerOf(const Site &site, const RawRequest &request);

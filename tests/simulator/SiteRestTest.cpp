@@ -14,7 +14,7 @@ namespace {
 
 const QDateTime now({2026, 10, 29}, {13, 32}, Qt::UTC);
 
-/// Asks a site of 300 issues, with the right credentials unless a test takes others.
+/// Sends requests to a site with 300 issues, with the right credentials unless a test specifies others.
 class SiteRestTest : public testing::Test
 {
 protected:

@@ -23,7 +23,7 @@ Rule rule(const QByteArray &method, const QString &path, SiteOperation operation
     return {method, QRegularExpression(u"^/rest/api/3/"_s + pattern + u'$'), operation};
 }
 
-/// The first that fits decides.
+/// The first matching rule applies.
 const QList<Rule> &rules()
 {
     static const QList<Rule> all = {
@@ -56,7 +56,7 @@ const QList<Rule> &rules()
 
 QString SiteRoute::value(const QString &name) const
 {
-    // In a query a plus sign is a blank.
+    // In a query, a plus sign means a blank.
     QString encoded = query.queryItemValue(name, QUrl::FullyEncoded);
     return QUrl::fromPercentEncoding(encoded.replace(u'+', u' ').toLatin1());
 }

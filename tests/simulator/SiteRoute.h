@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// What can be asked of the site by its interface.
+/// The operations of the site's interface.
 enum class SiteOperation {
     Myself,
     Projects,
@@ -32,19 +32,19 @@ enum class SiteOperation {
     DeleteAttachment,
 };
 
-/// A request's operation, and what it is about.
+/// The operation of a request and its arguments.
 struct SiteRoute
 {
     SiteOperation operation = SiteOperation::Myself;
-    /// The key or identifier in the path, decoded; empty when there is none.
+    /// The decoded key or identifier in the path; empty if there is none.
     QString subject;
     QUrlQuery query;
 
-    /// The value of a query item, decoded; null when there is none.
+    /// The decoded value of a query parameter; null if there is none.
     QString value(const QString &name) const;
-    /// A number between 0 and `most`; the usual one when there is none.
+    /// A number limited to the range from 0 to `most`; `usual` is the default.
     int number(const QString &name, int usual, int most) const;
 };
 
-/// Nothing when the interface has no such path, or not with this method.
+/// Nothing if the interface has no such path or does not support the method for it.
 std::optional<SiteRoute> routeOf(const RawRequest &request);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a search's body says.
+/// The contents of the body of a search request.
 struct Asked
 {
     QString jql;
@@ -18,7 +18,7 @@ struct Asked
     qsizetype offset = 0;
 };
 
-/// A token tells where the next page begins and which query it belongs to.
+/// A token contains the start of the next page and identifies the query that it belongs to.
 QString tokenFor(const QString &jql, qsizetype offset)
 {
     const QByteArray text = QByteArray::number(offset) + ':' + QByteArray::number(qHash(jql, 1));
@@ -34,7 +34,7 @@ std::optional<qsizetype> offsetOf(const QString &token, const QString &jql)
 
 bool hasOnlyKnownMembers(const QJsonObject &body)
 {
-    // The interface has more; these are all that it takes by the names of this client's kind.
+    // The interface has more members. These are the only ones accepted here, because the client uses no others.
     static const QMap<QString, QJsonValue::Type> members = {
         {u"jql"_s, QJsonValue::String},
         {u"fields"_s, QJsonValue::Array},

@@ -35,7 +35,7 @@ QJsonObject document(const QJsonArray &content)
     return {{u"type"_s, u"doc"_s}, {u"version"_s, 1}, {u"content"_s, content}};
 }
 
-/// Makes issues one after the other, by chance that is the same each time.
+/// Generates issues one after the other from pseudo-random numbers that are the same in every run.
 class Generator
 {
 public:
@@ -70,10 +70,10 @@ private:
         return of.at(below(int(of.size())));
     }
 
-    /// One of the active people; the signed-in user has more than their share.
+    /// An active user; the signed-in user is chosen more often than others.
     QString person() { return happens(15) ? m_site.me : m_site.users.at(below(11)).accountId; }
 
-    /// A sub-task where the project has an issue that it can belong to.
+    /// The id of an issue type. A sub-task type is used only if the project has an issue that can be the parent.
     QString kindIn(const SiteProject &project, SiteIssue &issue)
     {
         const SiteIssueType &type = one(project.types);
@@ -119,7 +119,7 @@ private:
                               .author = issue.reporter};
     }
 
-    /// What happened to an issue since it was created: assignments, moves, comments.
+    /// Adds the changes since the issue's creation: assignments, transitions and comments.
     void live(SiteIssue &issue, const SiteProject &project)
     {
         issue.statusId = project.statuses.first().id;
@@ -137,7 +137,7 @@ private:
         issue.updated = issue.history.isEmpty() ? issue.created : issue.history.last().date;
     }
 
-    /// An instant between that one and now.
+    /// A time between the given one and the current time.
     QDateTime later(const QDateTime &instant)
     {
         const qint64 left = std::max<qint64>(instant.secsTo(m_now), 2);

@@ -2,11 +2,12 @@
 
 #include "simulator/Site.h"
 
-/// Made-up sites.
+/// Fictitious sites.
 namespace SiteSeed {
 
-/// A French company with six projects, among them a service desk and one without sprints, and so many issues. The same
-/// number and instant always give the same site. Who signs in is "camille@lumen.example" with "jeton-de-test".
+/// A French company with the given number of issues in six projects, among them a service project and one without
+/// sprints. The same number and time always give the same site. The account is "camille@lumen.example" with the token
+/// "jeton-de-test".
 Site company(int issues, const QDateTime &now);
 
 } // namespace SiteSeed

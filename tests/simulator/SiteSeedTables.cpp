@@ -20,7 +20,7 @@ QList<SiteIssueType> types(bool hasEpics)
     return types;
 }
 
-/// The workflow of most projects: everything can go anywhere, but only what is under way can be reviewed.
+/// The workflow of most projects: all transitions are allowed, except that only issues in progress can go to review.
 SiteProject software(const QString &id, const QString &key, const QString &name)
 {
     return {.id = id,

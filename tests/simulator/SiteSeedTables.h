@@ -2,7 +2,7 @@
 
 #include "simulator/Site.h"
 
-/// What a made-up company consists of before it has issues.
+/// The data of a fictitious company other than its issues.
 namespace SiteSeedTables {
 
 QList<SiteUser> users();

@@ -7,9 +7,9 @@ struct SiteUser
 {
     QString accountId;
     QString displayName;
-    /// Empty when the account hides it.
+    /// Empty if the account hides it.
     QString email;
-    /// "atlassian" for people, "app" for programs, "customer" for those of a service portal.
+    /// "atlassian" for people, "app" for apps, "customer" for customers of a service project.
     QString accountType;
     bool isActive = true;
 };

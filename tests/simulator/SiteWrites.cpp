@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The object that a body is; nothing when it is none, or has members beside the known ones.
+/// Parses the body as a JSON object; nothing if it is not one or has members other than the known ones.
 std::optional<QJsonObject> objectIn(const QByteArray &body, const QStringList &known)
 {
     const QJsonDocument json = QJsonDocument::fromJson(body);
@@ -36,7 +36,7 @@ QString accountIn(const QJsonValue &value)
     return value["accountId"_L1].toString(value["id"_L1].toString());
 }
 
-/// Sets fields that have been found right; tells the history of none.
+/// Sets fields that were already checked, without adding them to the history.
 void setFields(SiteIssue &issue, const QJsonObject &fields)
 {
     if (fields.contains("summary"_L1))
@@ -53,7 +53,7 @@ void setFields(SiteIssue &issue, const QJsonObject &fields)
     }
 }
 
-/// Whether a comment's property makes it a note for agents.
+/// True if the property of a comment makes it visible only to agents.
 bool isInternal(const QJsonValue &properties)
 {
     return std::ranges::any_of(properties.toArray(), [](const QJsonValue &property) {
@@ -62,7 +62,7 @@ bool isInternal(const QJsonValue &properties)
     });
 }
 
-/// What a new issue cannot be without.
+/// The errors for missing required fields of a new issue.
 QMap<QString, QString> faultsOfDraft(const Site &site, const QJsonObject &fields)
 {
     QMap<QString, QString> faults;

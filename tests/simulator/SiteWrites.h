@@ -4,8 +4,8 @@
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
 
-/// The operations that change the site, each as strict about what it is sent as the real one: what it does not know it
-/// refuses with 400 and a message for each field, and then nothing has changed.
+/// The operations that change the site. They are as strict as the real ones: an invalid request gets 400 with a message
+/// for each field and changes nothing.
 namespace SiteWrites {
 
 RawAnswer perform(Site &site, const SiteRoute &route, const QByteArray &body);
@@ -13,7 +13,8 @@ RawAnswer update(Site &site, const SiteRoute &route, const QByteArray &body);
 RawAnswer assign(Site &site, const SiteRoute &route, const QByteArray &body);
 RawAnswer addComment(Site &site, const SiteRoute &route, const QByteArray &body);
 RawAnswer create(Site &site, const QByteArray &body);
-/// A form with files; refused with 403 without the header that tells it from a forged one, with 413 when too large.
+/// Accepts a form with files. Rejected with 403 without the header against cross-site request forgery, and with 413 if
+/// it is too large.
 RawAnswer upload(Site &site, const SiteRoute &route, const RawRequest &request);
 RawAnswer deleteAttachment(Site &site, const SiteRoute &route);
 

@@ -8,8 +8,8 @@
 
 enum class SortOrder { Ascending, Descending };
 
-/// The values in the order of what `keyOf` gives for each; those with equal keys stay in the order they had. (The
-/// library's stable sort is built on a function that the language has given up.)
+/// The values sorted by the keys that `keyOf` returns; values with equal keys keep their order. (The standard library's
+/// stable sort uses a deprecated function.)
 template <typename T, typename KeyOf>
 QList<T> sortedBy(const QList<T> &values, KeyOf keyOf, SortOrder order = SortOrder::Ascending)
 {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr QByteArrayView endOfHead = "\r\n\r\n";
 
-/// What a part says of itself and what it holds; the line end before the next boundary is not part of it.
+/// Parses the headers and the contents of a part. The line break before the next boundary does not belong to it.
 std::optional<UploadedFile> fileOf(const QByteArray &part)
 {
     static const QRegularExpression disposition(

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// A file of a form, as a browser or a program sends it.
+/// A file in a multipart form.
 struct UploadedFile
 {
     QString filename;
@@ -14,7 +14,7 @@ struct UploadedFile
     QByteArray content;
 };
 
-/// The files of a body of the type "multipart/form-data"; nothing when it is no such form, is cut short, or has a part
-/// that is no file under the name "file".
+/// The files in a body of the type "multipart/form-data"; nothing if the body is not such a form, is truncated, or
+/// contains a part that is not a file with the name "file".
 std::optional<QList<UploadedFile>> filesOfForm(const QByteArray &contentType,
                                                const QByteArray &body);

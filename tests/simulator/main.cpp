@@ -1,4 +1,5 @@
-/// A Jira site of 300 issues and one of 5,000, to sign in to without an account. Runs until it is interrupted.
+/// Runs a Jira site with 300 issues and one with 5,000, to which a user can sign in without an account. Runs until it
+/// is interrupted.
 #include "simulator/SimulatedSite.h"
 #include "simulator/SiteSeed.h"
 
@@ -10,11 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the sites are unless something else is there; so a session that was kept finds its site again.
+/// The preferred port. With the same port in every run, a saved session finds its site again.
 constexpr quint16 smallPort = 8300;
 constexpr quint16 largePort = 8500;
 
-/// A site that lives in the present.
+/// A site with the current time.
 Site presentCompany(int issues)
 {
     Site site = SiteSeed::company(issues, QDateTime::currentDateTimeUtc());
@@ -35,7 +36,7 @@ void tell(SimulatedSite &simulated)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    // For tests side by side: none finds another's site where its own was.
+    // For tests that run in parallel: with arbitrary ports, no test can find the site of another one.
     const bool anywhere = QCoreApplication::arguments().contains(u"--any-port"_s);
     SimulatedSite small(presentCompany(300), {}, anywhere ? 0 : smallPort);
     SimulatedSite large(presentCompany(5000), {}, anywhere ? 0 : largePort);
