@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What the fuzzer calls; each of the programs in this folder defines it.
+/// The function that the fuzzer calls; each program in this folder defines it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the run as a crash when something that holds for every input does not hold for this one.
+/// Aborts the process if a property that must hold for every input does not hold for this one.
 inline void promise(bool holds, const char *what)
 {
     if (holds)

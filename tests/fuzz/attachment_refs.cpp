@@ -1,4 +1,4 @@
-/// HTML from anywhere, searched for attachments.
+/// Searches arbitrary HTML for attachments.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "jira/AttachmentRefs.h"

@@ -1,4 +1,4 @@
-/// A document, and any other JSON: what is read is written and read again without a difference.
+/// Decodes documents and other JSON; whatever was decoded must be unchanged after encoding and decoding.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "richtext/ADFCoding.h"

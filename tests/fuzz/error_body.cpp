@@ -1,4 +1,4 @@
-/// The body of an answer that refuses.
+/// Reads the body of an error response.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "jira/ErrorMessage.h"

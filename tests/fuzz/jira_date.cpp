@@ -1,4 +1,4 @@
-/// Dates that a server may send.
+/// Parses dates that a server may send.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "jira/JiraDate.h"

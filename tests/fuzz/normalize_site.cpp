@@ -1,4 +1,4 @@
-/// What someone may type as the address of their site.
+/// Normalizes the address of a site as a user may type it.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "jira/JiraCredentials.h"
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     promise(host.contains(u'.') || host.contains(u':'), "a site has a whole name, or a number");
     promise(site->path().isEmpty() && !site->hasQuery() && !site->hasFragment(),
             "a site is no page");
-    // It is kept as a text and read again at the next start.
+    // The address is stored as text and parsed again at the next start.
     const QUrl stored(site->toString());
     promise(stored == *site, "a site survives being kept");
     promise(JiraCredentials::normalizeSite(site->toString()) == site, "a site is its own address");

@@ -1,4 +1,4 @@
-/// A page of a search, whatever a server makes of it.
+/// Decodes arbitrary responses to a search.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
 #include "jira/IssueSearch.h"
