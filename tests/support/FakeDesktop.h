@@ -4,15 +4,15 @@
 
 #include <QStringList>
 
-/// A desktop that a test sets, and that keeps what the program gave it.
+/// A desktop whose settings a test chooses, and that records what the program passes to it.
 class FakeDesktop final : public Desktop
 {
 public:
     bool isActive = true;
-    /// Every address given to the browser and every text given to the pasteboard, in order.
+    /// All addresses opened in the browser and all texts copied to the clipboard, in order.
     QList<QUrl> opened;
     QStringList copied;
-    /// What is on the pasteboard beside texts.
+    /// The contents of the clipboard other than text.
     QList<QUrl> files;
     QImage image;
 

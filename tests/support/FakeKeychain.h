@@ -5,14 +5,15 @@
 
 #include <map>
 
-/// A store of secrets in the hands of a test. It works like a real one until a test scripts one of its operations.
+/// A store for secrets under the control of a test. It works like a real one until a test scripts one of its
+/// operations.
 class FakeKeychain final : public Keychain
 {
 public:
-    /// Token by account.
+    /// The tokens by account.
     std::map<QString, QString> items;
     ScriptedCalls<Lookup, QString> reads;
-    /// Token, account.
+    /// The arguments are the token and the account.
     ScriptedCalls<void, QString, QString> saves;
     ScriptedCalls<void, QString> removals;
 
@@ -35,7 +36,7 @@ public:
         removals.cancelPending();
     }
 
-    /// How often it was asked for anything.
+    /// The number of operations that were called.
     int asked() const { return reads.count() + saves.count() + removals.count(); }
 
     QCoro::Task<Lookup> read(QString account) override { return reads.call({}, account); }

@@ -2,7 +2,7 @@
 
 #include "platform/StatusHost.h"
 
-/// A desktop that shows status items, or none, as a test sets it.
+/// A desktop with or without status items, as a test chooses.
 class FakeStatusHost final : public StatusHost
 {
 public:

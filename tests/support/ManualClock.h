@@ -4,21 +4,22 @@
 
 #include <list>
 
-/// A clock that stands still until a test turns it.
+/// A clock that advances only when a test advances it.
 class ManualClock final : public Clock
 {
 public:
     explicit ManualClock(QDateTime now) : m_now(std::move(now)) {}
-    /// Stands at 29 October 2026, 14:32 in Paris, a Thursday.
+    /// Starts on Thursday, 29 October 2026, 14:32 in Paris.
     ManualClock();
 
     QDateTime now() const override { return m_now; }
     TimerHandle after(std::chrono::milliseconds delay, std::function<void()> callback) override;
     TimerHandle every(std::chrono::milliseconds period, std::function<void()> callback) override;
 
-    /// Moves time on, firing what falls due on the way, in order of time; equal times in order of asking.
+    /// Advances the time and calls the timers that become due, in order of their times; timers due at the same time are
+    /// called in the order in which they were started.
     void advance(std::chrono::milliseconds duration);
-    /// How many timers are pending.
+    /// The number of pending timers.
     int pending() const { return int(m_timers.size()); }
 
 private:

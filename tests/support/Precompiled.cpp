@@ -1,4 +1,4 @@
-// Only here to give the header that the tests share a target: the header is what counts.
+// Exists only to give a target to the precompiled header that the tests share.
 int main()
 {
     return 0;

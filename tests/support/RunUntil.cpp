@@ -8,7 +8,7 @@
 bool runUntil(const std::function<bool()> &condition)
 {
     const QDeadlineTimer deadline(std::chrono::seconds(10));
-    // Something has to wake the loop when nothing else does.
+    // Wakes the event loop regularly, even if there are no events.
     QTimer wake;
     wake.start(std::chrono::milliseconds(20));
     while (!condition() && !deadline.hasExpired())

@@ -2,5 +2,5 @@
 
 #include <functional>
 
-/// Lets events run until the condition holds. False when it still does not after ten seconds.
+/// Processes events until the condition holds. Returns false if it does not hold after ten seconds.
 bool runUntil(const std::function<bool()> &condition);

@@ -14,8 +14,9 @@
 #include <tuple>
 #include <variant>
 
-/// One call of a scripted operation: what it was asked, and the handle that answers it. Answering resumes whoever waits
-/// before the answer returns. A stop of the caller's token ends a pending call with `Cancelled` at once.
+/// One call of a scripted operation: its arguments, and functions to complete it. Completing a call resumes the waiting
+/// coroutine before the function returns. A requested stop of the caller's token ends a pending call immediately with
+/// `Cancelled`.
 template <typename T, typename... Args>
 class ScriptedCall
 {
@@ -34,7 +35,7 @@ public:
         return std::get<N>(m_arguments);
     }
     bool isPending() const { return !m_state->value && !m_state->failure; }
-    /// True once the caller has asked for a stop.
+    /// True once the caller has requested a stop.
     bool wasStopped() const { return m_state->stop.stop_requested(); }
 
     void finish(Value value = {})
@@ -80,7 +81,8 @@ private:
         bool await_ready() const { return state->value || state->failure; }
         void await_suspend(std::coroutine_handle<> handle) const
         {
-            // Kept here: a token that is stopped already ends the wait, and this object, within the next statement.
+            // This copy is needed because a token that is already stopped ends the wait, and destroys this object,
+            // within the next statement.
             const auto kept = state;
             kept->waiting = handle;
             kept->onStop.emplace(kept->stop, [weak = std::weak_ptr(kept)] {
@@ -117,8 +119,8 @@ private:
     std::tuple<Args...> m_arguments;
 };
 
-/// All calls of one operation, in the order in which they came. A call waits for its test, unless an automatic answer
-/// is set when it comes.
+/// All calls of one operation, in the order received. A call waits for the test to complete it, unless an automatic
+/// response is set when it arrives.
 template <typename T, typename... Args>
 class ScriptedCalls
 {
@@ -128,12 +130,12 @@ public:
     using Call = ScriptedCall<T, Args...>;
 
     int count() const { return int(m_calls.size()); }
-    /// The call of that number, from 0; throws when there has been none.
+    /// The call with this index, starting at 0; throws if there was no such call.
     Call &operator[](int index) { return m_calls.at(std::size_t(index)); }
     Call &last() { return m_calls.at(m_calls.size() - 1); }
 
-    /// From now on every call is answered at once: with the value, by the function (which may throw), or with the
-    /// failure.
+    /// From now on, every call is completed immediately: with the value, with the result of the function (which may
+    /// throw), or with the failure.
     void answerWith(Value value = {})
     {
         m_automatic = [value = std::move(value)](const Args &...) { return value; };
@@ -146,9 +148,9 @@ public:
     {
         m_automatic = [failure](const Args &...) -> Value { throw failure; };
     }
-    /// From now on calls wait for their test again.
+    /// From now on, calls wait for the test again.
     void hold() { m_automatic = nullptr; }
-    /// Ends whatever is still pending, so that no coroutine outlives its test.
+    /// Ends all pending calls, so that no coroutine outlives its test.
     void cancelPending()
     {
         for (std::size_t i = 0; i < m_calls.size(); ++i) {
@@ -157,7 +159,7 @@ public:
         }
     }
 
-    /// What the service's operation does.
+    /// The implementation of the service's operation.
     QCoro::Task<T> call(std::stop_token stop, Args... arguments)
     {
         Call &call = m_calls.emplace_back(std::move(stop), arguments...);
@@ -176,7 +178,7 @@ private:
         }
     }
 
-    // A deque: answering a call may make the next one, and references to calls stay good.
+    // A deque, because completing a call may cause the next one, and references to calls must stay valid.
     std::deque<Call> m_calls;
     std::function<Value(const Args &...)> m_automatic;
 };

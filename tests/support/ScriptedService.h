@@ -3,8 +3,8 @@
 #include "model/IssueService.h"
 #include "support/ScriptedCall.h"
 
-/// A back end in the hands of a test. Every call is recorded per operation, with its arguments, and waits until the
-/// test answers it, in any order:
+/// A back end under the control of a test. Every call is recorded by operation, with its arguments, and waits until the
+/// test completes it, in any order:
 ///
 ///     const auto service = std::make_shared<ScriptedService>();
 ///     ... the code under test asks for a list ...
@@ -12,14 +12,14 @@
 ///     EXPECT_EQ(service->issuesCalls[0].argument(), IssueScope::recent());
 ///     service->issuesCalls[0].finish(list);                  // or .fail(JiraError(...)), or .cancel()
 ///
-/// Operations that are not the point of a test answer by themselves, each way until `hold()`:
+/// Operations that a test is not about can be completed automatically, until `hold()` is called:
 ///
 ///     service->projectsCalls.answerWith({project});
 ///     service->issueCalls.answerBy([](const QString &key) { return sampleIssue(key); });
 ///     service->prioritiesCalls.failWith(JiraError(JiraError::InvalidResponse{}));
 ///
-/// A caller's stop ends its pending call with `Cancelled`; `wasStopped()` tells. End a test with `cancelPending()`: an
-/// unanswered call keeps its coroutine alive.
+/// A requested stop of the caller ends its pending call with `Cancelled`, which `wasStopped()` shows. End a test with
+/// `cancelPending()`, because a pending call keeps its coroutine alive.
 class ScriptedService final : public IssueService
 {
 public:
@@ -43,10 +43,10 @@ public:
     ScriptedCalls<QList<Attachment>, QString, QList<QUrl>> uploadAttachmentsCalls;
     ScriptedCalls<QUrl, Attachment> downloadCalls;
     ScriptedCalls<void, QString> deleteAttachmentCalls;
-    /// What the two synchronous operations give; `browseURL` appends "/browse/" and the key.
+    /// The results of the two synchronous operations; `browseURL` appends "/browse/" and the key.
     QString site = QStringLiteral("exemple.atlassian.net");
 
-    /// Ends every pending call of every operation with `Cancelled`.
+    /// Ends all pending calls of all operations with `Cancelled`.
     void cancelPending();
 
     QString siteName() const override { return site; }

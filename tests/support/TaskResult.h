@@ -8,7 +8,7 @@
 #include <memory>
 #include <optional>
 
-/// Follows a task from outside a coroutine: whether it has ended, and with what.
+/// Observes a task from outside a coroutine: whether it has ended, and its result.
 template <typename T>
 class TaskResult
 {
@@ -17,7 +17,7 @@ public:
 
     bool isDone() const { return m_state->value.has_value() || m_state->failure; }
     bool hasFailed() const { return bool(m_state->failure); }
-    /// The result; rethrows the task's failure. Only once the task is done.
+    /// The result; rethrows the task's failure. Call this only after the task has ended.
     const T &value() const
     {
         if (m_state->failure)
