@@ -2,7 +2,8 @@
 
 #include "platform/Clock.h"
 
-/// The present, but nothing takes time: waits end at the next turn of the event loop, and nothing recurs.
+/// A clock that returns the current time but has no delays: waits end in the next iteration of the event loop, and
+/// repeating timers never fire.
 class BenchClock final : public Clock
 {
 public:

@@ -2,7 +2,8 @@
 
 #include "derivation/IssueDerivationInputs.h"
 
-/// A made-up issue; the same for each number. Forty people, five statuses, dates all over two months.
+/// A fictitious issue, always the same for the same number. The issues have forty people, five statuses and dates
+/// within two months.
 inline Issue sample(int number)
 {
     const QStringList names{QStringLiteral("À faire"), QStringLiteral("En cours"),
@@ -30,7 +31,7 @@ inline Issue sample(int number)
     return issue;
 }
 
-/// Inputs with so many issues.
+/// Inputs with the given number of issues.
 inline IssueDerivationInputs samples(int count)
 {
     IssueDerivationInputs inputs;

@@ -38,7 +38,7 @@ std::shared_ptr<ScriptedService> siteWith(SiteSize size)
     site->statusesCalls.answerWith({});
     site->assignableUsersCalls.answerWith({});
     site->projectCalls.answerWith({});
-    // What the palette's search on the server finds; the site has no fewer.
+    // The results of the palette's search on the server; the site always has at least this many issues.
     site->searchCalls.answerWith(issues.first(20));
     return site;
 }

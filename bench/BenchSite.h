@@ -9,8 +9,8 @@ struct SiteSize
     int projects = 0;
 };
 
-/// A site with so many issues, all in every list, that answers at once.
+/// A site with the given number of issues, all of them in every list, that responds immediately.
 std::shared_ptr<ScriptedService> siteWith(SiteSize size);
 
-/// What a program on that site meets of the machine: a clock that never lets it wait, and preferences in that folder.
+/// The external services of the program on that site: a clock without waits, and preferences in the given folder.
 Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString &folder);

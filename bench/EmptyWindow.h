@@ -2,8 +2,8 @@
 
 #include <QByteArray>
 
-/// What every figure of the window is set against: a window of the size of the main window, with a rectangle of the
-/// size of a row that changes its colour at each key press.
+/// The baseline for all measurements of windows: a window of the size of the main window, with a rectangle of the size
+/// of a row that changes its colour at each key press.
 inline QByteArray emptyWindow()
 {
     return R"(

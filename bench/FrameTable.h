@@ -4,13 +4,13 @@
 
 #include <vector>
 
-/// A table of durations on the standard output, each row set against the first one.
+/// A table of durations on the standard output. Each row is compared with the first one.
 class FrameTable
 {
 public:
     explicit FrameTable(const QString &renderer);
-    /// Prints the median, the 99th percentile and the worst in milliseconds, and the first two as multiples of those of
-    /// the first row.
+    /// Prints the median, the 99th percentile and the maximum in milliseconds, and the first two also as multiples of
+    /// those of the first row.
     void add(const QString &what, std::vector<qint64> nanoseconds);
 
 private:

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// How many intervals of the display a time is nearest to.
+/// The number of display intervals that is closest to a duration.
 qint64 intervals(qint64 nanoseconds)
 {
     return std::llround(double(nanoseconds) /
@@ -24,7 +24,7 @@ qint64 intervals(qint64 nanoseconds)
 FrameTimer::FrameTimer(QQuickWindow &window)
     : m_window(window), m_watch(window, [this] { return takeOver(); })
 {
-    // A display without a window manager activates no window, and then nothing in it has the keyboard's focus.
+    // Without a window manager, the display activates no window, so no item in it would have the keyboard focus.
     QFocusEvent focus(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
     QCoreApplication::sendEvent(&m_window, &focus);
 }
@@ -37,7 +37,7 @@ void FrameTimer::settle()
     QObject::connect(&quiet, &QTimer::timeout, &loop, &QEventLoop::quit);
     QObject::connect(&m_watch, &FrameWatch::swapped, &quiet, [&quiet] { quiet.start(); });
     quiet.start(50ms);
-    // A window that never rests is measured as it is.
+    // A window that never stops drawing is measured anyway.
     QTimer::singleShot(1s, &loop, &QEventLoop::quit);
     loop.exec();
 }
@@ -117,8 +117,8 @@ qint64 FrameTimer::nextTaken()
     return begun;
 }
 
-// As a touchpad does it: each notch of a wheel would begin a glide anew, and how many of those are seen before the next
-// one hangs on chance.
+// Sends the events of a touchpad. Each notch of a mouse wheel would start a new animation, and the number of those that
+// become visible before the next notch depends on chance.
 void FrameTimer::scrollBy(int pixels, Qt::ScrollPhase phase)
 {
     const QPointF middle(m_window.width() * 0.6, m_window.height() * 0.5);

@@ -8,32 +8,33 @@
 #include <optional>
 #include <vector>
 
-/// Times what a window makes of input events, one event at a time.
+/// Measures how a window responds to input events, one event at a time.
 class FrameTimer
 {
 public:
-    /// About a row and a half of a list: 3,600 pixels in a second.
+    /// The distance of one step in pixels, about one and a half rows of a list. The speed is about 3,600 pixels per
+    /// second.
     static constexpr int PixelsPerStep = 60;
-    /// From one step of a scroll to the next: about a frame of a display of 60 Hz.
+    /// The time between two steps of a scroll, about one frame of a display with 60 Hz.
     static constexpr std::chrono::milliseconds Interval{16};
 
     explicit FrameTimer(QQuickWindow &window);
 
     const QString &renderer() const { return m_watch.renderer(); }
-    /// Lets the window come to rest: no frame for a twentieth of a second. Waits for a second at most.
+    /// Waits until the window has drawn no frame for 50 ms, but at most one second.
     void settle();
-    /// Presses and releases a key in the window at rest. Gives the nanoseconds from the press to the swap of the first
-    /// frame that shows what it did; ends the program when there is none within a second.
+    /// Presses and releases a key while the window is idle. Returns the nanoseconds from the press to the swap of the
+    /// first frame that shows the result. Ends the program if there is no such frame within one second.
     qint64 press(Qt::Key key, const QString &text);
-    /// The same from any act that changes what the window shows.
+    /// The same for any action that changes what the window displays.
     qint64 answer(const std::function<void()> &act);
-    /// What a scroll looked like.
+    /// The measurements of a scroll.
     struct Scroll
     {
-        /// Nanoseconds from each step to the swap of the first frame that shows it, without the steps that no frame
-        /// showed by themselves.
+        /// The nanoseconds from each step to the swap of the first frame that shows it. Steps that were displayed only
+        /// together with a later one are not included.
         std::vector<qint64> times;
-        /// How many intervals of the display brought no new frame between the first frame and the last.
+        /// The number of display intervals without a new frame, between the first frame and the last.
         qint64 dropped = 0;
     };
     /// Scrolls down by `PixelsPerStep` in each `Interval`.
@@ -41,16 +42,17 @@ public:
 
 private:
     void scrollBy(int pixels, Qt::ScrollPhase phase);
-    /// A frame takes over the state of the items, and with it the event that waits for a frame; false when none does.
+    /// Called when a frame copies the state of the items. Assigns the waiting event to this frame; false if none is
+    /// waiting.
     bool takeOver();
-    /// When the event was that the next frame to be swapped answers.
+    /// The time of the event that the next swapped frame displays.
     qint64 nextTaken();
 
     QQuickWindow &m_window;
-    /// When the last event was, until a frame takes it over.
+    /// The time of the latest event, until it is assigned to a frame.
     std::optional<qint64> m_waiting;
-    /// The events taken over by frames that are not known to be swapped. Frames are taken over while this thread stands
-    /// still, so both threads may write here.
+    /// The times of the events assigned to frames whose swap was not reported yet. Both threads may write it, because
+    /// this thread is blocked while a frame copies the state of the items.
     std::deque<qint64> m_taken;
     FrameWatch m_watch;
 };

@@ -5,23 +5,24 @@
 
 #include <functional>
 
-/// The instant in nanoseconds on the clock that Python's `time.monotonic_ns` reads too.
+/// The time in nanoseconds on the same clock as Python's `time.monotonic_ns`.
 qint64 monotonicNow();
 
-/// Tells when the frames of a window have been handed to the display, whichever thread draws them.
+/// Reports when the frames of a window were passed to the display, whichever thread draws them.
 class FrameWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `counts` is asked while a frame takes over the state of the items, with the UI thread standing still.
+    /// `counts` is called while a frame copies the state of the items; the UI thread is blocked during the call.
     FrameWatch(QQuickWindow &window, std::function<bool()> counts);
 
-    /// Who draws and on which thread, e.g. "software, basic loop". Known once a frame has been drawn.
+    /// The renderer and its render loop, e.g. "software, basic loop". Known once a frame was drawn.
     const QString &renderer() const { return m_renderer; }
 
 Q_SIGNALS:
-    /// A frame was swapped at this instant; `isCounted` is what `counts` said of it. Sent from the drawing thread.
+    /// A frame was swapped at the time `instant`; `isCounted` is the result of `counts` for this frame. Emitted by the
+    /// thread that draws.
     void swapped(qint64 instant, bool isCounted);
 
 private:

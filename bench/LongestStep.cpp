@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Time on the processor, so that other programs do not count.
+/// The processor time of this thread, which excludes the work of other programs.
 qint64 threadNanoseconds()
 {
     timespec now{};
@@ -24,7 +24,7 @@ bool LongestStep::notify(QObject *receiver, QEvent *event)
     ++m_depth;
     const bool isHandled = QCoreApplication::notify(receiver, event);
     --m_depth;
-    // An event within an event is part of the outer one.
+    // The time of a nested event is part of the outer event.
     if (m_depth == 0)
         m_longest = std::max(m_longest, threadNanoseconds() - start);
     return isHandled;

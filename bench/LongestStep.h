@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-/// An application that knows the longest time that its thread has spent on one event.
+/// An application that records the longest time its thread has spent on one event.
 class LongestStep final : public QCoreApplication
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ public:
     using QCoreApplication::QCoreApplication;
 
     bool notify(QObject *receiver, QEvent *event) override;
-    /// In nanoseconds of the processor, since the last call.
+    /// The longest time since the previous call, in nanoseconds of processor time.
     qint64 take() { return std::exchange(m_longest, 0); }
 
 private:

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// A size that the kernel tells of this process, in kilobytes: "Rss" what it has in memory, "Pss" the same with what it
-/// shares divided among those that share it. 0 where the kernel tells none.
+/// A memory size of this process as reported by the kernel, in kilobytes. "Rss" is the resident memory; "Pss" is the
+/// same with shared memory divided by the number of processes that share it. 0 if the kernel does not report it.
 qint64 processMemory(const QString &name);

@@ -45,7 +45,7 @@ RawRequest searchRequest(const Site &site, const QString &token)
     return request;
 }
 
-/// All issues of a made-up company, as the site would answer a search for them.
+/// All issues of a fictitious company, in the format of a search response.
 QJsonArray recordedIssues()
 {
     Site site = SiteSeed::company(Issues, QDateTime::currentDateTimeUtc());

@@ -4,16 +4,17 @@
 
 #include <QList>
 
-/// A server whose answers to searches were made before anyone asks, so that making them costs a benchmark nothing. Runs
-/// in a process of its own.
+/// A server whose search responses are generated in advance, so that generating them is not part of the measured time.
+/// Runs in a separate process.
 class RecordedSite
 {
 public:
     RecordedSite();
 
-    /// Three pages of a hundred issues with their history.
+    /// The port of a site with three pages of a hundred issues with their history.
     quint16 portOfPages() const { return m_pages.port(); }
-    /// One page of 5,000 issues with their history, more than anyone asks for.
+    /// The port of a site with one page of 5,000 issues with their history, which is more than the program ever
+    /// requests.
     quint16 portOfLargePage() const { return m_large.port(); }
 
 private:

@@ -2,14 +2,15 @@
 
 #include <QJsonObject>
 
-/// What one start of a program took: instants since its parent started it, and the memory it then holds.
+/// The measurements of one start of a program: times relative to its start by the parent process, and the memory that
+/// it uses.
 class StartReport
 {
 public:
-    /// Reads the parent's instant, in nanoseconds of `monotonicNow`, from the first argument.
+    /// Reads the time of the start from the first argument, in nanoseconds of `monotonicNow`.
     explicit StartReport(const QStringList &arguments);
 
-    /// Notes when this point was reached.
+    /// Records the time at which this point was reached.
     void mark(const QString &point);
     void mark(const QString &point, qint64 instant);
     /// Prints the marks in nanoseconds, the renderer and the memory as one line of JSON.

@@ -1,6 +1,6 @@
-// What a change costs between the fields of the store and the groups that a list shows. Times depend on the machine, so
-// each benchmark also tells its time in floors: one floor is a copy of the list and one pass of QString::contains over
-// the summaries, measured in the same run.
+// Measures the derivation from a change of the store's fields to the groups that a list displays. Times depend on the
+// machine, so each benchmark also reports its time as a multiple of a baseline measured in the same run: a copy of the
+// list and one pass of QString::contains over the summaries.
 
 #include "BenchIssues.h"
 #include "derivation/IssueDerivation.h"
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Processor time, so that other programs do not count.
+/// Processor time, which excludes the work of other programs.
 double seconds(const std::function<void()> &work)
 {
     const auto start = std::clock();
@@ -37,7 +37,7 @@ double floorOf(const IssueList &issues)
     return best;
 }
 
-/// Applies a change to the inputs and reads all that a list shows, over and over.
+/// Repeatedly applies a change to the inputs and reads everything that a list displays.
 template <typename Change>
 void measure(benchmark::State &state, Change change)
 {
@@ -104,7 +104,7 @@ void oneIssueEdited(benchmark::State &state)
     });
 }
 
-/// The same of an edit, which the store tells of: the list is changed in place, and what is shown follows.
+/// The same for an edit that the store reports: the list is changed in place and the derived data are updated.
 void oneIssueFollowed(benchmark::State &state)
 {
     auto inputs = samples(int(state.range(0)));
@@ -112,7 +112,7 @@ void oneIssueFollowed(benchmark::State &state)
     IssueDerivation derivation;
     derivation.setInputs(inputs);
     benchmark::DoNotOptimize(derivation.groups());
-    // Of the bench itself no list may be held beside the store's.
+    // The benchmark must not hold another reference to the list, because changing the list would then copy it.
     IssueList issues = std::exchange(inputs.issues, {});
     const auto row = quint32(issues.size() / 2);
     benchmark::DoNotOptimize(derivation.rowOf(issues.at(row)->key));

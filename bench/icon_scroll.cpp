@@ -1,6 +1,7 @@
-// What the icons of the rows cost while a list scrolls: 10,000 rows with every icon that a row of issues has, each an item
-// of the kit, and 10,000 rows of the list itself, which draws them in one, beside 10,000 empty ones, in windows of one size
-// and one process. Every other row is shaded: where nothing changes on the screen there are no frames to time.
+// Measures the cost of the icons while a list scrolls. Compares 10,000 rows with every icon of an issue row, each an
+// item of the kit; 10,000 rows of the issue list itself, each of which draws its icons in one item; and 10,000 empty
+// rows, in windows of the same size and in one process. Every other row is shaded, because a frame is drawn only if
+// something on the screen changes.
 
 #include "BenchIssues.h"
 #include "FrameTable.h"
@@ -30,7 +31,7 @@ namespace {
 
 constexpr int Steps = 180;
 
-/// A window with a list of 10,000 rows, each 38 high. `delegate` shades every other row.
+/// A window with a list of 10,000 rows, each 38 pixels high. `delegate` shades every other row.
 QByteArray listOf(const QByteArray &model, const QByteArray &delegate)
 {
     return R"(import QtQuick
@@ -53,7 +54,7 @@ Window {
 })";
 }
 
-/// A row that is shaded by turns, with this in it.
+/// A delegate with the given contents that shades every other row.
 QByteArray rowOf(const QByteArray &content)
 {
     return R"(Item {
@@ -65,7 +66,7 @@ QByteArray rowOf(const QByteArray &content)
            content + "}";
 }
 
-// The row that the list of issues shows, with its texts.
+// A row of the issue list, with its texts.
 constexpr auto rowOfIssue = R"(IssueRow {
             id: cell
             required property int index
@@ -73,7 +74,7 @@ constexpr auto rowOfIssue = R"(IssueRow {
             Rectangle { anchors.fill: parent; visible: cell.index % 2 === 0; color: Theme.hoverFill }
         })";
 
-// Values vary by row as they would in a list of issues.
+// The values vary by row, as in a list of issues.
 constexpr auto icons = R"(Row {
     x: 20; spacing: 12
     PriorityIcon { level: cell.index % 5 }
@@ -86,7 +87,7 @@ constexpr auto icons = R"(Row {
     Avatar { user: Samples.people[cell.index % 3]; hasUser: cell.index % 4 > 0 }
 })";
 
-/// Every third has a due date, and all have labels.
+/// Every third issue has a due date, and all have labels.
 IssueList manyIssues()
 {
     IssueList list;
@@ -134,7 +135,7 @@ int main(int argc, char **argv)
     measure(table, issues, u"empty rows"_s, empty);
     measure(table, issues, u"rows of icons"_s, listOf("10000", rowOf(icons)));
     measure(table, issues, u"rows of issues"_s, listOf("issues", rowOfIssue));
-    // Once more, to tell how far the machine itself has changed meanwhile.
+    // Repeated at the end to show how much the speed of the machine has changed during the run.
     measure(table, issues, u"empty rows"_s, empty);
     return 0;
 }

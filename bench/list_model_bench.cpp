@@ -1,4 +1,4 @@
-// What it costs to bring the rows of the list from one state to the next, without a view. Times are processor time.
+// Measures the update of the list model from one state to the next, without a view. Times are processor time.
 
 #include "BenchIssues.h"
 #include "derivation/IssueDerivation.h"
@@ -15,7 +15,7 @@ QList<IssueGroup> groupsOf(const IssueDerivationInputs &inputs)
     return derivation.groups();
 }
 
-/// Goes to and fro between two states of the list.
+/// Alternates between two states of the list.
 void alternate(benchmark::State &state, const QList<IssueGroup> &one,
                const QList<IssueGroup> &other)
 {
@@ -45,7 +45,7 @@ void oneStatusChange(benchmark::State &state)
     alternate(state, before, groupsOf(inputs));
 }
 
-/// The same, told as a step: the row goes to the far end of the list and back.
+/// The same change, reported to the model as a step: the row moves to the other end of the list and back.
 void oneStatusStep(benchmark::State &state)
 {
     const auto groups = groupsOf(samples(int(state.range(0))));

@@ -1,5 +1,5 @@
-// What Velmora holds in memory once its list is shown: with a number of issues as its argument on a made-up site of that
-// size, without one on the demo.
+// Measures the memory that Velmora uses once its list is displayed. With a number as its argument, it uses a fictitious
+// site with that many issues; without an argument, the demo.
 
 #include "BenchSite.h"
 #include "FrameTimer.h"

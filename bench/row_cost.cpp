@@ -1,5 +1,6 @@
-// What it costs to make the rows of the list and the cards of the board: the time of each and how many objects it
-// consists of, beside a row that is one line of text. All in one process, with one row made after the other.
+// Measures the creation of the rows of the list and of the cards of the board: the time for each and the number of its
+// objects, compared with a row that consists of one line of text. All rows are created one after the other in one
+// process.
 
 #include "BenchClock.h"
 #include "BenchIssues.h"
@@ -35,7 +36,7 @@ struct Subject
     QByteArray delegate;
 };
 
-/// A window with a list that makes every row of its model at once.
+/// A window with a list that creates all rows of its model at once.
 QByteArray listOf(const QByteArray &delegate)
 {
     return R"(import QtQuick
@@ -71,7 +72,7 @@ const std::array<Subject, 3> subjects{{
     {"a card of the board", R"(BoardCard { width: 280; style: cardLook })"},
 }};
 
-/// What many issues have: a type, two labels; every third a due date.
+/// Typical issues: they have a type and two labels, and every third has a due date.
 IssueList issues(int count)
 {
     IssueList list;
@@ -85,7 +86,7 @@ IssueList issues(int count)
     return list;
 }
 
-/// What this thread has computed, in nanoseconds: other programs do not count.
+/// The processor time of this thread in nanoseconds, which excludes the work of other programs.
 qint64 computed()
 {
     timespec time{};
@@ -103,7 +104,7 @@ qsizetype objectsIn(QQuickItem &item)
     return count;
 }
 
-/// How many rows the list has in it, whatever its model says.
+/// The number of row items in the list, independent of the size of the model.
 qsizetype rowsIn(const QQuickItem &list)
 {
     const auto rows = list.property("contentItem").value<QQuickItem *>()->childItems();

@@ -1,6 +1,6 @@
-// From a request to the records of a list, against the floor of the same bytes fetched by the bare network stack and
-// parsed by simdjson, in the same run; and the longest step on the UI thread meanwhile. The site is a process of its
-// own that made its answers beforehand.
+// Measures the time from a request to the records of a list, compared in the same run with a baseline in which Qt's
+// network stack fetches the same bytes and simdjson parses them. Also measures the longest event on the UI thread. The
+// site runs in a separate process that has generated its responses in advance.
 
 #include "LongestStep.h"
 #include "RecordedSite.h"
@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A process that runs the recorded site.
+/// The process that runs the recorded site.
 class SiteProcess
 {
 public:
@@ -54,7 +54,7 @@ private:
     QProcess m_process;
 };
 
-/// Times over many runs, in nanoseconds.
+/// The times of several runs, in nanoseconds.
 struct Times
 {
     std::vector<qint64> runs;
@@ -67,7 +67,7 @@ struct Times
     double best() const { return double(std::ranges::min(runs)) / 1e6; }
 };
 
-/// Fetches and parses page after page, as little as can be done.
+/// The baseline: fetches and parses page after page and does nothing else.
 class Floor
 {
 public:
@@ -116,7 +116,7 @@ private:
 
 QCoro::Task<> readList(JiraClient *client, QEventLoop *loop, IssueList *list)
 {
-    // The recap of the month, whose search brings the history of every issue.
+    // The recap of the month, for which the search includes the history of every issue.
     const ActivityPeriod month{.range = ActivityRange::Month, .offset = 0, .teamWide = true};
     *list = co_await client->issues(IssueScope::activity(month));
     loop->quit();
@@ -131,7 +131,7 @@ IssueList listOf(JiraClient &client)
     return list;
 }
 
-/// Of the processor, over all threads.
+/// The processor time of all threads of the process.
 qint64 processNanoseconds()
 {
     timespec now{};
@@ -139,7 +139,7 @@ qint64 processNanoseconds()
     return now.tv_sec * 1'000'000'000LL + now.tv_nsec;
 }
 
-/// What one side took.
+/// The measurements of one of the two compared sides.
 struct Side
 {
     Times elapsed;
@@ -166,7 +166,7 @@ void compare(LongestStep &application, const char *what, const QUrl &site, int r
     Side whole;
     Times steps;
     qsizetype issues = 0;
-    // The first run opens connections and fills caches on both sides.
+    // The first run opens connections and fills caches on both sides, so it is not measured.
     floor.run();
     listOf(client);
     for (int i = 0; i < runs; ++i) {

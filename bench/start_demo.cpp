@@ -1,5 +1,5 @@
-// One start of Velmora on the demo, to the first frame with issues in it.
-// Arguments: the instant of the start, a file of preferences, and "instant" where the demo shall answer at once.
+// Measures one start of Velmora with the demo, until the first frame that displays issues. Arguments: the time of the
+// start, a file of preferences, and "instant" if the demo should respond immediately.
 
 #include "BenchClock.h"
 #include "FrameWatch.h"
@@ -48,7 +48,7 @@ int main(int argc, char **argv)
     report.mark(u"loaded"_s);
     auto &window = *velmora.mainWindow();
     const FrameWatch watch(window, [&window] { return holdsRow(*window.contentItem()); });
-    // On a thread of its own, the next frame may be on its way already.
+    // If frames are drawn on another thread, a further frame may already be in progress.
     bool isDone = false;
     const auto onFrame = [&](qint64 instant, bool hasRows) {
         report.mark(u"firstFrame"_s, instant);

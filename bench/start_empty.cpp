@@ -1,4 +1,4 @@
-// One start of a nearly empty window, of a program that links no more than that takes.
+// Measures one start of a nearly empty window, in a program that links only the libraries needed for it.
 
 #include "EmptyWindow.h"
 #include "FrameWatch.h"
@@ -17,7 +17,7 @@ int main(int argc, char **argv)
     engine.loadData(emptyWindow());
     const FrameWatch watch(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()),
                            [] { return true; });
-    // On a thread of its own, the next frame may be on its way already.
+    // If frames are drawn on another thread, a further frame may already be in progress.
     bool isDone = false;
     const auto finish = [&](qint64 instant) {
         if (std::exchange(isDone, true))

@@ -1,5 +1,6 @@
-// What the UI thread computes in the store, without a window, when an edit shows, when it comes back refused, and when a
-// refresh arrives with as many changes on a short list as on a long one. Times are processor time of the thread.
+// Measures the time that the UI thread spends in the store, without a window: when an edit is applied, when it is
+// rejected and reverted, and when a refresh arrives that changes the same number of issues in a short and in a long
+// list. Times are processor time of the thread.
 
 #include "BenchClock.h"
 #include "BenchIssues.h"
@@ -21,7 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Turns = 200;
-/// How many issues a refresh changes.
+/// The number of issues that a refresh changes.
 constexpr int Changed = 30;
 
 double microseconds(const std::function<void()> &work)

@@ -1,5 +1,6 @@
-// From a key press to the frame that shows what it did: in a nearly empty window, and in the main window on lists of
-// made-up issues. All in one process, so that the ratios hold on any machine.
+// Measures the time from a key press to the frame that shows its result: in a nearly empty window, and in the main
+// window with lists of fictitious issues. All measurements run in one process, so that their ratios are comparable
+// between machines.
 
 #include "BenchIssues.h"
 #include "BenchSite.h"
@@ -21,18 +22,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Steps = 180;
-/// How often what redraws the whole window is done.
+/// The number of repetitions of actions that redraw the whole window.
 constexpr int Turns = 40;
 
-/// How often each key is pressed: the first argument.
+/// The number of times each key is pressed: the first argument of the program, 300 by default.
 int presses()
 {
     const auto given = QApplication::arguments().value(1).toInt();
     return given > 0 ? given : 300;
 }
 
-/// With a second argument nothing but the part of that name is measured: "palette", "layouts" (list
-/// and board by turns), "lists" (all else).
+/// True if the part should be measured. The second argument selects a single part: "palette", "layouts" (switching
+/// between list and board) or "lists" (all others).
 bool isMeasured(const QString &part)
 {
     const auto only = QApplication::arguments().value(2);
@@ -59,7 +60,8 @@ std::vector<qint64> pressesOf(FrameTimer &timer, int count)
     return times;
 }
 
-/// A letter that every issue has and its removal, one that few have and its removal, and so on.
+/// Types a letter that every issue contains and deletes it, then types a character that few issues contain and deletes
+/// it, and so on.
 std::vector<qint64> keystrokes(FrameTimer &timer, int count)
 {
     std::vector<qint64> times;
@@ -72,7 +74,7 @@ std::vector<qint64> keystrokes(FrameTimer &timer, int count)
     return times;
 }
 
-/// The caret alone moves: a frame of the same window in which no row changes.
+/// Moves only the text cursor: a frame of the same window in which no row changes.
 std::vector<qint64> caretMoves(FrameTimer &timer, int count)
 {
     timer.press(Qt::Key_E, u"e"_s);
@@ -84,7 +86,7 @@ std::vector<qint64> caretMoves(FrameTimer &timer, int count)
     return times;
 }
 
-/// Every tenth issue has another summary, status and time than the turn before.
+/// Every tenth issue gets another summary, status and time of change.
 IssueList refreshed(IssueList issues, int turn)
 {
     for (qsizetype i = turn % 10; i < issues.size(); i += 10) {
@@ -113,14 +115,14 @@ std::vector<qint64> scopes(FrameTimer &timer, AppStore &store)
     for (int turn = 0; turn <= Turns; ++turn) {
         const auto scope = turn % 2 == 0 ? IssueScope::reported() : IssueScope::recent();
         const auto time = timer.answer([&] { store.select(scope); });
-        // The first two are seen for the first time.
+        // The first two lists are displayed for the first time, so they are not measured.
         if (turn > 1)
             times.push_back(time);
     }
     return times;
 }
 
-/// By turns: every other press undoes the one before.
+/// Alternates between two keys; each press reverts the previous one.
 std::vector<qint64> switches(FrameTimer &timer, Qt::Key key, Qt::Key back)
 {
     std::vector<qint64> times;
@@ -176,8 +178,8 @@ void measureList(FrameTable &table, int count)
         table.add(size + u"a step of a scroll"_s, timer.scroll(Steps).times);
 }
 
-/// The same letters in the palette: each finds issues, actions and projects, and the rows of all of them change. A frame
-/// costs what the window costs; what a letter costs beyond that, the row before tells.
+/// Types the same letters in the palette. Each letter finds issues, actions and projects, and all their rows change.
+/// The preceding table row, in which only the text cursor moves, shows the cost of a frame alone.
 void measurePalette(FrameTable &table, SiteSize size)
 {
     const QTemporaryDir folder;
@@ -222,7 +224,7 @@ int main(int argc, char **argv)
         measureList(*table, 300);
         measureList(*table, 10000);
     }
-    // Once more, to tell how far the machine itself has changed meanwhile.
+    // Repeated at the end to show how much the speed of the machine has changed during the run.
     measureEmptyWindow(table);
     return 0;
 }
