@@ -11,7 +11,7 @@ QCoro::Task<> runToItsEnd(QCoro::Task<> task)
 {
     try {
         co_await task;
-        // NOLINTBEGIN(bugprone-empty-catch): called off, or nobody is left to tell
+        // NOLINTBEGIN(bugprone-empty-catch): the task was cancelled or its owner is gone
     } catch (const Cancelled &) {
     } catch (const OwnerGone &) {
         // NOLINTEND(bugprone-empty-catch)

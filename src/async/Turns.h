@@ -31,7 +31,9 @@ public:
 
     /// Waits until a turn is free.
     QCoro::Task<Turn> next();
+    /// The number of turns that are currently held.
     int underWay() const;
+    /// The number of tasks that wait for a turn.
     int waiting() const;
 
 private:

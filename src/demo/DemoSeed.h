@@ -44,6 +44,7 @@ const JiraUser &me();
 const QList<JiraUser> &users();
 /// The customer of the service project, who can be mentioned but not be assigned issues.
 const JiraUser &customer();
+/// The user record of a person of the demo.
 const JiraUser &user(Person person);
 /// The workflow, from the backlog to the closed statuses.
 const QList<IssueStatus> &statuses();

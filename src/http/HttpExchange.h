@@ -24,6 +24,7 @@ class HttpExchange final : public QObject
     Q_OBJECT
 
 public:
+    /// Sends nothing before `start`.
     HttpExchange(HttpRequest request, Identity identity);
     ~HttpExchange() override;
 

@@ -46,6 +46,7 @@ public:
     void close();
 
 Q_SIGNALS:
+    /// Emitted by `close`; ends the running calls.
     void closing();
 
 private:

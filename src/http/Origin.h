@@ -12,6 +12,7 @@ struct Origin
     /// The default port of the scheme if the address contains none; -1 for a scheme without a default.
     int port = -1;
 
+    /// The origin of an address.
     static Origin of(const QUrl &url);
 
     bool operator==(const Origin &) const = default;

@@ -36,6 +36,7 @@ public:
     QString site() const;
     QString email() const;
 
+    /// Reads the stored site and e-mail, and the token of that site. Fails only with `Cancelled`.
     QCoro::Task<Stored> load();
     /// Fails with `Keychain::Failure`; in this case no preference is written.
     QCoro::Task<> save(JiraCredentials credentials);

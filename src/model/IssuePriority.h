@@ -20,6 +20,7 @@ class IssuePriority
 
 public:
     IssuePriority() = default;
+    /// `name` is the name as Jira spells it.
     IssuePriority(QString id, QString name);
 
     const QString &id() const { return m_id; }

@@ -76,6 +76,7 @@ public:
                                                              std::stop_token stop = {}) = 0;
     /// Downloads the attachment and returns the address of the local file.
     virtual QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) = 0;
+    /// Deletes the attachment with this identifier.
     virtual QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) = 0;
     /// The address of the web page; absent if it cannot be built.
     virtual std::optional<QUrl> browseURL(const QString &key) const = 0;

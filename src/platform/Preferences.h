@@ -24,11 +24,13 @@ public:
     Preferences(const Preferences &) = delete;
     Preferences &operator=(const Preferences &) = delete;
 
+    /// The value of a key; absent if there is none or if it has another type.
     std::optional<QString> text(const QString &key) const;
     std::optional<bool> flag(const QString &key) const;
     std::optional<QStringList> texts(const QString &key) const;
     std::optional<QByteArray> bytes(const QString &key) const;
 
+    /// Replaces the value of a key and writes it to disk. Errors of the disk are not reported.
     void setText(const QString &key, const QString &value);
     void setFlag(const QString &key, bool value);
     void setTexts(const QString &key, const QStringList &value);

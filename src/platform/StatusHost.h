@@ -14,6 +14,7 @@ public:
     /// Creates the implementation for the operating system that the program runs on.
     static std::unique_ptr<StatusHost> ofThisSystem();
 
+    /// True if the desktop displays status items. On Linux it is false until the desktop has responded.
     virtual bool isPresent() const = 0;
 
 Q_SIGNALS:

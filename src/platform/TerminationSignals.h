@@ -11,10 +11,12 @@ class TerminationSignals : public QObject
     Q_OBJECT
 
 public:
+    /// Installs the signal handlers; the destructor restores the default actions.
     TerminationSignals();
     ~TerminationSignals() override;
 
 Q_SIGNALS:
+    /// The system asked the process to end. Emitted from the event loop, not from the signal handler.
     void asked();
 
 private:

@@ -39,6 +39,7 @@ std::expected<JSONValue, DecodingError> decodeValue(const simdjson::dom::element
 /// form. Attributes are sorted by name. What JSON cannot represent is replaced: an unpaired surrogate by U+FFFD, a
 /// number that is not finite by null.
 QByteArray encode(const ADFNode &node);
+/// The same format for a generic value.
 QByteArray encode(const JSONValue &value);
 
 /// Converts the node to a generic value, for use in a request body; null if it nests deeper than `maximumValueDepth`,

@@ -9,7 +9,7 @@ bool isWordCharacter(QChar character)
     return character.isLetterOrNumber() || u"-_./"_s.contains(character);
 }
 
-/// Reads the quoted text that begins at `at` and moves `at` behind it.
+/// Reads the quoted text that begins at `at` and moves `at` past it.
 std::expected<JqlToken, QString> quotedText(const QString &text, qsizetype &at)
 {
     JqlToken token{.kind = JqlToken::Kind::Text};

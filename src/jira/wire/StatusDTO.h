@@ -27,6 +27,7 @@ struct StatusDTO
     QString name;
     std::optional<Category> statusCategory;
 
+    /// Converts to a domain record.
     IssueStatus model() const;
 
     static constexpr auto wireMembers()

@@ -43,6 +43,7 @@ template <typename DTO>
 Result read(const Element &element, DTO &record);
 
 QString textOf(std::string_view utf8);
+/// An error with this message and no position yet.
 Result failure(const char *message);
 /// Adds the position to the error of a value that is the member `name` of an object.
 Result inMember(std::string_view name, Result failed);
