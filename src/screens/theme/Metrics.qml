@@ -3,6 +3,8 @@ import QtQuick
 
 /// Lengths in logical pixels: radii, spacing and the heights of controls.
 QtObject {
+    id: root
+
     // Radii
     readonly property int radiusCheckBox: 4
     readonly property int radiusKeyCap: 5

@@ -4,6 +4,8 @@ import QtQuick
 /// How long things move. Animate with `easing` one of `Springs` and the duration that names it. With `reduced`, moves end
 /// at once and fades stay as short fades; the composition root writes it.
 QtObject {
+    id: root
+
     /// The desktop asks for less motion.
     property bool reduced: false
     /// Shapes may be scaled. The renderer without graphics hardware draws round shapes in parts, and a scaled one shows

@@ -5,7 +5,7 @@ import Velmora.Theme
 
 /// Colours by role. The composition root writes `dark` and `accentChoice`; everything else follows.
 QtObject {
-    id: theme
+    id: root
 
     /// True while the dark appearance is shown.
     property bool dark: false
