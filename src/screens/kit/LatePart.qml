@@ -9,13 +9,13 @@ Loader {
 
     signal wanted()
 
-    onShownChanged: follow()
-    Component.onCompleted: follow()
-
     function follow() {
         if (root.shown && root.status === Loader.Null)
             root.wanted();
         else if (!root.shown)
             root.source = "";
     }
+
+    onShownChanged: follow()
+    Component.onCompleted: follow()
 }

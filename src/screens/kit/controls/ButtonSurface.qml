@@ -5,7 +5,7 @@ import Velmora.Kit
 /// What lies under a button's label: nothing, glass, or the accent (red where it destroys), with the fills of hover and
 /// press over it; a flat grey while it is disabled.
 Rectangle {
-    id: surface
+    id: root
 
     required property real corner
     property bool floating: false
@@ -21,19 +21,19 @@ Rectangle {
 
     GlassFrame {
         anchors.fill: parent
-        visible: surface.shaped && surface.enabled
+        visible: root.shaped && root.enabled
         dark: Theme.dark
-        accent: surface.destructive ? Theme.redFill : Theme.accent
-        radius: surface.corner
-        shadow: surface.prominent ? "prominent" : "capsule"
-        hairline: surface.prominent ? "transparent" : Theme.hairline
-        edgeLight: surface.prominent ? "#47FFFFFF" : Theme.edgeLight
+        accent: root.destructive ? Theme.redFill : Theme.accent
+        radius: root.corner
+        shadow: root.prominent ? "prominent" : "capsule"
+        hairline: root.prominent ? "transparent" : Theme.hairline
+        edgeLight: root.prominent ? "#47FFFFFF" : Theme.edgeLight
     }
 
     HoverFill {
-        radius: surface.corner
-        shown: surface.hovered
-        fill: surface.prominent ? (surface.pressed ? "#1F000000" : "#14FFFFFF")
-            : surface.pressed ? Theme.ink(0.12) : Theme.ink(surface.floating ? 0.05 : 0.08)
+        radius: root.corner
+        shown: root.hovered
+        fill: root.prominent ? (root.pressed ? "#1F000000" : "#14FFFFFF")
+            : root.pressed ? Theme.ink(0.12) : Theme.ink(root.floating ? 0.05 : 0.08)
     }
 }

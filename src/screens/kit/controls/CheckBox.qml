@@ -4,7 +4,7 @@ import Velmora.Theme
 
 /// A check box with its words behind it; pressing either turns it over. A long text wraps where the width is set.
 FocusableItem {
-    id: control
+    id: root
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Math.max(Metrics.smallButton, implicitContentHeight + topPadding + bottomPadding)
@@ -16,9 +16,9 @@ FocusableItem {
     corner: Metrics.radiusSquare
 
     contentItem: CheckBoxLabel {
-        text: control.text
-        checked: control.checked
-        hovered: control.lit
-        pressed: control.down
+        text: root.text
+        checked: root.checked
+        hovered: root.lit
+        pressed: root.down
     }
 }

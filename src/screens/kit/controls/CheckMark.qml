@@ -4,7 +4,7 @@ import Velmora.Theme
 
 /// The square of a check box, 14 wide: a line while it is off, the accent with a tick while it is on.
 Rectangle {
-    id: mark
+    id: root
 
     required property bool checked
     property bool hovered: false
@@ -19,15 +19,15 @@ Rectangle {
     border.color: Qt.rgba(Theme.neutral.r, Theme.neutral.g, Theme.neutral.b, 0.7)
 
     PressShade {
-        radius: mark.radius
-        accented: mark.checked
-        hovered: mark.hovered
-        pressed: mark.pressed
+        radius: root.radius
+        accented: root.checked
+        hovered: root.hovered
+        pressed: root.pressed
     }
 
     Symbol {
         anchors.centerIn: parent
-        visible: mark.checked
+        visible: root.checked
         name: "checkmark"
         size: 8
         weight: "bold"

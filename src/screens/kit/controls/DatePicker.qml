@@ -7,7 +7,7 @@ import Velmora.Kit
 /// A month to pick a day from. `day` and `today` are texts such as "2026-10-31"; `day` is empty while none is picked.
 /// The arrows move by a day and a week, the page keys by a month, Home and End to the ends of the week; Return accepts.
 FocusScope {
-    id: picker
+    id: root
 
     property alias day: month.day
     property alias today: month.today
@@ -44,7 +44,7 @@ FocusScope {
     DatePickerHead {
         x: 14
         y: 12
-        width: picker.width - 28
+        width: root.width - 28
         title: month.title
         onTurned: months => month.turn(months)
     }
@@ -61,7 +61,7 @@ FocusScope {
             AppText {
                 required property string modelData
 
-                width: picker.column
+                width: root.column
                 horizontalAlignment: Text.AlignHCenter
                 text: modelData
                 role: TypeScale.Caption
@@ -86,12 +86,12 @@ FocusScope {
             DatePickerDay {
                 required property calendarDay modelData
 
-                width: picker.column
+                width: root.column
                 number: modelData.number
                 accessibleName: modelData.name
                 picked: number > 0 && modelData.day === month.day
                 current: number > 0 && modelData.day === month.today
-                marked: picked && picker.activeFocus
+                marked: picked && root.activeFocus
                 onClicked: month.day = modelData.day
             }
         }

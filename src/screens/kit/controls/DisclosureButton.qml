@@ -5,7 +5,7 @@ import Velmora.Theme
 /// A title with a chevron that turns down while what belongs to it is shown. A press turns `expanded` over, and so do the
 /// right and left keys.
 FocusableItem {
-    id: control
+    id: root
 
     property bool expanded: false
 
@@ -20,14 +20,14 @@ FocusableItem {
     onClicked: expanded = !expanded
 
     contentItem: DisclosureLabel {
-        text: control.text
-        expanded: control.expanded
-        ink: control.enabled ? Theme.text1 : Theme.text4
+        text: root.text
+        expanded: root.expanded
+        ink: root.enabled ? Theme.text1 : Theme.text4
     }
 
     background: HoverFill {
-        radius: control.corner
-        shown: control.lit
-        fill: control.down ? Theme.openFill : Theme.hoverFill
+        radius: root.corner
+        shown: root.lit
+        fill: root.down ? Theme.openFill : Theme.hoverFill
     }
 }

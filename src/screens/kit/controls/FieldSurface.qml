@@ -5,7 +5,7 @@ import Velmora.Kit
 /// What lies under a text field: a quiet fill with a hairline, or floating glass; in focus an inner line and a glow. The
 /// line is red, and there without the focus too, where what was typed is `invalid`.
 Rectangle {
-    id: surface
+    id: root
 
     required property real corner
     property bool glass: false
@@ -21,33 +21,33 @@ Rectangle {
         anchors.fill: parent
         dark: Theme.dark
         hairline: Theme.hairline
-        radius: surface.corner
-        shadow: surface.glass ? "capsule" : "none"
-        edgeLight: surface.glass ? Theme.edgeLight : "transparent"
+        radius: root.corner
+        shadow: root.glass ? "capsule" : "none"
+        edgeLight: root.glass ? Theme.edgeLight : "transparent"
     }
 
     HoverFill {
-        radius: surface.corner
-        shown: surface.hovered && !surface.focused
+        radius: root.corner
+        shown: root.hovered && !root.focused
         fill: Theme.hoverFill
     }
 
     Rectangle {
         anchors.fill: parent
         anchors.margins: -3
-        visible: surface.focused
-        radius: surface.corner + 3
+        visible: root.focused
+        radius: root.corner + 3
         color: "transparent"
         border.width: 3
-        border.color: Qt.rgba(surface.mark.r, surface.mark.g, surface.mark.b, 0.22)
+        border.color: Qt.rgba(root.mark.r, root.mark.g, root.mark.b, 0.22)
     }
 
     Rectangle {
         anchors.fill: parent
-        visible: surface.focused || surface.invalid
-        radius: surface.corner
+        visible: root.focused || root.invalid
+        radius: root.corner
         color: "transparent"
         border.width: 1
-        border.color: Qt.rgba(surface.mark.r, surface.mark.g, surface.mark.b, 0.7)
+        border.color: Qt.rgba(root.mark.r, root.mark.g, root.mark.b, 0.7)
     }
 }

@@ -4,6 +4,8 @@ import Velmora.Theme
 /// The keyboard's focus round the parent's box: 2 wide, 2 away, of the same curvature. Set `shown` and the box's
 /// `corner`.
 Rectangle {
+    id: root
+
     required property bool shown
     required property real corner
 

@@ -7,7 +7,7 @@ import Velmora.Theme
 /// `clicked`. Its focus shows only after a key press. Give `text`, or `accessibleName` where no text is seen, and fill
 /// `background` and `contentItem`. `corner` is the radius of its shape; `hint` is shown under the pointer.
 T.AbstractButton {
-    id: control
+    id: root
 
     property string accessibleName: text
     property string hint
@@ -18,6 +18,13 @@ T.AbstractButton {
     property bool ringed: visualFocus
     /// A press puts the hint away until the pointer comes again: it would lie over what the press has opened.
     property bool hushed: false
+
+    /// What a press does, for those that come by no pointer.
+    function activate() {
+        if (checkable)
+            toggle()
+        clicked()
+    }
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -34,20 +41,13 @@ T.AbstractButton {
     Accessible.onPressAction: activate()
     Accessible.onToggleAction: activate()
 
-    /// What a press does, for those that come by no pointer.
-    function activate() {
-        if (checkable)
-            toggle()
-        clicked()
-    }
-
     FocusRing {
-        shown: control.ringed
-        corner: control.corner
+        shown: root.ringed
+        corner: root.corner
     }
 
     HintTip {
-        shown: control.hovered && !control.hushed
-        text: control.hint
+        shown: root.hovered && !root.hushed
+        text: root.hint
     }
 }

@@ -5,10 +5,11 @@ import Velmora.Theme
 /// A glass chip with an icon and a title in one line, that opens what is declared in it in a popover 290 wide.
 /// `prominent` takes the accent. What is costly goes into a `When { shown: chip.isPresented }`; `dismiss()` closes it.
 FocusableItem {
-    id: chip
+    id: root
+
+    required property string title
 
     default property alias content: popover.content
-    required property string title
     property bool prominent: false
     /// The icon before the title.
     property Item leading: null
@@ -16,6 +17,10 @@ FocusableItem {
     property alias alignment: popover.alignment
     readonly property bool isPresented: popover.isShown
     readonly property color ink: !enabled ? Theme.text4 : prominent ? Theme.textOnAccent : Theme.text1
+
+    function dismiss() {
+        popover.close()
+    }
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Metrics.propertyChipHeight
@@ -28,33 +33,29 @@ FocusableItem {
     scale: down ? Motion.pressScale : 1
     onClicked: popover.toggle()
 
-    function dismiss() {
-        popover.close()
+    contentItem: ChipLabel {
+        title: root.title
+        leading: root.leading
+        ink: root.ink
+    }
+
+    background: ButtonSurface {
+        corner: root.corner
+        floating: !root.prominent
+        prominent: root.prominent
+        hovered: root.lit || root.isPresented
+        pressed: root.down
+    }
+
+    Popover {
+        id: popover
+
+        name: root.title
     }
 
     Behavior on scale {
         NumberAnimation {
             duration: Motion.pressDuration
         }
-    }
-
-    contentItem: ChipLabel {
-        title: chip.title
-        leading: chip.leading
-        ink: chip.ink
-    }
-
-    background: ButtonSurface {
-        corner: chip.corner
-        floating: !chip.prominent
-        prominent: chip.prominent
-        hovered: chip.lit || chip.isPresented
-        pressed: chip.down
-    }
-
-    Popover {
-        id: popover
-
-        name: chip.title
     }
 }

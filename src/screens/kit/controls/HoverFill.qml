@@ -3,7 +3,7 @@ import Velmora.Theme
 
 /// A fill over the parent's box that is there at once and leaves softly.
 Rectangle {
-    id: hover
+    id: root
 
     required property bool shown
     property color fill: Theme.hoverFill
@@ -15,10 +15,10 @@ Rectangle {
 
     states: State {
         name: "shown"
-        when: hover.shown
+        when: root.shown
 
         PropertyChanges {
-            hover.opacity: 1
+            root.opacity: 1
         }
     }
 

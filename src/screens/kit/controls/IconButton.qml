@@ -5,7 +5,7 @@ import Velmora.Theme
 /// A button that is one symbol. Plain: a square of 22 (or `side`) that fills under the pointer. Glass: a round
 /// floating one. Prominent: round, in the accent. Its name is its hint too.
 FocusableItem {
-    id: control
+    id: root
 
     enum Look { Plain, Glass, Prominent }
 
@@ -26,28 +26,28 @@ FocusableItem {
     hint: name
     scale: down && !plain ? Motion.pressScale : 1
 
-    Behavior on scale {
-        NumberAnimation {
-            duration: Motion.pressDuration
-        }
-    }
-
     contentItem: Item {
         Symbol {
             anchors.centerIn: parent
-            name: control.symbol
-            size: control.symbolSize
-            weight: control.symbolWeight
-            color: !control.enabled ? Theme.text4 : control.prominent ? Theme.textOnAccent
-                 : control.plain && control.lit ? Theme.text1 : control.ink
+            name: root.symbol
+            size: root.symbolSize
+            weight: root.symbolWeight
+            color: !root.enabled ? Theme.text4 : root.prominent ? Theme.textOnAccent
+                 : root.plain && root.lit ? Theme.text1 : root.ink
         }
     }
 
     background: ButtonSurface {
-        corner: control.corner
-        floating: !control.plain
-        prominent: control.prominent
-        hovered: control.lit
-        pressed: control.down
+        corner: root.corner
+        floating: !root.plain
+        prominent: root.prominent
+        hovered: root.lit
+        pressed: root.down
+    }
+
+    Behavior on scale {
+        NumberAnimation {
+            duration: Motion.pressDuration
+        }
     }
 }

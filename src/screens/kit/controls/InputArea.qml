@@ -7,7 +7,7 @@ import Velmora.Theme
 /// A text field of several lines. It grows with its text from `lowest` to `highest`, and scrolls from there on. Tab and
 /// Shift+Tab leave it. `name`, `placeholderText` and `problem` are as in an `InputField`.
 FocusScope {
-    id: area
+    id: root
 
     required property string name
     property alias text: editor.text
@@ -28,10 +28,10 @@ FocusScope {
 
     FieldSurface {
         anchors.fill: parent
-        corner: area.corner
-        hovered: area.lit
-        focused: area.ringed
-        invalid: area.enabled && area.problem.length > 0
+        corner: root.corner
+        hovered: root.lit
+        focused: root.ringed
+        invalid: root.enabled && root.problem.length > 0
     }
 
     Flickable {
@@ -47,8 +47,8 @@ FocusScope {
         T.TextArea.flickable: InputAreaEditor {
             id: editor
 
-            name: area.name
-            problem: area.problem
+            name: root.name
+            problem: root.problem
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {

@@ -7,7 +7,7 @@ import Velmora.Theme
 /// A text field of one line. `name` is what screen readers call it; the placeholder is what it shows while empty.
 /// `problem` says what is wrong with what was typed: the field turns red, and screen readers say it; show it beside it.
 T.TextField {
-    id: field
+    id: root
 
     required property string name
     property real corner: Metrics.radiusRow
@@ -20,6 +20,11 @@ T.TextField {
     property bool lit: enabled && hovered
     /// Shows the keyboard's focus.
     property bool ringed: activeFocus
+
+    function speak() {
+        if (Accessible.description !== spoken)
+            Accessible.description = Qt.binding(() => root.spoken)
+    }
 
     implicitWidth: 190
     implicitHeight: Metrics.fieldHeight
@@ -41,32 +46,27 @@ T.TextField {
     // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
     Accessible.onDescriptionChanged: speak()
 
-    function speak() {
-        if (Accessible.description !== spoken)
-            Accessible.description = Qt.binding(() => field.spoken)
-    }
-
     cursorDelegate: TextCaret {
-        shown: field.activeFocus && field.selectionStart === field.selectionEnd
+        shown: root.activeFocus && root.selectionStart === root.selectionEnd
     }
 
     background: FieldSurface {
-        corner: field.corner
-        glass: field.glass
-        hovered: field.lit
-        focused: field.ringed
-        invalid: field.enabled && field.problem.length > 0
+        corner: root.corner
+        glass: root.glass
+        hovered: root.lit
+        focused: root.ringed
+        invalid: root.enabled && root.problem.length > 0
     }
 
     AppText {
-        x: field.leftPadding
-        width: field.width - field.leftPadding - field.rightPadding
-        height: field.height
+        x: root.leftPadding
+        width: root.width - root.leftPadding - root.rightPadding
+        height: root.height
         verticalAlignment: Text.AlignVCenter
-        visible: field.length === 0 && field.preeditText.length === 0
-        text: field.placeholderText
-        role: field.role
-        color: field.placeholderTextColor
+        visible: root.length === 0 && root.preeditText.length === 0
+        text: root.placeholderText
+        role: root.role
+        color: root.placeholderTextColor
         Accessible.ignored: true
     }
 }

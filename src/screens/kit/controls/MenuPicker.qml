@@ -7,7 +7,7 @@ import Velmora.Kit
 /// `name` is what it chooses. The menu is made when it is opened. (No `FocusableItem`: to screen readers that is always a
 /// button, and this is a combo box.)
 Item {
-    id: picker
+    id: root
 
     required property string name
     required property list<string> choices
@@ -41,17 +41,17 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
-        color: Theme.ink(picker.down ? 0.12 : picker.lit ? 0.09 : 0.06)
+        color: Theme.ink(root.down ? 0.12 : root.lit ? 0.09 : 0.06)
     }
 
     MenuPickerLabel {
         id: label
 
         x: 11
-        width: picker.width - 19
-        height: picker.height
-        text: picker.currentChoice
-        ink: picker.enabled ? Theme.text1 : Theme.text4
+        width: root.width - 19
+        height: root.height
+        text: root.currentChoice
+        ink: root.enabled ? Theme.text1 : Theme.text4
     }
 
     MouseArea {
@@ -59,33 +59,33 @@ Item {
 
         anchors.fill: parent
         hoverEnabled: true
-        onClicked: picker.clicked()
+        onClicked: root.clicked()
     }
 
     FocusRing {
-        shown: picker.ringed
-        corner: picker.height / 2
+        shown: root.ringed
+        corner: root.height / 2
     }
 
     When {
-        shown: picker.opened
+        shown: root.opened
 
         // A click on the picker while the menu is open.
         MouseArea {
-            width: picker.width
-            height: picker.height
+            width: root.width
+            height: root.height
             onClicked: menu.close()
 
             ChoiceMenu {
                 id: menu
 
-                y: picker.height + 4
+                y: root.height + 4
                 leavePressesToParent: true
-                title: picker.name
-                choices: picker.choices
-                current: picker.current
-                onChosen: index => picker.chosen(index)
-                onClosed: picker.opened = false
+                title: root.name
+                choices: root.choices
+                current: root.current
+                onChosen: index => root.chosen(index)
+                onClosed: root.opened = false
                 Component.onCompleted: open()
             }
         }

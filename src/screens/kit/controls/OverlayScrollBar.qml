@@ -5,7 +5,7 @@ import Velmora.Theme
 /// A scroll bar over the content: there while scrolling or under the pointer, wider under it, gone soon after. Attach
 /// it with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls for the attached property).
 T.ScrollBar {
-    id: bar
+    id: root
 
     property int thickness: Metrics.scrollThumbWidth
     readonly property bool wanted: size < 1 && (active || hovered || pressed)
@@ -24,17 +24,17 @@ T.ScrollBar {
         Rectangle {
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            width: bar.vertical ? (bar.hovered || bar.pressed ? 9 : bar.thickness) : parent.width
-            height: bar.vertical ? parent.height : (bar.hovered || bar.pressed ? 9 : bar.thickness)
+            width: root.vertical ? (root.hovered || root.pressed ? 9 : root.thickness) : parent.width
+            height: root.vertical ? parent.height : (root.hovered || root.pressed ? 9 : root.thickness)
             radius: Math.min(width, height) / 2
             color: Theme.scrollThumb
         }
 
         states: State {
-            when: bar.wanted
+            when: root.wanted
 
             PropertyChanges {
-                bar.contentItem.opacity: 1
+                root.contentItem.opacity: 1
             }
         }
 

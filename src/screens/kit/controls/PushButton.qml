@@ -6,7 +6,7 @@ import Velmora.Theme
 /// capsule. Prominent: the accent, one per screen. `destructive` is red: what it does cannot be taken back. `large` is
 /// 40 high instead of 30.
 FocusableItem {
-    id: control
+    id: root
 
     enum Look { Plain, Glass, Prominent }
 
@@ -26,25 +26,25 @@ FocusableItem {
     corner: height / 2
     scale: down && !plain ? Motion.pressScale : 1
 
+    contentItem: PushButtonLabel {
+        text: root.text
+        symbol: root.symbol
+        weight: root.prominent || root.large ? Font.DemiBold : Font.Medium
+        ink: root.ink
+    }
+
+    background: ButtonSurface {
+        corner: root.corner
+        floating: root.look === PushButton.Glass
+        prominent: root.prominent
+        destructive: root.destructive
+        hovered: root.lit
+        pressed: root.down
+    }
+
     Behavior on scale {
         NumberAnimation {
             duration: Motion.pressDuration
         }
-    }
-
-    contentItem: PushButtonLabel {
-        text: control.text
-        symbol: control.symbol
-        weight: control.prominent || control.large ? Font.DemiBold : Font.Medium
-        ink: control.ink
-    }
-
-    background: ButtonSurface {
-        corner: control.corner
-        floating: control.look === PushButton.Glass
-        prominent: control.prominent
-        destructive: control.destructive
-        hovered: control.lit
-        pressed: control.down
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Theme
 
 /// A floating search capsule with its symbol, and a button that empties it while there is text.
 InputField {
-    id: field
+    id: root
 
     implicitHeight: Metrics.capsuleHeight
     corner: height / 2
@@ -18,7 +18,7 @@ InputField {
         anchors.verticalCenter: parent.verticalCenter
         name: "magnifyingglass"
         size: 11.5
-        color: field.enabled ? Theme.text3 : Theme.text4
+        color: root.enabled ? Theme.text3 : Theme.text4
     }
 
     IconButton {
@@ -27,7 +27,7 @@ InputField {
         anchors.right: parent.right
         anchors.rightMargin: 6
         anchors.verticalCenter: parent.verticalCenter
-        visible: field.length > 0
+        visible: root.length > 0
         focusPolicy: Qt.NoFocus
         name: "Effacer la recherche"
         symbol: "xmark"
@@ -35,6 +35,6 @@ InputField {
         symbolWeight: "semibold"
         side: 20
         corner: 10
-        onClicked: field.clear()
+        onClicked: root.clear()
     }
 }

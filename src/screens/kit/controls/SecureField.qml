@@ -3,7 +3,7 @@ import QtQuick
 /// A field for what must not be read over a shoulder: dots on the screen, and nothing of it to screen readers, which know
 /// the field by its `name`. What was typed is `secret`.
 FocusScope {
-    id: secure
+    id: root
 
     required property string name
     // Not called text: screen readers read a property of that name.
@@ -21,6 +21,10 @@ FocusScope {
     signal accepted()
     signal textEdited()
 
+    function clear() {
+        field.clear()
+    }
+
     implicitWidth: field.implicitWidth
     implicitHeight: field.implicitHeight
     Accessible.role: Accessible.EditableText
@@ -29,22 +33,18 @@ FocusScope {
     Accessible.focusable: true
     Accessible.focused: field.activeFocus
 
-    function clear() {
-        field.clear()
-    }
-
     InputField {
         id: field
 
         anchors.fill: parent
         focus: true
-        name: secure.name
+        name: root.name
         echoMode: TextInput.Password
         passwordCharacter: "•"
         inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         // Its text is told in clear to whoever asks for it.
         Accessible.ignored: true
-        onAccepted: secure.accepted()
-        onTextEdited: secure.textEdited()
+        onAccepted: root.accepted()
+        onTextEdited: root.textEdited()
     }
 }

@@ -7,13 +7,20 @@ import Velmora.Theme
 /// One choice out of a few words, side by side. Each segment is a radio button of its own; `name` is what the group is
 /// called. The left and right keys choose the neighbour.
 Rectangle {
-    id: picker
+    id: root
 
     required property string name
     required property list<string> choices
     required property int current
 
     signal chosen(index: int)
+
+    function step(by: int) {
+        if (choices[current + by] === undefined)
+            return
+        chosen(current + by)
+        segments.children[current].forceActiveFocus(Qt.TabFocusReason)
+    }
 
     implicitWidth: segments.implicitWidth + 4
     implicitHeight: 28
@@ -24,13 +31,6 @@ Rectangle {
     Keys.onLeftPressed: step(-1)
     Keys.onRightPressed: step(1)
 
-    function step(by: int) {
-        if (choices[current + by] === undefined)
-            return
-        chosen(current + by)
-        segments.children[current].forceActiveFocus(Qt.TabFocusReason)
-    }
-
     Row {
         id: segments
 
@@ -38,16 +38,16 @@ Rectangle {
         y: 2
 
         Repeater {
-            model: picker.choices
+            model: root.choices
 
             Segment {
                 required property int index
                 required property string modelData
 
-                height: picker.height - 4
+                height: root.height - 4
                 text: modelData
-                on: index === picker.current
-                onChosen: picker.chosen(index)
+                on: index === root.current
+                onChosen: root.chosen(index)
             }
         }
     }

@@ -5,7 +5,7 @@ import Velmora.Theme
 /// A row of the sidebar: a symbol or a drawn icon (`leading`), a title, a count where there is one. `nested` moves it
 /// in.
 FocusableItem {
-    id: row
+    id: root
 
     property string symbol
     property Item leading: null
@@ -23,21 +23,21 @@ FocusableItem {
     Accessible.selected: selected
 
     contentItem: SidebarRowLabel {
-        text: row.text
-        symbol: row.symbol
-        leading: row.leading
-        count: row.count
-        selected: row.selected
+        text: root.text
+        symbol: root.symbol
+        leading: root.leading
+        count: root.count
+        selected: root.selected
     }
 
     background: Rectangle {
-        radius: row.corner
-        color: row.selected ? Theme.openFill : "transparent"
+        radius: root.corner
+        color: root.selected ? Theme.openFill : "transparent"
 
         HoverFill {
-            radius: row.corner
-            shown: row.lit && (row.down || !row.selected)
-            fill: row.down ? Theme.openFill : Theme.hoverFill
+            radius: root.corner
+            shown: root.lit && (root.down || !root.selected)
+            fill: root.down ? Theme.openFill : Theme.hoverFill
         }
     }
 }

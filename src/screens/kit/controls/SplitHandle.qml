@@ -5,7 +5,7 @@ import Velmora.Theme
 /// move it by 16, Home and End to its ends, a double click to `standard`. Set `trailing` where the pane whose width it is
 /// lies on the right. It shows while it is dragged, under the pointer and with the keyboard's focus.
 FocusScope {
-    id: handle
+    id: root
 
     required property string name
     required property real value
@@ -20,6 +20,12 @@ FocusScope {
     readonly property bool dragged: grip.pressed
 
     signal moved(width: real)
+
+    function move(wish: real) {
+        const width = Math.round(Math.max(minimum, Math.min(maximum, wish)))
+        if (width !== value)
+            moved(width)
+    }
 
     implicitWidth: 8
     activeFocusOnTab: true
@@ -37,19 +43,13 @@ FocusScope {
             move(event.key === Qt.Key_Home ? minimum : maximum)
     }
 
-    function move(wish: real) {
-        const width = Math.round(Math.max(minimum, Math.min(maximum, wish)))
-        if (width !== value)
-            moved(width)
-    }
-
     Rectangle {
         anchors.centerIn: parent
         width: 2
         height: parent.height
         radius: 1
-        visible: handle.ringed || handle.lit
-        color: handle.ringed ? Theme.focusRing : Theme.divider
+        visible: root.ringed || root.lit
+        color: root.ringed ? Theme.focusRing : Theme.divider
     }
 
     MouseArea {
@@ -58,6 +58,15 @@ FocusScope {
         property real start: 0
         property real startValue: 0
 
+        function sceneX(mouse: MouseEvent): real {
+            return mapToItem(null, mouse.x, 0).x
+        }
+
+        function begin(mouse: MouseEvent) {
+            start = sceneX(mouse)
+            startValue = root.value
+        }
+
         anchors.fill: parent
         hoverEnabled: true
         preventStealing: true
@@ -65,17 +74,8 @@ FocusScope {
         onPressed: mouse => begin(mouse)
         onPositionChanged: mouse => {
             if (pressed)
-                handle.move(startValue + handle.direction * (sceneX(mouse) - start))
+                root.move(startValue + root.direction * (sceneX(mouse) - start))
         }
-        onDoubleClicked: handle.move(handle.standard)
-
-        function sceneX(mouse: MouseEvent): real {
-            return mapToItem(null, mouse.x, 0).x
-        }
-
-        function begin(mouse: MouseEvent) {
-            start = sceneX(mouse)
-            startValue = handle.value
-        }
+        onDoubleClicked: root.move(root.standard)
     }
 }

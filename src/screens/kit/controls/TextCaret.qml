@@ -3,7 +3,7 @@ import Velmora.Theme
 
 /// The caret of a text field, 1.5 wide in the accent, blinking at the desktop's pace.
 Rectangle {
-    id: caret
+    id: root
 
     required property bool shown
 
@@ -21,7 +21,7 @@ Rectangle {
 
         property bool lit: true
 
-        running: caret.shown && interval > 0
+        running: root.shown && interval > 0
         interval: Application.styleHints.cursorFlashTime / 2
         repeat: true
         onTriggered: lit = !lit

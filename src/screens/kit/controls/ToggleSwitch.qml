@@ -4,7 +4,7 @@ import Velmora.Theme
 
 /// A switch, 34 × 20, on in the accent. `name` is what it switches.
 FocusableItem {
-    id: control
+    id: root
 
     required property string name
 
@@ -16,20 +16,20 @@ FocusableItem {
     opacity: enabled ? 1 : 0.45
 
     background: Rectangle {
-        radius: control.corner
-        color: control.checked ? Theme.accent : Theme.ink(0.16)
+        radius: root.corner
+        color: root.checked ? Theme.accent : Theme.ink(0.16)
 
         PressShade {
-            radius: control.corner
-            accented: control.checked
-            hovered: control.lit
-            pressed: control.down
+            radius: root.corner
+            accented: root.checked
+            hovered: root.lit
+            pressed: root.down
         }
     }
 
     contentItem: Item {
         SwitchKnob {
-            x: control.checked ? 16 : 2
+            x: root.checked ? 16 : 2
             y: 2
         }
     }

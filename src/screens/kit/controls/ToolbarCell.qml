@@ -5,7 +5,7 @@ import Velmora.Theme
 /// One command inside a toolbar capsule, 34 × 28. `on` fills it (a chosen layout, an open popover), `active` colours
 /// its symbol (a filter that filters).
 FocusableItem {
-    id: control
+    id: root
 
     required property string name
     required property string symbol
@@ -23,20 +23,20 @@ FocusableItem {
     contentItem: Item {
         Symbol {
             anchors.centerIn: parent
-            name: control.symbol
-            size: control.symbolSize
-            color: !control.enabled ? Theme.text4 : control.active ? Theme.accent : control.ink
+            name: root.symbol
+            size: root.symbolSize
+            color: !root.enabled ? Theme.text4 : root.active ? Theme.accent : root.ink
         }
     }
 
     background: Rectangle {
-        radius: control.corner
-        color: control.on ? Theme.highlightFill : "transparent"
+        radius: root.corner
+        color: root.on ? Theme.highlightFill : "transparent"
 
         HoverFill {
-            radius: control.corner
-            shown: control.lit
-            fill: Theme.ink(control.down ? 0.09 : 0.05)
+            radius: root.corner
+            shown: root.lit
+            fill: Theme.ink(root.down ? 0.09 : 0.05)
         }
     }
 }

@@ -3,7 +3,7 @@ import Velmora.Kit
 
 /// The program's mark. Its shadow reaches beyond its square.
 Item {
-    id: glyph
+    id: root
 
     property real size: 64
     readonly property int margin: Pictures.glyphMargin(size)
@@ -14,12 +14,12 @@ Item {
     Accessible.name: "Velmora"
 
     Image {
-        x: -glyph.margin
-        y: -glyph.margin
-        width: glyph.size + 2 * glyph.margin
+        x: -root.margin
+        y: -root.margin
+        width: root.size + 2 * root.margin
         height: width
         sourceSize.width: width
         sourceSize.height: height
-        source: Pictures.glyph(glyph.size)
+        source: Pictures.glyph(root.size)
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Theme
 /// Plain text in one of the roles of the type scale. One line is as high as its role's line; set `wrapMode` for more.
 /// It ends in "…" where its width ends. `weight` overrides the role's; `tabular` is for keys, counts and dates.
 Text {
-    id: label
+    id: root
 
     property int role: TypeScale.Body
     property int weight: -1

@@ -5,7 +5,7 @@ import Velmora.Kit
 /// A person: the picture where there is one, until then and otherwise the disc with initials; or, without `hasUser`, the
 /// dashed ring of nobody. Its name is its hint.
 DrawnIcon {
-    id: avatar
+    id: root
 
     required property jiraUser user
     required property bool hasUser
@@ -19,7 +19,7 @@ DrawnIcon {
     RemotePicture {
         id: picture
 
-        address: avatar.hasUser ? Pictures.avatarAddress(avatar.user) : ""
+        address: root.hasUser ? Pictures.avatarAddress(root.user) : ""
     }
 
     HoverHandler {
@@ -28,6 +28,6 @@ DrawnIcon {
 
     HintTip {
         shown: pointer.hovered
-        text: avatar.personName
+        text: root.personName
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Theme
 /// A due date: the calendar symbol and the date's text, which comes ready. `late` turns it red, `compact` leaves the
 /// text out.
 Rectangle {
-    id: badge
+    id: root
 
     required property string text
     property bool late: false
@@ -30,15 +30,15 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             name: "calendar"
             size: 10
-            color: badge.ink
+            color: root.ink
         }
 
         AppText {
-            visible: !badge.compact
-            text: badge.text
+            visible: !root.compact
+            text: root.text
             role: TypeScale.Badge
             tabular: true
-            color: badge.ink
+            color: root.ink
             Accessible.ignored: true
         }
     }

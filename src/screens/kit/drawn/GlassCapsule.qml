@@ -3,6 +3,8 @@ import Velmora.Theme
 
 /// Glass with round ends, for toolbar groups, chips and badges. Children are laid in it by their anchors.
 GlassPanel {
+    id: root
+
     implicitHeight: Metrics.capsuleHeight
     radius: height / 2
     shadow: "capsule"

@@ -5,7 +5,7 @@ import Velmora.Kit
 /// A floating surface: fill, hairline, light upper edge and shadow. Panes take `shadow: "pane"`, popovers "popover"
 /// with `Theme.elevatedGlass`, sheets "sheet" with `Theme.elevated`, toasts and bars "bar" with `Theme.glassStrong`.
 Rectangle {
-    id: panel
+    id: root
 
     property string shadow: "pane"
     property alias hairline: frame.hairline
@@ -18,10 +18,10 @@ Rectangle {
         id: frame
 
         anchors.fill: parent
-        radius: panel.radius
+        radius: root.radius
         dark: Theme.dark
         hairline: Theme.hairline
         edgeLight: Theme.edgeLight
-        shadow: panel.shadow
+        shadow: root.shadow
     }
 }

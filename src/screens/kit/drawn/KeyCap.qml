@@ -3,6 +3,8 @@ import Velmora.Theme
 
 /// A key or a shortcut, as it is written on the keyboard.
 Rectangle {
+    id: root
+
     required property string text
 
     implicitWidth: Math.max(Metrics.keyCapHeight, Math.ceil(label.implicitWidth) + 10)

@@ -3,7 +3,7 @@ import Velmora.Theme
 
 /// A label: its dot and its name in a capsule's outline.
 Rectangle {
-    id: chip
+    id: root
 
     required property string name
 
@@ -22,15 +22,15 @@ Rectangle {
 
         LabelDot {
             anchors.verticalCenter: parent.verticalCenter
-            name: chip.name
+            name: root.name
             Accessible.ignored: true
         }
 
         AppText {
             id: label
 
-            width: Math.min(implicitWidth, chip.width - 26)
-            text: chip.name
+            width: Math.min(implicitWidth, root.width - 26)
+            text: root.name
             role: TypeScale.Caption
             weight: Font.Medium
             color: Theme.text2

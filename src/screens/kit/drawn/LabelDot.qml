@@ -3,6 +3,8 @@ import Velmora.Theme
 
 /// The dot in a label's colour.
 Rectangle {
+    id: root
+
     required property string name
     property real size: 7
 

@@ -5,6 +5,8 @@ import Velmora.Kit
 
 /// The bars of a priority (`Model.PriorityLevel`). `tint` colours bars and dashes, not the urgent one.
 DrawnIcon {
+    id: root
+
     required property int level
     property real size: 14
     property color tint: level === Model.PriorityLevel.None ? Theme.neutral : Theme.text1

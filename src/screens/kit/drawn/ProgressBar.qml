@@ -3,7 +3,7 @@ import Velmora.Theme
 
 /// How far a work is: `value` from 0 to 1. `name` is what is under way.
 Rectangle {
-    id: bar
+    id: root
 
     required property string name
     required property real value
@@ -19,9 +19,9 @@ Rectangle {
 
     Rectangle {
         // Never narrower than its round ends, once something is done.
-        width: bar.share > 0 ? Math.max(height, bar.share * parent.width) : 0
+        width: root.share > 0 ? Math.max(height, root.share * parent.width) : 0
         height: parent.height
-        radius: bar.radius
+        radius: root.radius
         color: Theme.accent
     }
 }

@@ -4,6 +4,8 @@ import Velmora.Kit
 
 /// The coloured square with a project's letter.
 DrawnIcon {
+    id: root
+
     required property project project
     property real size: 16
 

@@ -3,13 +3,13 @@ import Velmora.Theme
 
 /// Holds skeleton bars and breathes as a whole while it is seen; still with reduced motion.
 Item {
-    id: pulse
+    id: root
 
     Accessible.role: Accessible.Indicator
     Accessible.name: "Chargement…"
 
     SequentialAnimation on opacity {
-        running: pulse.visible && !Motion.reduced
+        running: root.visible && !Motion.reduced
         loops: Animation.Infinite
 
         NumberAnimation {

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The sign of waiting: eight blades that turn a step at a time, only while they are seen.
 Image {
-    id: spinner
+    id: root
 
     property real size: 14
     property color color: Theme.text2
@@ -19,9 +19,9 @@ Image {
     Accessible.name: "Chargement…"
 
     Timer {
-        running: spinner.running && spinner.visible && spinner.Window.visibility !== Window.Hidden
+        running: root.running && root.visible && root.Window.visibility !== Window.Hidden
         interval: 100
         repeat: true
-        onTriggered: spinner.rotation = (spinner.rotation + 45) % 360
+        onTriggered: root.rotation = (root.rotation + 45) % 360
     }
 }

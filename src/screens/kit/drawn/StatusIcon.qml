@@ -5,6 +5,8 @@ import Velmora.Kit
 
 /// The disc of a status, which fills as work advances.
 DrawnIcon {
+    id: root
+
     required property issueStatus status
     property real size: 14
 

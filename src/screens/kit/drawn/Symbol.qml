@@ -5,7 +5,7 @@ import Velmora.Kit
 /// A symbol by its name in assets/symbols.tsv. `size` is the font size it stands beside: its square is 1.15 times that.
 /// `weight` is regular, medium, semibold, bold or heavy. It says nothing to screen readers unless `meaning` is given.
 Item {
-    id: symbol
+    id: root
 
     required property string name
     property real size: 13
@@ -23,11 +23,11 @@ Item {
 
     Image {
         anchors.centerIn: parent
-        width: symbol.side + 2 * symbol.border
+        width: root.side + 2 * root.border
         height: width
         sourceSize.width: width
         sourceSize.height: height
-        source: symbol.name.length > 0
-                ? Pictures.symbol(symbol.name, symbol.size, symbol.weight, symbol.color) : ""
+        source: root.name.length > 0
+                ? Pictures.symbol(root.name, root.size, root.weight, root.color) : ""
     }
 }

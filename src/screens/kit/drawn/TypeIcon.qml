@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The symbol of an issue type at font size `size`, in a square of `size` + 2. Its name is its hint.
 Item {
-    id: icon
+    id: root
 
     required property issueType type
     property real size: 11
@@ -18,8 +18,8 @@ Item {
     // Large ones are wider than their square.
     DrawnIcon {
         anchors.centerIn: parent
-        side: icon.size + 2 + 2 * icon.border
-        source: Pictures.type(icon.type, icon.size)
+        side: root.size + 2 + 2 * root.border
+        source: Pictures.type(root.type, root.size)
         Accessible.ignored: true
     }
 
@@ -29,6 +29,6 @@ Item {
 
     HintTip {
         shown: pointer.hovered
-        text: icon.type.name
+        text: root.type.name
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The square of a check box, level with the first line of its words.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property bool checked
@@ -16,20 +16,20 @@ Item {
 
     CheckMark {
         y: 2
-        checked: label.checked
-        hovered: label.hovered
-        pressed: label.pressed
-        opacity: label.enabled ? 1 : 0.45
+        checked: root.checked
+        hovered: root.hovered
+        pressed: root.pressed
+        opacity: root.enabled ? 1 : 0.45
     }
 
     AppText {
         id: words
 
         x: 22
-        width: label.width - x
-        text: label.text
+        width: root.width - x
+        text: root.text
         wrapMode: Text.Wrap
-        color: label.enabled ? Theme.text1 : Theme.text4
+        color: root.enabled ? Theme.text1 : Theme.text4
         Accessible.ignored: true
     }
 
@@ -37,7 +37,7 @@ Item {
         id: measure
 
         visible: false
-        text: label.text
+        text: root.text
         Accessible.ignored: true
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The icon and the title of a chip, side by side. The title elides where the chip is narrower than it would like.
 Item {
-    id: label
+    id: root
 
     required property string title
     required property Item leading
@@ -15,22 +15,22 @@ Item {
     implicitHeight: words.implicitHeight
 
     ItemSlot {
-        width: label.leading ? label.leading.implicitWidth : 0
+        width: root.leading ? root.leading.implicitWidth : 0
         height: parent.height
-        content: label.leading
-        opacity: label.enabled ? 1 : 0.45
+        content: root.leading
+        opacity: root.enabled ? 1 : 0.45
     }
 
     AppText {
         id: words
 
-        x: label.start
+        x: root.start
         width: parent.width - x
         anchors.verticalCenter: parent.verticalCenter
-        text: label.title
+        text: root.title
         role: TypeScale.Small
         weight: Font.Medium
-        color: label.ink
+        color: root.ink
         Accessible.ignored: true
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// A menu of choices of which one has a tick; it opens with the highlight on that one.
 PopupMenu {
-    id: choiceMenu
+    id: root
 
     required property list<string> choices
     required property int current
@@ -14,15 +14,15 @@ PopupMenu {
     onOpened: currentIndex = current
 
     Repeater {
-        model: choiceMenu.choices
+        model: root.choices
 
         PopupMenuItem {
             required property int index
             required property string modelData
 
             text: modelData
-            checked: index === choiceMenu.current
-            onTriggered: choiceMenu.chosen(index)
+            checked: index === root.current
+            onTriggered: root.chosen(index)
         }
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// A day in the grid of a month: on a disc when it is picked, in the accent when it is today. `number` 0 is no day.
 FocusableItem {
-    id: day
+    id: root
 
     required property int number
     required property bool picked
@@ -20,11 +20,11 @@ FocusableItem {
     Accessible.ignored: number === 0
 
     contentItem: AppText {
-        visible: day.number > 0
-        text: day.number
-        weight: day.picked || day.current ? Font.DemiBold : Font.Normal
+        visible: root.number > 0
+        text: root.number
+        weight: root.picked || root.current ? Font.DemiBold : Font.Normal
         tabular: true
-        color: day.picked ? Theme.textOnAccent : day.current ? Theme.accentText : Theme.text1
+        color: root.picked ? Theme.textOnAccent : root.current ? Theme.accentText : Theme.text1
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
@@ -33,9 +33,9 @@ FocusableItem {
     background: Item {
         DayDisc {
             anchors.centerIn: parent
-            picked: day.picked
-            lit: day.lit
-            ringed: day.marked
+            picked: root.picked
+            lit: root.lit
+            ringed: root.marked
         }
     }
 }

@@ -3,7 +3,7 @@ import Velmora.Kit
 
 /// The name of a month, and the two buttons that turn it.
 Item {
-    id: head
+    id: root
 
     required property string title
 
@@ -14,7 +14,7 @@ Item {
     AppText {
         x: 4
         anchors.verticalCenter: parent.verticalCenter
-        text: head.title
+        text: root.title
         weight: Font.DemiBold
     }
 
@@ -27,7 +27,7 @@ Item {
             symbol: "chevron.left"
             symbolSize: 10
             symbolWeight: "bold"
-            onClicked: head.turned(-1)
+            onClicked: root.turned(-1)
         }
 
         IconButton {
@@ -35,7 +35,7 @@ Item {
             symbol: "chevron.right"
             symbolSize: 10
             symbolWeight: "bold"
-            onClicked: head.turned(1)
+            onClicked: root.turned(1)
         }
     }
 }

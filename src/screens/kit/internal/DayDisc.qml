@@ -4,6 +4,8 @@ import Velmora.Kit
 
 /// What lies under a day's number.
 Rectangle {
+    id: root
+
     required property bool picked
     required property bool lit
     required property bool ringed

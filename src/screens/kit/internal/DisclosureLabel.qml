@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The chevron and the title of a disclosure.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property bool expanded
@@ -19,8 +19,8 @@ Item {
         name: "chevron.right"
         size: 9
         weight: "bold"
-        color: label.enabled ? Theme.text2 : Theme.text4
-        rotation: label.expanded ? 90 : 0
+        color: root.enabled ? Theme.text2 : Theme.text4
+        rotation: root.expanded ? 90 : 0
 
         Behavior on rotation {
             NumberAnimation {
@@ -36,9 +36,9 @@ Item {
         x: 18
         width: parent.width - x
         anchors.verticalCenter: parent.verticalCenter
-        text: label.text
+        text: root.text
         weight: Font.DemiBold
-        color: label.ink
+        color: root.ink
         Accessible.ignored: true
     }
 }

@@ -2,6 +2,8 @@ import QtQuick
 
 /// A square picture of an image provider, drawn for the device pixels it covers. `side` is in logical pixels.
 Image {
+    id: root
+
     required property real side
 
     width: side

@@ -5,7 +5,14 @@ import Velmora.Kit
 
 /// The bubble of a hint, below the middle of the item it belongs to.
 T.ToolTip {
-    id: tip
+    id: root
+
+    function showAt(owner: Item, words: string, wait: int) {
+        parent = owner
+        text = words
+        delay = wait
+        open()
+    }
 
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
     y: parent ? parent.height + 6 : 0
@@ -16,15 +23,8 @@ T.ToolTip {
     implicitHeight: Metrics.tooltipHeight
     onAboutToHide: HintWarmth.restart()
 
-    function showAt(owner: Item, words: string, wait: int) {
-        parent = owner
-        text = words
-        delay = wait
-        open()
-    }
-
     contentItem: AppText {
-        text: tip.text
+        text: root.text
         role: TypeScale.Badge
         weight: Font.Normal
         verticalAlignment: Text.AlignVCenter

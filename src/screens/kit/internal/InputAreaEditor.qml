@@ -6,13 +6,22 @@ import Velmora.Kit
 
 /// The text of an `InputArea`, with its caret and its placeholder.
 T.TextArea {
-    id: editor
+    id: root
 
     required property string name
     required property string problem
     property int role: TypeScale.Body
     /// With the room round it.
     readonly property real wholeHeight: contentHeight + topPadding + bottomPadding
+
+    function speak() {
+        if (Accessible.description !== problem)
+            Accessible.description = Qt.binding(() => root.problem)
+    }
+
+    function leave(forwards: bool) {
+        nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
 
     leftPadding: 9
     rightPadding: 9
@@ -37,28 +46,19 @@ T.TextArea {
     // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
     Accessible.onDescriptionChanged: speak()
 
-    function speak() {
-        if (Accessible.description !== problem)
-            Accessible.description = Qt.binding(() => editor.problem)
-    }
-
-    function leave(forwards: bool) {
-        nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
-    }
-
     cursorDelegate: TextCaret {
-        shown: editor.activeFocus && editor.selectionStart === editor.selectionEnd
+        shown: root.activeFocus && root.selectionStart === root.selectionEnd
     }
 
     AppText {
-        x: editor.leftPadding
-        y: editor.topPadding - leading
-        width: editor.width - editor.leftPadding - editor.rightPadding
-        visible: editor.length === 0 && editor.preeditText.length === 0
-        text: editor.placeholderText
+        x: root.leftPadding
+        y: root.topPadding - leading
+        width: root.width - root.leftPadding - root.rightPadding
+        visible: root.length === 0 && root.preeditText.length === 0
+        text: root.placeholderText
         wrapMode: Text.Wrap
-        role: editor.role
-        color: editor.placeholderTextColor
+        role: root.role
+        color: root.placeholderTextColor
         Accessible.ignored: true
     }
 }

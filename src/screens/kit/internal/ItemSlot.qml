@@ -2,23 +2,23 @@ import QtQuick
 
 /// A place for an item that somebody else declared: takes it in and centres it.
 Item {
-    id: slot
+    id: root
 
     property Item content: null
 
-    onContentChanged: if (content) content.parent = slot
+    onContentChanged: if (content) content.parent = root
 
     Binding {
-        target: slot.content
+        target: root.content
         property: "x"
-        value: slot.content ? Math.round((slot.width - slot.content.width) / 2) : 0
-        when: slot.content !== null
+        value: root.content ? Math.round((root.width - root.content.width) / 2) : 0
+        when: root.content !== null
     }
 
     Binding {
-        target: slot.content
+        target: root.content
         property: "y"
-        value: slot.content ? Math.round((slot.height - slot.content.height) / 2) : 0
-        when: slot.content !== null
+        value: root.content ? Math.round((root.height - root.content.height) / 2) : 0
+        when: root.content !== null
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The current choice of a menu picker, and the sign that there are others.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property color ink
@@ -17,8 +17,8 @@ Item {
 
         width: parent.width - sign.width - 6
         anchors.verticalCenter: parent.verticalCenter
-        text: label.text
-        color: label.ink
+        text: root.text
+        color: root.ink
         Accessible.ignored: true
     }
 
@@ -29,6 +29,6 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: "shell.popup"
         size: 10
-        color: label.enabled ? Theme.text2 : Theme.text4
+        color: root.enabled ? Theme.text2 : Theme.text4
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// What a row of a menu shows. `hasMarkRoom` keeps the place of a tick before everything else.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property string symbol
@@ -24,36 +24,36 @@ Item {
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
         width: 12
-        visible: label.isMarked
+        visible: root.isMarked
         name: "checkmark"
         size: 9.5
         weight: "medium"
-        color: label.ink
+        color: root.ink
     }
 
     ItemSlot {
-        x: label.start
+        x: root.start
         width: 16
         height: parent.height
-        content: label.leading
-        visible: label.hasLeading
+        content: root.leading
+        visible: root.hasLeading
 
         Symbol {
             anchors.centerIn: parent
-            name: label.symbol
+            name: root.symbol
             size: 12
-            color: label.quietInk
+            color: root.quietInk
         }
     }
 
     AppText {
         id: title
 
-        x: label.start + (label.hasLeading ? 25 : 0)
+        x: root.start + (root.hasLeading ? 25 : 0)
         width: parent.width - x - tail.width
         anchors.verticalCenter: parent.verticalCenter
-        text: label.text
-        color: label.ink
+        text: root.text
+        color: root.ink
         Accessible.ignored: true
     }
 
@@ -66,19 +66,19 @@ Item {
 
         AppText {
             visible: text.length > 0
-            text: label.shortcut
+            text: root.shortcut
             role: TypeScale.Small
-            color: label.quietInk
+            color: root.quietInk
             Accessible.ignored: true
         }
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            visible: label.opensMenu
+            visible: root.opensMenu
             name: "chevron.right"
             size: 8
             weight: "bold"
-            color: label.quietInk
+            color: root.quietInk
         }
     }
 }

@@ -4,6 +4,8 @@ import Velmora.Kit
 
 /// The shade of hover and press over a small control: white or black over the accent, the primary colour elsewhere.
 HoverFill {
+    id: root
+
     required property bool accented
     required property bool hovered
     required property bool pressed

@@ -3,7 +3,7 @@ import Velmora.Kit
 
 /// The symbol and the words of a button, centred.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property string symbol
@@ -21,16 +21,16 @@ Item {
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter
-            visible: label.symbol.length > 0
-            name: label.symbol
+            visible: root.symbol.length > 0
+            name: root.symbol
             size: 12.5
-            color: label.ink
+            color: root.ink
         }
 
         AppText {
-            text: label.text
-            weight: label.weight
-            color: label.ink
+            text: root.text
+            weight: root.weight
+            color: root.ink
             Accessible.ignored: true
         }
     }

@@ -3,6 +3,8 @@ import Velmora.Theme
 
 /// What dims the window under a sheet; its opacity is written by the overlay.
 Rectangle {
+    id: root
+
     color: Theme.scrim
     opacity: 0
 

@@ -5,7 +5,7 @@ import Velmora.Kit
 
 /// One of the words of a `SegmentedPicker`. No `FocusableItem`: a template keeps its role, and this one is a radio button.
 T.RadioButton {
-    id: segment
+    id: root
 
     required property bool on
     property bool lit: enabled && (hovered || down)
@@ -35,12 +35,12 @@ T.RadioButton {
 
     background: Rectangle {
         radius: height / 2
-        color: segment.on ? (Theme.dark ? "#24FFFFFF" : Theme.card)
-             : segment.down ? Theme.highlightFill : segment.lit ? Theme.hoverFill : "transparent"
+        color: root.on ? (Theme.dark ? "#24FFFFFF" : Theme.card)
+             : root.down ? Theme.highlightFill : root.lit ? Theme.hoverFill : "transparent"
 
         GlassFrame {
             anchors.fill: parent
-            visible: segment.on
+            visible: root.on
             dark: Theme.dark
             radius: parent.radius
             shadow: "segment"
@@ -49,17 +49,17 @@ T.RadioButton {
     }
 
     contentItem: AppText {
-        text: segment.text
+        text: root.text
         role: TypeScale.Small
         weight: Font.Medium
-        color: !segment.enabled ? Theme.text4 : segment.on ? Theme.text1 : Theme.text2
+        color: !root.enabled ? Theme.text4 : root.on ? Theme.text1 : Theme.text2
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }
 
     FocusRing {
-        shown: segment.ringed
-        corner: segment.height / 2
+        shown: root.ringed
+        corner: root.height / 2
     }
 }

@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The icon, the title and the count of a sidebar row.
 Item {
-    id: label
+    id: root
 
     required property string text
     required property string symbol
@@ -18,14 +18,14 @@ Item {
     ItemSlot {
         width: 18
         height: parent.height
-        content: label.leading
+        content: root.leading
 
         Symbol {
             anchors.centerIn: parent
-            visible: label.symbol.length > 0
-            name: label.symbol
+            visible: root.symbol.length > 0
+            name: root.symbol
             size: 13.5
-            color: label.selected ? Theme.accent : Theme.text2
+            color: root.selected ? Theme.accent : Theme.text2
         }
     }
 
@@ -35,8 +35,8 @@ Item {
         x: 27
         width: parent.width - x - (number.visible ? number.width + 8 : 0)
         anchors.verticalCenter: parent.verticalCenter
-        text: label.text
-        weight: label.selected ? Font.Medium : Font.Normal
+        text: root.text
+        weight: root.selected ? Font.Medium : Font.Normal
         Accessible.ignored: true
     }
 
@@ -46,7 +46,7 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: text.length > 0
-        text: label.count
+        text: root.count
         role: TypeScale.Small
         weight: Font.Medium
         tabular: true

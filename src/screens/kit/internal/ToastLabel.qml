@@ -4,7 +4,7 @@ import Velmora.Kit
 
 /// The symbol and the message of a toast. Its implicit width is that of the message on one line.
 Item {
-    id: label
+    id: root
 
     required property string message
     required property string symbol
@@ -15,9 +15,9 @@ Item {
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
-        name: label.symbol
+        name: root.symbol
         size: 13
-        color: label.isError ? Theme.orange : Theme.accent
+        color: root.isError ? Theme.orange : Theme.accent
     }
 
     AppText {
@@ -25,7 +25,7 @@ Item {
 
         x: 24
         width: parent.width - x
-        text: label.message
+        text: root.message
         wrapMode: Text.Wrap
         Accessible.ignored: true
     }
@@ -34,7 +34,7 @@ Item {
         id: measure
 
         visible: false
-        text: label.message
+        text: root.message
         Accessible.ignored: true
     }
 }

@@ -5,7 +5,7 @@ import Velmora.Kit
 /// The hint of the item it is declared in. It is made when first wanted, shows after a moment, and at once when another
 /// hint was just shown.
 Loader {
-    id: hint
+    id: root
 
     property bool shown: false
     property string text

@@ -8,10 +8,11 @@ import Velmora.Kit
 /// no more, unless `modal` and `closePolicy` say otherwise: whoever puts it away opens nothing by it. The focus returns to
 /// where it was. Put what is costly into a `When { shown: popover.isShown }`.
 T.Popup {
-    id: popover
+    id: root
+
+    required property string name
 
     default property alias content: holder.data
-    required property string name
     /// A `PopoverPlacement.Alignment`.
     property int alignment: PopoverPlacement.Leading
     /// There, or coming or going.
@@ -24,21 +25,23 @@ T.Popup {
     readonly property size roomSize: room ? Qt.size(room.width, room.height) : Qt.size(0, 0)
     readonly property point place: PopoverPlacement.place(anchor, Qt.size(width, height), roomSize, alignment)
 
-    x: place.x
-    y: place.y
-    implicitWidth: 290
-    implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
-    padding: 0
-    focus: true
-    modal: true
-    dim: false
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
-    onAboutToShow: begin()
-    onAboutToHide: leave()
+    readonly property Item shield: MouseArea {
+        parent: holder.parent
+        anchors.fill: parent
+        z: 1
+        visible: root.isLeaving
+    }
+
+    readonly property Item body: Item {
+        id: holder
+
+        implicitHeight: childrenRect.height
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.name
+    }
 
     function toggle() {
-        popover.visible = !popover.visible
+        root.visible = !root.visible
     }
 
     function begin() {
@@ -52,20 +55,18 @@ T.Popup {
         FocusReturn.giveBack(returnTo)
     }
 
-    readonly property Item shield: MouseArea {
-        parent: holder.parent
-        anchors.fill: parent
-        z: 1
-        visible: popover.isLeaving
-    }
-
-    readonly property Item body: Item {
-        id: holder
-
-        implicitHeight: childrenRect.height
-        Accessible.role: Accessible.Dialog
-        Accessible.name: popover.name
-    }
+    x: place.x
+    y: place.y
+    implicitWidth: 290
+    implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
+    padding: 0
+    focus: true
+    modal: true
+    dim: false
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
+    onAboutToShow: begin()
+    onAboutToHide: leave()
 
     contentItem: body
 

@@ -8,11 +8,21 @@ import Velmora.Kit
 /// close it too, or it would open it again: such a control is the menu's parent, has it `leavePressesToParent`, and calls
 /// `toggle()`.
 T.Menu {
-    id: menu
+    id: root
 
     property real widest: 0
     property Item returnTo: null
     property bool leavePressesToParent: false
+
+    function toggle() {
+        root.visible = !root.visible
+    }
+
+    function begin() {
+        MenuMeasure.alignMarks(root)
+        widest = MenuMeasure.widest(root)
+        returnTo = FocusReturn.holder(parent)
+    }
 
     implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
@@ -24,26 +34,16 @@ T.Menu {
     onAboutToShow: begin()
     onAboutToHide: FocusReturn.giveBack(returnTo)
 
-    function toggle() {
-        menu.visible = !menu.visible
-    }
-
-    function begin() {
-        MenuMeasure.alignMarks(menu)
-        widest = MenuMeasure.widest(menu)
-        returnTo = FocusReturn.holder(parent)
-    }
-
     delegate: PopupMenuItem {}
 
     contentItem: ListView {
         implicitHeight: contentHeight
-        model: menu.contentModel
+        model: root.contentModel
         interactive: contentHeight > height
         clip: interactive
-        currentIndex: menu.currentIndex
+        currentIndex: root.currentIndex
         Accessible.role: Accessible.PopupMenu
-        Accessible.name: menu.title
+        Accessible.name: root.title
     }
 
     background: GlassPanel {

@@ -5,7 +5,7 @@ import Velmora.Theme
 
 /// A row of a menu: a tick and a symbol or a drawn icon before the title, an arrow behind it.
 T.MenuItem {
-    id: item
+    id: root
 
     property string symbol
     property Item leading: null
@@ -14,6 +14,14 @@ T.MenuItem {
     property bool hasMarkRoom: checked
     readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
     readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2
+
+    function activate() {
+        if (checkable)
+            toggle()
+        triggered()
+        if (!subMenu)
+            menu?.dismiss()
+    }
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Metrics.menuRowHeight
@@ -28,34 +36,26 @@ T.MenuItem {
     Accessible.checked: checked
     Accessible.onPressAction: activate()
 
-    function activate() {
-        if (checkable)
-            toggle()
-        triggered()
-        if (!subMenu)
-            menu?.dismiss()
-    }
-
     contentItem: PopupMenuLabel {
-        text: item.text
-        symbol: item.symbol
-        leading: item.leading
-        shortcut: item.shortcut
-        hasMarkRoom: item.hasMarkRoom
-        isMarked: item.checked
-        opensMenu: item.subMenu !== null
-        ink: item.ink
-        quietInk: item.quietInk
+        text: root.text
+        symbol: root.symbol
+        leading: root.leading
+        shortcut: root.shortcut
+        hasMarkRoom: root.hasMarkRoom
+        isMarked: root.checked
+        opensMenu: root.subMenu !== null
+        ink: root.ink
+        quietInk: root.quietInk
     }
 
     background: Rectangle {
         radius: 7
-        color: item.highlighted ? Theme.accentFill : "transparent"
+        color: root.highlighted ? Theme.accentFill : "transparent"
 
         PressShade {
             radius: 7
             accented: true
-            hovered: item.highlighted && item.down
+            hovered: root.highlighted && root.down
             pressed: true
         }
     }

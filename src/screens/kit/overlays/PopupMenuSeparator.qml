@@ -4,6 +4,8 @@ import Velmora.Theme
 
 /// The line between two groups of a menu.
 T.MenuSeparator {
+    id: root
+
     implicitWidth: 60
     implicitHeight: 11
     Accessible.role: Accessible.Separator

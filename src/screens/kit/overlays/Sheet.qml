@@ -8,10 +8,11 @@ import Velmora.Kit
 /// unless `closePolicy` says otherwise. The focus returns to where it was. What is costly goes into a
 /// `When { shown: sheet.visible }`.
 T.Popup {
-    id: sheet
+    id: root
+
+    required property string name
 
     default property alias content: holder.data
-    required property string name
     /// How much of the free height lies above: less than a half, as the eye's middle is higher.
     property real lift: 0.4
     readonly property real freeHeight: parent ? parent.height - height : 0
@@ -22,7 +23,7 @@ T.Popup {
         implicitHeight: childrenRect.height
         clip: height < implicitHeight
         Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.name
+        Accessible.name: root.name
     }
 
     parent: T.Overlay.overlay

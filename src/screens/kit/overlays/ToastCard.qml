@@ -4,7 +4,7 @@ import Velmora.Theme
 
 /// One toast: a symbol and a message on glass, at most 460 wide; a longer message wraps. Pressing it emits `clicked`.
 FocusableItem {
-    id: toast
+    id: root
 
     required property string message
     required property string symbol
@@ -19,20 +19,20 @@ FocusableItem {
     accessibleName: message
 
     contentItem: ToastLabel {
-        message: toast.message
-        symbol: toast.symbol
-        isError: toast.isError
+        message: root.message
+        symbol: root.symbol
+        isError: root.isError
     }
 
     background: GlassPanel {
-        radius: toast.corner
+        radius: root.corner
         color: Theme.glassStrong
         shadow: "bar"
 
         HoverFill {
-            radius: toast.corner
-            shown: toast.lit
-            fill: toast.down ? Theme.openFill : Theme.hoverFill
+            radius: root.corner
+            shown: root.lit
+            fill: root.down ? Theme.openFill : Theme.hoverFill
         }
     }
 }
