@@ -14,9 +14,6 @@ Item {
     required property optionIcon icon
     readonly property string meaning: OptionPictures.meaning(icon)
 
-    implicitWidth: 20
-    implicitHeight: 20
-
     function ink(): color {
         if (root.icon.kind === OptionIcons.Status)
             return Theme.done
@@ -24,6 +21,9 @@ Item {
             return Theme.text2
         return root.icon.level === Model.PriorityLevel.None ? Theme.neutral : Theme.text1
     }
+
+    implicitWidth: 20
+    implicitHeight: 20
 
     Image {
         anchors.centerIn: parent

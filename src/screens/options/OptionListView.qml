@@ -17,11 +17,6 @@ FocusScope {
 
     signal done()
 
-    implicitWidth: 290
-    implicitHeight: field.height + (list.isEmpty ? nothing.height : rows.height)
-    focus: true
-    Component.onCompleted: begin()
-
     function begin() {
         field.forceActiveFocus(Qt.PopupFocusReason)
         list.findPointer(root)
@@ -33,6 +28,11 @@ FocusScope {
         if (list.highlighted === 0)
             rows.positionViewAtBeginning()
     }
+
+    implicitWidth: 290
+    implicitHeight: field.height + (list.isEmpty ? nothing.height : rows.height)
+    focus: true
+    Component.onCompleted: begin()
 
     OptionList {
         id: list

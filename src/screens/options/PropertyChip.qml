@@ -7,7 +7,7 @@ import Velmora.Options
 /// A chip that shows a property of some issues and opens the list that changes it. `kind` is a `PropertyOptions.Kind`,
 /// `keys` are the issues' keys.
 GlassChip {
-    id: chip
+    id: root
 
     property alias store: options.store
     property alias kind: options.kind
@@ -18,13 +18,13 @@ GlassChip {
     }
 
     When {
-        shown: chip.isPresented
+        shown: root.isPresented
 
         OptionListView {
             source: options
             placeholder: options.placeholder
-            width: chip.popoverWidth
-            onDone: chip.dismiss()
+            width: root.popoverWidth
+            onDone: root.dismiss()
         }
     }
 }
