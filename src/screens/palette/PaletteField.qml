@@ -6,7 +6,7 @@ import Velmora.Theme
 // What the palette searches for. It has no surface of its own: it is the panel's head. What its description says, screen
 // readers speak when it changes: the focus stays here while the highlight moves.
 InputField {
-    id: field
+    id: root
 
     required property CommandPalette commandPalette
 

@@ -19,13 +19,6 @@ FocusScope {
     opacity: shown ? 1 : 0
     onShownChanged: wasShown = true
 
-    Behavior on opacity {
-        NumberAnimation {
-            duration: Motion.paletteDuration
-            easing: Springs.firm
-        }
-    }
-
     CommandPalette {
         id: logic
         store: root.store
@@ -62,6 +55,13 @@ FocusScope {
                 duration: Motion.paletteDuration
                 easing: Springs.even
             }
+        }
+    }
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Motion.paletteDuration
+            easing: Springs.firm
         }
     }
 }

@@ -45,6 +45,10 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: root.commandPalette.isPicker ? root.commandPalette.title : "Résultats"
 
+        T.ScrollBar.vertical: OverlayScrollBar {
+            thickness: 5
+        }
+
         Repeater {
             model: places
 
@@ -54,10 +58,6 @@ Item {
                 onPointed: root.commandPalette.point(row)
                 onPicked: root.commandPalette.activate(row)
             }
-        }
-
-        T.ScrollBar.vertical: OverlayScrollBar {
-            thickness: 5
         }
     }
 

@@ -20,11 +20,10 @@ Item {
     required property bool isSelected
     required property string shortcut
     property bool isHighlighted: false
+    readonly property bool isFirst: sectionTitle !== ""
 
     signal pointed()
     signal picked()
-
-    readonly property bool isFirst: sectionTitle !== ""
 
     y: place
     visible: isShown
