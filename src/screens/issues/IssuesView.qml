@@ -15,17 +15,6 @@ FocusScope {
     // There is no sidebar beside it, but a button for one.
     property bool hasSidebarButton: false
 
-    // What had the keyboard has gone: the button of an empty screen, or of a bar that is no longer wanted.
-    Connections {
-        target: root.Window.window
-
-        function onActiveFocusItemChanged() {
-            const holder = root.Window.activeFocusItem;
-            if (holder === root || holder === body)
-                root.focusIssues();
-        }
-    }
-
     signal sidebarWanted()
 
     function focusSearch() {
@@ -35,6 +24,17 @@ FocusScope {
     function focusIssues() {
         const layout = root.store.layout === Model.LayoutMode.Board ? boardPart : listPart;
         layout.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
+    // What had the keyboard has gone: the button of an empty screen, or of a bar that is no longer wanted.
+    Connections {
+        target: root.Window.window
+
+        function onActiveFocusItemChanged() {
+            const holder = root.Window.activeFocusItem;
+            if (holder === root || holder === body)
+                root.focusIssues();
+        }
     }
 
     IssuesContent {

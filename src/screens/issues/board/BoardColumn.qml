@@ -27,6 +27,9 @@ Rectangle {
     // A drag would land here; and how far down it is.
     property bool isTargeted: false
     property real dragY: 0
+    // The card under the pointer.
+    property BoardCard hotCard: null
+    readonly property int padding: Metrics.paneMargin
 
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
@@ -37,10 +40,6 @@ Rectangle {
     function revealFocusedCard() {
         scroller.revealAtOnce();
     }
-
-    // The card under the pointer.
-    property BoardCard hotCard: null
-    readonly property int padding: Metrics.paneMargin
 
     radius: Metrics.radiusPopover
     color: Theme.boardColumn

@@ -60,6 +60,8 @@ FocusScope {
         Accessible.role: Accessible.Grouping
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
 
+        T.ScrollBar.horizontal: OverlayScrollBar {}
+
         Row {
             id: columns
             x: root.sidePadding
@@ -91,8 +93,6 @@ FocusScope {
                 }
             }
         }
-
-        T.ScrollBar.horizontal: OverlayScrollBar {}
     }
 
     // One for all columns: the board scrolls under a drag that rests, and nothing tells the columns of it.

@@ -4,6 +4,8 @@ import Velmora.Theme
 
 // The cards of a board in the colours of the theme.
 CardStyle {
+    id: root
+
     ink: Theme.text1
     faint: Theme.neutral
     quiet: Theme.text2

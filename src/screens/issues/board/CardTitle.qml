@@ -3,6 +3,8 @@ import Velmora.Issues
 
 // The summary of an issue on its card, on three lines at most. The card speaks for it.
 Text {
+    id: root
+
     required property CardStyle style
 
     topPadding: style.titleLeading

@@ -5,6 +5,8 @@ import Velmora.Theme
 
 // What stands in a column without cards.
 DashedBox {
+    id: root
+
     radius: Metrics.radiusPanel
     color: Theme.ink(0.08)
 

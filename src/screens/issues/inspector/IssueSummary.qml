@@ -101,6 +101,8 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
 
+        T.ScrollBar.vertical: OverlayScrollBar {}
+
         Column {
             id: page
             x: Metrics.pageMargin
@@ -123,8 +125,6 @@ FocusScope {
                 issue: open
             }
         }
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
     }
 
     When {

@@ -21,6 +21,8 @@ FocusScope {
     readonly property bool isCompact: store.density === Model.RowDensity.Compact
     readonly property int rowHeight: isCompact ? Metrics.rowCompactHeight : Metrics.rowHeight
     readonly property int headerHeight: isCompact ? Metrics.groupHeaderCompactHeight : Metrics.groupHeaderHeight
+    // The row under the pointer.
+    property IssueRow hotRow: null
 
     function openFocusedMenu() {
         scroller.revealAtOnce();
@@ -38,9 +40,6 @@ FocusScope {
     function newIssueIn(header: issueListHeader) {
         CreateScreen.open(store, header.hasProject ? header.projectOrEmpty.key : "");
     }
-
-    // The row under the pointer.
-    property IssueRow hotRow: null
 
     KeyColumn {
         id: keyColumn

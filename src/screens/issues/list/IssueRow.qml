@@ -23,13 +23,12 @@ RowLine {
     property bool hasKeyboard: false
     // Its menu is open: it looks as under the pointer, which is on the menu.
     property bool hasMenu: false
+    readonly property real cellTop: Math.ceil(height / 2) - 11
 
     signal clicked(modifiers: int)
     signal checkToggled()
     signal menuRequested(x: real, y: real)
     signal dragBegun(handler: DragHandler)
-
-    readonly property real cellTop: Math.ceil(height / 2) - 11
 
     function press(x: real, modifiers: int) {
         const cell = childAt(x, cellTop + 1) as RowCell;

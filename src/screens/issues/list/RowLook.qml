@@ -4,6 +4,8 @@ import Velmora.Theme
 
 // The rows of a list in the colours of the theme.
 RowStyle {
+    id: root
+
     ink: Theme.text1
     faint: Theme.neutral
     quiet: Theme.text2

@@ -5,8 +5,9 @@ import Velmora.Kit
 Item {
     id: root
 
-    default property alias control: slot.data
     required property string text
+
+    default property alias control: slot.data
 
     implicitHeight: 32
 

@@ -20,13 +20,6 @@ Item {
     opacity: Math.min(1, presence)
     clip: presence < 1
 
-    Behavior on presence {
-        NumberAnimation {
-            duration: Motion.stateDuration
-            easing: Springs.even
-        }
-    }
-
     When {
         shown: root.visible
 
@@ -35,6 +28,13 @@ Item {
             filters: root.filters
             onImplicitHeightChanged: root.barHeight = implicitHeight
             Component.onCompleted: root.barHeight = implicitHeight
+        }
+    }
+
+    Behavior on presence {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
         }
     }
 }

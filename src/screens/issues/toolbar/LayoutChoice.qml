@@ -5,16 +5,16 @@ import Velmora.Kit
 ToolbarCell {
     id: root
 
-    Accessible.checkable: true
-    Accessible.checked: on
-    // The template writes its own state over these whenever a screen reader starts.
-    Accessible.onCheckableChanged: tell()
-    Accessible.onCheckedChanged: tell()
-
     function tell() {
         if (!Accessible.checkable)
             Accessible.checkable = true;
         if (Accessible.checked !== on)
             Accessible.checked = Qt.binding(() => root.on);
     }
+
+    Accessible.checkable: true
+    Accessible.checked: on
+    // The template writes its own state over these whenever a screen reader starts.
+    Accessible.onCheckableChanged: tell()
+    Accessible.onCheckedChanged: tell()
 }

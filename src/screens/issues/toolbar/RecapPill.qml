@@ -21,13 +21,6 @@ Row {
     Accessible.role: Accessible.StaticText
     Accessible.name: root.value + " " + root.label
 
-    Behavior on shown {
-        NumberAnimation {
-            duration: Motion.stateDuration
-            easing: Springs.even
-        }
-    }
-
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
         name: root.symbol
@@ -49,5 +42,12 @@ Row {
         color: Theme.text2
         text: root.label
         Accessible.ignored: true
+    }
+
+    Behavior on shown {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
+        }
     }
 }

@@ -23,13 +23,6 @@ Item {
     Accessible.role: Accessible.ToolBar
     Accessible.name: actions.countText
 
-    Behavior on presence {
-        NumberAnimation {
-            duration: Motion.selectionBarDuration
-            easing: Springs.soft
-        }
-    }
-
     BulkActions {
         id: actions
         store: root.store
@@ -114,6 +107,13 @@ Item {
                     onClicked: actions.copyKeys()
                 }
             }
+        }
+    }
+
+    Behavior on presence {
+        NumberAnimation {
+            duration: Motion.selectionBarDuration
+            easing: Springs.soft
         }
     }
 }
