@@ -6,6 +6,8 @@ import Velmora.Model
 
 /// The controls at rest, chosen, focused and disabled, on the sidebar and on the plane.
 Item {
+    id: root
+
     GlassPanel {
         id: sidebar
 

@@ -5,6 +5,8 @@ import Velmora.Kit
 
 /// What is typed into and what stands in a row, in each of its states.
 Column {
+    id: root
+
     StateNames {}
 
     StateRow {

@@ -5,7 +5,7 @@ import Velmora.Theme
 
 /// The gallery's window: a page of samples, and what to look at them by.
 Window {
-    id: window
+    id: root
 
     required property string page
     required property bool dark
@@ -23,13 +23,13 @@ Window {
     Binding {
         target: Theme
         property: "dark"
-        value: window.dark
+        value: root.dark
     }
 
     Binding {
         target: Theme
         property: "accentChoice"
-        value: window.accent
+        value: root.accent
     }
 
     Binding {
@@ -47,24 +47,24 @@ Window {
 
         SegmentedPicker {
             name: "Page"
-            choices: window.titles
-            current: window.pages.indexOf(window.page)
-            onChosen: index => window.page = window.pages[index]
+            choices: root.titles
+            current: root.pages.indexOf(root.page)
+            onChosen: index => root.page = root.pages[index]
         }
 
         SegmentedPicker {
             name: "Apparence"
             choices: ["Clair", "Sombre"]
-            current: window.dark ? 1 : 0
-            onChosen: index => window.dark = index === 1
+            current: root.dark ? 1 : 0
+            onChosen: index => root.dark = index === 1
         }
 
         MenuPicker {
             anchors.verticalCenter: parent.verticalCenter
             name: "Couleur"
             choices: ["Indigo", "Bleu", "Violet", "Rose", "Orange", "Vert", "Graphite"]
-            current: window.accent
-            onChosen: index => window.accent = index
+            current: root.accent
+            onChosen: index => root.accent = index
         }
     }
 
@@ -76,15 +76,15 @@ Window {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
+        T.ScrollBar.vertical: OverlayScrollBar {}
+
         GalleryPage {
             id: page
 
             x: 32
-            width: window.width - 64
-            height: Math.max(implicitHeight, window.height - 128)
-            page: window.page
+            width: root.width - 64
+            height: Math.max(implicitHeight, root.height - 128)
+            page: root.page
         }
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
     }
 }

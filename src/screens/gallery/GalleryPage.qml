@@ -2,6 +2,8 @@ import QtQuick
 
 /// Chooses the page by its name: icons, symbols, states, fields, controls, panels, overlays or sheets.
 Loader {
+    id: root
+
     required property string page
 
     source: Qt.resolvedUrl(page.charAt(0).toUpperCase() + page.slice(1, -1) + "Samples.qml")

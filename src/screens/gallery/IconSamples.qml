@@ -6,6 +6,8 @@ import Velmora.Model
 
 /// Every drawn icon at four sizes.
 Column {
+    id: root
+
     spacing: 22
 
     Row {
@@ -201,9 +203,9 @@ Column {
             model: ["1", "C", "↑↓", "↩", "Ctrl+K", "Ctrl+Maj+O", "esc"]
 
             KeyCap {
-                anchors.verticalCenter: parent.verticalCenter
                 required property string modelData
 
+                anchors.verticalCenter: parent.verticalCenter
                 text: modelData
             }
         }

@@ -5,18 +5,18 @@ import Velmora.Theme
 
 /// What opens over a window, open: menus, a popover, a hint; and what stands for waiting.
 Item {
-    id: page
+    id: root
 
     readonly property bool isShown: Window.window !== null
-
-    onIsShownChanged: open()
-    Component.onCompleted: open()
 
     // A popover needs a window to open in.
     function open() {
         if (isShown && !chip.isPresented)
             chip.activate()
     }
+
+    onIsShownChanged: open()
+    Component.onCompleted: open()
 
     Item {
         PopupMenu {
@@ -93,7 +93,7 @@ Item {
         look: IconButton.Glass
 
         HintTip {
-            shown: page.isShown
+            shown: root.isShown
             delay: 0
             text: "Actualiser (Ctrl+R)"
         }

@@ -6,6 +6,8 @@ import Velmora.Theme
 
 /// What floats: lists of options, a calendar, display options, a sheet's and a toast's surface, chips in a wrapping row.
 Item {
+    id: root
+
     SamplePanel {
         width: 260
 

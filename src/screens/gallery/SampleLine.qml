@@ -3,7 +3,7 @@ import Velmora.Kit
 
 /// A line of a form: its words, and the control at its end.
 Item {
-    id: line
+    id: root
 
     required property string text
     required property Item control
@@ -13,12 +13,12 @@ Item {
 
     AppText {
         anchors.verticalCenter: parent.verticalCenter
-        text: line.text
+        text: root.text
     }
 
     Item {
-        x: line.width - line.control.implicitWidth
-        y: (line.height - line.control.implicitHeight) / 2
-        data: [line.control]
+        x: root.width - root.control.implicitWidth
+        y: (root.height - root.control.implicitHeight) / 2
+        data: [root.control]
     }
 }

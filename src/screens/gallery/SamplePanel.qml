@@ -4,6 +4,8 @@ import Velmora.Theme
 
 /// The surface of a popover, as high as what stands on it.
 GlassPanel {
+    id: root
+
     default property alias content: holder.data
 
     width: 290

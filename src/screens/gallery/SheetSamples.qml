@@ -6,6 +6,8 @@ import Velmora.Model
 
 /// A sheet over a page of text: the rest of the window is dimmed and out of reach.
 Item {
+    id: root
+
     Column {
         spacing: 12
 

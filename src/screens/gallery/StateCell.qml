@@ -3,14 +3,14 @@ import Velmora.Gallery
 
 /// A control in the state of that number.
 Item {
-    id: cell
+    id: root
 
     required property int index
     required property Component sample
 
     Loader {
         anchors.verticalCenter: parent.verticalCenter
-        sourceComponent: cell.sample
-        onLoaded: States.show(item, cell.index)
+        sourceComponent: root.sample
+        onLoaded: States.show(item, root.index)
     }
 }

@@ -5,7 +5,7 @@ import Velmora.Theme
 
 /// The head of a table of states.
 Row {
-    id: names
+    id: root
 
     property real cell: 150
 
@@ -18,7 +18,7 @@ Row {
         AppText {
             required property string modelData
 
-            width: names.cell
+            width: root.cell
             text: modelData
             role: TypeScale.Caption
             weight: Font.DemiBold

@@ -6,7 +6,7 @@ import Velmora.Theme
 
 /// A control in each of its states, side by side: at rest, under the pointer, pressed, focused by the keyboard, disabled.
 Row {
-    id: row
+    id: root
 
     required property string caption
     required property Component sample
@@ -17,7 +17,7 @@ Row {
     AppText {
         width: 130
         anchors.verticalCenter: parent.verticalCenter
-        text: row.caption
+        text: root.caption
         role: TypeScale.Caption
         color: Theme.text2
     }
@@ -26,9 +26,9 @@ Row {
         model: 5
 
         StateCell {
-            width: row.cell
-            height: row.height
-            sample: row.sample
+            width: root.cell
+            height: root.height
+            sample: root.sample
         }
     }
 }

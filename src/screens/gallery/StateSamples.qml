@@ -4,6 +4,8 @@ import Velmora.Kit
 
 /// What can be pressed, in each of its states.
 Column {
+    id: root
+
     StateNames {}
 
     StateRow {

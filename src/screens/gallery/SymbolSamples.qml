@@ -6,6 +6,8 @@ import Velmora.Theme
 
 /// Every symbol at two sizes, and the line symbols at every weight.
 Column {
+    id: root
+
     spacing: 24
 
     Grid {
