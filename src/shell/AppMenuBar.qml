@@ -22,12 +22,6 @@ T.MenuBar {
 
     Component.onCompleted: (root.itemAt(0) as T.MenuBarItem).triggered()
 
-    Binding {
-        target: root.keys
-        property: "hasOpenMenu"
-        value: file.opened || issues.opened || view.opened
-    }
-
     delegate: MenuBarTitle {}
 
     contentItem: Row {
@@ -47,6 +41,12 @@ T.MenuBar {
             height: 1
             color: Theme.divider
         }
+    }
+
+    Binding {
+        target: root.keys
+        property: "hasOpenMenu"
+        value: file.opened || issues.opened || view.opened
     }
 
     PopupMenu {

@@ -4,6 +4,8 @@ import Velmora.Theme
 
 // The words of the demo's badge, with its symbol.
 Item {
+    id: root
+
     Symbol {
         id: sparkles
         x: 12

@@ -3,6 +3,8 @@ import Velmora.Kit
 
 // Shows only until it is known which screen comes first.
 Item {
+    id: root
+
     Accessible.role: Accessible.Indicator
     Accessible.name: "Démarrage de Velmora"
 

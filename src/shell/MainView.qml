@@ -28,15 +28,8 @@ FocusScope {
     readonly property int detailLeft: plan.hasSidebar ? plan.sidebar : 0
     readonly property int detailRight: plan.coversDetail ? width : width - plan.inspector
     readonly property real detailCentre: plan.coversDetail ? width / 2 : (detailLeft + detailRight) / 2
-
-    Behavior on inspectorPresence {
-        NumberAnimation {
-            duration: Motion.stateDuration
-            easing: Springs.even
-        }
-    }
-
     readonly property bool isInspecting: store.showInspector
+
     // At the beginning of its way: what leaves takes no more keys.
     onIsInspectingChanged: if (!isInspecting && inspector.activeFocus) issues.focusIssues()
 
@@ -129,5 +122,12 @@ FocusScope {
         height: root.height - 2 * Metrics.paneMargin
         shown: root.store.showInspector || root.inspectorPresence > 0
         onWanted: setSource("InspectorPane.qml", { store: root.store })
+    }
+
+    Behavior on inspectorPresence {
+        NumberAnimation {
+            duration: Motion.stateDuration
+            easing: Springs.even
+        }
     }
 }

@@ -20,11 +20,10 @@ Item {
     required property string accessibleName
     // The row has the keyboard's focus, and it is to be seen.
     property bool isFocused: false
+    readonly property bool isSection: kind === SidebarEnums.Section
 
     signal chosen()
     signal menuRequested(x: real, y: real)
-
-    readonly property bool isSection: kind === SidebarEnums.Section
 
     implicitHeight: isSection ? 35 : Metrics.sidebarRowHeight
 

@@ -18,18 +18,18 @@ FocusScope {
 
     signal dismissed()
 
-    Keys.onEscapePressed: event => {
-        event.accepted = isFloating;
-        dismissed();
-    }
-    onVisibleChanged: if (visible && isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
-
     // The menu of the project that is shown.
     function openProjectMenu() {
         list.positionViewAtIndex(workspace.projectRow, ListView.Contain);
         const line = list.itemAtIndex(workspace.projectRow) as SidebarLine;
         line?.menuRequested(0, line.height);
     }
+
+    Keys.onEscapePressed: event => {
+        event.accepted = isFloating;
+        dismissed();
+    }
+    onVisibleChanged: if (visible && isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
 
     Workspace {
         id: workspace

@@ -31,12 +31,12 @@ Item {
             onClicked: root.requested()
             Accessible.ignored: true
 
-            HoverHandler {
-                cursorShape: Qt.PointingHandCursor
-            }
-
             contentItem: TokenLinkLabel {
                 lit: link.lit
+            }
+
+            HoverHandler {
+                cursorShape: Qt.PointingHandCursor
             }
         }
     }
