@@ -97,7 +97,7 @@ QColor IdentityColors::label(QStringView name)
 
 QColor IdentityColors::project(QStringView key)
 {
-    // Divided, so that a project and a label of the same text need not share a colour.
+    // The hash is divided so that a project and a label with the same text do not always share a colour.
     return labelAt(stableHash(key) / 7);
 }
 

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// What QML sees of the colours that identify a thing; `Theme` and the kit read it, screens read `Theme`.
+/// The identifying colours for QML. `Theme` and the kit use this type, and screens use `Theme`.
 class IdentityPalette : public QObject
 {
     Q_OBJECT

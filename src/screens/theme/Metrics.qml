@@ -8,20 +8,20 @@ QtObject {
     // Radii
     readonly property int radiusCheckBox: 4
     readonly property int radiusKeyCap: 5
-    /// Small icon buttons and the workspace square.
+    /// For small icon buttons and the workspace square.
     readonly property int radiusSquare: 6
-    /// List rows, group headers, option rows, fields, tooltips.
+    /// For list rows, group headers, option rows, fields and tooltips.
     readonly property int radiusRow: 8
     readonly property int radiusPanel: 10
     readonly property int radiusCard: 11
-    /// Menus, bubbles, form cards, tiles.
+    /// For menus, bubbles, form cards and tiles.
     readonly property int radiusBubble: 12
-    /// Popovers and board columns.
+    /// For popovers and board columns.
     readonly property int radiusPopover: 14
-    /// Sidebar, inspector, breadcrumb.
+    /// For the sidebar, the inspector and the breadcrumb.
     readonly property int radiusPane: 18
     readonly property int radiusToast: 20
-    /// Composer and sheets.
+    /// For the composer and for sheets.
     readonly property int radiusSheet: 22
     readonly property int radiusPalette: 24
     readonly property int radiusOnboarding: 32
@@ -39,7 +39,7 @@ QtObject {
 
     // Heights of controls
     readonly property int toolbarHeight: 56
-    /// Where the centres of title, capsules and workspace row lie.
+    /// The distance of the centres of title, capsules and workspace row from the top edge.
     readonly property int toolbarCentre: 28
     /// Toolbar capsules, round buttons, search fields.
     readonly property int capsuleHeight: 32
@@ -70,7 +70,7 @@ QtObject {
     readonly property int paletteFieldHeight: 52
     /// The title of a section, above its first row.
     readonly property int paletteTitleHeight: 29
-    /// Of all rows together; what is more is scrolled to.
+    /// The maximum height of all rows together. Further rows are reached by scrolling.
     readonly property int paletteMaxHeight: 420
 
     // The main window
@@ -81,11 +81,11 @@ QtObject {
     readonly property int inspectorMinWidth: 380
     readonly property int inspectorWidth: 500
     readonly property int inspectorMaxWidth: 780
-    /// Toasts above the window's edge, alone and above the selection bar.
+    /// The distance of toasts from the window's lower edge, normally and above the selection bar.
     readonly property int toastBottom: 24
     readonly property int toastBottomAboveBar: 84
-    /// Kept free under the last row, which can be scrolled clear of the selection bar: its height, its distance from the
-    /// edge, and a gap.
+    /// Space below the last row, so that it can be scrolled clear of the selection bar: the height of the bar, its
+    /// distance from the edge, and a gap.
     readonly property int selectionBarRoom: 84
     readonly property int scrollThumbWidth: 6
     readonly property int scrollFade: 16

@@ -8,11 +8,11 @@
 
 namespace {
 
-/// A spring of mass 1, let go at 0 and pulling towards 1. Times are in units of its response.
+/// A spring of mass 1 that is released at 0 and pulls towards 1. Times are in units of its response.
 struct Spring
 {
     double damping = 1;
-    /// When the curve ends: what is left of the way by then is under a quarter of a hundredth.
+    /// The end of the curve: the remaining distance is then below 0.25 %.
     double length = 1;
 
     static constexpr double pull = 2 * std::numbers::pi;
@@ -35,7 +35,7 @@ struct Spring
     }
 };
 
-/// The spring as a curve of cubic pieces that have its places and speeds where they meet.
+/// The spring as a curve of cubic pieces that match its positions and speeds where they meet.
 QEasingCurve curveOf(const Spring &spring)
 {
     constexpr int pieces = 8;

@@ -3,7 +3,7 @@ import QtQuick
 import Velmora.Model
 import Velmora.Theme
 
-/// Colours by role. The composition root writes `dark` and `accentChoice`; everything else follows.
+/// Colours by role. The composition root sets `dark` and `accentChoice`, and all colours follow from them.
 QtObject {
     id: root
 
@@ -13,68 +13,69 @@ QtObject {
     property int accentChoice: Model.AccentChoice.Indigo
 
     // Text
-    /// What is read.
+    /// Text that is read.
     readonly property color text1: dark ? "#EDEDF2" : "#1B1B1F"
-    /// What is scanned: keys, dates, counts.
+    /// Text that is scanned: keys, dates, counts.
     readonly property color text2: dark ? "#ACADB7" : "#565760"
-    /// What is only there if looked for; never on a highlighted option.
+    /// Text that is seen only when looked for. Never used on a highlighted option.
     readonly property color text3: dark ? "#9596A1" : "#686973"
-    /// Disabled controls only.
+    /// For disabled controls only.
     readonly property color text4: dark ? "#5C5D66" : "#A8A9B2"
 
     // Planes
-    /// The plane of lists, boards and issue windows.
+    /// The background of lists, boards and issue windows.
     readonly property color content: dark ? "#141417" : "#FFFFFF"
-    /// Sidebar and settings window.
+    /// The background of the sidebar and the settings window.
     readonly property color pane: dark ? "#1B1B1F" : "#F6F6FA"
-    /// The pane beside the list.
+    /// The background of the inspector.
     readonly property color inspector: dark ? "#1B1B1F" : "#FCFCFE"
-    /// Composer and mention list, at 82 % and 70 %.
+    /// The background of the composer and of the mention list, at 82 % and 70 % opacity.
     readonly property color window: dark ? "#26262C" : "#FFFFFF"
-    /// Cards of a board and of a form.
+    /// For the cards of a board and of a form.
     readonly property color card: dark ? "#202025" : "#FFFFFF"
-    /// The first screen's card, over its moving colours.
+    /// For the card of the sign-in screen, above its moving colours.
     readonly property color onboardingCard: dark ? "#C71E1D28" : "#DBFCFCFF"
     /// Sheets.
     readonly property color elevated: dark ? "#26262C" : "#FFFFFF"
 
-    // Glass, at the opacities that need no blur behind it
-    /// Palette, popovers, menus, tooltips.
+    // Glass, with opacities that need no blur behind it
+    /// For the palette, popovers, menus and tooltips.
     readonly property color elevatedGlass: dark ? "#F728282E" : "#F7FCFCFE"
-    /// The palette's glass as it looks over the scrim. Opaque: nothing of the list shines through its rows, nor is drawn.
+    /// The colour that the palette's glass has above the scrim. It is opaque, so the list below neither shows through
+    /// nor is drawn.
     readonly property color paletteFill: dark ? "#26262B" : "#F7F7F9"
-    /// Capsules, chips, badges, breadcrumb.
+    /// For capsules, chips, badges and the breadcrumb.
     readonly property color glass: dark ? "#EB2E2E35" : "#EBFFFFFF"
-    /// Selection bar, toasts, drag preview.
+    /// For the selection bar, toasts and the drag preview.
     readonly property color glassStrong: dark ? "#F52A2A31" : "#F5FDFDFF"
 
     // Lines and light
-    /// One device pixel round every pane, capsule and popover.
+    /// An outline of one device pixel around every pane, capsule and popover.
     readonly property color hairline: dark ? "#21EDEDF2" : "#1C1B1B1F"
-    /// Between sections.
+    /// Lines between sections.
     readonly property color divider: dark ? "#17EDEDF2" : "#141B1B1F"
-    /// One device pixel inside the top edge of glass.
+    /// A line of one device pixel inside the top edge of glass.
     readonly property color edgeLight: dark ? "#12FFFFFF" : "#E6FFFFFF"
     /// The two soft glows of the sidebar.
     readonly property color paneGlow: dark ? "#0F7882F0" : "#0B5E6AD2"
-    /// Behind the palette and sheets.
+    /// The scrim behind the palette and sheets.
     readonly property color scrim: "#2E000000"
     readonly property color scrollThumb: ink(dark ? 0.26 : 0.28)
 
-    // Fills, over whatever plane they lie on
-    /// Text fields of forms.
+    // Fills, drawn above any plane
+    /// For text fields of forms.
     readonly property color field: ink(dark ? 0.06 : 0.05)
     readonly property color boardColumn: ink(0.028)
     readonly property color bubble: ink(0.035)
-    /// A row under the pointer or with the keyboard's focus; the header of a group.
+    /// For a row under the pointer or with the keyboard focus, and for group headers.
     readonly property color hoverFill: ink(0.04)
     readonly property color keyCapFill: ink(0.07)
     readonly property color skeletonFill: ink(0.07)
-    /// The row that is open beside the list; the selected row of the sidebar.
+    /// For the row that is open in the inspector, and for the selected row of the sidebar.
     readonly property color openFill: ink(0.075)
-    /// A small button under the pointer.
+    /// For a small button under the pointer.
     readonly property color buttonHoverFill: ink(0.08)
-    /// The option that Return would choose; a toggle that is on.
+    /// For the option that Return would choose, and for a toggle that is on.
     readonly property color highlightFill: ink(0.09)
     /// The outline of label chips and due dates.
     readonly property color chipOutline: ink(0.12)
@@ -83,15 +84,15 @@ QtObject {
     readonly property color focusRing: accentAt(0.6)
 
     // The accent
-    /// Discs, check boxes, the focus bar, switches, symbols, outlines.
+    /// For discs, check boxes, the focus bar, switches, symbols and outlines.
     readonly property color accent: IdentityPalette.accent(accentChoice)
-    /// Under white text.
+    /// A background for white text.
     readonly property color accentFill: IdentityPalette.accentFill(accentChoice)
-    /// Links, mentions, text buttons.
+    /// For links, mentions and text buttons.
     readonly property color accentText: dark ? IdentityPalette.accentTextOnDark(accentChoice)
                                              : IdentityPalette.accentTextOnLight(accentChoice)
     readonly property color textOnAccent: "#FFFFFF"
-    /// A finished status: the accent, on purpose.
+    /// For a finished status: deliberately the accent.
     readonly property color done: accent
 
     // Identity, the same in both appearances
@@ -99,15 +100,15 @@ QtObject {
     readonly property color review: IdentityPalette.review
     readonly property color urgent: IdentityPalette.urgent
     readonly property color neutral: IdentityPalette.neutral
-    /// Symbols of internal notes; their text takes `noteText`.
+    /// For the symbols of internal notes. Their text takes `noteText`.
     readonly property color internalNote: IdentityPalette.internalNote
 
-    // Meaning: the plain name for symbols, `…Text` for words
+    // Meaning: the plain name is for symbols, `…Text` for text
     readonly property color orange: dark ? "#FF9F43" : "#F08A24"
     readonly property color orangeText: dark ? "#FFAA58" : "#A44E04"
     readonly property color red: dark ? "#F2555A" : "#E5484D"
     readonly property color redText: dark ? "#FF7A7D" : "#C02A2F"
-    /// Under white text.
+    /// A background for white text.
     readonly property color redFill: "#C02A2F"
     readonly property color green: dark ? "#3EC684" : "#26A064"
     readonly property color blue: dark ? "#5AA0FF" : "#2979E6"

@@ -60,10 +60,10 @@ QFont makeFont(const QStringList &names, qreal pixels, QFont::Weight weight)
 {
     QFont font;
     font.setFamilies(names);
-    // Qt knows whole pixels only; the half sizes have families that make up for the rounding.
+    // Qt supports only whole pixel sizes. The half sizes use families that compensate for the rounding.
     font.setPixelSize(static_cast<int>(std::ceil(pixels)));
     font.setWeight(weight);
-    // Hinted widths jump by a pixel from size to size.
+    // With hinting, widths would change by a whole pixel from one size to the next.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -80,7 +80,7 @@ QFont makeFont(TypeScale::Role role, int weight, bool tabular)
 
 } // namespace
 
-// Each text of a screen asks for its font, and few differ.
+// Every text of a screen requests its font, and only few fonts differ.
 QFont TypeScale::font(Role role, int weight, bool tabular) const
 {
     static std::map<std::tuple<int, int, bool>, QFont> fonts;
@@ -102,7 +102,7 @@ qreal TypeScale::halfLeading(Role role) const
     const auto known = leadings.constFind(role);
     if (known != leadings.cend())
         return *known;
-    // Qt Quick gives a line the whole number of pixels above its font's height.
+    // Qt Quick rounds the height of a line up to whole pixels.
     const qreal height = std::ceil(QFontMetricsF(fontOf(role)).height());
     return *leadings.insert(role, (styles[role].line - height) / 2);
 }

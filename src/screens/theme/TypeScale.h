@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// The type scale: each role a text can have, with its family, size, line height, weight and tracking.
+/// The type scale: each role of a text, with its family, size, line height, weight and tracking.
 class TypeScale : public QObject
 {
     Q_OBJECT
@@ -30,20 +30,20 @@ public:
     };
     Q_ENUM(Role)
 
-    /// The weight that a role has by itself.
+    /// Selects the weight of the role.
     static constexpr int roleWeight = -1;
 
-    /// The font of a role. `weight` is a `QFont::Weight`, or `roleWeight`. With `tabular`, the family whose digits are
-    /// all of one width: for keys, counts and dates, up to weight DemiBold (Badge and Micro always have it).
+    /// The font of a role. `weight` is a `QFont::Weight`, or `roleWeight`. With `tabular`, the family whose digits all
+    /// have the same width is used, up to weight DemiBold, for keys, counts and dates. Badge and Micro always use it.
     Q_INVOKABLE QFont font(TypeScale::Role role, int weight = roleWeight,
                            bool tabular = false) const;
-    /// The distance of two lines, in logical pixels.
+    /// The line height of a role, in logical pixels.
     Q_INVOKABLE qreal lineHeight(TypeScale::Role role) const;
 
-    /// What a line's text leaves free above and below it in its line height, in logical pixels.
+    /// The space above and below the text within its line height, in logical pixels.
     Q_INVOKABLE qreal halfLeading(TypeScale::Role role) const;
 
-    /// The font of a role as it stands in the scale, for C++.
+    /// The font of a role with its own weight, for C++.
     static QFont fontOf(Role role);
     /// A font of the text family at a size in logical pixels, rounded up to a whole number.
     static QFont textFont(qreal pixels, QFont::Weight weight);
