@@ -79,7 +79,7 @@ QList<QQuickItem *> FlowLayout::shownChildren() const
     QList<QQuickItem *> shown;
     const auto children = childItems();
     std::ranges::copy_if(children, std::back_inserter(shown), [](const QQuickItem *child) {
-        // A repeater is a child too, and has no size.
+        // A repeater is also a child, but has no size.
         return child->isVisible() && child->implicitWidth() > 0;
     });
     return shown;
@@ -98,7 +98,8 @@ QList<QSizeF> sizesOf(const QList<QQuickItem *> &items)
 
 } // namespace
 
-// The implicit size is there at once, for whoever lays this item out; the children are placed before the next frame.
+// The implicit size is updated at once, because the parent's layout depends on it. The children are positioned before
+// the next frame.
 void FlowLayout::measure()
 {
     if (!isComponentComplete())

@@ -4,10 +4,10 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Where the children of a wrapping row stand, and how large the whole is.
+/// The positions of the children of a wrapping row, and the total size.
 struct FlowPlan
 {
-    /// Top left corners, in the order of the children.
+    /// The top left corners, in the order of the children.
     QList<QPointF> places;
     QSizeF size;
 
@@ -21,13 +21,14 @@ struct FlowSpacing
     qreal lines = 0;
 };
 
-/// Lays children out in lines, in order: a child that would pass `width` begins the next line, unless it stands first in
-/// its line already. The size is as wide as the widest line, but not wider than `width`. No line ends without a width
-/// (`qInf()`).
+/// Arranges children in lines, in order. A child that would exceed `width` starts the next line, unless it is already
+/// the first of its line. The total width is that of the widest line, but at most `width`. With an infinite width
+/// (`qInf()`) there is a single line.
 FlowPlan flowPlan(const QList<QSizeF> &children, qreal width, const FlowSpacing &spacing);
 
-/// A wrapping row: its visible children stand in their own implicit sizes, in order, one behind the other and then in the
-/// next line. Its implicit height is that of all lines; its implicit width that of all children on one.
+/// A wrapping row: its visible children have their implicit sizes and are arranged in order, one after the other and
+/// then on the next line. Its implicit height is the height of all lines, and its implicit width is the width of all
+/// children on one line.
 class FlowLayout : public QQuickItem
 {
     Q_OBJECT
@@ -37,7 +38,7 @@ class FlowLayout : public QQuickItem
 
 public:
     using QQuickItem::QQuickItem;
-    /// Its children go after it, and tell of it.
+    /// The children are destroyed later and still notify this object.
     ~FlowLayout() override;
 
     qreal spacing() const { return m_spacing.between; }

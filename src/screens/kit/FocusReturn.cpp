@@ -11,7 +11,7 @@ void FocusReturn::giveBack(QQuickItem *holder) const
 {
     if (!holder || !holder->window())
         return;
-    // A popup that goes leaves the focus to a scope round its holder, if to anybody.
+    // A closing popup leaves the focus to a focus scope around the former focus item, if to any item.
     const auto *now = holder->window()->activeFocusItem();
     if (!now || now->isAncestorOf(holder))
         holder->forceActiveFocus(Qt::PopupFocusReason);

@@ -4,7 +4,7 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Gives the keyboard's focus back when a popover or a sheet goes.
+/// Restores the keyboard focus when a popover or a sheet closes.
 class FocusReturn : public QObject
 {
     Q_OBJECT
@@ -12,8 +12,8 @@ class FocusReturn : public QObject
     QML_SINGLETON
 
 public:
-    /// The item to come back to; null without one.
+    /// The item to which the focus should return. Null if there is none.
     Q_INVOKABLE QQuickItem *holder(const QQuickItem *near) const;
-    /// Gives the focus to `holder`, unless another item has taken it meanwhile.
+    /// Gives the focus to `holder`, unless another item has taken the focus meanwhile.
     Q_INVOKABLE void giveBack(QQuickItem *holder) const;
 };

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 void registerKitProviders(QQmlEngine &engine)
 {
-    // The engine takes each of them over.
+    // The engine takes ownership of the providers.
     engine.addImageProvider(u"symbol"_s, std::make_unique<SymbolProvider>().release());
     engine.addImageProvider(u"icon"_s, std::make_unique<IconProvider>().release());
     engine.addImageProvider(u"picture"_s, std::make_unique<PictureProvider>().release());

@@ -2,6 +2,6 @@
 
 class QQmlEngine;
 
-/// Gives an engine the image providers on which the kit's components draw: symbol, icon and picture. Call it once per engine,
-/// before the first file is loaded.
+/// Registers the image providers that the kit's components use with an engine: symbol, icon and picture. Call it once
+/// for each engine, before the first file is loaded.
 void registerKitProviders(QQmlEngine &engine);

@@ -1,7 +1,7 @@
 import QtQuick
 
-/// A part of a screen in a document of its own, which is read when the part is first shown: what nobody has opened costs
-/// no start. Answer `wanted` with `setSource` and what the part needs.
+/// A part of a screen in a QML file of its own, which is loaded when the part is first shown, so that unused parts do
+/// not slow down the start. Handle `wanted` by calling `setSource` with the properties of the part.
 Loader {
     id: root
 

@@ -59,7 +59,7 @@ void When::make()
         qmlWarning(this) << m_content->errorString();
         return;
     }
-    // It ends with this one, not when the engine finds no use of it.
+    // Owned by this item, so that it is destroyed with it and not when the engine collects garbage.
     made.release()->setParent(this);
     place();
     m_content->completeCreate();
@@ -67,7 +67,7 @@ void When::make()
 
 void When::drop()
 {
-    // Later: what it does may be what drops it.
+    // Deleted later, because the child's own code may be what hides it.
     if (QQuickItem *child = std::exchange(m_child, nullptr)) {
         child->setParentItem(nullptr);
         child->deleteLater();

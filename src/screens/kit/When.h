@@ -5,12 +5,12 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Holds its child only while `shown`. The child stands where a repeater's would: in the item that this one stands in,
-/// just before it.
+/// Creates its child while `shown` is true and destroys it otherwise. The child is placed like that of a repeater: in
+/// the parent of this item, just before it.
 ///
-/// (A Loader of Qt 6.4 cannot create a component that is bound to its ids. A Repeater can, but it takes the engine away
-/// from a child that it drops before the child is gone, and a binding of the child that is carried out in between,
-/// because it follows the very change that drops it, then loads a picture without an engine, which ends the program.)
+/// (A Loader of Qt 6.4 cannot create a component that is bound to the ids of its file. A Repeater can, but it detaches
+/// a removed child from the engine before the child is destroyed. A binding of the child that is evaluated in between,
+/// because it depends on the same change, then loads a picture without an engine, which crashes the program.)
 class When : public QQuickItem
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     bool shown() const { return m_isShown; }
     void setShown(bool shown);
     QQmlComponent *content() const { return m_content; }
-    /// To be given once, with the item.
+    /// Set once, together with the item.
     void setContent(QQmlComponent *content);
 
 Q_SIGNALS:

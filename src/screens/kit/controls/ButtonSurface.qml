@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What lies under a button's label: nothing, glass, or the accent (red where it destroys), with the fills of hover and
-/// press over it; a flat grey while it is disabled.
+/// The background of a button: nothing, glass, or the accent (red for a destructive action), with the fills for hover
+/// and press above it. A flat grey while the button is disabled.
 Rectangle {
     id: root
 

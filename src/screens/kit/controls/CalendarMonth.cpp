@@ -7,7 +7,7 @@ namespace {
 
 constexpr int weekLength = 7;
 
-/// How many days the locale's week has before this one, 0 to 6.
+/// The index of a day in the locale's week, 0 to 6.
 int placeInWeek(const QDate &day, const QLocale &locale)
 {
     return (day.dayOfWeek() - locale.firstDayOfWeek() + weekLength) % weekLength;

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-/// A place in a month's grid.
+/// A cell in the grid of a month.
 struct CalendarDay
 {
     Q_GADGET
@@ -17,31 +17,32 @@ struct CalendarDay
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
 
 public:
-    /// 0 for a place before the first day.
+    /// The day of the month. 0 for a cell before the first day.
     int number = 0;
-    /// As in "2026-10-31".
+    /// The date, as in "2026-10-31".
     QString day;
-    /// "samedi 31 octobre", for screen readers.
+    /// The text for screen readers, as in "samedi 31 octobre".
     QString name;
 
     bool operator==(const CalendarDay &) const = default;
 };
 
-/// The days of the month in which `day` lies, behind as many empty places as the locale's week has before its first.
+/// The days of the month that contains `day`, preceded by one empty cell for each day of the locale's week before the
+/// first of the month.
 QList<CalendarDay> calendarDays(const QDate &day, const QLocale &locale);
-/// The letters of the week's days, in the locale's order.
+/// The initials of the days of the week, in the locale's order.
 QStringList weekdayLetters(const QLocale &locale);
 
-/// A month to pick a day from. Days reach QML as texts such as "2026-10-31": a date there would be an instant, and move
-/// with the time zone.
+/// A month for choosing a day. Days are passed to QML as text such as "2026-10-31", because a date in QML is a point in
+/// time and changes with the time zone.
 class CalendarMonth : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The day that is picked; empty for none.
+    /// The chosen day. Empty if there is none.
     Q_PROPERTY(QString day READ day WRITE setDay NOTIFY dayChanged FINAL)
     Q_PROPERTY(QString today READ today WRITE setToday NOTIFY todayChanged FINAL)
-    /// "octobre 2026"
+    /// The month as text, as in "octobre 2026".
     Q_PROPERTY(QString title READ title NOTIFY monthChanged FINAL)
     Q_PROPERTY(QList<CalendarDay> days READ days NOTIFY monthChanged FINAL)
     Q_PROPERTY(QStringList weekdays READ weekdays CONSTANT FINAL)
@@ -51,22 +52,22 @@ public:
     CalendarMonth(const QLocale &locale, QObject *parent);
 
     QString day() const { return m_day.toString(Qt::ISODate); }
-    /// Shows the day's month. A text that is no day is none.
+    /// Chooses a day and shows its month. A text that is not a date chooses none.
     void setDay(const QString &day);
     QString today() const { return m_today.toString(Qt::ISODate); }
-    /// Shows the month of today while no day is picked.
+    /// Sets the present day, whose month is shown while no day is chosen.
     void setToday(const QString &today);
     QString title() const;
     QList<CalendarDay> days() const { return calendarDays(m_month, m_locale); }
     QStringList weekdays() const { return weekdayLetters(m_locale); }
 
-    /// Shows a month as many months away.
+    /// Shows the month that is `months` later, or earlier if negative.
     Q_INVOKABLE void turn(int months);
-    /// Picks the day as many days away from the picked one; today, when none is picked.
+    /// Chooses the day that is `count` days after the chosen one, or the present day if none is chosen.
     Q_INVOKABLE void moveDays(int count);
-    /// The same by months; the day of a shorter month is its last.
+    /// The same with months. If the target month is too short for the day, its last day is chosen.
     Q_INVOKABLE void moveMonths(int count);
-    /// Pick the first day of the week of the picked one, and its last.
+    /// Choose the first and the last day of the week that contains the chosen day.
     Q_INVOKABLE void moveToWeekStart();
     Q_INVOKABLE void moveToWeekEnd();
 
@@ -82,6 +83,6 @@ private:
     QLocale m_locale;
     QDate m_day;
     QDate m_today;
-    /// Any day of the month that is shown.
+    /// Any day of the shown month.
     QDate m_month;
 };

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A check box with its words behind it; pressing either turns it over. A long text wraps where the width is set.
+/// A check box with a label after it. Pressing either toggles it. A long text wraps if the width is set.
 FocusableItem {
     id: root
 

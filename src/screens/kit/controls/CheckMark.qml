@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// The square of a check box, 14 wide: a line while it is off, the accent with a tick while it is on.
+/// The square of a check box, 14 wide: an outline while it is off, and the accent with a check mark while it is on.
 Rectangle {
     id: root
 

@@ -4,8 +4,9 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// A month to pick a day from. `day` and `today` are texts such as "2026-10-31"; `day` is empty while none is picked.
-/// The arrows move by a day and a week, the page keys by a month, Home and End to the ends of the week; Return accepts.
+/// A month for choosing a day. `day` and `today` are texts such as "2026-10-31". `day` is empty while none is chosen.
+/// The arrow keys move by a day and by a week, Page Up and Page Down by a month, Home and End to the ends of the week.
+/// Return accepts.
 FocusScope {
     id: root
 

@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A title with a chevron that turns down while what belongs to it is shown. A press turns `expanded` over, and so do the
-/// right and left keys.
+/// A title with a chevron that points down while the associated content is shown. A press toggles `expanded`, and the
+/// right and left keys set it.
 FocusableItem {
     id: root
 

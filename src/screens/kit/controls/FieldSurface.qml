@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What lies under a text field: a quiet fill with a hairline, or floating glass; in focus an inner line and a glow. The
-/// line is red, and there without the focus too, where what was typed is `invalid`.
+/// The background of a text field: a subtle fill with a hairline, or floating glass. With the focus it has an inner
+/// line and a glow. If the entered text is `invalid`, the line is red and is shown without the focus too.
 Rectangle {
     id: root
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// The keyboard's focus round the parent's box: 2 wide, 2 away, of the same curvature. Set `shown` and the box's
-/// `corner`.
+/// The focus ring around the parent: 2 wide, at a distance of 2, with matching curvature. Set `shown` and the `corner`
+/// radius of the parent.
 Rectangle {
     id: root
 

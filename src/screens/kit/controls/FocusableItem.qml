@@ -3,23 +3,24 @@ import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
-/// The base of everything that can be pressed: pointer, Space, Return, Enter and a screen reader's press all emit
-/// `clicked`. Its focus shows only after a key press. Give `text`, or `accessibleName` where no text is seen, and fill
-/// `background` and `contentItem`. `corner` is the radius of its shape; `hint` is shown under the pointer.
+/// The base of all controls that can be pressed: the pointer, Space, Return, Enter and the press action of a screen
+/// reader all emit `clicked`. The focus is visible only after a key press. Set `text`, or `accessibleName` if no text
+/// is visible, and provide `background` and `contentItem`. `corner` is the radius of the shape. `hint` is shown under
+/// the pointer.
 T.AbstractButton {
     id: root
 
     property string accessibleName: text
     property string hint
     property real corner: Metrics.radiusRow
-    /// Under the pointer or pressed.
+    /// Under the pointer, or pressed.
     property bool lit: enabled && (hovered || down)
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: visualFocus
-    /// A press puts the hint away until the pointer comes again: it would lie over what the press has opened.
+    /// A press hides the hint until the pointer enters again, because the hint would cover what the press has opened.
     property bool hushed: false
 
-    /// What a press does, for those that come by no pointer.
+    /// Performs the action of a press, for callers other than the pointer.
     function activate() {
         if (checkable)
             toggle()

@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A glass chip with an icon and a title in one line, that opens what is declared in it in a popover 290 wide.
-/// `prominent` takes the accent. What is costly goes into a `When { shown: chip.isPresented }`; `dismiss()` closes it.
+/// A glass chip with an icon and a title on one line. It opens its declared content in a popover 290 wide. `prominent`
+/// uses the accent. Put expensive content into a `When { shown: chip.isPresented }`. `dismiss()` closes the popover.
 FocusableItem {
     id: root
 
@@ -28,7 +28,7 @@ FocusableItem {
     rightPadding: 11
     corner: height / 2
     accessibleName: title
-    // The template keeps the role of a button.
+    // The description states that the chip opens a list, because the template fixes the role to a button.
     Accessible.description: isPresented ? "Liste ouverte" : "Ouvre une liste"
     scale: down ? Motion.pressScale : 1
     onClicked: popover.toggle()

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// A fill over the parent's box that is there at once and leaves softly.
+/// A fill that covers the parent. It appears at once and fades out.
 Rectangle {
     id: root
 

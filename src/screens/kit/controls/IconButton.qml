@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A button that is one symbol. Plain: a square of 22 (or `side`) that fills under the pointer. Glass: a round
-/// floating one. Prominent: round, in the accent. Its name is its hint too.
+/// A button that consists of one symbol. Plain: a square of 22 (or `side`) that is filled under the pointer. Glass: a
+/// round floating button. Prominent: round, in the accent colour. Its name is also its hint.
 FocusableItem {
     id: root
 

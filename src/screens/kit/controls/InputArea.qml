@@ -4,8 +4,8 @@ import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
-/// A text field of several lines. It grows with its text from `lowest` to `highest`, and scrolls from there on. Tab and
-/// Shift+Tab leave it. `name`, `placeholderText` and `problem` are as in an `InputField`.
+/// A text field with several lines. It grows with its text from `lowest` to `highest`, and scrolls beyond that. Tab and
+/// Shift+Tab leave the field. `name`, `placeholderText` and `problem` have the same meaning as in an `InputField`.
 FocusScope {
     id: root
 
@@ -20,7 +20,7 @@ FocusScope {
     property string problem
     /// Under the pointer.
     property bool lit: enabled && editor.hovered
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: activeFocus
 
     implicitWidth: 290
@@ -40,7 +40,7 @@ FocusScope {
         anchors.fill: parent
         anchors.margins: 1
         clip: true
-        // What needs no scrolling leaves the wheel to the page.
+        // Without overflow the wheel events are left to the page.
         interactive: editor.wholeHeight > height
         boundsBehavior: Flickable.StopAtBounds
 

@@ -4,8 +4,9 @@ import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
-/// A text field of one line. `name` is what screen readers call it; the placeholder is what it shows while empty.
-/// `problem` says what is wrong with what was typed: the field turns red, and screen readers say it; show it beside it.
+/// A text field with one line. `name` is its name for screen readers. The placeholder is shown while it is empty.
+/// `problem` describes what is wrong with the entered text: the field turns red and screen readers announce the
+/// problem. Show the text beside the field as well.
 T.TextField {
     id: root
 
@@ -14,11 +15,11 @@ T.TextField {
     property bool glass: false
     property int role: TypeScale.Body
     property string problem
-    /// What screen readers say of it besides its name.
+    /// The description for screen readers, in addition to the name.
     property string spoken: problem
     /// Under the pointer.
     property bool lit: enabled && hovered
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: activeFocus
 
     function speak() {
@@ -43,7 +44,8 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: name
     Accessible.description: spoken
-    // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
+    // The template overwrites the description with its placeholder when the item is complete and whenever a screen
+    // reader starts.
     Accessible.onDescriptionChanged: speak()
 
     cursorDelegate: TextCaret {

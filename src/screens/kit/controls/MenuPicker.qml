@@ -3,9 +3,9 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// One choice out of a menu: shows the current one, and opens the others on a press, on Space, Return and the down key.
-/// `name` is what it chooses. The menu is made when it is opened. (No `FocusableItem`: to screen readers that is always a
-/// button, and this is a combo box.)
+/// A combo box: it shows the current choice, and opens the menu of choices at a press and at Space, Return and the down
+/// key. `name` describes what is chosen. The menu is created when it is opened. (It is not a `FocusableItem`, because
+/// screen readers always see that as a button.)
 Item {
     id: root
 
@@ -17,7 +17,7 @@ Item {
     /// Under the pointer or pressed.
     property bool lit: enabled && (pointer.containsMouse || down)
     property bool down: pointer.pressed
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: activeFocus
 
     signal chosen(index: int)
@@ -70,7 +70,7 @@ Item {
     When {
         shown: root.opened
 
-        // A click on the picker while the menu is open.
+        // Handles clicks on the picker while the menu is open.
         MouseArea {
             width: root.width
             height: root.height

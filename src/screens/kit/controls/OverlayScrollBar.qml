@@ -2,8 +2,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Theme
 
-/// A scroll bar over the content: there while scrolling or under the pointer, wider under it, gone soon after. Attach
-/// it with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls for the attached property).
+/// A scroll bar above the content: visible while scrolling or under the pointer, wider under the pointer, and hidden
+/// shortly afterwards. Attach it with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls
+/// for the attached property).
 T.ScrollBar {
     id: root
 

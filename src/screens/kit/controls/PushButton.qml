@@ -2,9 +2,9 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A button with a label, and a symbol before it where one is given. Plain: words in the accent. Glass: a floating
-/// capsule. Prominent: the accent, one per screen. `destructive` is red: what it does cannot be taken back. `large` is
-/// 40 high instead of 30.
+/// A button with a label, preceded by a symbol if one is set. Plain: text in the accent colour. Glass: a floating
+/// capsule. Prominent: filled with the accent, at most one per screen. `destructive` makes it red, for actions that
+/// cannot be undone. `large` makes it 40 high instead of 30.
 FocusableItem {
     id: root
 

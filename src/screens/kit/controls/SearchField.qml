@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A floating search capsule with its symbol, and a button that empties it while there is text.
+/// A floating search field in the shape of a capsule, with a symbol, and with a button that clears it while there is
+/// text.
 InputField {
     id: root
 

@@ -1,12 +1,12 @@
 import QtQuick
 
-/// A field for what must not be read over a shoulder: dots on the screen, and nothing of it to screen readers, which know
-/// the field by its `name`. What was typed is `secret`.
+/// A field for secret text: it shows dots, and exposes neither the text nor its length to screen readers, which only
+/// know its `name`. The entered text is `secret`.
 FocusScope {
     id: root
 
     required property string name
-    // Not called text: screen readers read a property of that name.
+    // Not called `text`, because screen readers read a property of that name.
     property alias secret: field.text
     property alias placeholderText: field.placeholderText
     property alias corner: field.corner
@@ -42,7 +42,7 @@ FocusScope {
         echoMode: TextInput.Password
         passwordCharacter: "•"
         inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-        // Its text is told in clear to whoever asks for it.
+        // Ignored by accessibility, because the field would expose its text unmasked.
         Accessible.ignored: true
         onAccepted: root.accepted()
         onTextEdited: root.textEdited()

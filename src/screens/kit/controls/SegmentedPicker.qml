@@ -4,8 +4,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// One choice out of a few words, side by side. Each segment is a radio button of its own; `name` is what the group is
-/// called. The left and right keys choose the neighbour.
+/// A choice among a few words, side by side. Each segment is a radio button. `name` is the name of the group. The left
+/// and right keys choose the previous and the next segment.
 Rectangle {
     id: root
 

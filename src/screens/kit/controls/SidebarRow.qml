@@ -2,8 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A row of the sidebar: a symbol or a drawn icon (`leading`), a title, a count where there is one. `nested` moves it
-/// in.
+/// A row of the sidebar: a symbol or a drawn icon (`leading`), a title, and an optional count. `nested` indents it.
 FocusableItem {
     id: root
 

@@ -1,9 +1,9 @@
 import QtQuick
 import Velmora.Theme
 
-/// The edge between two panes, to drag: `moved` proposes a width within `minimum` and `maximum`. The left and right keys
-/// move it by 16, Home and End to its ends, a double click to `standard`. Set `trailing` where the pane whose width it is
-/// lies on the right. It shows while it is dragged, under the pointer and with the keyboard's focus.
+/// The draggable edge between two panes. `moved` proposes a width between `minimum` and `maximum`. The left and right
+/// keys move it by 16, Home and End to its limits, and a double click to `standard`. Set `trailing` if the resized pane
+/// is on the right. The handle is visible while it is dragged, under the pointer and with the keyboard focus.
 FocusScope {
     id: root
 
@@ -13,7 +13,7 @@ FocusScope {
     required property real maximum
     required property real standard
     property bool trailing: false
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: activeFocus
     property bool lit: grip.containsMouse || grip.pressed
     readonly property int direction: trailing ? -1 : 1

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// The caret of a text field, 1.5 wide in the accent, blinking at the desktop's pace.
+/// The caret of a text field, 1.5 wide, in the accent colour. It blinks at the rate of the desktop.
 Rectangle {
     id: root
 
@@ -11,7 +11,7 @@ Rectangle {
     radius: 0.75
     color: Theme.accent
     visible: shown && blink.lit
-    // Between the letters, and not on the one that follows.
+    // Centred between two letters, and not above the following one.
     transform: Translate {
         x: -1
     }

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A switch, 34 × 20, on in the accent. `name` is what it switches.
+/// A switch, 34 × 20, in the accent colour while it is on. `name` describes what it switches.
 FocusableItem {
     id: root
 

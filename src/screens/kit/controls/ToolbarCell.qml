@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// One command inside a toolbar capsule, 34 × 28. `on` fills it (a chosen layout, an open popover), `active` colours
-/// its symbol (a filter that filters).
+/// One command in a toolbar capsule, 34 × 28. `on` fills it (for a chosen layout or an open popover), and `active`
+/// colours its symbol (for an active filter).
 FocusableItem {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-/// The program's mark. Its shadow reaches beyond its square.
+/// The program's logo. Its shadow extends beyond its square.
 Item {
     id: root
 

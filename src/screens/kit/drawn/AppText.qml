@@ -1,8 +1,9 @@
 import QtQuick
 import Velmora.Theme
 
-/// Plain text in one of the roles of the type scale. One line is as high as its role's line; set `wrapMode` for more.
-/// It ends in "…" where its width ends. `weight` overrides the role's; `tabular` is for keys, counts and dates.
+/// Plain text in one of the roles of the type scale. A single line is as high as its role's line. Set `wrapMode` for
+/// several lines. Text that exceeds the width is elided with "…". `weight` overrides the weight of the role. `tabular`
+/// is for keys, counts and dates.
 Text {
     id: root
 

@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Model
 import Velmora.Kit
 
-/// A person: the picture where there is one, until then and otherwise the disc with initials; or, without `hasUser`, the
-/// dashed ring of nobody. Its name is its hint.
+/// A person: the photograph if there is one, and the disc with initials until it is loaded or if there is none. Without
+/// `hasUser`, the dashed ring that stands for no person. The name of the person is shown as a hint.
 DrawnIcon {
     id: root
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// A due date: the calendar symbol and the date's text, which comes ready. `late` turns it red, `compact` leaves the
-/// text out.
+/// A due date: the calendar symbol and the text of the date, which is passed in. `late` makes it red, and `compact`
+/// omits the text.
 Rectangle {
     id: root
 

@@ -29,7 +29,7 @@ void forgetDead(Textures &textures)
 std::shared_ptr<QSGTexture> frameTexture(QQuickWindow *window, const FrameDrawing &frame,
                                          qreal scale)
 {
-    // Nodes are updated while the thread of the user interface waits, so one window at a time.
+    // Nodes are updated while the GUI thread is blocked, so only one window uses the map at a time.
     static Textures textures;
     const auto key = keyOf(window, frame, scale);
     if (auto known = textures.value(key).lock())

@@ -7,7 +7,8 @@
 class QQuickWindow;
 class QSGTexture;
 
-/// The texture of a frame in a window; equal frames share one for as long as any of them lives. To be called from
-/// `updatePaintNode` and held by the node, so that the texture dies on the thread that draws the window.
+/// The texture of a frame in a window. Equal frames share one texture while any of them exists. Call it from
+/// `updatePaintNode` and keep the result in the node, so that the texture is destroyed on the render thread of the
+/// window.
 std::shared_ptr<QSGTexture> frameTexture(QQuickWindow *window, const FrameDrawing &frame,
                                          qreal scale);

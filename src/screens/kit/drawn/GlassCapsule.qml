@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// Glass with round ends, for toolbar groups, chips and badges. Children are laid in it by their anchors.
+/// Glass with round ends, for toolbar groups, chips and badges. Children are positioned with their anchors.
 GlassPanel {
     id: root
 

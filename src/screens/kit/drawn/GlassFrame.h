@@ -5,21 +5,21 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// What glass has round its fill: shadow, hairline and light upper edge, drawn over and around the item's box as a
-/// stretched picture whose empty middle is left out. Right on both renderers, at every scale, without layers or
-/// shaders. Place it in the surface with `anchors.fill: parent`, after the fill.
+/// The edge effects of glass: shadow, hairline and light upper edge, drawn above and around the item as a stretched
+/// picture whose empty middle is omitted. It works with both renderers, at every scale, without layers or shaders.
+/// Place it in the surface with `anchors.fill: parent`, after the fill.
 class GlassFrame : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed FINAL)
-    /// none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover, sheet or prominent.
+    /// One of none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover, sheet or prominent.
     Q_PROPERTY(QString shadow MEMBER m_shadow NOTIFY changed FINAL)
-    /// Which of the two sets of shadows.
+    /// Selects the shadows of the dark appearance.
     Q_PROPERTY(bool dark MEMBER m_dark NOTIFY changed FINAL)
-    /// One device pixel round the box.
+    /// The line of one device pixel around the box.
     Q_PROPERTY(QColor hairline MEMBER m_hairline NOTIFY changed FINAL)
-    /// One device pixel inside the upper edge.
+    /// The line of one device pixel inside the upper edge.
     Q_PROPERTY(QColor edgeLight MEMBER m_edgeLight NOTIFY changed FINAL)
     /// The colour of the shadow "prominent".
     Q_PROPERTY(QColor accent MEMBER m_accent NOTIFY changed FINAL)
@@ -36,7 +36,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    /// The smallest frame whose corners are those of this box.
+    /// The smallest frame that has the corners of this box.
     FrameDrawing drawing() const;
 
     qreal m_radius = 0;

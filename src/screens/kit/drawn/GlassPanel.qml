@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// A floating surface: fill, hairline, light upper edge and shadow. Panes take `shadow: "pane"`, popovers "popover"
-/// with `Theme.elevatedGlass`, sheets "sheet" with `Theme.elevated`, toasts and bars "bar" with `Theme.glassStrong`.
+/// A floating surface: fill, hairline, light upper edge and shadow. Panes use `shadow: "pane"`, popovers "popover" with
+/// `Theme.elevatedGlass`, sheets "sheet" with `Theme.elevated`, and toasts and bars "bar" with `Theme.glassStrong`.
 Rectangle {
     id: root
 

@@ -4,8 +4,9 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// A horizontal line of one device pixel at every scale factor. (A Rectangle of that height is a whole point high where
-/// the processor draws.) It lies at the top of its box; its implicit height is that of the line, in points.
+/// A horizontal line of one device pixel at every scale factor. (The software renderer draws a Rectangle of that height
+/// one logical pixel high.) The line is at the top of the item. The implicit height is that of the line, in logical
+/// pixels.
 class Hairline : public QQuickItem
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// A label: its dot and its name in a capsule's outline.
+/// A label: its dot and its name in an outlined capsule.
 Rectangle {
     id: root
 

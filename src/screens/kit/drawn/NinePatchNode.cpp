@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Where a side of the picture is cut in three: from 0 to first, to second, to end.
+/// The two positions that divide a side of the picture into three parts: from 0 to first, to second, to end.
 struct Cuts
 {
     qreal first = 0;
@@ -25,7 +25,7 @@ Cuts sourceCuts(int pixels)
             static_cast<qreal>(pixels)};
 }
 
-// The ends keep their size; the middle takes the rest.
+// The outer parts keep their size, and the middle part takes the rest.
 Cuts targetCuts(const Cuts &source, qreal length, qreal scale)
 {
     const qreal half = source.first / scale;
@@ -44,7 +44,7 @@ void NinePatchNode::show(QQuickWindow *window, std::shared_ptr<QSGTexture> textu
 {
     if (m_texture == texture && m_box == box && m_middle == middle)
         return;
-    // Before the texture that they show may go.
+    // The nodes are removed before the texture that they use may be destroyed.
     clear();
     m_texture = std::move(texture);
     m_box = box;
@@ -74,7 +74,7 @@ void NinePatchNode::layOut(QQuickWindow *window, qreal scale)
 
 void NinePatchNode::add(QQuickWindow *window, const QRectF &target, const QRectF &source)
 {
-    // Parts with nothing to stretch from are stretched from the pixel line beside the cut.
+    // A part with an empty source is stretched from the line of pixels next to the cut.
     const QRectF drawn = source.isEmpty() ? source.adjusted(0, 0, source.width() > 0 ? 0 : 1,
                                                             source.height() > 0 ? 0 : 1)
                                           : source;

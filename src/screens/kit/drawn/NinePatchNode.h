@@ -9,14 +9,14 @@
 class QQuickWindow;
 class QSGTexture;
 
-/// A picture cut in three across and in three down and stretched over a box, so that its corners keep their size. A node
-/// of transformation, though it moves nothing: the software renderer forgets where a plain node stands, and would draw
-/// the parts that come later at the window's corner.
+/// A nine-patch: a picture divided into three columns and three rows and stretched to a box, so that its corners keep
+/// their size. It is a transform node, although it moves nothing, because the software renderer loses the position of a
+/// plain node and would draw the later parts at the corner of the window.
 class NinePatchNode : public QSGTransformNode
 {
 public:
-    /// Takes a texture of `scale` device pixels to a logical one, drawn in the middle of which is nothing, or `middle`,
-    /// which is cheaper to fill than to stretch. `box` is in logical pixels.
+    /// Shows a texture with `scale` device pixels per logical pixel. The middle is left empty or filled with `middle`,
+    /// which is cheaper than stretching the picture. `box` is in logical pixels.
     void show(QQuickWindow *window, std::shared_ptr<QSGTexture> texture, qreal scale,
               const QRectF &box, const QColor &middle = Qt::transparent);
 

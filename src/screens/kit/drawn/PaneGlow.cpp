@@ -6,10 +6,10 @@
 
 namespace {
 
-/// Where a light has faded to nothing, as a share of its ellipse.
+/// The fraction of the ellipse at which a light has faded completely.
 constexpr qreal end = 0.7;
 
-/// An ellipse of light round a corner of the box; its half axes are shares of the box's sides.
+/// Draws an ellipse of light around a corner of the box. Its semi-axes are fractions of the box's sides.
 void light(QPainter &painter, const QRectF &box, const QPointF &corner, const QSizeF &shares,
            const QColor &color)
 {

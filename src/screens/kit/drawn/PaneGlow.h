@@ -4,15 +4,15 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/// The two soft lights of a pane, from its top left and its bottom right corner, within its rounded box. Painted when the
-/// size or the colour changes, not per frame.
+/// The two soft lights of a pane, in its top left and bottom right corner, within its rounded box. Painted when the
+/// size or the colour changes, and not for each frame.
 class PaneGlow : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The light at its brightest; it fades to nothing.
+    /// The colour of the light at its brightest point. It fades to transparent.
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
-    /// The corner's radius in logical pixels.
+    /// The corner radius in logical pixels.
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY radiusChanged FINAL)
 
 public:

@@ -31,7 +31,7 @@ using Textures = QHash<Place, std::weak_ptr<QSGTexture>>;
 
 QImage imageOf(QSizeF size, qreal scale, const PicturePainter &paint)
 {
-    // As an Image does: whole logical pixels, and those in device pixels.
+    // As in an Image: the size is rounded up to whole logical pixels, and then to whole device pixels.
     const QSize pixels(int(std::ceil(std::ceil(size.width()) * scale)),
                        int(std::ceil(std::ceil(size.height()) * scale)));
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -48,7 +48,7 @@ QImage imageOf(QSizeF size, qreal scale, const PicturePainter &paint)
 std::shared_ptr<QSGTexture> pictureTexture(QQuickWindow *window, const PictureKey &key, qreal scale,
                                            const PicturePainter &paint)
 {
-    // Nodes are updated while the thread of the user interface waits, so one window at a time.
+    // Nodes are updated while the GUI thread is blocked, so only one window uses the map at a time.
     static Textures textures;
     const Place place{window, scale, key};
     if (auto known = textures.value(place).lock())

@@ -11,7 +11,7 @@ class QPainter;
 class QQuickWindow;
 class QSGTexture;
 
-/// What tells one drawn picture from another. Each kind of picture says what its numbers, text and colours mean.
+/// Identifies a drawn picture. The meaning of the numbers, the text and the colours depends on the kind of picture.
 struct PictureKey
 {
     int kind = 0;
@@ -20,17 +20,17 @@ struct PictureKey
     QString text;
     QColor color;
     QColor secondColor;
-    /// In logical pixels.
+    /// The size in logical pixels.
     QSizeF size;
 
     bool operator==(const PictureKey &) const = default;
 };
 
-/// Paints a picture in logical pixels.
+/// Paints a picture, in logical pixels.
 using PicturePainter = std::function<void(QPainter &)>;
 
-/// The texture of a picture in a window, at `scale` device pixels to a logical one; equal pictures share one for as long
-/// as any of them lives. To be called from `updatePaintNode` and held by the node, so that the texture dies on the thread
-/// that draws the window.
+/// The texture of a picture in a window, with `scale` device pixels per logical pixel. Equal pictures share one texture
+/// while any of them exists. Call it from `updatePaintNode` and keep the result in the node, so that the texture is
+/// destroyed on the render thread of the window.
 std::shared_ptr<QSGTexture> pictureTexture(QQuickWindow *window, const PictureKey &key, qreal scale,
                                            const PicturePainter &paint);

@@ -15,7 +15,7 @@ namespace {
 
 using Values = std::initializer_list<std::pair<QString, QString>>;
 
-// A text value must not end the value it stands in.
+// Escapes a text, so that it does not end the query value that contains it.
 QString escaped(const QString &text)
 {
     return QString::fromLatin1(QUrl::toPercentEncoding(text));

@@ -3,7 +3,8 @@ import Velmora.Model
 import Velmora.Theme
 import Velmora.Kit
 
-/// The bars of a priority (`Model.PriorityLevel`). `tint` colours bars and dashes, not the urgent one.
+/// The bars of a priority (`Model.PriorityLevel`). `tint` is the colour of bars and dashes. The urgent icon has its own
+/// colour.
 DrawnIcon {
     id: root
 

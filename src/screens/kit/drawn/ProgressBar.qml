@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// How far a work is: `value` from 0 to 1. `name` is what is under way.
+/// The progress of an operation: `value` from 0 to 1. `name` describes the operation.
 Rectangle {
     id: root
 
@@ -18,7 +18,7 @@ Rectangle {
     Accessible.description: Math.round(share * 100) + " %"
 
     Rectangle {
-        // Never narrower than its round ends, once something is done.
+        // Never narrower than its round ends, unless the value is 0.
         width: root.share > 0 ? Math.max(height, root.share * parent.width) : 0
         height: parent.height
         radius: root.radius

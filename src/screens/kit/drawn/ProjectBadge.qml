@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Model
 import Velmora.Kit
 
-/// The coloured square with a project's letter.
+/// The coloured square with the initial of a project.
 DrawnIcon {
     id: root
 

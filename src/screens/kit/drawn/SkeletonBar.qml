@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// A bar that stands for text to come; put bars into a `SkeletonPulse`, which breathes as a whole.
+/// A placeholder bar for text that is still loading. Put bars into a `SkeletonPulse`, which animates them together.
 Rectangle {
     id: root
 

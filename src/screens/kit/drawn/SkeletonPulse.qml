@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-/// Holds skeleton bars and breathes as a whole while it is seen; still with reduced motion.
+/// Contains skeleton bars and makes them pulse together while they are visible. Without animation if reduced motion is
+/// requested.
 Item {
     id: root
 

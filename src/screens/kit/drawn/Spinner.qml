@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The sign of waiting: eight blades that turn a step at a time, only while they are seen.
+/// The loading indicator: eight blades that rotate step by step, only while they are visible.
 Image {
     id: root
 

@@ -3,7 +3,7 @@ import Velmora.Model
 import Velmora.Theme
 import Velmora.Kit
 
-/// The disc of a status, which fills as work advances.
+/// The disc of a status, which fills as the work progresses.
 DrawnIcon {
     id: root
 

@@ -2,8 +2,9 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// A symbol by its name in assets/symbols.tsv. `size` is the font size it stands beside: its square is 1.15 times that.
-/// `weight` is regular, medium, semibold, bold or heavy. It says nothing to screen readers unless `meaning` is given.
+/// A symbol, selected by its name in assets/symbols.tsv. `size` is the font size of the text beside it, and the side of
+/// its square is 1.15 times that. `weight` is regular, medium, semibold, bold or heavy. The symbol is ignored by screen
+/// readers unless `meaning` is set.
 Item {
     id: root
 

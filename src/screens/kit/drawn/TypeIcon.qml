@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Model
 import Velmora.Kit
 
-/// The symbol of an issue type at font size `size`, in a square of `size` + 2. Its name is its hint.
+/// The symbol of an issue type at font size `size`, in a square of `size` + 2. The name of the type is its hint.
 Item {
     id: root
 
@@ -15,7 +15,7 @@ Item {
     Accessible.role: Accessible.Graphic
     Accessible.name: type.name
 
-    // Large ones are wider than their square.
+    // Large symbols are wider than their square.
     DrawnIcon {
         anchors.centerIn: parent
         side: root.size + 2 + 2 * root.border

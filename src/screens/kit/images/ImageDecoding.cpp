@@ -15,7 +15,7 @@ bool isPicture(const QByteArray &format)
     return std::ranges::any_of(formats, [&](const char *known) { return format == known; });
 }
 
-/// A picture inside another (an icon of PNG) tells its size only while it is decoded.
+/// The size of an embedded picture (a PNG icon) is known only during decoding.
 void limitAllocation()
 {
     constexpr int megabytes = 128;
@@ -54,7 +54,7 @@ QImage decodedImage(const QByteArray &bytes, const ImageLimits &limits)
     if (!isPicture(reader.format()) || !isWithin(reader.size(), limits))
         return {};
     QImage image;
-    // A reader leaves what it has of a picture that ends too early.
+    // The reader keeps the decoded part of a truncated picture.
     if (!reader.read(&image))
         return {};
     return kept(image, limits.keptSide);

@@ -11,22 +11,22 @@
 struct ImageRequest
 {
     QUrl url;
-    /// The whole value of the header "Authorization"; without one the request carries no credentials.
+    /// The complete value of the header "Authorization". Without it the request carries no credentials.
     std::optional<QString> authorization;
     std::chrono::seconds timeout{60};
-    /// What comes beyond so many bytes is of no use: the fetcher may give up there.
+    /// The maximum useful size of the answer in bytes. The fetcher may abort beyond it.
     qint64 mostBytes = 0;
 };
 
-/// What came back.
+/// The answer to a request.
 struct ImageAnswer
 {
-    /// 0 where the answer was not one of HTTP.
+    /// The HTTP status. 0 if the answer was not an HTTP answer.
     int status = 0;
     QByteArray body;
 };
 
-/// The road to pictures outside. Redirects must not take the credentials to another host.
+/// Fetches external pictures. Redirects must not send the credentials to another host.
 class ImageFetcher
 {
 public:
@@ -35,6 +35,6 @@ public:
     ImageFetcher(const ImageFetcher &) = delete;
     ImageFetcher &operator=(const ImageFetcher &) = delete;
 
-    /// Any status is an answer; no answer at all throws a `Failure`.
+    /// Returns an answer with any status. Throws a `Failure` if there is no answer.
     virtual QCoro::Task<ImageAnswer> fetch(ImageRequest request) = 0;
 };

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Pictures being decoded at the same time: each may take some 100 MB.
+/// The maximum number of pictures decoded at the same time, because each may need about 100 MB.
 constexpr int decoders = 2;
 constexpr int firstRefusedStatus = 400;
 
@@ -33,7 +33,8 @@ ImageLoader &ImageLoader::shared()
 
 ImageLoader::~ImageLoader()
 {
-    // Whoever still waits is given nothing: a future that never finishes would hold them for ever.
+    // Callers that still wait receive a null picture, because a future that never finishes would keep them suspended
+    // for ever.
     for (const auto &promise : std::as_const(m_pending))
         settle(*promise, {});
 }
@@ -60,7 +61,7 @@ QFuture<QImage> ImageLoader::sharedRequest(const QUrl &url)
         return promise->future();
     promise = std::make_shared<QPromise<QImage>>();
     promise->start();
-    // A copy: an answer that comes at once takes the promise out of the map.
+    // A copy, because an immediate answer removes the promise from the map.
     const auto future = promise->future();
     spawn(load(url));
     return future;

@@ -12,11 +12,12 @@
 #include <memory>
 #include <optional>
 
-/// Fetches pictures for the whole program, each at most once at a time, and keeps them for the life of the process.
+/// Fetches pictures for the whole program, each with at most one request at a time, and keeps them for the lifetime of
+/// the process.
 ///
-/// Its one rule: the credentials of the site go to pictures on exactly the site's host, and nowhere else. No failure is
-/// told: a picture that cannot be had is no picture, and the next one to ask tries again. UI thread only; decoding is
-/// done on threads of its own.
+/// The credentials of the site are sent only to pictures on exactly the host of the site. Failures are not reported: a
+/// picture that cannot be fetched is null, and the next call tries again. For the UI thread only. Decoding runs on a
+/// thread pool of its own.
 class ImageLoader : public QObject
 {
     Q_OBJECT
@@ -25,29 +26,29 @@ public:
     using QObject::QObject;
     ~ImageLoader() override;
 
-    /// The program's own.
+    /// The instance of the program.
     static ImageLoader &shared();
 
-    /// The road outside; null for none, when nothing is fetched. Must outlive the loader or be taken away.
+    /// Sets the fetcher. With null nothing is fetched. The fetcher must outlive the loader or be reset to null.
     void setFetcher(ImageFetcher *fetcher) { m_fetcher = fetcher; }
-    /// The one host that may see the credentials.
+    /// Sets the only host that receives the credentials.
     void setAuthHost(const std::optional<QString> &host) { m_authHost = host; }
-    /// The whole value of the header "Authorization" for that host.
+    /// Sets the complete value of the header "Authorization" for that host.
     void setAuthHeader(const std::optional<QString> &header) { m_authHeader = header; }
     const std::optional<QString> &authHost() const { return m_authHost; }
 
-    /// The credentials that a request for this address carries, if any: the address's host must be the site's, to the
-    /// letter.
+    /// The credentials that a request for this address carries. Absent unless the host of the address is exactly the
+    /// host of the site.
     std::optional<QString> authorizationFor(const QUrl &url) const;
-    /// A picture that is there already; null otherwise.
+    /// A picture that is already loaded, otherwise null.
     QImage cached(const QUrl &url) const { return m_cache.value(url); }
-    /// The picture of an address, fetched if need be; null if it cannot be had. Whoever asks while it is under way waits
-    /// for the same request.
+    /// The picture of an address, fetched if necessary. Null if it cannot be fetched. Calls during a running request
+    /// for the same address wait for that request.
     QCoro::Task<QImage> image(QUrl url);
-    /// How many requests are under way.
+    /// The number of running requests.
     int pendingCount() const { return int(m_pending.size()); }
 
-    /// Forgets all pictures. For tests: a running program keeps them.
+    /// Removes all pictures. For tests only.
     void forget();
 
 private:
@@ -64,6 +65,6 @@ private:
     std::optional<QString> m_authHeader;
     QHash<QUrl, QImage> m_cache;
     QHash<QUrl, Promise> m_pending;
-    // Last, so that it has come to rest before the others go.
+    // Declared last, so that it is stopped before the other members are destroyed.
     QThreadPool m_decoders;
 };

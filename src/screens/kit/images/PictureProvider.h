@@ -6,13 +6,13 @@
 
 enum class PictureShape { Plain, Round };
 
-/// The address under which an Image finds a picture that the loader has.
+/// The address under which an Image finds a picture of the loader.
 QUrl pictureAddress(const QUrl &url, PictureShape shape);
-/// A picture scaled to fill a square, cut at its middle, and its corners rounded to a disc.
+/// The picture scaled and cropped to a square around its centre, and masked to a disc.
 QImage roundPicture(const QImage &picture, int side);
 
-/// Serves the loader's pictures: `image://picture/<plain or round>?u=<address>`. All that show one picture at one size
-/// share one texture. A plain picture keeps its proportions within the size asked for.
+/// Serves the pictures of the loader: `image://picture/<plain or round>?u=<address>`. All items that show a picture at
+/// the same size share one texture. A plain picture keeps its proportions within the requested size.
 class PictureProvider : public QQuickImageProvider
 {
 public:

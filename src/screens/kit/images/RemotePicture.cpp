@@ -22,7 +22,7 @@ void RemotePicture::setAddress(const QUrl &address)
 QCoro::Task<> RemotePicture::load(QUrl address)
 {
     const QImage image = co_await whileAlive(this, ImageLoader::shared().image(address));
-    // Another address may have been set meanwhile, which has a wait of its own.
+    // Another address may have been set meanwhile. It is awaited separately.
     if (address == m_address)
         setLoaded(!image.isNull());
 }

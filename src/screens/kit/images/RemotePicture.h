@@ -7,18 +7,18 @@
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
-/// A picture from outside, for an Image: empty until it is there, and again for another address. A picture that is known
-/// already is there at once.
+/// An external picture for an Image. `source` is empty until the picture is loaded, and again after a change of the
+/// address. A picture that is already loaded is available at once.
 class RemotePicture : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Where it is to be had; empty for none.
+    /// The address of the picture. Empty for none.
     Q_PROPERTY(QUrl address READ address WRITE setAddress NOTIFY addressChanged FINAL)
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY sourceChanged FINAL)
-    /// What an Image shows; empty while there is nothing to show.
+    /// The source for an Image. Empty while there is no picture.
     Q_PROPERTY(QUrl source READ source NOTIFY sourceChanged FINAL)
-    /// The same, cut to a disc.
+    /// The same for the picture masked to a disc.
     Q_PROPERTY(QUrl roundSource READ roundSource NOTIFY sourceChanged FINAL)
 
 public:

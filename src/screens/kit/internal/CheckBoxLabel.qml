@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The square of a check box, level with the first line of its words.
+/// The square and the text of a check box. The square is aligned with the first line of the text.
 Item {
     id: root
 

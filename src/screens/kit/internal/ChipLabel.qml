@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The icon and the title of a chip, side by side. The title elides where the chip is narrower than it would like.
+/// The icon and the title of a chip, side by side. The title is elided if the chip is narrower than its implicit width.
 Item {
     id: root
 

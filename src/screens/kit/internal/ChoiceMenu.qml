@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Kit
 
-/// A menu of choices of which one has a tick; it opens with the highlight on that one.
+/// A menu of choices, of which one has a check mark. It opens with that choice highlighted.
 PopupMenu {
     id: root
 

@@ -2,7 +2,8 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// A day in the grid of a month: on a disc when it is picked, in the accent when it is today. `number` 0 is no day.
+/// A day in the grid of a month: on a disc if it is chosen, in the accent colour if it is today. `number` 0 stands for
+/// an empty cell.
 FocusableItem {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-/// The name of a month, and the two buttons that turn it.
+/// The name of a month, and the two buttons that change the month.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What lies under a day's number.
+/// The background of a day's number.
 Rectangle {
     id: root
 

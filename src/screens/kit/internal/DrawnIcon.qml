@@ -1,6 +1,6 @@
 import QtQuick
 
-/// A square picture of an image provider, drawn for the device pixels it covers. `side` is in logical pixels.
+/// A square picture of an image provider, drawn at the device pixels that it covers. `side` is in logical pixels.
 Image {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// The bubble of a hint, below the middle of the item it belongs to.
+/// The bubble of a hint, centred below its parent item.
 T.ToolTip {
     id: root
 

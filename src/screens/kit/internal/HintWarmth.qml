@@ -1,7 +1,7 @@
 pragma Singleton
 import QtQuick
 
-/// Remembers for a moment that a hint was shown, so that the next one need not wait.
+/// Runs for a moment after a hint was shown, so that the next hint is shown without delay.
 Timer {
     id: root
 

@@ -11,7 +11,7 @@ T.TextArea {
     required property string name
     required property string problem
     property int role: TypeScale.Body
-    /// With the room round it.
+    /// The height of the text with its padding.
     readonly property real wholeHeight: contentHeight + topPadding + bottomPadding
 
     function speak() {
@@ -43,7 +43,8 @@ T.TextArea {
     Accessible.multiLine: true
     Accessible.name: name
     Accessible.description: problem
-    // The template writes its placeholder over it, when it is complete and whenever a screen reader starts.
+    // The template overwrites the description with its placeholder when the item is complete and whenever a screen
+    // reader starts.
     Accessible.onDescriptionChanged: speak()
 
     cursorDelegate: TextCaret {

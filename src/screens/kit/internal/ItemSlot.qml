@@ -1,6 +1,6 @@
 import QtQuick
 
-/// A place for an item that somebody else declared: takes it in and centres it.
+/// A container for an item that was declared elsewhere: becomes its parent and centres it.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The current choice of a menu picker, and the sign that there are others.
+/// The current choice of a menu picker, and the symbol that indicates further choices.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// What a row of a menu shows. `hasMarkRoom` keeps the place of a tick before everything else.
+/// The content of a row of a menu. `hasMarkRoom` reserves space for a check mark before everything else.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The shade of hover and press over a small control: white or black over the accent, the primary colour elsewhere.
+/// The fill for hover and press above a small control: white or black above the accent, otherwise the primary colour.
 HoverFill {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-/// The symbol and the words of a button, centred.
+/// The symbol and the text of a button, centred.
 Item {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-/// What dims the window under a sheet; its opacity is written by the overlay.
+/// Dims the window below a sheet. The overlay sets its opacity.
 Rectangle {
     id: root
 

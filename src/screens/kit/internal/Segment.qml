@@ -3,23 +3,24 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// One of the words of a `SegmentedPicker`. No `FocusableItem`: a template keeps its role, and this one is a radio button.
+/// One segment of a `SegmentedPicker`. It is not a `FocusableItem`, because a template fixes its role, and this one is
+/// a radio button.
 T.RadioButton {
     id: root
 
     required property bool on
     property bool lit: enabled && (hovered || down)
-    /// Shows the keyboard's focus.
+    /// Shows the keyboard focus.
     property bool ringed: visualFocus
 
     signal chosen()
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
-    // Its ring lies over its neighbours.
+    // The focus ring is drawn above the neighbouring segments.
     z: ringed ? 1 : 0
     leftPadding: 12
     rightPadding: 12
-    // Which one is chosen is the picker's to say.
+    // The picker decides which segment is chosen.
     checkable: false
     hoverEnabled: true
     focusPolicy: Qt.TabFocus

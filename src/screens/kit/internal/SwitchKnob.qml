@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The knob of a switch, which slides to its other place.
+/// The knob of a switch, which slides to its new position.
 Rectangle {
     id: root
 

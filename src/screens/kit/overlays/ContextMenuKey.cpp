@@ -21,7 +21,7 @@ ContextMenuKey::ContextMenuKey(QObject *item) : QObject(item)
 
 ContextMenuKey *ContextMenuKey::qmlAttachedProperties(QObject *item)
 {
-    // The item is its owner.
+    // The item owns the attached object.
     return std::make_unique<ContextMenuKey>(item).release();
 }
 

@@ -4,8 +4,8 @@
 #include <QtQml/qqml.h>
 #include <QtQml/qqmlregistration.h>
 
-/// Attached to an item that has the keyboard's focus, or holds what has it: tells when a key asks for the context menu,
-/// which is the menu key, or Shift+F10 on keyboards without one.
+/// Attached to an item that has the keyboard focus or contains the focused item. Reports when a key requests the
+/// context menu: the menu key, or Shift+F10 on keyboards that have none.
 class ContextMenuKey : public QObject
 {
     Q_OBJECT

@@ -2,14 +2,14 @@ import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The hint of the item it is declared in. It is made when first wanted, shows after a moment, and at once when another
-/// hint was just shown.
+/// The hint of its parent item. It is created on first use. It is shown after a delay, or at once if another hint was
+/// shown just before.
 Loader {
     id: root
 
     property bool shown: false
     property string text
-    /// How long the pointer rests before it shows, in milliseconds.
+    /// The time for which the pointer must rest before the hint is shown, in milliseconds.
     property int delay: HintWarmth.warm ? 0 : Motion.tooltipDelay
 
     active: shown && text.length > 0

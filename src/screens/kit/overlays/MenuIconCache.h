@@ -10,15 +10,15 @@
 #include <functional>
 #include <optional>
 
-/// The bitmaps of icons for native menus, which cannot hold a live drawing: at scale 2, with 1 round them. Each is drawn
-/// once per key and kept for the life of the process. UI thread only.
+/// The bitmaps of icons for native menus, which cannot show live drawings: at scale 2, with a margin of 1. Each is
+/// drawn once per key and kept for the lifetime of the process. For the UI thread only.
 class MenuIconCache
 {
 public:
-    /// The program's own.
+    /// The instance of the program.
     static MenuIconCache &shared();
 
-    /// The bitmap under a key; drawn and stored on the first call.
+    /// The bitmap for a key, drawn and stored on the first call.
     QImage image(const QString &key, const std::function<QImage()> &draw);
     int count() const { return int(m_cache.size()); }
 
@@ -26,15 +26,15 @@ private:
     QHash<QString, QImage> m_cache;
 };
 
-/// Keys of the bitmaps. A status's has the accent, which a finished one takes.
+/// The keys of the bitmaps. The key of a status includes the accent, because a finished status has its colour.
 QString statusMenuKey(const IssueStatus &status, AccentChoice accent);
 QString priorityMenuKey(PriorityLevel level);
-/// "avatar-none" for nobody.
+/// "avatar-none" without a person.
 QString avatarMenuKey(const std::optional<JiraUser> &user);
 
-/// A status at size 14.
+/// The icon of a status at size 14.
 QImage statusMenuImage(const IssueStatus &status, AccentChoice accent);
-/// A priority at size 14, in neutral.
+/// The icon of a priority at size 14, in the neutral colour.
 QImage priorityMenuImage(PriorityLevel level);
-/// A person's disc with initials, or nobody's ring, at size 16; never a photograph.
+/// The disc of a person with initials, or the ring for no person, at size 16. Never a photograph.
 QImage avatarMenuImage(const std::optional<JiraUser> &user);

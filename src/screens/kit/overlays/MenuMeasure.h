@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Measures a menu, whose rows all take its width.
+/// Measures menus, in which all rows have the width of the menu.
 class MenuMeasure : public QObject
 {
     Q_OBJECT
@@ -11,8 +11,8 @@ class MenuMeasure : public QObject
     QML_SINGLETON
 
 public:
-    /// The width that the widest row of a menu would like, in logical pixels.
+    /// The implicit width of the widest row of a menu, in logical pixels.
     Q_INVOKABLE qreal widest(QObject *menu) const;
-    /// Makes all rows keep room for a tick where one of them has one.
+    /// Makes all rows reserve space for a check mark if one of them has a check mark.
     Q_INVOKABLE void alignMarks(QObject *menu) const;
 };

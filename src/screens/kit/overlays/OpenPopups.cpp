@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The items that a window shows its popups in, from the lowest to the topmost.
+/// The items in which a window shows its popups, from bottom to top.
 QList<QQuickItem *> popupItems(const QQuickWindow &window)
 {
     QList<QQuickItem *> items;
@@ -27,7 +27,7 @@ void OpenPopups::close(const QQuickWindow &window)
     QList<QPointer<QObject>> popups;
     for (const auto *item : popupItems(window))
         popups += item->parent();
-    // One that closes may take others with it.
+    // A popup that closes may close others too.
     for (const auto &popup : std::views::reverse(popups)) {
         if (popup && !popup->property("dim").toBool())
             QMetaObject::invokeMethod(popup, "close");

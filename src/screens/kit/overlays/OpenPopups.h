@@ -2,11 +2,11 @@
 
 class QQuickWindow;
 
-/// The popovers and menus that lie over the content of a window.
+/// The popovers and menus above the content of a window.
 namespace OpenPopups {
 
-/// Closes them all, the topmost first, so that each gives the focus back to what lies below it. What dims the rest
-/// stays, as sheets do: it must be dealt with first.
+/// Closes all popovers and menus, topmost first, so that each returns the focus to the one below it. Popups that dim
+/// the window, such as sheets, stay open, because the user must complete them first.
 void close(const QQuickWindow &window);
 
 } // namespace OpenPopups

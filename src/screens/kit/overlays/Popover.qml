@@ -3,10 +3,10 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// A floating panel beside the item that it is declared in, which stays in the window. Its children stand one over the
-/// other at the top left; `name` is what screen readers call it. Escape and a press outside close it, and that press does
-/// no more, unless `modal` and `closePolicy` say otherwise: whoever puts it away opens nothing by it. The focus returns to
-/// where it was. Put what is costly into a `When { shown: popover.isShown }`.
+/// A floating panel beside its parent item, kept within the window. Its children are stacked at the top left. `name` is
+/// its name for screen readers. Escape and a press outside close it, and that press has no other effect, unless `modal`
+/// and `closePolicy` are changed. The focus then returns to the item that had it before. Put expensive content into a
+/// `When { shown: popover.isShown }`.
 T.Popup {
     id: root
 
@@ -15,9 +15,9 @@ T.Popup {
     default property alias content: holder.data
     /// A `PopoverPlacement.Alignment`.
     property int alignment: PopoverPlacement.Leading
-    /// There, or coming or going.
+    /// True while the popover is open, opening or closing.
     readonly property bool isShown: visible
-    /// Going: what it holds takes no more clicks.
+    /// True while the popover closes. Its content then receives no clicks.
     property bool isLeaving: false
     readonly property Item room: T.Overlay.overlay
     property Item returnTo: null

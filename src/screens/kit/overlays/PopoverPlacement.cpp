@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The wish, kept within the window; at its beginning when there is no room at all.
+/// The desired position, limited to the window. The start of the window if the popover does not fit.
 qreal kept(qreal wish, qreal length, qreal room)
 {
     const qreal last = room - PopoverPlacement::margin - length;

@@ -4,7 +4,7 @@
 #include <QRectF>
 #include <QtQml/qqmlregistration.h>
 
-/// Where popovers stand, so that they stay in their window.
+/// Computes the positions of popovers, so that they stay within their window.
 class PopoverPlacement : public QObject
 {
     Q_OBJECT
@@ -12,20 +12,20 @@ class PopoverPlacement : public QObject
     QML_SINGLETON
 
 public:
-    /// With which of the anchor's edges a popover is in line.
+    /// The edge of the anchor with which a popover is aligned.
     enum Alignment { Leading, Centre, Trailing };
     Q_ENUM(Alignment)
 
-    /// What lies between a popover and its anchor, and at least between it and the window's edges.
+    /// The distance of a popover from its anchor, and its minimum distance from the edges of the window.
     static constexpr qreal gap = 4;
     static constexpr qreal margin = 8;
 
     /// The top left corner of a popover of `size` beside `anchor`, in the coordinates of both and of the window: below
-    /// it, or above it where there is more room, moved so that it stays in the window.
+    /// the anchor, or above it if there is more space, moved so that the popover stays within the window.
     static QPointF beside(const QRectF &anchor, const QSizeF &size, const QSizeF &window,
                           PopoverPlacement::Alignment alignment);
 
-    /// The same for QML, told from the anchor's top left corner.
+    /// The same for QML, relative to the top left corner of the anchor.
     Q_INVOKABLE QPointF place(const QRectF &anchor, const QSizeF &size, const QSizeF &window,
                               int alignment) const;
 };

@@ -3,10 +3,10 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// A menu that the program draws. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s with a
-/// title. The focus returns to where it was. A press outside closes it, so the click of a control that opens one must
-/// close it too, or it would open it again: such a control is the menu's parent, has it `leavePressesToParent`, and calls
-/// `toggle()`.
+/// A menu that the program draws itself. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s
+/// with a title. When it closes, the focus returns to the item that had it before. A press outside closes the menu. A
+/// control that opens the menu on a click must also close it on a click, because otherwise the click would open it
+/// again: make the control the menu's parent, set `leavePressesToParent`, and call `toggle()`.
 T.Menu {
     id: root
 

@@ -3,14 +3,15 @@ import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
-/// A row of a menu: a tick and a symbol or a drawn icon before the title, an arrow behind it.
+/// A row of a menu: a check mark and a symbol or a drawn icon before the title, and the shortcut or the submenu chevron
+/// after it.
 T.MenuItem {
     id: root
 
     property string symbol
     property Item leading: null
     property string shortcut
-    /// The menu sets it where one of its rows has a tick, so that all titles begin in one line.
+    /// Set by the menu if one of its rows has a check mark, so that all titles are aligned.
     property bool hasMarkRoom: checked
     readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
     readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2

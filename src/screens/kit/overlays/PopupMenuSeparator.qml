@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Theme
 
-/// The line between two groups of a menu.
+/// The line between two groups of menu entries.
 T.MenuSeparator {
     id: root
 

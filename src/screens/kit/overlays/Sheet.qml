@@ -3,9 +3,9 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// A panel over the window that must be dealt with first: the rest is dimmed and out of reach. Its children stand one over
-/// the other at the top left; give them `width: sheet.width`. `name` is what screen readers call it. Escape closes it
-/// unless `closePolicy` says otherwise. The focus returns to where it was. What is costly goes into a
+/// A panel above the window that the user must complete first: the rest is dimmed and cannot be reached. Its children
+/// are stacked at the top left. Give them `width: sheet.width`. `name` is its name for screen readers. Escape closes it
+/// unless `closePolicy` is changed. The focus then returns to the item that had it before. Put expensive content into a
 /// `When { shown: sheet.visible }`.
 T.Popup {
     id: root
@@ -13,7 +13,8 @@ T.Popup {
     required property string name
 
     default property alias content: holder.data
-    /// How much of the free height lies above: less than a half, as the eye's middle is higher.
+    /// The fraction of the free height above the sheet. It is less than a half, because the centre is perceived to be
+    /// higher.
     property real lift: 0.4
     readonly property real freeHeight: parent ? parent.height - height : 0
     property Item returnTo: null

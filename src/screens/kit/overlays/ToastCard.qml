@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// One toast: a symbol and a message on glass, at most 460 wide; a longer message wraps. Pressing it emits `clicked`.
+/// One toast: a symbol and a message on glass, at most 460 wide. A longer message wraps. A press emits `clicked`.
 FocusableItem {
     id: root
 

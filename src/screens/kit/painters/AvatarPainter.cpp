@@ -31,7 +31,7 @@ void paintNobody(QPainter &painter, qreal size)
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(ring);
-    // A symbol of font size 0.45 × size, not rounded to whole pixels.
+    // The symbol has the font size 0.45 × size, not rounded to whole pixels.
     const qreal side = 0.45 * 1.15 * size;
     const QRectF box((size - side) / 2, (size - side) / 2, side, side);
     paintSymbol(painter, {u"person.fill"_s, IdentityColors::neutral()}, box);

@@ -22,7 +22,7 @@ QColor black(qreal opacity)
     return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
 }
 
-// The blue-black of shadows in the light appearance.
+// The blue-black colour of shadows in the light appearance.
 QColor tinted(qreal opacity)
 {
     return QColor::fromRgbF(22 / 255.0F, 22 / 255.0F, 50 / 255.0F, static_cast<float>(opacity));
@@ -75,7 +75,8 @@ void paintShadows(QPainter &painter, const FrameDrawing &frame, qreal scale)
     const auto shape = rounded(QRectF(QPointF(), frame.size), frame.radius);
     for (const auto &shadow : frame.shadows)
         paintSoftShadow(painter, shape, shadow, scale);
-    // Glass is not quite opaque: no shadow under it. Half a device pixel remains under the rim of the fill.
+    // Glass is slightly transparent, so no shadow is drawn below it, except for half a device pixel below the rim of
+    // the fill.
     const qreal rim = 0.5 / scale;
     const QRectF inner = QRectF(QPointF(), frame.size).adjusted(rim, rim, -rim, -rim);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);

@@ -8,29 +8,30 @@
 
 #include <vector>
 
-/// What glass has round its fill: a shadow of one or two parts outside the shape, a line of one device pixel round it,
-/// and a light line of one device pixel inside its upper edge.
+/// The edge effects of glass: a shadow of one or two parts outside the shape, a line of one device pixel around it, and
+/// a light line of one device pixel inside its upper edge.
 struct FrameDrawing
 {
-    /// The shape, in logical pixels.
+    /// The size of the shape, in logical pixels.
     QSizeF size;
     qreal radius = 0;
     std::vector<SoftShadow> shadows;
-    /// Transparent for none.
+    /// The colour of the outline. Transparent for none.
     QColor hairline = Qt::transparent;
     QColor edgeLight = Qt::transparent;
 };
 
-/// Which of the two appearances a picture is for.
+/// The appearance for which a picture is drawn.
 enum class Appearance { Light, Dark };
 
-/// The shadows of a name: none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover, sheet. The
-/// name "prominent" takes `accent`. An unknown name has none.
+/// The shadows with a name: none, card, cardHover, palette, onboarding, mention, capsule, pane, bar, popover or sheet.
+/// "prominent" uses `accent`. Empty for an unknown name.
 std::vector<SoftShadow> shadowsNamed(const QString &name, Appearance appearance,
                                      const QColor &accent);
-/// How far the shadows reach beyond the shape, at least 1 for the hairline, in whole logical pixels.
+/// The distance that the shadows extend beyond the shape, at least 1 for the hairline, in whole logical pixels.
 int frameMargin(const std::vector<SoftShadow> &shadows);
-/// How far from the shape's edge the corners of the nine-patch go, in whole logical pixels.
+/// The extent of the corners of the nine-patch, measured from the edge of the shape, in whole logical pixels.
 int frameCorner(const std::vector<SoftShadow> &shadows, qreal radius);
-/// The frame as a picture of `scale` device pixels per logical pixel, `frameMargin` larger than the shape on each side.
+/// The frame as a picture with `scale` device pixels per logical pixel, larger than the shape by `frameMargin` on each
+/// side.
 QImage frameImage(const FrameDrawing &frame, qreal scale);

@@ -39,7 +39,7 @@ void paintUpperEdge(QPainter &painter, qreal size)
     painter.fillPath(square.subtracted(square.translated(0, line)), QColor(255, 255, 255, 89));
 }
 
-// The symbol in black gives its coverage, which then takes the gradient and the shadow.
+// The symbol in black provides the coverage, to which the gradient and the shadow are applied.
 QImage symbolImage(const QSizeF &box, qreal side, qreal scale, const QColor &color)
 {
     QImage image((box * scale).toSize(), QImage::Format_ARGB32_Premultiplied);

@@ -8,7 +8,7 @@
 
 void paintLetters(QPainter &painter, const QString &letters, const LetterStyle &style, qreal size)
 {
-    // Outlines of a large font, scaled down: exact at sizes that are no whole number of pixels.
+    // Outlines of a large font, scaled down, are exact at sizes that are not a whole number of pixels.
     constexpr qreal drawnAt = 100;
     const QFont font = TypeScale::textFont(drawnAt, style.weight);
     const QFontMetricsF metrics(font);

@@ -5,7 +5,7 @@
 
 class QPainter;
 
-/// How large and heavy letters on a badge are; the size is in logical pixels.
+/// The size (in logical pixels) and the weight of letters on a badge.
 struct LetterStyle
 {
     qreal pixels = 0;

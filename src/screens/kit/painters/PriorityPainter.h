@@ -7,5 +7,5 @@
 class QPainter;
 
 /// Draws a priority in the square from (0, 0) to (size, size): an exclamation mark on orange, three bars, or three
-/// dashes. `tint` colours bars and dashes; the urgent one keeps its own colours.
+/// dashes. `tint` is the colour of bars and dashes. The urgent icon keeps its own colours.
 void paintPriorityIcon(QPainter &painter, PriorityLevel level, const QColor &tint, qreal size);

@@ -8,7 +8,7 @@ namespace {
 
 using Line = std::vector<float>;
 
-// The mean over 2 × radius + 1 values, with nothing beyond the ends.
+// The mean over 2 × radius + 1 values, where values beyond the ends count as 0.
 void runningMean(const Line &from, Line &to, int radius)
 {
     const int count = static_cast<int>(from.size());
@@ -24,7 +24,7 @@ void runningMean(const Line &from, Line &to, int radius)
     }
 }
 
-// Radii of three means whose variances add up to the Gaussian's.
+// The radii of three means whose variances add up to that of the Gaussian.
 std::array<int, 3> meanRadii(qreal sigma)
 {
     const qreal ideal = std::sqrt(4 * sigma * sigma + 1);
@@ -113,7 +113,7 @@ QImage blurredAlpha(const QImage &alpha, qreal sigma)
 void paintSoftShadow(QPainter &painter, const QPainterPath &shape, const SoftShadow &shadow,
                      qreal scale)
 {
-    // A wide blur has no detail: half the resolution is a quarter of the work.
+    // A wide blur has no detail, so half the resolution is enough and needs a quarter of the work.
     const qreal own = shadow.blur * scale > 16 ? scale / 2 : scale;
     const QRectF box = shape.boundingRect();
     const qreal reach = shadowReach(shadow);

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QPainterPath>
 
-/// One shadow as design tools count it: an offset downwards and a blur of which half is the Gaussian's sigma.
+/// One shadow as design tools define it: a downward offset, and a blur that is twice the sigma of the Gaussian.
 struct SoftShadow
 {
     qreal offset = 0;
@@ -12,11 +12,12 @@ struct SoftShadow
     QColor color;
 };
 
-/// How far a shadow reaches beyond its shape, in the unit of the blur.
+/// The distance that a shadow extends beyond its shape, in the unit of the blur.
 qreal shadowReach(const SoftShadow &shadow);
-/// Blurs an image of format Alpha8 by three running means, which come within 3 % of the Gaussian of `sigma` pixels.
+/// Blurs an image of format Alpha8 with three running means, which approximate the Gaussian of `sigma` pixels within 3
+/// %.
 QImage blurredAlpha(const QImage &alpha, qreal sigma);
-/// Draws the shadow of a shape. The painter's device must be wide enough for its reach. `scale` is the number of device
-/// pixels per unit.
+/// Draws the shadow of a shape. The device of the painter must be large enough for the shadow. `scale` is the number of
+/// device pixels per unit.
 void paintSoftShadow(QPainter &painter, const QPainterPath &shape, const SoftShadow &shadow,
                      qreal scale);

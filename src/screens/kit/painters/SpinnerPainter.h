@@ -4,5 +4,6 @@
 
 class QPainter;
 
-/// Draws the eight blades of a spinner in the square from (0, 0) to (size, size), the brightest before twelve o'clock.
+/// Draws the eight blades of a spinner in the square from (0, 0) to (size, size). The brightest blade is just before
+/// twelve o'clock.
 void paintSpinner(QPainter &painter, const QColor &color, qreal size);

@@ -20,7 +20,7 @@ void paintRing(QPainter &painter, QPen pen, qreal size)
     pen.setCapStyle(Qt::FlatCap);
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    // As a path from three o'clock clockwise, so that the dashes start there.
+    // A path from three o'clock clockwise, so that the dashes start there.
     QPainterPath ring;
     ring.addEllipse(QRectF(inset, inset, size - 2 * inset, size - 2 * inset));
     painter.drawPath(ring);
@@ -30,7 +30,7 @@ void paintDashedRing(QPainter &painter, qreal size)
 {
     const qreal width = statusRingWidth(size);
     QPen pen(IdentityColors::neutral(), width);
-    // A pattern counts in widths of the pen.
+    // The dash pattern is in units of the pen width.
     pen.setDashPattern({0.13 * size / width, 0.12 * size / width});
     paintRing(painter, pen, size);
 }

@@ -7,20 +7,20 @@
 
 class QPainter;
 
-/// What a status icon shows.
+/// The inputs of a status icon.
 struct StatusDrawing
 {
     StatusCategory category = StatusCategory::Todo;
-    /// The fill of the pie, 0 to 1; read only for work in progress.
+    /// The filled fraction of the pie, 0 to 1. Used only for work in progress.
     double progress = 0;
     /// The colour of a finished status.
     QColor accent;
 };
 
-/// The width of the ring, which never falls below 1.2.
+/// The width of the ring, at least 1.2.
 qreal statusRingWidth(qreal size);
-/// The pie of `fraction` (0 to 1) in a box, growing clockwise from twelve o'clock. Its arc is a polygon of at least two
-/// steps and at most 72, and meant to be one.
+/// The pie of `fraction` (0 to 1) in a box, growing clockwise from twelve o'clock. Its arc is deliberately a polygon of
+/// 2 to 72 steps.
 QPolygonF pieSlice(const QRectF &box, double fraction);
 /// Draws the icon in the square from (0, 0) to (size, size).
 void paintStatusIcon(QPainter &painter, const StatusDrawing &status, qreal size);

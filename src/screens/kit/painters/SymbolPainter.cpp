@@ -16,11 +16,11 @@ namespace {
 struct Correction
 {
     qreal scale = 1;
-    /// Downwards, in units of the symbol's grid of 16.
+    /// The downward offset, in units of the symbol's grid of 16.
     qreal shift = 0;
 };
 
-// Stroke added to the outline, in units of the grid, in the order of SymbolWeight.
+// The additional stroke width of the outline, in units of the grid, in the order of SymbolWeight.
 constexpr std::array<qreal, 5> extraStroke{0, 0.3, 0.6, 1.15, 1.7};
 
 QByteArray readAsset(const QString &path)
@@ -73,7 +73,7 @@ qreal strokeOf(const SymbolDrawing &symbol)
     if (symbol.name.endsWith(".fill"_L1))
         return 0;
     auto step = static_cast<size_t>(symbol.weight);
-    // Its drawing is heavy already.
+    // The drawing of this symbol is already heavy.
     if (symbol.name == "checkmark"_L1 && step > 0)
         --step;
     return extraStroke[step];

@@ -7,10 +7,11 @@
 
 class QPainter;
 
-/// How heavy a symbol is drawn. Only symbols that are lines take another weight than regular; filled ones would clog.
+/// The weight of a symbol. Only line symbols support weights other than regular, because filled symbols would lose
+/// their details.
 enum class SymbolWeight { Regular, Medium, Semibold, Bold, Heavy };
 
-/// A symbol by its name in assets/symbols.tsv, such as "chevron.right".
+/// A symbol, selected by its name in assets/symbols.tsv, such as "chevron.right".
 struct SymbolDrawing
 {
     QString name;
@@ -18,10 +19,10 @@ struct SymbolDrawing
     SymbolWeight weight = SymbolWeight::Regular;
 };
 
-/// Every name that has a drawing, in order.
+/// The names of all symbols, sorted.
 QStringList symbolNames();
-/// The side of a symbol's square for the size of the font it stands beside, in logical pixels.
+/// The side of a symbol's square for the font size of the text beside it, in logical pixels.
 int symbolSide(qreal fontSize);
-/// Draws a symbol whose square is `box`, with the optical corrections of those that look too small or too heavy; such a
-/// symbol may leave the box by a tenth. An unknown name draws nothing.
+/// Draws a symbol whose square is `box`, with optical corrections for symbols that look too small or too heavy. A
+/// corrected symbol may exceed the box by a tenth. An unknown name draws nothing.
 void paintSymbol(QPainter &painter, const SymbolDrawing &symbol, const QRectF &box);

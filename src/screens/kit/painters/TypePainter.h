@@ -4,6 +4,6 @@
 
 class QPainter;
 
-/// Draws the symbol of a type's family in its colour, at font size `size`, centred in the square from (0, 0)
-/// to (size + 2, size + 2), which a large one leaves.
+/// Draws the symbol of an issue type's family in its colour, at font size `size`, centred in the square from (0, 0) to
+/// (size + 2, size + 2). A large symbol may exceed the square.
 void paintTypeIcon(QPainter &painter, Model::IssueTypeKind kind, qreal size);

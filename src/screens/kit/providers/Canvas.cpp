@@ -20,7 +20,7 @@ QColor PictureAddress::color(const QString &key) const
 PictureAddress parsedAddress(const QString &id)
 {
     PictureAddress address;
-    // Qt hands the address over with its percent signs, save where nothing could be mistaken.
+    // Qt passes the address percent-encoded, except where decoding is unambiguous.
     for (const auto &part : id.section(u'?', 0, 0).split(u'/'))
         address.path.append(QUrl::fromPercentEncoding(part.toUtf8()));
     address.query = QUrlQuery(id.section(u'?', 1));

@@ -17,7 +17,7 @@ namespace {
 
 struct Icon
 {
-    /// Side of the whole picture in logical pixels.
+    /// The side of the whole picture in logical pixels.
     qreal side = 0;
     std::function<void(QPainter &, qreal)> paint;
 };

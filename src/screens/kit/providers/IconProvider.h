@@ -2,7 +2,7 @@
 
 #include <QQuickImageProvider>
 
-/// Serves the drawn icons: `image://icon/<kind>?<values>`. The addresses are made by `Pictures`; pictures of one
+/// Serves the drawn icons: `image://icon/<kind>?<values>`. `Pictures` creates the addresses. Pictures with the same
 /// address share one texture.
 class IconProvider : public QQuickImageProvider
 {

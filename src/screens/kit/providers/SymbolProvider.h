@@ -3,8 +3,8 @@
 #include <QQuickImageProvider>
 
 /// Serves `image://symbol/<name>?f=<font size>&w=<weight>&c=<colour>`: a symbol in its square of side 1.15 × font size
-/// and a border of `symbolBorder` round it, at the device pixels that the item asks for. Weights: regular, medium,
-/// semibold, bold, heavy. An unknown name gives an empty picture and a warning.
+/// with a margin of `symbolBorder` around it, at the device pixels that the item requests. The weights are regular,
+/// medium, semibold, bold and heavy. An unknown name gives an empty picture and a warning.
 class SymbolProvider : public QQuickImageProvider
 {
 public:
@@ -12,5 +12,6 @@ public:
     QImage requestImage(const QString &id, QSize *size, const QSize &requestedSize) override;
 };
 
-/// What a picture of a symbol has round the symbol's square, in logical pixels: room for strokes and corrected sizes.
+/// The margin around the square of a symbol in its picture, in logical pixels. It leaves space for strokes and for
+/// symbols with corrected sizes.
 int symbolBorder(int side);
