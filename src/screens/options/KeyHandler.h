@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// What wants to see the key presses of a window before the item with the focus does.
+/// An object that sees the key presses of a window before the item with the focus does.
 class KeyHandler : public QObject
 {
     Q_OBJECT
@@ -15,6 +15,6 @@ class KeyHandler : public QObject
 public:
     using QObject::QObject;
 
-    /// True when the press was for this handler; nobody else gets it then.
+    /// True when this handler has consumed the press. Then no other object receives it.
     virtual bool handle(const KeyPress &press) = 0;
 };

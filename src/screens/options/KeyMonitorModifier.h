@@ -6,9 +6,10 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Watches the window of the item it is placed in while it is seen: each key press goes to the handler first, and to the
-/// item with the focus only if the handler leaves it. Of several monitors in a window the one that came last is asked
-/// first. Keys count only while the focus is in the item: one that fades out, or lies under a menu, takes none.
+/// Watches the window of its parent item while that item is visible: each key press goes to the handler first, and to
+/// the item with the focus only if the handler does not consume it. If several monitors watch one window, the newest is
+/// asked first. Keys are handled only while the focus is inside the parent item: an item that fades out, or that is
+/// covered by a menu, receives none.
 class KeyMonitorModifier : public QQuickItem
 {
     Q_OBJECT
@@ -35,6 +36,6 @@ private:
     void follow();
 
     QPointer<KeyHandler> m_handler;
-    /// The window watched; null while the item is not seen.
+    /// The watched window. Null while the item is not visible.
     QPointer<QQuickWindow> m_monitor;
 };

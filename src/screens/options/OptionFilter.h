@@ -6,13 +6,13 @@
 
 #include <optional>
 
-/// The items that a query finds, in their order: those whose title or subtitle contains it, whatever the case and the
-/// accents. White space round the query does not count; without anything else in it all items are found.
+/// The items that match a query, in their original order: those whose title or subtitle contains the query, regardless
+/// of case and accents. White space around the query is ignored. An empty query matches all items.
 QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString &query);
 
-/// The value that a query would make: its words joined by hyphens. Nothing without a word, and where any item, found or
-/// not, has that title already, whatever the case.
+/// The title of the new value that a query would create: the words of the query joined by hyphens. Absent if the query
+/// has no word, or if any item, matching or not, has that title already, regardless of case.
 std::optional<QString> createCandidate(const QList<OptionItem> &items, const QString &query);
 
-/// The position of the first item that a digit picks.
+/// The index of the first item that a digit picks.
 std::optional<int> itemWithShortcut(const QList<OptionItem> &items, int digit);

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// The icon of an option, for QML: `kind` says which of the values holds; the others are empty.
+/// The icon of an option, for QML. `kind` tells which of the values is valid. The others are empty.
 class OptionIconValue
 {
     Q_GADGET
@@ -24,7 +24,7 @@ public:
     OptionIconValue() = default;
     explicit OptionIconValue(OptionIcon icon) : m_icon(std::move(icon)) {}
 
-    /// A `OptionIcons.Kind`.
+    /// An `OptionIcons.Kind`.
     int kind() const { return int(m_icon.value.index()); }
     IssueStatus status() const { return valueOr(IssueStatus()); }
     int level() const { return int(valueOr(PriorityLevel::None)); }

@@ -6,8 +6,8 @@ import Velmora.Kit
 import Velmora.Model
 import Velmora.Theme
 
-/// The icon of an option, centred in a square of 20. Most kinds are one picture that takes another address when the icon
-/// changes: lists give their rows other options while somebody types.
+/// The icon of an option, centred in a square of 20. Most kinds share one image, whose address changes with the icon,
+/// because lists reassign their rows while the user types.
 Item {
     id: root
 

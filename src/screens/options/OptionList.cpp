@@ -85,7 +85,7 @@ void OptionList::activate(int row)
         return create();
     if (row >= m_found.size())
         return;
-    // A copy: running it changes the items.
+    // A copy, because running the item changes the items.
     const OptionItem item = m_found[row];
     m_source->run(item);
     if (!item.keepsOpen)

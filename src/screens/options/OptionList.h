@@ -9,21 +9,22 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// A searchable list of options without its window: what is searched for, what that finds, which row is highlighted, and
-/// what keys and clicks do. The rows are the found items in their order and, last, the row that makes a new value where
-/// there is one to make.
+/// The logic of a searchable list of options, without its window: the query, the matching items, the highlighted row,
+/// and the effects of keys and clicks. The rows are the matching items in their order, followed by the row that creates
+/// a new value where there is one to create.
 class OptionList : public KeyHandler
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(OptionSource *source READ source WRITE setSource NOTIFY sourceChanged FINAL REQUIRED)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
-    /// The position of the highlighted row; it may lie behind the last one when rows went.
+    /// The index of the highlighted row. It may exceed the last index after rows were removed.
     Q_PROPERTY(
         int highlighted READ highlighted WRITE setHighlighted NOTIFY highlightedChanged FINAL)
     Q_PROPERTY(OptionListModel *rows READ rows CONSTANT FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY rowsChanged FINAL)
-    /// The highlighted row and its place among the others, for screen readers, whose focus stays in the search field.
+    /// The highlighted row and its position among the others, for screen readers, because the focus stays in the search
+    /// field.
     Q_PROPERTY(QString spoken READ spoken NOTIFY spokenChanged FINAL)
 
 public:
@@ -32,7 +33,7 @@ public:
     OptionSource *source() const { return m_source; }
     void setSource(OptionSource *source);
     const QString &query() const { return m_query; }
-    /// A change takes the highlight back to the first row.
+    /// A change moves the highlight back to the first row.
     void setQuery(const QString &query);
     int highlighted() const { return m_highlighted; }
     void setHighlighted(int row);
@@ -40,15 +41,15 @@ public:
     bool isEmpty() const { return m_rows.rows().isEmpty(); }
     QString spoken() const;
 
-    /// Runs the item of a row and, unless that keeps the list open, emits `done`; or makes the new value and empties the
-    /// query. Nothing for a row that is not there.
+    /// Runs the item of a row and, unless that item keeps the list open, emits `done`. For the row that creates a
+    /// value, creates it and clears the query. Does nothing for an index outside the list.
     Q_INVOKABLE void activate(int row);
-    /// The pointer is over a row, at a place in the window. It takes the highlight there only when it has moved: a list
-    /// that opens below a pointer at rest, or rows that scroll there, don't count.
+    /// Reports that the pointer is over a row, at a position in the window. The highlight moves there only if the
+    /// pointer itself has moved: a list that opens below a resting pointer, or rows that scroll below it, do not count.
     Q_INVOKABLE void point(int row, QPointF where);
-    /// Where the pointer lies in the window when the list comes.
+    /// Sets the position of the pointer in the window at the time the list opens.
     void setPointer(QPointF where) { m_pointer = where; }
-    /// The same, as the system tells it for the window of `view`.
+    /// The same, with the position that the system reports for the window of `view`.
     Q_INVOKABLE void findPointer(const QQuickItem *view);
     bool handle(const KeyPress &press) override;
 
@@ -58,7 +59,7 @@ Q_SIGNALS:
     void highlightedChanged();
     void rowsChanged();
     void spokenChanged();
-    /// The list has served and can be closed.
+    /// The list is finished and can be closed.
     void done();
 
 private:

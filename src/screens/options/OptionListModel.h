@@ -9,16 +9,16 @@
 /// A row of a list of options.
 struct OptionListRow
 {
-    /// Tells an item from all others, and from the row that makes a value.
+    /// Identifies an item among all items and the row that creates a value.
     QString key;
     OptionItem item;
 
     bool operator==(const OptionListRow &) const = default;
 };
 
-/// The row of an item.
+/// The row for an item.
 OptionListRow itemRow(const OptionItem &item);
-/// The row that makes a value, with its title.
+/// The row that creates a value, with its title.
 OptionListRow createRow(const QString &title);
 
 /// The rows of a list of options.
@@ -31,11 +31,11 @@ class OptionListModel : public KeyedListModel<OptionListRow>
 public:
     enum Role {
         TitleRole = Qt::UserRole,
-        /// Empty without one.
+        /// Empty if there is none.
         SubtitleRole,
         IconRole,
         IsSelectedRole,
-        /// The digit that picks the row; empty without one.
+        /// The digit that picks the row. Empty if there is none.
         ShortcutRole
     };
     Q_ENUM(Role)

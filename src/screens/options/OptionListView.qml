@@ -6,8 +6,8 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
 
-/// A searchable list of options: a search field, which has the focus, above the rows that it finds. Keys reach the list
-/// before the field sees them. `done` asks the host to close it.
+/// A searchable list of options: a search field, which has the focus, above the matching rows. The list receives key
+/// presses before the field does. `done` asks the host to close it.
 FocusScope {
     id: root
 
@@ -22,7 +22,7 @@ FocusScope {
         list.findPointer(root)
     }
 
-    /// Scrolls to the highlighted row; at the ends to the very end.
+    /// Scrolls to the highlighted row. The first and the last row scroll to the very end of the list.
     function follow() {
         rows.positionViewAtIndex(list.highlighted, ListView.Contain)
         if (list.highlighted === 0)
@@ -82,7 +82,7 @@ FocusScope {
         model: list.rows
         boundsBehavior: Flickable.StopAtBounds
         keyNavigationEnabled: false
-        // Rows that are made ahead of time outlive the filter that drops them.
+        // Rows that the view creates in advance would survive the filter that removes them.
         cacheBuffer: 0
         currentIndex: -1
         Accessible.role: Accessible.List

@@ -6,7 +6,7 @@
 #include <QSize>
 #include <QUrl>
 
-/// The drawn pictures of the icons of options, but for people and labels, whose icons are no such pictures.
+/// The drawn pictures of option icons, except the icons of people and labels, which are not drawn pictures.
 class OptionPictures : public QObject
 {
     Q_OBJECT
@@ -16,10 +16,10 @@ class OptionPictures : public QObject
 public:
     using QObject::QObject;
 
-    /// The picture is a square of so many logical pixels; of none without a picture.
+    /// The size of the picture in logical pixels. Empty without a picture.
     Q_INVOKABLE QSize size(const OptionIconValue &icon) const;
-    /// Where the picture is to be had, in the colour that `ink` gives for the icon; empty without one.
+    /// The address of the picture, in the colour that `ink` gives for the icon. Empty without a picture.
     Q_INVOKABLE QUrl source(const OptionIconValue &icon, const QColor &ink) const;
-    /// What it says to screen readers; empty for a mere symbol.
+    /// The text for screen readers. Empty for a decorative symbol.
     Q_INVOKABLE QString meaning(const OptionIconValue &icon) const;
 };

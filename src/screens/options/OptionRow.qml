@@ -5,8 +5,8 @@ import Velmora.Options
 import Velmora.Kit
 import Velmora.Theme
 
-/// One row of a list of options: icon, title, subtitle, a tick when it is selected, the digit that picks it. `pointed`
-/// tells that the pointer is over it, and where in the window; `picked` that it was pressed.
+/// One row of a list of options: icon, title, subtitle, a check mark when it is selected, and the digit that picks it.
+/// `pointed` reports that the pointer is over the row, and where in the window. `picked` reports a click.
 Rectangle {
     id: root
 
@@ -18,7 +18,8 @@ Rectangle {
     required property string shortcut
     property bool isHighlighted: false
 
-    // What the row told when the button went down. The option under it may be another one when the button comes up.
+    // The option that the row showed when the button was pressed. The row may show another option by the time of the
+    // release.
     property string pressedTitle
     property string pressedSubtitle
 

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Which items a list of options has, and what becomes of the one that is picked.
+/// Provides the items of a list of options and carries out the one that is picked.
 class OptionSource : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
 
     /// The items, in the order in which they are shown.
     virtual QList<OptionItem> items() const = 0;
-    /// Carries out an item. Its failures are not the list's: they are told where all failures are.
+    /// Carries out an item. The list does not report failures: they are reported where all failures are.
     virtual void run(const OptionItem &item) = 0;
-    /// Whether new values may be made; then the two below are asked.
+    /// Whether new values may be created. If so, the two functions below are called.
     virtual bool canCreate() const { return false; }
-    /// The title of the row that makes `candidate`.
+    /// The title of the row that creates `candidate`.
     virtual QString createLabel(const QString &candidate) const { return candidate; }
     virtual void create(const QString &) {}
 

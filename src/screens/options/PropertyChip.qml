@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.Options
 
 /// A chip that shows a property of some issues and opens the list that changes it. `kind` is a `PropertyOptions.Kind`,
-/// `keys` are the issues' keys.
+/// and `keys` are the keys of the issues.
 GlassChip {
     id: root
 

@@ -89,7 +89,7 @@ QString PropertyOptions::createLabel(const QString &candidate) const
 
 void PropertyOptions::create(const QString &label)
 {
-    // A copy: the edits may close what holds the keys.
+    // A copy, because the edits may destroy the object that holds the keys.
     const QStringList keys = m_keys;
     for (const auto &key : keys)
         addLabel(label, key);

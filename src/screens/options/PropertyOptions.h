@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-/// The options for one property of some issues, as the store knows them.
+/// The options for one property of some issues, taken from the store.
 class PropertyOptions : public OptionSource
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class PropertyOptions : public OptionSource
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged FINAL)
     /// The keys of the issues that a choice applies to.
     Q_PROPERTY(QStringList keys READ keys WRITE setKeys NOTIFY keysChanged FINAL)
-    /// What the search field says while it is empty.
+    /// The placeholder of the search field.
     Q_PROPERTY(QString placeholder READ placeholder NOTIFY kindChanged FINAL)
 
 public:
@@ -35,10 +35,10 @@ public:
 
     QList<OptionItem> items() const override;
     void run(const OptionItem &item) override;
-    /// Only labels can be made.
+    /// New values can be created only for labels.
     bool canCreate() const override { return m_kind == Labels; }
     QString createLabel(const QString &candidate) const override;
-    /// Gives the label to each of the issues that is known and lacks it.
+    /// Adds the label to each known issue that does not have it.
     void create(const QString &label) override;
 
 Q_SIGNALS:
