@@ -60,7 +60,7 @@ void CommandPalette::followPalette()
 
 void CommandPalette::begin(const PaletteMode &mode)
 {
-    // A search that an earlier opening began is none of this one's.
+    // The result of a search that was started before the palette was reopened is discarded.
     if (!m_isOpen)
         m_remote.reset();
     m_mode = mode;
@@ -119,7 +119,7 @@ void CommandPalette::setQuery(const QString &query)
         return;
     m_query = query;
     Q_EMIT queryChanged();
-    // Told only once the rows are those of the query: it is spoken with them.
+    // Emitted only once the rows match the query, because both are announced together.
     const bool hasMoved = std::exchange(m_highlighted, 0) != 0;
     searchRemote();
     refresh();
@@ -166,7 +166,7 @@ void CommandPalette::activate(int row)
 {
     if (!m_isOpen || row < 0 || row >= rowCount())
         return;
-    // A copy: carrying it out changes the rows.
+    // A copy, because carrying out the row changes the rows.
     const OptionItem option = m_rows[row].option;
     m_store->run(option.run);
     if (std::holds_alternative<OptionAction::AddLabel>(option.run.value))

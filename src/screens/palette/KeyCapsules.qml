@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
 
-// The keys of the issues that the palette acts on.
+// The keys of the issues that the palette applies to.
 Row {
     id: root
 

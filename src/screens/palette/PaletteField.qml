@@ -3,8 +3,8 @@ import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
 
-// What the palette searches for. It has no surface of its own: it is the panel's head. What its description says, screen
-// readers speak when it changes: the focus stays here while the highlight moves.
+// The search field of the palette. It has no background of its own because it is the head of the panel. Screen readers
+// announce each change of its description, because the focus stays here while the highlight moves.
 InputField {
     id: root
 

@@ -33,13 +33,13 @@ void PaletteFocus::follow()
 void PaletteFocus::begin()
 {
     if (!std::exchange(m_isHolding, true)) {
-        // They would lie above the palette.
+        // These would otherwise appear above the palette.
         OpenPopups::close(*m_window);
         m_before.clear();
         m_pointer.reset();
         for (QQuickItem *item = m_window->activeFocusItem(); item; item = item->parentItem())
             m_before.append(item);
-        // The last filter installed is asked first.
+        // Qt asks the event filter that was installed last first.
         m_window->installEventFilter(this);
     }
     m_field->forceActiveFocus(Qt::PopupFocusReason);
@@ -49,15 +49,15 @@ void PaletteFocus::end()
 {
     m_isHolding = false;
     m_window->removeEventFilter(this);
-    // What the palette did may have taken the holder away: it is out of the window before it is gone. Then a scope round
-    // it gives the focus to what comes in its place.
+    // The action of the palette may have removed the former focus item from the window before it is destroyed. In that
+    // case the surrounding focus scope gives the focus to the item that replaces it.
     const auto left = std::ranges::find_if(m_before, [&](const QPointer<QQuickItem> &item) {
         return item && item->window() == m_window && item->isVisible() && item->isEnabled() &&
                (item == m_before.constFirst() || item->isFocusScope());
     });
     if (left != m_before.end())
         (*left)->forceActiveFocus(Qt::PopupFocusReason);
-    // Whatever is typed from now on is not for the palette.
+    // From now on the palette receives no more key presses.
     if (m_field->hasActiveFocus())
         m_field->setFocus(false);
     m_before.clear();
@@ -74,7 +74,7 @@ bool PaletteFocus::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
-    // What lies below the palette is out of reach.
+    // Items below the palette cannot be reached by the pointer.
     if (m_palette->isOpen() && (press.key == Qt::Key_Tab || press.key == Qt::Key_Backtab))
         return true;
     return m_palette->handle(press);
@@ -82,7 +82,7 @@ bool PaletteFocus::eventFilter(QObject *watched, QEvent *event)
 
 void PaletteFocus::notePointer(const QPointF &place)
 {
-    // Systems also tell of a pointer that rests, when a window comes under it.
+    // Some systems also report a resting pointer when a window appears below it.
     const bool wasKnown = m_pointer.has_value();
     if (std::exchange(m_pointer, place) != place && wasKnown)
         m_palette->notePointerMoved();

@@ -7,10 +7,10 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// Closes what is open over the content of a window when the palette opens there, gives the palette every key press before
-/// the search field sees it, and takes the focus back to where
-/// it was when the palette closes: to the same item, or, if that is gone or cannot be seen any more, to the nearest that
-/// held it.
+/// Manages popups, keys and focus around the palette of a window. When the palette opens, it closes the popups above
+/// the window's content. While the palette is open, the palette receives every key press before the search field does.
+/// When the palette closes, the focus returns to the item that had it or, if that item is gone or hidden, to the
+/// nearest surviving ancestor of it.
 class PaletteFocus : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class PaletteFocus : public QObject, public QQmlParserStatus
     Q_PROPERTY(QQuickWindow *window MEMBER m_window NOTIFY windowChanged FINAL REQUIRED)
     Q_PROPERTY(
         CommandPalette *palette READ palette WRITE setPalette NOTIFY paletteChanged FINAL REQUIRED)
-    /// What has the focus while the palette is open.
+    /// The item that has the focus while the palette is open.
     Q_PROPERTY(QQuickItem *field MEMBER m_field NOTIFY fieldChanged FINAL REQUIRED)
 
 public:
@@ -47,8 +47,8 @@ private:
     QPointer<CommandPalette> m_palette;
     QPointer<QQuickItem> m_field;
     bool m_isHolding = false;
-    /// Where the pointer was last told to be since the palette opened.
+    /// The last reported position of the pointer since the palette opened.
     std::optional<QPointF> m_pointer;
-    /// The item that had the focus and all around it, the innermost first.
+    /// The item that had the focus, and all its ancestors, innermost first.
     QList<QPointer<QQuickItem>> m_before;
 };

@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
 
-// The keys that count in the palette.
+// The keys that the palette handles.
 Item {
     id: root
 

@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
 
-// For which issues the palette is open, and in a picker what it changes.
+// The issues that the palette applies to and, in a picker, the property that it changes.
 Item {
     id: root
 

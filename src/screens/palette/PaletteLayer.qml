@@ -6,7 +6,8 @@ import Velmora.Palette
 import Velmora.State
 import Velmora.Theme
 
-// The palette over a window, while the store asks for one. Its panel is made when it is first asked for.
+// The palette above the content of a window, shown while the store requests it. The panel is created on the first
+// request.
 FocusScope {
     id: root
 
@@ -29,7 +30,7 @@ FocusScope {
         color: Theme.scrim
     }
 
-    // The scrim keeps the pointer from what lies below.
+    // The scrim blocks the pointer from the content below.
     MouseArea {
         anchors.fill: parent
         enabled: root.shown

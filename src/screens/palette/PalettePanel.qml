@@ -11,11 +11,11 @@ GlassPanel {
 
     required property CommandPalette commandPalette
     required property bool isDemo
-    // It is neither coming nor going.
+    // The palette is neither opening nor closing.
     required property bool isSettled
 
     readonly property bool hasHead: commandPalette.capsules.length > 0
-    // What a low window leaves to the rows, between the field and the footer.
+    // The height that remains for the rows between the field and the footer in a low window.
     readonly property real room: Window.height - Metrics.paletteTop - field.y - field.height - footer.height - Metrics.gapLarge
 
     width: Math.min(Metrics.paletteWidth, Math.max(320, Window.width - 2 * Metrics.paneMargin))
@@ -33,7 +33,8 @@ GlassPanel {
         field: field
     }
 
-    // Without round corners it is known to hide what lies below, which then is not drawn at each letter.
+    // Without rounded corners the scene graph knows that this item hides the content below, and does not redraw that
+    // content at each key press.
     Rectangle {
         visible: root.isSettled
         y: root.radius
@@ -42,7 +43,7 @@ GlassPanel {
         color: root.color
     }
 
-    // Clicks beside a row are not clicks on what lies below.
+    // A click beside a row must not reach the content below.
     MouseArea {
         anchors.fill: parent
     }

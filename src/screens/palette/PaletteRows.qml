@@ -6,14 +6,14 @@ import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
 
-// The rows of the palette, or the words that there are none.
+// The rows of the palette, or the message that there are none.
 Item {
     id: root
 
     required property CommandPalette commandPalette
-    // There are rows below those in sight.
+    // There are more rows below the visible ones.
     readonly property bool hasMore: !list.atYEnd && commandPalette.rowCount > 0
-    // At most so high; what is more is scrolled to.
+    // The maximum height. Further rows are reached by scrolling.
     property real maxHeight: Metrics.paletteMaxHeight
 
     implicitHeight: commandPalette.rowCount === 0 ? 54 : places.viewHeight
@@ -27,7 +27,7 @@ Item {
         below: Metrics.gap
         highest: root.maxHeight
         fade: more.height
-        // Writing ends a flick under way, even when nothing changes.
+        // An assignment stops a running flick, even when the value stays the same.
         onTopChanged: if (list.contentY !== top) list.contentY = top
     }
 
@@ -61,7 +61,7 @@ Item {
         }
     }
 
-    // Says that there is more below.
+    // Indicates that there are more rows below.
     Rectangle {
         id: more
         anchors.bottom: parent.bottom

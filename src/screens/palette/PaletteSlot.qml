@@ -5,8 +5,8 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
 
-// One row of the palette, with the title of its section above the first. It takes other rows while somebody types, so
-// what one row has and another has not is hidden and not destroyed.
+// One row of the palette, preceded by the title of its section if it is the first of that section. The slot is
+// reassigned to other rows while the user types, so parts that a row does not need are hidden and not destroyed.
 Item {
     id: root
 

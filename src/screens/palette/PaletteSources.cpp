@@ -48,7 +48,7 @@ IssueList PaletteSources::found(const AppStore &store, const QString &query,
 void PaletteSources::prepareOpenIssues(const AppStore &store)
 {
     const auto &listed = store.derivation().inputs().issues;
-    // Not whether they are equal: that may take a walk through both.
+    // Compares identity and not equality, because comparing the contents may take time linear in both.
     if (m_listed.constData() == listed.constData() &&
         m_open.constData() == store.myOpenIssues().constData())
         return;

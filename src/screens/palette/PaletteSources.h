@@ -5,14 +5,14 @@
 #include "state/palette/PaletteActions.h"
 #include "state/palette/PaletteSections.h"
 
-/// What the palette searches, prepared: texts are folded when a list changes, not when a key is typed.
+/// The prepared search data of the palette: texts are folded when a list changes, and not at each key press.
 class PaletteSources
 {
 public:
-    /// The sections for a query, as the store now is.
+    /// The sections for a query in the present state of the store.
     QList<PaletteSection> sections(const AppStore &store, const PaletteMode &mode,
                                    const QString &query, const IssueList &remote);
-    /// The options of the picker are to be made anew.
+    /// The options of the picker must be computed again.
     void forgetOptions() { m_options.reset(); }
 
 private:
@@ -30,9 +30,9 @@ private:
     Recap::People m_people = Recap::People::Me;
     std::optional<SearchableItems> m_destinations;
     std::optional<SearchableItems> m_options;
-    /// What `m_openIssues` was made for.
+    /// The inputs from which `m_openIssues` was computed.
     IssueList m_listed;
     IssueList m_open;
-    /// The open issues that are not found among the listed ones.
+    /// The open issues that are not among the listed ones.
     IssueIndex m_openIssues;
 };

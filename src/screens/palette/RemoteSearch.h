@@ -5,8 +5,9 @@
 
 #include <QObject>
 
-/// The search on the server for what is being typed. Each new text calls off the search before it; a text of at least two
-/// characters is sent when nothing was typed for 0.26 seconds. Late answers never show: only the newest text's does.
+/// The server search for the text in the palette. Each new text cancels the previous search. A text of at least two
+/// characters is sent after 0.26 seconds without further typing. Only the result of the newest text is shown, and late
+/// results of earlier texts are discarded.
 class RemoteSearch : public QObject
 {
     Q_OBJECT
@@ -14,16 +15,17 @@ class RemoteSearch : public QObject
 public:
     using QObject::QObject;
 
-    /// What the server found for the present text.
+    /// The results of the server for the present text.
     const IssueList &found() const { return m_found; }
-    /// A search is under way. Stays true when one is called off, until a later one completes or `reset`.
+    /// True while a search is running. It stays true when a search is cancelled, until a later one completes or `reset`
+    /// is called.
     bool isSearching() const { return m_isSearching; }
 
-    /// The text was changed. A text too short to be sent forgets what was found.
+    /// Reports a new text. A text that is too short to be sent clears the results.
     void setText(AppStore &store, const QString &text);
-    /// Calls off the search and forgets what was found.
+    /// Cancels the search and clears the results.
     void clear();
-    /// `clear`, and nothing is under way any more.
+    /// Like `clear`, and sets `isSearching` to false.
     void reset();
 
 Q_SIGNALS:

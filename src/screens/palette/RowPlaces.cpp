@@ -30,7 +30,7 @@ void RowPlaces::addPlaces()
 {
     if (m_rowHeight <= 0)
         return;
-    // One more than fit: the first and the last may be seen in part.
+    // One more than fits, because the first and the last row may be partly visible.
     const int wanted = int(std::ceil(m_highest / m_rowHeight)) + 1;
     if (wanted <= m_places.size())
         return;

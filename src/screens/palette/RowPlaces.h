@@ -7,46 +7,47 @@
 
 #include <optional>
 
-/// The rows of the palette that can be seen, in a fixed number of places: as many as fit into the view, whatever the number
-/// of rows. A letter typed and a view scrolled give the places other rows, so that no item is made or destroyed while
-/// somebody types. The places stand in the order of the rows, in which screen readers read them. Where the rows lie and how far they are scrolled is settled
-/// here: the highlighted row is in sight whenever the highlight moves or the query changes.
+/// The visible rows of the palette, in a fixed number of slots: as many as fit into the view, regardless of the number
+/// of rows. Typing and scrolling reassign the slots to other rows, so that no item is created or destroyed while the
+/// user types. The slots stay in the order of the rows, because screen readers read them in that order. This model also
+/// decides the positions of the rows and the scroll position: the highlighted row is scrolled into view whenever the
+/// highlight moves or the query changes.
 class RowPlaces : public QAbstractListModel
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(
         CommandPalette *palette READ palette WRITE setPalette NOTIFY paletteChanged FINAL REQUIRED)
-    /// In logical pixels, as `RowHeights`.
+    /// In logical pixels, as in `RowHeights`.
     Q_PROPERTY(qreal rowHeight MEMBER m_rowHeight NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal titleHeight MEMBER m_titleHeight NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal above MEMBER m_above NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal below MEMBER m_below NOTIFY heightsChanged FINAL)
     Q_PROPERTY(qreal fade MEMBER m_fade NOTIFY heightsChanged FINAL)
-    /// How high the view may become; it is as high as its rows below that.
+    /// The maximum height of the view. With fewer rows the view is only as high as its rows.
     Q_PROPERTY(qreal highest MEMBER m_highest NOTIFY heightsChanged FINAL)
-    /// How high all that scrolls is, and the view on it.
+    /// The height of the scrolled content, and the height of the view.
     Q_PROPERTY(qreal contentHeight READ contentHeight NOTIFY contentHeightChanged FINAL)
     Q_PROPERTY(qreal viewHeight READ viewHeight NOTIFY viewHeightChanged FINAL)
-    /// How far the view is scrolled. Not bounded when written: a view may be dragged past its end.
+    /// The scroll position. It is not limited when written, because a view may be dragged past its end.
     Q_PROPERTY(qreal top READ top WRITE setTop NOTIFY topChanged FINAL)
 
 public:
     enum Role {
-        /// The position of the place's row in the palette.
+        /// The index of the slot's row in the palette.
         RowRole = Qt::UserRole,
-        /// Where it begins, from the upper end of what scrolls.
+        /// The top of the row within the scrolled content.
         PlaceRole,
-        /// False for a place that has no row now; the other roles then stay as they were.
+        /// False for a slot that has no row at present. The other roles then keep their values.
         IsShownRole,
-        /// What stands above the row; empty for most.
+        /// The section title above the row. Empty for most rows.
         SectionTitleRole,
         TitleRole,
-        /// Empty without one.
+        /// Empty if there is none.
         SubtitleRole,
         IconRole,
         IsSelectedRole,
-        /// The digit shown at the row's end; empty without one.
+        /// The digit shown at the end of the row. Empty if there is none.
         ShortcutRole
     };
     Q_ENUM(Role)
@@ -81,7 +82,7 @@ private:
     };
 
     void addPlaces();
-    /// The rows are others.
+    /// Adopts the palette's new rows.
     void followRows();
     void measure();
     void reveal();
