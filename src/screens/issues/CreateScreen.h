@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Tells whether there is a screen on which issues are created. Until there is one, what would lead to it is disabled:
-/// asking for it would only take the keyboard away.
+/// Tells whether there is a screen for creating issues. While there is none, the commands that would open it are
+/// disabled, because requesting it would only remove the keyboard focus.
 class CreateScreen : public QObject
 {
     Q_OBJECT
@@ -19,6 +19,6 @@ public:
     using QObject::QObject;
 
     static constexpr bool isAvailable() { return hasCreateScreen; }
-    /// Asks for it, in a project or, with an empty key, where the list leads to.
+    /// Requests the screen, for a project or, with an empty key, for the project that the list suggests.
     Q_INVOKABLE static void open(AppStore *store, const QString &projectKey);
 };

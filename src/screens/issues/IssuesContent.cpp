@@ -56,7 +56,7 @@ void IssuesContent::setStore(AppStore *store)
         connect(m_store, &AppStore::isLoadingChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::loadErrorChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::visibleCountChanged, this, &IssuesContent::update);
-        // In an empty list neither changes the count.
+        // With an empty list these changes do not change the count, so they are observed separately.
         connect(m_store, &AppStore::filterTextChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::filtersChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::update);

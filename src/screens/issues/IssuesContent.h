@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// What a screen with nothing to list says and offers.
+/// The texts and the action of a screen that has no issues to list.
 class EmptyScreen
 {
     Q_GADGET
@@ -22,30 +22,30 @@ public:
     QString symbol;
     QString title;
     QString description;
-    /// The button's text; empty for a screen without a button.
+    /// The label of the button. Empty if the screen has no button.
     QString action;
-    /// The button is the screen's one prominent button.
+    /// The button is the one prominent button of the screen.
     bool isProminent = false;
     bool isActionEnabled = true;
 
     bool operator==(const EmptyScreen &) const = default;
 };
 
-/// Why there is nothing to list.
+/// Whether a filter is active, which is then the reason for the empty list.
 enum class FilterState { Unfiltered, Filtered };
 
-/// The screen for an empty list: a filter in force is told before anything else.
+/// The screen for an empty list. An active filter is reported before any other reason.
 EmptyScreen emptyScreen(const IssueScope &scope, FilterState filter, const QDateTime &now,
                         const UserCalendar &calendar);
 
-/// Decides what stands under the toolbar: the first rows on their way, a failed load, the issues, or an empty screen.
+/// Decides what is shown below the toolbar: the loading state, a failed load, the issues, or an empty screen.
 class IssuesContent : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
     Q_PROPERTY(IssuesContent::Kind kind READ kind NOTIFY changed FINAL)
-    /// The list is a recap's, and its header stands above it.
+    /// The list belongs to a recap, and the header of the recap is shown above it.
     Q_PROPERTY(bool isRecap READ isRecap NOTIFY recapChanged FINAL)
     Q_PROPERTY(EmptyScreen empty READ empty NOTIFY changed FINAL)
 
@@ -61,7 +61,7 @@ public:
     bool isRecap() const { return m_store && m_store->scope().asActivity(); }
     const EmptyScreen &empty() const { return m_empty; }
 
-    /// The way out that the empty screen offers.
+    /// Runs the action that the empty screen offers.
     Q_INVOKABLE void runEmptyAction();
 
 Q_SIGNALS:

@@ -7,12 +7,12 @@ import Velmora.Model
 import Velmora.State
 import Velmora.Theme
 
-// The frame round the list: title and commands above, and below them the issues or what stands in their place.
+// The frame of the list: title and commands above, and below them the issues or the screen shown in their place.
 FocusScope {
     id: root
 
     required property AppStore store
-    // There is no sidebar beside it, but a button for one.
+    // There is no sidebar beside the list, so the toolbar has a button that opens it.
     property bool hasSidebarButton: false
 
     signal sidebarWanted()
@@ -26,7 +26,7 @@ FocusScope {
         layout.forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
-    // What had the keyboard has gone: the button of an empty screen, or of a bar that is no longer wanted.
+    // The item that had the focus is gone: the button of an empty screen, or a button of a bar that was removed.
     Connections {
         target: root.Window.window
 

@@ -1,13 +1,13 @@
 import QtQuick
 import Velmora.Kit
 
-// A layout of the issues. It is made when it is first seen and kept from then on, so that going back to it is quick; the
-// store feeds only the layout in sight.
+// A layout of the issues. It is created when it is first shown and kept from then on, so that switching back is fast.
+// The store updates only the visible layout.
 LatePart {
     id: root
 
     required property bool inSight
-    // The one that this takes the keyboard over from.
+    // The other layout, from which this one takes over the keyboard focus.
     required property Item other
 
     property bool isKept: false

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// What stands where there is nothing to list: a symbol, a title, a sentence and one way out.
+// The screen shown when there is nothing to list: a symbol, a title, a sentence and one action.
 Item {
     id: root
 
@@ -22,7 +22,7 @@ Item {
     Column {
         width: Math.min(root.width - 2 * Metrics.pageMargin, 520)
         anchors.horizontalCenter: parent.horizontalCenter
-        // A little above the middle, where the eye expects the middle to be.
+        // Slightly above the geometric centre, where the centre is perceived to be.
         y: (root.height - height) / 2 - root.height * 0.03
 
         Symbol {

@@ -10,7 +10,7 @@ CardBody {
     id: root
 
     required property string accessibleName
-    // The board has the keyboard: what has the focus on it is what a screen reader speaks of.
+    // The board has the keyboard focus, so screen readers announce the focused card.
     property bool hasKeyboard: false
 
     signal clicked(modifiers: int)

@@ -8,7 +8,7 @@ import Velmora.Model
 import Velmora.State
 import Velmora.Theme
 
-// One status of the board: its head, and below it the cards, made as they come into view.
+// One status of the board: its header and, below it, the cards, which are created as they become visible.
 Rectangle {
     id: root
 
@@ -19,12 +19,12 @@ Rectangle {
     required property string accessibleName
     required property string focusedKey
     required property CardStyle cardStyle
-    // The issue whose menu is open.
+    // The key of the issue whose menu is open.
     property string menuKey: ""
-    // What the bar over the board's lower edge hides.
+    // The height that the bar at the board's lower edge covers.
     property int clearance: 0
     property bool hasKeyboard: false
-    // A drag would land here; and how far down it is.
+    // A drop would move issues to this column. `dragY` is the vertical position of the drag.
     property bool isTargeted: false
     property real dragY: 0
     // The card under the pointer.
@@ -117,12 +117,12 @@ Rectangle {
         clip: contentHeight > height
         model: root.cards
         spacing: Metrics.gap
-        // The last card can be scrolled clear of the bar over the board's lower edge.
+        // Lets the last card be scrolled clear of the bar at the board's lower edge.
         bottomMargin: 90
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 400
         pixelAligned: true
-        // As in the list: the store knows the focused card.
+        // The store knows the focused card, as in the list.
         currentIndex: -1
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false

@@ -6,15 +6,16 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// The issues that a drop of these keys moves: for each checked one all checked issues, which may repeat, for any other
-/// it alone.
+/// The issues that a drop of these keys moves: each checked key stands for all checked issues, which may then appear
+/// repeatedly, and any other key for its issue alone.
 QStringList movedKeys(const QStringList &dropped, const QSet<QString> &checked);
-/// The keys in a dropped text: one on a line.
+/// The keys in a dropped text, one per line.
 QStringList droppedKeys(const QString &text);
-/// The column at a place across the board, of `count` columns of one width with a gap after each; -1 beside them. Half the
-/// gap on each side of a column is the column's: whoever drops there means it.
+/// The index of the column at a horizontal position on the board, which has `count` columns of equal width with a gap
+/// after each. -1 beside the columns. Half of the gap on each side belongs to the column, so that a drop there is not
+/// lost.
 int columnAt(double x, int width, int gap, int count);
-/// What happens when issues are dropped on a column of the board.
+/// Handles drops of issues on the columns of the board.
 class BoardDrops : public QObject
 {
     Q_OBJECT
@@ -24,9 +25,10 @@ class BoardDrops : public QObject
 public:
     using QObject::QObject;
 
-    /// The column of the store's board at a place, counted from the left edge of the first one; -1 beside them.
+    /// The index of the column of the store's board at a horizontal position, measured from the left edge of the first
+    /// column. -1 beside the columns.
     Q_INVOKABLE int columnAt(double x, int width, int gap) const;
-    /// Takes the issues of a dropped text to the status of a column; false if there is no such column.
+    /// Moves the issues of a dropped text to the status of a column. False if there is no such column.
     Q_INVOKABLE bool dropOn(const QString &text, int column);
 
 Q_SIGNALS:

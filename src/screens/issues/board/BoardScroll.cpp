@@ -11,7 +11,7 @@ constexpr double fastest = 14;
 
 double edgeScrollStep(double position, double length)
 {
-    // A short view keeps a middle where nothing scrolls.
+    // Even a short view has a middle zone in which nothing scrolls.
     const double zone = std::min(edge, length / 3);
     if (zone <= 0)
         return 0;

@@ -3,8 +3,9 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// How far a view scrolls in a sixtieth of a second, in logical pixels, while a drag is over it at `position` of its
-/// `length`: nothing in the middle, more the nearer an edge is, towards that edge.
+/// The distance that a view scrolls in a sixtieth of a second, in logical pixels, while a drag is above it at
+/// `position` of its `length`. 0 in the middle, and larger the nearer the drag is to an edge. Negative towards the
+/// start.
 double edgeScrollStep(double position, double length);
 
 /// `edgeScrollStep`, for QML.

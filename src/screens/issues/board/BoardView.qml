@@ -28,7 +28,7 @@ FocusScope {
             contextMenu.open(store.focusedKey, card, 12, 24);
     }
 
-    // Takes the keyboard out of any text field: key commands work at once after a click.
+    // Takes the focus from any text field, so that key commands work immediately after a click.
     function click(key: string, modifiers: int) {
         board.forceActiveFocus(Qt.MouseFocusReason);
         store.handleClick(key, modifiers);
@@ -95,11 +95,12 @@ FocusScope {
         }
     }
 
-    // One for all columns: the board scrolls under a drag that rests, and nothing tells the columns of it.
+    // One drop area serves all columns, because the board scrolls below a resting drag and the columns receive no event
+    // for that.
     DropArea {
         id: drop
 
-        // The column under the drag, or -1.
+        // The index of the column under the drag, or -1.
         readonly property int column: containsDrag
             ? drops.columnAt(drag.x + board.contentX - root.sidePadding, root.columnWidth, root.columnGap) : -1
 
@@ -118,7 +119,7 @@ FocusScope {
         isHorizontal: true
     }
 
-    // What is on its way from one column to another.
+    // Holds the cards that are moving from one column to another.
     Item {
         id: flight
         anchors.fill: board

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Issues
 
-// What is seen of a card: all but its summary is drawn by its base.
+// The visible content of a card. Its base class draws everything except the summary.
 CardFace {
     id: root
 

@@ -8,7 +8,7 @@ using namespace IssueCaptions;
 
 namespace {
 
-/// Within the chips, which stand in the middle of the lower line.
+/// Centres a caption vertically in the chips, which are themselves centred in the lower line.
 Caption onFoot(double x, const CardPlan &plan, const Caption &caption)
 {
     const double top =

@@ -4,7 +4,7 @@
 #include "screens/issues/board/CardStyle.h"
 #include "screens/issues/face/Caption.h"
 
-/// What decides the short texts of a card.
+/// The inputs for the captions of a card.
 struct CardCaptionsInput
 {
     const QString &key;
@@ -14,5 +14,5 @@ struct CardCaptionsInput
     bool isOverdue = false;
 };
 
-/// The texts of a card beside its summary.
+/// The captions of a card, which are all its texts except the summary.
 QList<Caption> cardCaptions(const CardCaptionsInput &card);

@@ -7,8 +7,8 @@
 
 #include <QVariantAnimation>
 
-/// The base of a card of the board: its ground, a line with type, key and assignee, the summary, which stands in QML, and
-/// a line with priority, due date and labels.
+/// The base class of a board card: its background, a line with type, key and assignee, the summary, which QML provides,
+/// and a line with priority, due date and labels.
 class CardFace : public IssueFace
 {
     Q_OBJECT
@@ -17,13 +17,13 @@ class CardFace : public IssueFace
     Q_PROPERTY(bool isFocused MEMBER m_isFocused NOTIFY edgeChanged REQUIRED FINAL)
     Q_PROPERTY(bool isChecked MEMBER m_isChecked NOTIFY edgeChanged REQUIRED FINAL)
     Q_PROPERTY(bool isOpen MEMBER m_isOpen NOTIFY edgeChanged REQUIRED FINAL)
-    /// Its menu is open: it looks as under the pointer, which is on the menu.
+    /// The menu of the card is open. The card then looks as if it were under the pointer, which is above the menu.
     Q_PROPERTY(bool hasMenu MEMBER m_hasMenu NOTIFY menuChanged FINAL)
-    /// Of the summary's lines, in logical pixels.
+    /// The height of the summary's lines, in logical pixels.
     Q_PROPERTY(
         double titleHeight READ titleHeight WRITE setTitleHeight NOTIFY titleHeightChanged FINAL)
     Q_PROPERTY(QRectF titleBox READ titleBox NOTIFY sizeChanged FINAL)
-    /// The cells that can be changed on the spot.
+    /// The cells whose values can be changed by a click.
     Q_PROPERTY(QRectF priorityCell READ priorityCell NOTIFY planned FINAL)
     Q_PROPERTY(QRectF assigneeCell READ assigneeCell NOTIFY planned FINAL)
 
@@ -62,8 +62,8 @@ private:
     bool m_hasMenu = false;
     double m_titleHeight = 0;
     CardPlan m_plan;
-    /// From 0, at rest, to 1, raised.
+    /// The elevation of the card, from 0 (at rest) to 1 (raised).
     double m_lift = 0;
-    /// Made when the card is first raised.
+    /// Created when the card is first raised.
     QVariantAnimation *m_rise = nullptr;
 };

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Told apart from the pictures on the card.
+/// Distinguishes these textures from those of the pictures on the card.
 constexpr int groundKind = 100;
 
 std::vector<SoftShadow> shadowsOf(CardGround::Shadow shadow)
@@ -20,7 +20,8 @@ std::vector<SoftShadow> shadowsOf(CardGround::Shadow shadow)
                         Appearance::Light, QColor());
 }
 
-/// Painted once for each scale: a shadow takes longer than all else, and cards rise and sink all the time.
+/// The frame is painted once for each scale, because cards are raised and lowered frequently and painting a shadow
+/// takes longer than everything else.
 const QImage &frameAt(CardGround::Shadow shadow, double scale)
 {
     static std::map<std::pair<CardGround::Shadow, double>, QImage> images;

@@ -5,7 +5,7 @@
 
 #include <QColor>
 
-/// What lies under all parts of a card: its fill, the line round it and its shadow, as one picture to be stretched.
+/// The background of a card: its fill, its outline and its shadow, as one stretchable picture.
 struct CardGround
 {
     /// At rest, or raised under the pointer.
@@ -15,15 +15,15 @@ struct CardGround
 
     QColor fill;
     QColor edge;
-    /// Lies inside the card's box; in logical pixels.
+    /// The width of the outline, which lies inside the card's box, in logical pixels.
     double edgeWidth = 1;
     Shadow shadow = Rest;
 
     bool operator==(const CardGround &) const = default;
 };
 
-/// The smallest frame with such a shadow whose corners are those of a card.
+/// The smallest frame that has this shadow and the corners of a card.
 FrameDrawing cardFrame(CardGround::Shadow shadow);
 PictureKey cardGroundKey(const CardGround &ground);
-/// Paints the ground of a card that is as large as its frame and begins at the frame's margin.
+/// Paints the background of a card that is as large as its frame and starts at the frame's margin.
 void paintCardGround(QPainter &painter, const CardGround &ground);

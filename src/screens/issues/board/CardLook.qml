@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Theme
 
-// The cards of a board in the colours of the theme.
+// The style of all cards of a board, in the colours of the theme.
 CardStyle {
     id: root
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The box of a stretched frame, which reaches beyond the card's.
+/// The box of a stretched frame, which is larger than the box of the card.
 QRectF boxOf(QSizeF size, const FrameDrawing &frame)
 {
     const double margin = frameMargin(frame.shadows);

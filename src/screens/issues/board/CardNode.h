@@ -5,18 +5,18 @@
 
 class NinePatchNode;
 
-/// What a card draws: its ground, and its pictures on it.
+/// The scene graph node of a card: its background, and its pictures above it.
 class CardNode : public QSGTransformNode
 {
 public:
     CardNode();
 
-    /// `lift` goes from 0, at rest, to 1, raised under the pointer; on the way both shadows show.
+    /// `lift` is 0 at rest and 1 when raised under the pointer. In between, both shadows are shown.
     void showGround(QQuickWindow *window, QSizeF size, CardGround ground, double lift);
     void showPictures(QQuickWindow *window, const std::vector<PlacedPicture> &pictures);
 
 private:
-    /// A shadow that shows in part.
+    /// A partly transparent shadow.
     struct Veil
     {
         QSGOpacityNode *opacity = nullptr;
@@ -29,6 +29,7 @@ private:
 
     NinePatchNode *m_ground;
     PictureNode *m_pictures;
-    /// Of the card at rest and raised, below the ground, while it is on the way between the two.
+    /// The shadows for the card at rest and raised, below the background. They exist only during the transition between
+    /// the two.
     std::vector<Veil> m_veils;
 };

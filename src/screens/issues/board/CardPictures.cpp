@@ -5,7 +5,7 @@ using namespace IssuePictures;
 namespace {
 
 constexpr double prioritySide = 12;
-/// Type and key stand on a line of this height in the middle of the upper one.
+/// The height of the line with type and key, which is centred in the upper line.
 constexpr double keyLine = 14;
 
 PlacedPicture inMiddle(const PlacedPicture &picture, const QRectF &box)

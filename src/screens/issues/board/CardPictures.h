@@ -7,18 +7,18 @@
 
 #include <vector>
 
-/// What a card shows.
+/// The inputs for the pictures of a card.
 struct CardPicturesInput
 {
     const Issue &issue;
     const CardPlan &plan;
     const CardStyle &style;
     bool isOverdue = false;
-    /// The assignee's own picture, if it is there.
+    /// The assignee's photograph, if it is available.
     QImage person;
-    /// What is under the pointer.
+    /// The hot spot under the pointer.
     HotSpot hotSpot;
 };
 
-/// All that is drawn on a card beside its ground and its texts.
+/// All pictures of a card, which are everything except its background and its texts.
 std::vector<PlacedPicture> cardPictures(const CardPicturesInput &card);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double gap = 6;
 constexpr double partGap = 8;
-/// The assignee's picture ends with the card's text, the cell round it reaches beyond.
+/// The assignee's picture is aligned with the right end of the card's text. The cell around it extends further.
 constexpr double cellOutset = (cellSide - avatarSide) / 2;
 constexpr double narrowestLabel = 26;
 constexpr qsizetype labelsShown = 2;
@@ -28,7 +28,8 @@ void placeHead(CardPlan &plan, const CardContents &contents, double width)
                      cellSide};
 }
 
-/// Labels from `start` on. The first leaves the second what its dot needs, and both end before the edge.
+/// Lays out labels from `start`. The first one leaves enough width for the dot of the second, and both end before the
+/// edge.
 QList<CardLabel> labelPlaces(const QStringList &labels, double start, double end)
 {
     QList<CardLabel> places;

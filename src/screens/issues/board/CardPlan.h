@@ -5,49 +5,50 @@
 #include <QString>
 #include <QStringList>
 
-/// What decides where the parts of a card stand.
+/// The inputs for the layout of a card.
 struct CardContents
 {
     bool hasType = false;
     QStringList labels;
     /// Empty without a due date.
     QString dueText;
-    /// Of the summary's lines, in logical pixels.
+    /// The height of the summary's lines, in logical pixels.
     double titleHeight = 0;
 };
 
-/// Where a label stands on the lower line of a card, in logical pixels.
+/// The position of a label on the lower line of a card, in logical pixels.
 struct CardLabel
 {
     double x = 0;
-    /// No less than its dot needs.
+    /// At least the width of the label's dot.
     double width = 0;
 
     bool operator==(const CardLabel &) const = default;
 };
 
-/// Where the parts of a card stand, in logical pixels from its upper left corner. A value computed from what the card
-/// shows and from its width.
+/// The layout of a card, in logical pixels from its upper left corner. A value computed from the contents and the width
+/// of the card.
 struct CardPlan
 {
     static constexpr double absent = -1;
-    /// Round all parts.
+    /// The distance of all parts from the edge of the card.
     static constexpr double margin = 12;
-    /// Of the upper line, with type, key and assignee; of the lower one, with priority, due date and labels.
+    /// The heights of the upper line, with type, key and assignee, and of the lower line, with priority, due date and
+    /// labels.
     static constexpr double headHeight = 18;
     static constexpr double footHeight = 20;
-    /// Of the summary's first line.
+    /// The top of the summary's first line.
     static constexpr double titleTop = margin + headHeight + 8;
 
     double type = absent;
     double key = 0;
     QRectF assignee;
-    /// Of the lower line.
+    /// The top of the lower line.
     double foot = 0;
     QRectF priority;
     double due = absent;
     double dueWidth = 0;
-    /// The first two, which give way to the edge.
+    /// The first two labels, shortened if they would pass the edge.
     QList<CardLabel> labels;
     double height = 0;
 

@@ -3,21 +3,22 @@
 #include "screens/issues/face/IssueStyle.h"
 #include "screens/theme/TypeScale.h"
 
-/// What all cards of a board have in common.
+/// The style that all cards of a board share.
 class CardStyle : public IssueStyle
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor fill MEMBER fill NOTIFY changed FINAL)
-    /// Round a card at rest, a focused one, and one that is checked or open.
+    /// The outlines of a card at rest, of a focused card, and of a card that is checked or open.
     Q_PROPERTY(QColor restEdge MEMBER restEdge NOTIFY changed FINAL)
     Q_PROPERTY(QColor focusEdge MEMBER focusEdge NOTIFY changed FINAL)
     Q_PROPERTY(QColor strongEdge MEMBER strongEdge NOTIFY changed FINAL)
-    /// Round the priority.
+    /// The outline of the priority cell.
     Q_PROPERTY(QColor cellEdge MEMBER cellEdge NOTIFY changed FINAL)
-    /// How long a card takes to rise under the pointer, in milliseconds; 0 for at once.
+    /// The duration in which a card is raised under the pointer, in milliseconds. 0 raises it at once.
     Q_PROPERTY(int liftDuration MEMBER liftDuration NOTIFY changed FINAL)
-    /// Of the summary, and the distance of its lines.
+    /// The font of the summary, the space above and below the text within a line, and the line height in logical
+    /// pixels.
     Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
     Q_PROPERTY(double titleLeading READ titleLeading CONSTANT FINAL)
     Q_PROPERTY(double titleLine READ titleLine CONSTANT FINAL)

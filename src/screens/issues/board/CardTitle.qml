@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Issues
 
-// The summary of an issue on its card, on three lines at most. The card speaks for it.
+// The summary of an issue on its card, in at most three lines. The card exposes it to screen readers.
 Text {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-// The sign that what is dragged would land in the column.
+// Indicates that a drop would move the dragged issues to this column.
 Rectangle {
     id: root
 

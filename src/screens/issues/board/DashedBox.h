@@ -4,12 +4,12 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/// A dashed outline, 1 wide, with round corners, inside the item's edge.
+/// A dashed outline, 1 wide, with rounded corners, inside the edge of the item.
 class DashedBox : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Of the corners, in logical pixels.
+    /// The radius of the corners, in logical pixels.
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed FINAL)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed FINAL)
 

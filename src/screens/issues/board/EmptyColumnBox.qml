@@ -3,7 +3,7 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
-// What stands in a column without cards.
+// The placeholder in a column without cards.
 DashedBox {
     id: root
 

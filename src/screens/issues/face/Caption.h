@@ -8,17 +8,17 @@
 /// A short text on a row or a card: a key, a label's name, the number of further labels, a due date.
 struct Caption
 {
-    /// The natural one of the text.
+    /// Stands for the natural width of the text.
     static constexpr double anyWidth = -1;
 
-    /// Of its line's upper left corner, in logical pixels.
+    /// The upper left corner of the line, in logical pixels.
     QPointF place;
     QString text;
     QFont font;
-    /// What its line leaves free above and below it.
+    /// The space above and below the text within its line.
     double leading = 0;
     QColor color;
-    /// Where it ends in "…".
+    /// The width beyond which the text is elided with "…".
     double width = anyWidth;
 
     bool operator==(const Caption &) const = default;

@@ -7,12 +7,12 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 
-/// The texts of a row or a card: items made from one component as captions need them, and used again for others. Texts of
-/// a repeater, each with its bindings, would take several times as long to make.
+/// The text items of a row or a card. They are created from one component as captions need them and then reused.
+/// Creating them with a repeater, each with its own bindings, would take several times as long.
 class CaptionTexts
 {
 public:
-    /// Shows these in place of those before, in the item, which owns the texts.
+    /// Replaces the shown captions. The texts are children of `parent`, which owns them.
     void show(const QList<Caption> &captions, QQmlComponent *component, QQuickItem &parent);
 
 private:

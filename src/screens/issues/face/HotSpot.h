@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// A part of a row or a card that says something under the pointer.
+/// A part of a row or a card that has a hint or a picker.
 class HotSpot
 {
     Q_GADGET
@@ -17,11 +17,11 @@ class HotSpot
 public:
     static constexpr int noPicker = -1;
 
-    /// In the row or card, in logical pixels.
+    /// The area within the row or card, in logical pixels.
     QRectF box;
-    /// Empty where nothing is to be said.
+    /// Empty if there is no hint.
     QString hint;
-    /// The picker (`PropertyOptions::Kind`) that a click there opens.
+    /// The kind of picker (`PropertyOptions::Kind`) that a click opens.
     int kind = noPicker;
 
     bool isCell() const { return kind != noPicker; }

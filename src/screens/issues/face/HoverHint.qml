@@ -2,15 +2,15 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Kit
 
-// The hint of what is under the pointer on one row or card at a time. Itself of no size, so that it never stands between
-// the pointer and a cell.
+// The hint of the hot spot under the pointer, for one row or card at a time. The item has no size, so that it never
+// covers a cell.
 Item {
     id: root
 
     required property IssueFace face
 
     readonly property hotSpot spot: face?.hotSpot ?? RowFitting.noSpot()
-    // Pressed: the hint would lie over the picker that opened.
+    // Set by a press, because the hint would cover the picker that opens.
     property bool isHushed: false
 
     onSpotChanged: isHushed = false

@@ -13,7 +13,7 @@ Caption caption(const QString &text, TypeScale::Role role, int weight, const QCo
     return {{}, text, scale.font(role, weight, isTabular), scale.halfLeading(role), color};
 }
 
-/// Of the roles Badge and Caption.
+/// The line height of the roles Badge and Caption.
 constexpr double lineHeight = 14;
 
 } // namespace

@@ -101,7 +101,7 @@ void IssueFace::itemChange(ItemChange change, const ItemChangeData &data)
     QQuickItem::itemChange(change, data);
     if (change == ItemDevicePixelRatioHasChanged)
         update();
-    // One that waits for its next use is not left by any event.
+    // An item that is kept for reuse receives no leave event from the pointer.
     if (change == ItemVisibleHasChanged && !data.boolValue)
         setHovered(false);
 }

@@ -9,9 +9,9 @@
 #include <QPointer>
 #include <QQuickItem>
 
-/// The base of a row and of a card: one item that plans its places as a value, draws all that is not text in nodes whose
-/// textures all equal pictures share, and tells what is under the pointer. One made of an item per icon takes several
-/// times as long to make.
+/// The base class of rows and cards: one item that computes its layout as a value, draws everything except text in
+/// nodes that share the textures of equal pictures, and reports the hot spot under the pointer. An item for each icon
+/// would take several times as long to create.
 class IssueFace : public QQuickItem
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ class IssueFace : public QQuickItem
     Q_PROPERTY(QString dueTooltip MEMBER m_dueTooltip NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(bool isOverdue MEMBER m_isOverdue NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(bool isHovered READ isHovered NOTIFY hoverChanged FINAL)
-    /// What is under the pointer.
+    /// The hot spot under the pointer.
     Q_PROPERTY(HotSpot hotSpot READ hotSpot NOTIFY hotSpotChanged FINAL)
 
 public:
@@ -32,7 +32,7 @@ public:
     bool isHovered() const { return m_isHovered; }
     const HotSpot &hotSpot() const { return m_hotSpot; }
 
-    /// What a place on it says and does.
+    /// The hot spot at a position.
     Q_INVOKABLE virtual HotSpot spotAt(double x, double y) const = 0;
 
 Q_SIGNALS:
@@ -42,27 +42,27 @@ Q_SIGNALS:
     void planned();
     void hoverChanged();
     void hotSpotChanged();
-    /// The picker of a kind (`PropertyOptions::Kind`) is wanted at a cell.
+    /// Requests the picker of a kind (`PropertyOptions::Kind`) at a cell.
     void pickRequested(int kind, QRectF cell);
 
 protected:
     explicit IssueFace(QQuickItem *parent);
 
-    /// Finds the places of everything anew, at its present size.
+    /// Computes the layout for the present size.
     virtual void makePlan() = 0;
-    /// Several values change together when a row is used again.
+    /// Schedules `makePlan`, because several values change together when a row is reused.
     void planLater();
     void planNow();
-    /// Follows another style; either may be absent.
+    /// Observes another style. Both may be null.
     void follow(IssueStyle *before, IssueStyle *now);
     void showCaptions(const QList<Caption> &captions, const IssueStyle &style);
 
     const QString &dueText() const { return m_dueText; }
     const QString &dueTooltip() const { return m_dueTooltip; }
     bool isOverdue() const { return m_isOverdue; }
-    /// The assignee's name, or that there is none.
+    /// The assignee's name, or the text for no assignee.
     QString assigneeHint() const;
-    /// The assignee's own picture, if it is there.
+    /// The assignee's photograph, if it is available.
     QImage assigneeFace() const;
 
     void componentComplete() override;
@@ -84,10 +84,10 @@ private:
     QString m_dueTooltip;
     bool m_isOverdue = false;
     bool m_isHovered = false;
-    /// Where the pointer is, while it is over this.
+    /// The position of the pointer while it is over this item.
     QPointF m_pointer;
     HotSpot m_hotSpot;
     CaptionTexts m_captions;
-    /// The assignee's, once there was one who has one.
+    /// The assignee's photograph, created when an assignee first has one.
     RemotePicture *m_picture = nullptr;
 };

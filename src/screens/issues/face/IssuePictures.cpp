@@ -24,7 +24,7 @@ enum Kind { Priority, Status, Type, Chip, Dot, Due, Nobody, Initials, Person, Ce
 constexpr double typeFont = 11;
 constexpr double chipPadding = 7;
 constexpr double calendarFont = 10;
-/// Of a cell's fill; of the outline of a card's cell.
+/// The radii of a cell's fill and of the outline of a card's cell.
 constexpr double fillRadius = 6;
 constexpr double edgeRadius = 5;
 

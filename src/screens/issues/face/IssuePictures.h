@@ -7,32 +7,33 @@
 #include <QImage>
 #include <QPointF>
 
-/// A picture and the place of its upper left corner, in logical pixels.
+/// A picture and the position of its upper left corner, in logical pixels.
 struct PlacedPicture
 {
     PictureKey key;
     PicturePainter paint;
     QPointF place;
 
-    /// The same picture somewhere else.
+    /// The same picture at another position.
     PlacedPicture at(QPointF corner) const { return {key, paint, corner}; }
 };
 
-/// The pictures that rows and cards are made of, not placed yet. Sizes are in logical pixels.
+/// The pictures of rows and cards, without positions. Sizes are in logical pixels.
 namespace IssuePictures {
 
-/// Of a cell that can be changed on the spot; of a person; of a due date and a label's chip; of a label's dot.
+/// The side of an editable cell, the side of a person's picture, the height of a due date and of a label's chip, and
+/// the side of a label's dot.
 inline constexpr double cellSide = 22;
 inline constexpr double avatarSide = 18;
 inline constexpr double chipHeight = 19;
 inline constexpr double dotSide = 7;
 
-/// Where something stands that is centred in a room, on a whole pixel as Qt Quick places it.
+/// The offset that centres a length in the available length, rounded to a whole pixel as Qt Quick does.
 double centred(double room, double length);
 
 PlacedPicture priority(PriorityLevel level, const IssueStyle &style, double side);
 PlacedPicture status(const IssueStatus &status, const IssueStyle &style, double side);
-/// The side of a type's square; `type` is drawn `typeBorder` larger on each side.
+/// The side of the square of a type. The picture from `type` is larger by `typeBorder` on each side.
 inline constexpr double typeSide = 13;
 double typeBorder();
 PlacedPicture type(const IssueType &type);
@@ -41,9 +42,9 @@ PlacedPicture chip(const QString &label, double width, const IssueStyle &style);
 PlacedPicture dot(const QString &label);
 /// The outline and the symbol of a due date, without its text.
 PlacedPicture due(double width, bool isOverdue, const IssueStyle &style);
-/// The person's own picture, if `face` is one; else the initials; nobody's sign without a person.
+/// The person's photograph if `face` is not null, otherwise the initials, or the sign for no assignee without a person.
 PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face);
-/// What lies under a cell while the pointer is on it.
+/// The background of a cell under the pointer.
 PlacedPicture cellFill(QSizeF size, const QColor &color);
 PlacedPicture cellEdge(QSizeF size, const QColor &color);
 

@@ -5,27 +5,27 @@
 #include <QQmlComponent>
 #include <QtQml/qqmlregistration.h>
 
-/// What all rows of a list, or all cards of a board, have in common. They share one object, so that each has less of its
-/// own to keep up to date.
+/// The style that all rows of a list, or all cards of a board, share. It is one shared object, so that each row and
+/// card has fewer properties of its own to update.
 class IssueStyle : public QObject
 {
     Q_OBJECT
     QML_ANONYMOUS
-    /// Of the bars of a priority, and of the dashes of none.
+    /// The colour of the bars of a priority, and of the dashes that stand for no priority.
     Q_PROPERTY(QColor ink MEMBER ink NOTIFY changed FINAL)
     Q_PROPERTY(QColor faint MEMBER faint NOTIFY changed FINAL)
-    /// Of what stands beside the summary.
+    /// The colour of the texts beside the summary.
     Q_PROPERTY(QColor quiet MEMBER quiet NOTIFY changed FINAL)
-    /// Of a finished status.
+    /// The colour of a finished status.
     Q_PROPERTY(QColor done MEMBER done NOTIFY changed FINAL)
-    /// Round labels and due dates.
+    /// The outline of labels and due dates.
     Q_PROPERTY(QColor outline MEMBER outline NOTIFY changed FINAL)
-    /// Of a due date that has passed, and round it.
+    /// The colour of an overdue date, and of its outline.
     Q_PROPERTY(QColor late MEMBER late NOTIFY changed FINAL)
     Q_PROPERTY(QColor lateOutline MEMBER lateOutline NOTIFY changed FINAL)
-    /// Of a cell under the pointer.
+    /// The background of a cell under the pointer.
     Q_PROPERTY(QColor cellFill MEMBER cellFill NOTIFY changed FINAL)
-    /// Makes the text of a caption: a `RowText`.
+    /// The component for the text of a caption, a `RowText`.
     Q_PROPERTY(QQmlComponent *caption MEMBER caption NOTIFY changed FINAL)
 
 public:

@@ -6,15 +6,15 @@
 
 #include <vector>
 
-/// Pictures side by side, each with a texture that it shares with all equal ones. A node of transformation, though it
-/// moves nothing: the software renderer forgets where a plain node stands.
+/// A set of pictures, each with a texture that is shared by all equal pictures. It is a transform node, although it
+/// moves nothing, because the software renderer loses the position of a plain node.
 class PictureNode : public QSGTransformNode
 {
 public:
-    /// Shows these in place of those before.
+    /// Replaces the shown pictures.
     void show(QQuickWindow *window, const std::vector<PlacedPicture> &pictures);
 
 private:
-    /// Holds the textures of the child nodes, in their order.
+    /// The textures of the child nodes, in their order.
     std::vector<std::shared_ptr<QSGTexture>> m_textures;
 };

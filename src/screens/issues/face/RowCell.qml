@@ -1,12 +1,12 @@
 import QtQuick
 import Velmora.Theme
 
-// A cell of a row that can be changed on the spot. The row sees to its pointer.
+// An editable cell of a row. The row handles its pointer events.
 Item {
     id: root
 
     required property string spoken
-    // Of the picker (`PropertyOptions.Kind`).
+    // The kind of its picker (`PropertyOptions.Kind`).
     property int kind: -1
     readonly property rect box: Qt.rect(x, y, width, height)
 

@@ -1,10 +1,10 @@
 import QtQuick
 
-// A text of a row, as high as the line of its role. The row speaks for it.
+// A text of a row, as high as the line of its role. The row exposes it to screen readers.
 Text {
     id: root
 
-    // What its line leaves free above and below it.
+    // The space above and below the text within its line.
     property real leading: 0
 
     textFormat: Text.PlainText

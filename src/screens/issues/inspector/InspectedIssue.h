@@ -8,28 +8,29 @@
 
 #include <stop_token>
 
-/// An open issue as the best known record has it, kept up to date. It is fetched in full when it is opened, in a session
-/// or once there is one.
+/// An open issue with the newest known record, kept up to date. The full record is fetched when the issue is opened, or
+/// once there is a session.
 class InspectedIssue : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
     Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged FINAL REQUIRED)
-    /// The key alone in a list, as what changes issues wants it.
+    /// A list that contains only the key, as the editing operations expect it.
     Q_PROPERTY(QStringList keys READ keys NOTIFY keyChanged FINAL)
-    /// An empty record while nothing is known of the issue.
+    /// The record. Empty while nothing is known of the issue.
     Q_PROPERTY(Issue issue READ issue NOTIFY changed FINAL)
     Q_PROPERTY(bool isKnown READ isKnown NOTIFY changed FINAL)
-    /// Why it could not be fetched; empty while it could, and when it is known all the same.
+    /// The reason why the issue could not be fetched. Empty after a success, and also after a failure if the issue is
+    /// known anyway.
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed FINAL)
-    /// The key, and the summary once it is known.
+    /// The key, followed by the summary once it is known.
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(bool hasProject READ hasProject NOTIFY changed FINAL)
     Q_PROPERTY(Project project READ project NOTIFY changed FINAL)
-    /// The project's name, or what stands before the dash of the key.
+    /// The project's name or, if it is unknown, the part of the key before the dash.
     Q_PROPERTY(QString projectName READ projectName NOTIFY changed FINAL)
-    /// The chips' titles.
+    /// The titles of the chips.
     Q_PROPERTY(QString statusTitle READ statusTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString priorityTitle READ priorityTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString assigneeTitle READ assigneeTitle NOTIFY changed FINAL)
@@ -59,7 +60,7 @@ public:
     QString labelsTitle() const;
     QString dueTitle() const;
 
-    /// Fetches it; without a session nothing. Whoever goes on to another issue waits for this one no longer.
+    /// Fetches the issue. Does nothing without a session. A change to another issue cancels the fetch.
     Q_INVOKABLE void load();
     Q_INVOKABLE void openInBrowser();
     Q_INVOKABLE void openWindow();

@@ -7,8 +7,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// An open issue: where it belongs, its title and its properties. It stands in the pane beside the list, or is all of a
-// window.
+// An open issue: its project, its title and its properties. It is shown in the inspector, or fills a window.
 FocusScope {
     id: root
 

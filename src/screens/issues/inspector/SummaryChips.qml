@@ -7,7 +7,7 @@ import Velmora.Options
 import Velmora.State
 import Velmora.Theme
 
-// The properties of an open issue, each a chip that changes it.
+// The properties of an open issue, each as a chip that changes it.
 FlowLayout {
     id: root
 

@@ -4,7 +4,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// Ways to take an open issue elsewhere.
+// The commands that copy a reference to an open issue or open the issue elsewhere.
 Row {
     id: root
 

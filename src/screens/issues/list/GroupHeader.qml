@@ -4,12 +4,12 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The header of a group; a click anywhere folds or unfolds it.
+// The header of a group. A click anywhere on it folds or unfolds the group.
 Item {
     id: root
 
     required property issueListHeader header
-    // Drawn over rows that scroll beneath it.
+    // The header is drawn above rows that scroll below it.
     property bool isPinned: false
 
     signal toggled()
@@ -56,7 +56,7 @@ Item {
     }
 
     GroupIcon {
-        // Centred on the rows' priority column.
+        // Aligned with the centre of the rows' priority column.
         x: 47 - width / 2
         anchors.verticalCenter: parent.verticalCenter
         header: root.header

@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// What a group stands for, drawn; centred in a square.
+// The icon of a group, centred in a square.
 Item {
     id: root
 

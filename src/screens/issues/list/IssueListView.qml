@@ -31,7 +31,7 @@ FocusScope {
             contextMenu.open(store.focusedKey, row, 68, rowHeight);
     }
 
-    // Takes the keyboard out of any text field: key commands work at once after a click.
+    // Takes the focus from any text field, so that key commands work immediately after a click.
     function click(key: string, modifiers: int) {
         list.forceActiveFocus(Qt.MouseFocusReason);
         store.handleClick(key, modifiers);
@@ -60,24 +60,26 @@ FocusScope {
         clip: true
         model: root.store.issueList
         boundsBehavior: Flickable.StopAtBounds
-        // The last row can be scrolled clear of the selection bar.
+        // Lets the last row be scrolled clear of the selection bar.
         bottomMargin: Metrics.selectionBarRoom
         reuseItems: true
         cacheBuffer: 400
         pixelAligned: true
-        // The store knows the focused row. A current row of the list's own would move with every change above it, and the
-        // unseen highlight would run after it, at 400 px a second and 60 frames a second.
+        // The store knows the focused row. A current row of the list itself would change with every insertion or
+        // removal above it, and the invisible highlight would follow at 400 px per second, which causes 60 frames per
+        // second.
         currentIndex: -1
         highlightFollowsCurrentItem: false
         keyNavigationEnabled: false
-        // No move transitions: one that another change interrupts leaves its rows half-way. See `Glide` below.
+        // There are no move transitions, because an interrupted one leaves its rows between two positions. `Glide`
+        // below animates moves.
 
         ContextMenuKey.onPressed: root.openFocusedMenu()
 
         Accessible.role: Accessible.List
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
 
-        // A row that waits for its next use would otherwise still be told to screen readers.
+        // A row that is kept for reuse would otherwise still be exposed to screen readers.
         delegate: DelegateChooser {
             role: "kind"
 
@@ -134,7 +136,7 @@ FocusScope {
         face: root.hotRow
     }
 
-    // The header of the rows at the top, pushed away by the next one.
+    // The header of the topmost rows, which the next header pushes away.
     GroupHeader {
         id: pinned
 

@@ -7,7 +7,7 @@ import Velmora.Options
 import Velmora.State
 import Velmora.Theme
 
-// One issue of the list. Its icons are drawn by its base; the parts that few rows have are made where they are wanted.
+// One issue of the list. The base class draws its icons. Parts that few rows have are created on demand.
 RowLine {
     id: root
 
@@ -17,11 +17,11 @@ RowLine {
     required property string updatedText
     required property string accessibleName
     required property issueListBadge badge
-    // Any issue is checked: every check box shows.
+    // At least one issue is checked, so every check box is shown.
     required property bool isSelecting
-    // The list has the keyboard: what has the focus in it is what a screen reader speaks of.
+    // The list has the keyboard focus, so screen readers announce the focused row.
     property bool hasKeyboard: false
-    // Its menu is open: it looks as under the pointer, which is on the menu.
+    // The menu of the row is open. The row then looks as if it were under the pointer, which is above the menu.
     property bool hasMenu: false
     readonly property real cellTop: Math.ceil(height / 2) - 11
 
@@ -152,7 +152,7 @@ RowLine {
         }
     }
 
-    // "à l'instant" is wider than the column, and takes of the gap before it.
+    // "à l'instant" is wider than the column and also uses part of the gap before it.
     RowText {
         visible: root.plan.updated >= 0 && !root.hasActivity
         x: root.plan.updated + 54 - width

@@ -7,14 +7,15 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// The common width of the key column: as wide as the widest key on screen, so that summaries line up and a long project
-/// key cannot eat the row. Told by one key of each kind, not by every row.
+/// The common width of the key column: the width of the widest visible key, so that summaries are aligned, limited so
+/// that a long project key leaves enough width for the row. It is measured with one key of each length and project, and
+/// not with every row.
 class KeyColumn : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
-    /// Logical pixels, 36 to 150; 36 with no keys.
+    /// In logical pixels, 36 to 150. 36 without keys.
     Q_PROPERTY(int width READ width NOTIFY widthChanged FINAL)
 
 public:
@@ -35,6 +36,7 @@ private:
     int m_width = 36;
 };
 
-/// The width of a column that holds all the keys: the widest plus 4, rounded up, between 36 and 150. `advance` measures
-/// one text; digits are taken to be of one width, so keys of one project and length are measured once.
+/// The width of a column that holds all the keys: the widest one plus 4, rounded up, between 36 and 150. `advance`
+/// measures one text. All digits are assumed to have the same width, so keys of the same project and length are
+/// measured once.
 int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance);

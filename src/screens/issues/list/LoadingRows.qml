@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Kit
 
-// What stands in the list's place until the first rows arrive.
+// The placeholder of the list until the first rows arrive.
 SkeletonPulse {
     id: root
 

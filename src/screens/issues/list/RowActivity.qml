@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The latest event of an issue, at the end of its row in a recap.
+// The latest event of an issue, shown at the end of its row in a recap.
 Item {
     id: root
 

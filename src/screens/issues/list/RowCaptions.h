@@ -4,14 +4,14 @@
 #include "screens/issues/list/RowPlan.h"
 #include "screens/issues/list/RowStyle.h"
 
-/// What decides the short texts between the summary and the assignee of a row.
+/// The inputs for the captions between the summary and the assignee of a row.
 struct RowCaptionsInput
 {
     const RowContents &contents;
     const RowPlan &plan;
     const RowStyle &style;
     bool isOverdue = false;
-    /// Of the row, in logical pixels.
+    /// The height of the row, in logical pixels.
     double height = 0;
 };
 

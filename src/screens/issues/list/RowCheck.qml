@@ -4,7 +4,8 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Kit
 
-// The check box of a row, in a target of 22. It can be clicked before it is seen, and exists only while it is.
+// The check box of a row, with a click area of 22. It can be clicked before it is visible. Its mark exists only while
+// it is visible.
 RowCell {
     id: root
 

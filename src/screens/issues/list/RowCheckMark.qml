@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The box of a row's check box, which leaves softly.
+// The box of a row's check box, which fades out.
 CheckMark {
     id: root
 

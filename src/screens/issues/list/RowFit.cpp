@@ -14,11 +14,11 @@ namespace {
 
 constexpr qsizetype chipsShown = 2;
 constexpr int chipGap = 4;
-/// What a chip and a due badge have round their text.
+/// The total horizontal space around the text of a chip and of a due badge.
 constexpr int chipFrame = 26;
 constexpr int dueFrame = 30;
 
-/// Widths in one font, each text measured once.
+/// Measures widths in one font, and each text only once.
 class Ruler
 {
 public:

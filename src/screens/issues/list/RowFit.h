@@ -5,8 +5,9 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Which forms of a row's cells fit: when space ends, the parent gives way first, then the labels' names, then the due
-/// date's text, all before the summary is cut below `summaryMinimum`. A value computed from measured widths.
+/// The forms in which a row's cells fit. As the row becomes narrower, the parent is hidden first, then the names of the
+/// labels, then the text of the due date. Only then does the summary become narrower than `summaryMinimum`. A value
+/// computed from measured widths.
 class RowFit
 {
     Q_GADGET
@@ -21,7 +22,7 @@ public:
     bool operator==(const RowFit &) const = default;
 };
 
-/// Measures for `RowFit`, as QML can call them.
+/// The measurements for `RowFit`, callable from QML.
 class RowFitting : public QObject
 {
     Q_OBJECT
@@ -31,17 +32,17 @@ class RowFitting : public QObject
 public:
     using QObject::QObject;
 
-    /// The summary's cell is never narrower, in logical pixels.
+    /// The minimum width of the summary's cell, in logical pixels.
     static constexpr double summaryMinimum = 170;
 
-    /// `room` is what the row leaves to summary, labels and due date together; the four widths include the gap before
-    /// their cell and are 0 for a cell that is not shown.
+    /// `room` is the width that the row leaves to summary, labels and due date together. The four widths include the
+    /// gap before their cell and are 0 for a cell that is not shown.
     Q_INVOKABLE static RowFit fit(double room, double labelNames, double labelDots, double dueText,
                                   double dueIcon);
-    /// How wide the chips of the first two labels and the number of the others are; 0 without labels.
+    /// The width of the chips of the first two labels and of the number of further labels. 0 without labels.
     Q_INVOKABLE static double labelsWidth(const QStringList &labels);
-    /// How wide the badge of a due date with this text is.
+    /// The width of the badge of a due date with this text.
     Q_INVOKABLE static double dueWidth(const QString &text);
-    /// What is under no pointer.
+    /// An empty hot spot.
     Q_INVOKABLE static HotSpot noSpot() { return {}; }
 };

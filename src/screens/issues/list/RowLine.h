@@ -4,13 +4,13 @@
 #include "screens/issues/list/RowPlan.h"
 #include "screens/issues/list/RowStyle.h"
 
-/// The base of a row: an issue on one line, in columns.
+/// The base class of a row: an issue on one line, in columns.
 class RowLine : public IssueFace
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(RowStyle *style READ style WRITE setStyle NOTIFY styleChanged REQUIRED FINAL)
-    /// The row ends with the latest event of a recap.
+    /// The row ends with the latest event, as in a recap.
     Q_PROPERTY(bool hasActivity MEMBER m_hasActivity NOTIFY contentChanged FINAL)
     Q_PROPERTY(RowPlan plan READ plan NOTIFY planned FINAL)
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Theme
 
-// The rows of a list in the colours of the theme.
+// The style of all rows of a list, in the colours of the theme.
 RowStyle {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The summary of an issue's parent, beside its own.
+// The summary of an issue's parent, beside the issue's own summary.
 Row {
     id: root
 

@@ -10,7 +10,7 @@ constexpr double iconSide = 14;
 constexpr double dotStep = 10;
 constexpr double chipGap = 4;
 
-/// In the middle of a cell that begins at `x`.
+/// Centres a picture in a cell that starts at `x`.
 PlacedPicture inCell(const PlacedPicture &picture, double x, double height)
 {
     const QSizeF size = picture.key.size;

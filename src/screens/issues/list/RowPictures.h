@@ -7,20 +7,20 @@
 
 #include <vector>
 
-/// What a row shows.
+/// The inputs for the pictures of a row.
 struct RowPicturesInput
 {
     const Issue &issue;
     const RowPlan &plan;
     const RowStyle &style;
     bool isOverdue = false;
-    /// The assignee's own picture, if it is there.
+    /// The assignee's photograph, if it is available.
     QImage person;
-    /// In logical pixels.
+    /// The height of the row, in logical pixels.
     double height = 0;
-    /// What is under the pointer.
+    /// The hot spot under the pointer.
     HotSpot hotSpot;
 };
 
-/// All that is drawn on a row beside its texts.
+/// All pictures of a row, which are everything except its texts.
 std::vector<PlacedPicture> rowPictures(const RowPicturesInput &row);

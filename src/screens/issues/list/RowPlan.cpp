@@ -29,7 +29,7 @@ double withGap(double width)
     return width > 0 ? width + gap : 0;
 }
 
-/// Takes the columns' places one after the other; the first has no gap before it.
+/// Allocates the columns one after the other. The first one has no gap before it.
 class Places
 {
 public:
@@ -50,7 +50,7 @@ private:
     double m_end;
 };
 
-/// How wide the columns behind the due date are together.
+/// The total width of the columns after the due date.
 double trailingWidth(const RowContents &contents)
 {
     Places places(0);
@@ -75,7 +75,7 @@ void placeTrailing(RowPlan &plan, double start, const RowContents &contents)
     plan.updated = places.take(contents.display.updated, updatedWidth);
 }
 
-/// Places labels, due date and summary from the right, in the forms that fit between the other columns.
+/// Places labels, due date and summary from right to left, in the forms that fit between the other columns.
 void placeMiddle(RowPlan &plan, const RowContents &contents, double start, double end)
 {
     const bool hasDue = contents.display.dueDate && !contents.dueText.isEmpty();

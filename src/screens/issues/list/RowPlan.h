@@ -6,11 +6,11 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
-/// What decides where the columns of a row stand.
+/// The inputs for the layout of a row.
 struct RowContents
 {
     DisplayProperties display;
-    /// Of the key's column, in logical pixels, as all others.
+    /// The width of the key column. Like all lengths here it is in logical pixels.
     double keyWidth = 0;
     QStringList labels;
     /// Empty without a due date.
@@ -19,8 +19,8 @@ struct RowContents
     bool hasActivity = false;
 };
 
-/// Where the columns of a row stand, in logical pixels from its left edge; `absent` for one that is not shown. A value
-/// computed from what the row shows and from its width.
+/// The layout of a row: the positions of its columns in logical pixels from its left edge, or `absent` for a column
+/// that is not shown. A value computed from the contents and the width of the row.
 class RowPlan
 {
     Q_GADGET
@@ -39,16 +39,16 @@ public:
 
     /// The check box, 14 wide.
     double check = absent;
-    /// Cells of 22.
+    /// The priority cell, 22 wide.
     double priority = absent;
     double key = absent;
     double status = absent;
-    /// 14 wide.
+    /// The type, 14 wide.
     double type = absent;
     double summary = absent;
     double summaryWidth = 0;
     double labels = absent;
-    /// The first two by name; otherwise up to four dots.
+    /// Shows the first two labels by name. Otherwise up to four labels are shown as dots.
     bool showsLabelNames = true;
     double due = absent;
     double dueWidth = 0;

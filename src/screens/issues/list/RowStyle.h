@@ -4,15 +4,16 @@
 #include "screens/issues/face/IssueStyle.h"
 #include "screens/theme/TypeScale.h"
 
-/// What all rows of a list have in common.
+/// The style that all rows of a list share.
 class RowStyle : public IssueStyle
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(DisplayProperties display MEMBER display NOTIFY changed FINAL)
-    /// Of the key's column, in logical pixels.
+    /// The width of the key column, in logical pixels.
     Q_PROPERTY(int keyWidth MEMBER keyWidth NOTIFY changed FINAL)
-    /// Of the summary; of keys and dates; of a parent's summary. What a line of each leaves free above and below it.
+    /// The fonts of the summary, of keys and dates, and of a parent's summary, with the space above and below the text
+    /// within a line.
     Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
     Q_PROPERTY(double titleLeading READ titleLeading CONSTANT FINAL)
     Q_PROPERTY(QFont figuresFont READ figuresFont CONSTANT FINAL)

@@ -5,7 +5,7 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
-// The title of an issue and, where both fit, its parent's.
+// The title of an issue and, if both fit, the title of its parent.
 Item {
     id: root
 

@@ -5,18 +5,18 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
 
-// The context menu of the rows or cards in it, which exists while it is open.
+// The context menu of the rows or cards inside this item. It exists only while it is open.
 Item {
     id: root
 
     required property AppStore store
 
     property bool isOpen: false
-    // The issue on which it was opened; empty while it is closed.
+    // The key of the issue whose menu is open. Empty while the menu is closed.
     property string key: ""
     property point place
 
-    // Opens on the issue, at a point of an item.
+    // Opens the menu for an issue, at a point of an item.
     function open(key: string, item: Item, x: real, y: real) {
         issueMenu.prepare(key);
         root.key = key;

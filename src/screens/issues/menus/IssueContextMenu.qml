@@ -6,7 +6,8 @@ import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 
-// What can be done to one issue, or to all checked ones. Ask a prepared `IssueMenu` for its content.
+// The commands for one issue, or for all checked issues. The content comes from an `IssueMenu` that was prepared for
+// the issue.
 PopupMenu {
     id: root
 

@@ -35,7 +35,7 @@ QList<MenuChoice> optionChoices(PickerKind kind, const QList<OptionItem> &option
     return choices;
 }
 
-/// The row for nobody comes first among the options; the menu has an entry in words for it.
+/// The first option stands for no assignee. The menu has a separate text entry for it.
 QList<MenuChoice> assigneeChoices(const QList<OptionItem> &options)
 {
     QList<MenuChoice> choices{

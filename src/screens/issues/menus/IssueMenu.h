@@ -5,10 +5,11 @@
 
 #include <QPointer>
 
-/// The submenus of the context menu of some issues: statuses, priorities, people and, where the list has any, labels.
+/// The submenus of the context menu of some issues: statuses, priorities, people and, if the list has any, labels.
 QList<MenuSection> issueMenuSections(const AppStore &store, const QStringList &keys);
 
-/// The context menu of a row or a card. It keeps the issues it was opened on, whatever is checked meanwhile.
+/// The context menu of a row or a card. It keeps the issues for which it was opened, even if the checked issues change
+/// meanwhile.
 class IssueMenu : public QObject
 {
     Q_OBJECT
@@ -29,9 +30,9 @@ public:
     bool isSingle() const { return m_keys.size() == 1; }
     QString copyKeysTitle() const;
 
-    /// Takes the menu to the row of an issue: to all checked issues if it is one of them, else to it alone.
+    /// Prepares the menu for an issue: for all checked issues if it is one of them, otherwise for it alone.
     Q_INVOKABLE void prepare(const QString &key);
-    /// Carries out an entry of a submenu; unknown ones do nothing.
+    /// Carries out an entry of a submenu. Does nothing for an unknown entry.
     Q_INVOKABLE void choose(const QString &section, const QString &choice);
     Q_INVOKABLE void openWindow();
     Q_INVOKABLE void openInBrowser();

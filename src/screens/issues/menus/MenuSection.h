@@ -5,7 +5,7 @@
 #include <QList>
 #include <QtQml/qqmlregistration.h>
 
-/// One entry of a menu that is made from data.
+/// One entry of a menu that is generated from data.
 class MenuChoice
 {
     Q_GADGET
@@ -19,25 +19,25 @@ class MenuChoice
     Q_PROPERTY(bool startsGroup MEMBER startsGroup CONSTANT FINAL)
 
 public:
-    /// Tells the entry from the others of its section.
+    /// Identifies the entry within its section.
     QString id;
     QString title;
     OptionIcon icon;
     /// Shows a check mark.
     bool isOn = false;
-    /// A line stands above it.
+    /// The entry is preceded by a separator.
     bool startsGroup = false;
 
-    /// The icon is a drawn one, not a symbol.
+    /// The icon is drawn and not a symbol.
     bool hasIcon() const;
     OptionIconValue iconValue() const { return OptionIconValue(icon); }
-    /// Empty for an entry with another icon or none.
+    /// The name of the symbol. Empty if the entry has another icon or none.
     QString symbol() const;
 
     bool operator==(const MenuChoice &) const = default;
 };
 
-/// A submenu that is made from data.
+/// A submenu that is generated from data.
 class MenuSection
 {
     Q_GADGET

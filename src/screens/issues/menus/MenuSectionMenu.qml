@@ -7,12 +7,13 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
 
-// A submenu that is made from data. Its rows come when its title is first reached: a site can have hundreds of people.
+// A submenu that is generated from data. Its rows are created when its title is first highlighted, because a site can
+// have hundreds of people.
 PopupMenu {
     id: root
 
     required property menuSection section
-    // Its title is the highlighted row of the menu it hangs in.
+    // Its title is the highlighted row of the parent menu.
     required property bool isReached
 
     property bool isFilled: false

@@ -6,8 +6,8 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.State
 
-// The picker of the cells in it, which exists while it is open. It stands at the place of its cell, and not in it: a
-// reload may take the row away.
+// The picker for the cells inside this item. It exists only while it is open. It is placed at its cell but is not a
+// child of it, because a reload may destroy the row.
 Item {
     id: root
 
@@ -21,8 +21,8 @@ Item {
 
     signal dismissed()
 
-    // Opens the picker of a kind (`PropertyOptions.Kind`) for an issue at a cell of its row or card, or closes it if it is
-    // open there.
+    // Opens the picker of a kind (`PropertyOptions.Kind`) for an issue at a cell of its row or card, or closes the
+    // picker if it is already open there.
     function toggle(kind: int, key: string, face: Item, cell: rect) {
         if (isOpen && options.kind === kind && issueKey === key)
             dismissed();
@@ -61,7 +61,7 @@ Item {
                 name: options.placeholder
                 width: 260
                 alignment: root.alignment
-                // A press on another cell takes the picker there.
+                // Not modal, so that a press on another cell moves the picker there.
                 modal: false
                 closePolicy: Popover.CloseOnEscape | Popover.CloseOnPressOutsideParent
                 onClosed: root.isOpen = false

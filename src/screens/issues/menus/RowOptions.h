@@ -2,7 +2,7 @@
 
 #include "screens/options/PropertyOptions.h"
 
-/// The options of a picker in a row or a card.
+/// The options of a picker of a row or a card.
 class RowOptions : public PropertyOptions
 {
     Q_OBJECT
@@ -11,7 +11,8 @@ class RowOptions : public PropertyOptions
 public:
     using PropertyOptions::PropertyOptions;
 
-    /// Offers what a picker of a kind (`PropertyOptions.Kind`) at the row of an issue changes: all checked issues if it is
-    /// one of them, else it alone. The issues stay the same, whatever is checked meanwhile.
+    /// Selects the property that a picker of a kind (`PropertyOptions.Kind`) changes, and the issues it applies to: all
+    /// checked issues if `key` is one of them, otherwise the issue alone. The issues stay the same, even if the checked
+    /// issues change meanwhile.
     Q_INVOKABLE void aim(int kind, const QString &key);
 };

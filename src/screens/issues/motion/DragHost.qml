@@ -5,8 +5,8 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
 
-// Carries issues out of the rows and cards in it. It stands apart from them: a reload may take the dragged one away
-// while the drag goes on.
+// Lets issues be dragged from the rows and cards inside this item. It is separate from them, because a reload may
+// destroy the dragged row or card during the drag.
 Item {
     id: root
 
@@ -14,7 +14,7 @@ Item {
 
     property DragHandler handler: null
 
-    // Takes up the issue as soon as its picture is drawn.
+    // Starts the drag of an issue as soon as its picture is drawn.
     function begin(key: string, by: DragHandler) {
         handler = by;
         picture.shown = drag.take(key);

@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Model
 import Velmora.Theme
 
-// The picture of an issue under the pointer while it is dragged.
+// The picture of the dragged issue under the pointer.
 GlassPanel {
     id: root
 
@@ -11,7 +11,7 @@ GlassPanel {
 
     implicitWidth: Math.ceil(line.implicitWidth) + 24
     implicitHeight: line.implicitHeight + 16
-    // X11 paints white what is transparent, unless something composes its windows, and does not say whether anything does.
+    // X11 paints transparent areas white unless a compositor is running, and does not report whether one is.
     radius: Qt.platform.pluginName === "xcb" ? 0 : Metrics.radiusRow
     shadow: "none"
     color: Theme.elevated

@@ -1,12 +1,12 @@
 import QtQuick
 import Velmora.Issues
 
-// Scrolls a view while a drag is near its upper or lower end, or at its sides with `isHorizontal`.
+// Scrolls a view while a drag is near its upper or lower edge or, with `isHorizontal`, near its left or right edge.
 FrameAnimation {
     id: root
 
     required property Flickable view
-    // Where the drag is, along the view.
+    // The position of the drag along the view.
     required property real position
     property bool isHorizontal: false
 

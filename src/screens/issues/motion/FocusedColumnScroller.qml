@@ -2,15 +2,16 @@ import QtQuick
 import Velmora.State
 import Velmora.Theme
 
-// Brings the column of the focused card into view each time the focus moves to another issue, with a margin beside it,
-// when the board comes into sight, and when it gets less room, as when the inspector opens.
+// Scrolls the column of the focused card into view, with a margin beside it. This happens each time the focus moves to
+// another issue, when the board becomes visible, and when the board becomes narrower, for example because the inspector
+// opens.
 Item {
     id: root
 
     required property Flickable flickable
     required property BoardModel board
     required property string focusedKey
-    // Where the first column begins, which is the margin too.
+    // The left edge of the first column, which is also the margin.
     required property int firstLeft
     required property int columnWidth
     required property int columnGap
@@ -24,7 +25,7 @@ Item {
             scrollTo(targetFor(column * (columnWidth + columnGap)));
     }
 
-    // Where the board stands once a column with its margins is in view; it moves no further than it must.
+    // The scroll position at which a column and its margins are in view, as near as possible to the present position.
     function targetFor(left: real): real {
         const right = left + columnWidth + 2 * firstLeft;
         return Math.max(right - flickable.width, Math.min(left, flickable.contentX));
@@ -35,7 +36,8 @@ Item {
         animation.restart();
     }
 
-    // A column that is in sight stays so in less room; one that was scrolled away is left there.
+    // A visible column stays visible when the board becomes narrower. A column that was scrolled out of view stays
+    // there.
     function keepInSight() {
         const column = board.columnOfKey(focusedKey);
         if (column >= 0 && room < roomBefore && wasInSight(firstLeft + column * (columnWidth + columnGap)))
@@ -47,7 +49,7 @@ Item {
         return left < flickable.contentX + roomBefore && left + columnWidth > flickable.contentX;
     }
 
-    // For what must stand there now.
+    // Scrolls without animation, for callers that need the final position now.
     function revealAtOnce() {
         reveal();
         animation.complete();
@@ -58,7 +60,7 @@ Item {
 
     onVisibleChanged: if (visible) coming.restart()
 
-    // Once what it is for stands in its place.
+    // Waits until the board has laid out its columns.
     Timer {
         id: coming
         interval: 0

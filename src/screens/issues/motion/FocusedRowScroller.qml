@@ -2,8 +2,8 @@ import QtQuick
 import Velmora.State
 import Velmora.Theme
 
-// Brings the focused row into view each time the focus moves to another issue and when the list comes, clear of the header
-// pinned above.
+// Scrolls the focused row into view, clear of the header pinned above, each time the focus moves to another issue and
+// when the list becomes visible.
 Item {
     id: root
 
@@ -11,7 +11,7 @@ Item {
     required property IssueListModel rows
     required property string focusedKey
     required property int headerHeight
-    // What a bar over the list's lower edge hides.
+    // The height that a bar at the list's lower edge covers.
     property int clearance: 0
 
     function reveal() {
@@ -20,8 +20,8 @@ Item {
             scrollTo(targetFor(row));
     }
 
-    // Where the list stands once the row is in view. For a row that it holds no item of, the list knows by going there;
-    // one that is not laid out yet makes none even then.
+    // The scroll position at which the row is in view. If the list has no item for the row, the position is found by
+    // scrolling there and back. A list that is not laid out yet creates no item even then.
     function targetFor(row: int): real {
         const item = list.itemAtIndex(row);
         return item ? targetForItem(item) : targetByGoing(row);
@@ -48,14 +48,14 @@ Item {
         animation.restart();
     }
 
-    // A row that is in sight stays so when a bar comes over it; one that was scrolled away is left there.
+    // A visible row stays visible when a bar covers part of the list. A row that was scrolled out of view stays there.
     function keepInSight() {
         const item = list.itemAtIndex(rows.rowOfKey(focusedKey));
         if (item && item.y < list.contentY + list.height && item.y + item.height > list.contentY)
             reveal();
     }
 
-    // For what must stand there now.
+    // Scrolls without animation, for callers that need the final position now.
     function revealAtOnce() {
         reveal();
         animation.complete();
@@ -66,7 +66,7 @@ Item {
 
     onVisibleChanged: if (visible) coming.restart()
 
-    // Once what it is for stands in its place.
+    // Waits until the list has laid out its rows.
     Timer {
         id: coming
         interval: 0

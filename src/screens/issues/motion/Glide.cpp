@@ -108,7 +108,7 @@ void Glide::playLater()
     if (m_places.isEmpty() || m_isPending || !window)
         return;
     m_isPending = true;
-    // Then the view has laid its rows out anew, and nothing is drawn yet.
+    // At that time the view has laid out its rows again, and nothing has been drawn yet.
     connect(window, &QQuickWindow::afterAnimating, this, &Glide::play, Qt::SingleShotConnection);
     window->update();
 }
@@ -148,7 +148,7 @@ std::unique_ptr<GlideGhost> Glide::ghostOf(const Rider &rider) const
 void Glide::draw(double progress)
 {
     for (auto &rider : m_riders) {
-        // An item that shows another issue by now stands still.
+        // An item that has been reassigned to another issue does not move.
         const bool rides = rider.item && keyOf(*rider.item) == rider.key;
         if (!rides)
             rider.ghost.reset();

@@ -12,24 +12,26 @@
 #include <memory>
 #include <vector>
 
-/// Moves rows and cards softly from where they were seen to where a change of the issues has put them. They stand at
-/// their new places at once and are only drawn beside them for a while; a further change takes up from what is seen.
-/// Rows that were not seen before fade in. Another list, layout or search is no motion. The items that take part are
-/// those below `view` that have a property `glideKey`, by which they are known again.
+/// Animates rows and cards from the positions where they were last visible to the positions that a change of the issues
+/// has given them. They take their new positions at once and are only drawn with an offset for a while. A further
+/// change starts from the drawn positions. Rows that were not visible before fade in. A change to another list, layout
+/// or search is not animated. The participating items are the descendants of `view` that have a property `glideKey`,
+/// which identifies them.
 class Glide : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY changed REQUIRED FINAL)
-    /// What shows the rows; places are told by its corner.
+    /// The item that contains the rows. Positions are relative to its upper left corner.
     Q_PROPERTY(QQuickItem *view MEMBER m_view NOTIFY changed REQUIRED FINAL)
-    /// Whose changes are to be seen as motion: one of the two.
+    /// The model whose changes are animated. Set one of the two.
     Q_PROPERTY(IssueListModel *rows READ rows WRITE setRows NOTIFY changed FINAL)
     Q_PROPERTY(BoardModel *columns READ columns WRITE setColumns NOTIFY changed FINAL)
-    /// Above the view: what goes from one column to another is seen in it, as a copy that `ghost` makes. Both or neither.
+    /// An item above the view that shows the cards that move between columns, as copies created from `ghost`. Set both
+    /// or neither.
     Q_PROPERTY(QQuickItem *carrier MEMBER m_carrier NOTIFY changed FINAL)
     Q_PROPERTY(QQmlComponent *ghost MEMBER m_ghost NOTIFY changed FINAL)
-    /// In milliseconds; 0 moves nothing.
+    /// The duration in milliseconds. 0 disables the animation.
     Q_PROPERTY(int duration MEMBER m_duration NOTIFY changed REQUIRED FINAL)
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY runningChanged FINAL)
 
@@ -42,7 +44,7 @@ public:
     void setRows(IssueListModel *rows) { follow(m_rows, rows); }
     BoardModel *columns() const { return m_columns; }
     void setColumns(BoardModel *columns) { follow(m_columns, columns); }
-    /// The item of a key among those in sight; null without one.
+    /// The visible item with a key. Null if there is none.
     Q_INVOKABLE QQuickItem *itemOf(const QString &key) const;
     bool isRunning() const { return m_run.state() == QAbstractAnimation::Running; }
 
@@ -55,13 +57,13 @@ private:
     {
         QPointer<QQuickItem> item;
         QString key;
-        /// From its place to where it was seen.
+        /// The offset from the item's position to the position where it was last visible.
         QPointF from;
         bool isNew = false;
-        /// Of one that goes from one column to another.
+        /// The copy of a card that moves to another column.
         std::unique_ptr<GlideGhost> ghost = nullptr;
     };
-    /// What must stay the same for a change to be a motion.
+    /// The values that must be unchanged for a change to be animated.
     struct Occasion
     {
         IssueScope scope;
@@ -90,9 +92,10 @@ private:
     QPointer<IssueListModel> m_rows;
     QPointer<BoardModel> m_columns;
     int m_duration = 0;
-    /// None in a turn that changes the layout: what was in sight before is long past.
+    /// Absent during an event loop iteration that changes the layout, because the positions that were visible before
+    /// are obsolete.
     std::optional<Occasion> m_occasion;
-    /// Where each key was last seen, while a change waits for its frame.
+    /// The last visible position of each key, while a change waits for its frame.
     QHash<QString, QPointF> m_places;
     bool m_isPending = false;
     std::vector<Rider> m_riders;

@@ -4,10 +4,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Less than any eye or pixel tells, but not 0: screen readers would lose the card.
+/// An invisible opacity that is not 0, because screen readers would not find a fully transparent card.
 constexpr double unseen = 0.002;
 
-/// What a card shows.
+/// The contents of a card.
 QVariantMap contentOf(const QQuickItem &card)
 {
     QVariantMap content;
@@ -29,7 +29,7 @@ GlideGhost::GlideGhost(QQuickItem &card, QQmlComponent &component, QQuickItem &c
         return;
     m_copy->setParent(&carrier);
     m_copy->setParentItem(&carrier);
-    // The pointer is on the cards below.
+    // The copy ignores the pointer, which belongs to the cards below.
     m_copy->setAcceptHoverEvents(false);
     card.setOpacity(unseen);
     follow();

@@ -4,19 +4,19 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 
-/// A copy of a card on its way from one column to another, drawn above all of them: the card itself is cut off where its
-/// column ends, and lies below the columns behind it. The card stays at its place, unseen, for as long as its copy lives,
-/// so that whatever ends the motion leaves no card elsewhere.
+/// A copy of a card that moves from one column to another, drawn above all columns. The card itself would be clipped by
+/// its column and covered by the columns after it. The card stays at its position, invisible, while the copy exists, so
+/// that no card is left at a wrong position when the animation ends early.
 class GlideGhost
 {
 public:
-    /// The component makes the copy from what the card shows; it stands in `carrier`.
+    /// Creates the copy from the contents of the card. `carrier` becomes its parent.
     GlideGhost(QQuickItem &card, QQmlComponent &component, QQuickItem &carrier);
     ~GlideGhost();
     GlideGhost(const GlideGhost &) = delete;
     GlideGhost &operator=(const GlideGhost &) = delete;
 
-    /// Goes to where the card would be seen.
+    /// Moves the copy to the position at which the card would be drawn.
     void follow();
 
 private:

@@ -4,18 +4,18 @@
 #include <QPointF>
 #include <QQuickItem>
 
-/// Draws an item beside its place. The place itself stays what the layout says, so that nothing which ends the motion
-/// early can leave the item elsewhere.
+/// Draws an item with an offset. The position of the item remains the one that the layout gives it, so that the item
+/// cannot be left at a wrong position when the animation ends early.
 class GlideOffset : public QQuickTransform
 {
     Q_OBJECT
 
 public:
-    /// Of the item, made when it is first wanted.
+    /// The offset of the item, created on first use.
     static GlideOffset &of(QQuickItem &item);
 
     QPointF offset() const { return m_offset; }
-    /// In logical pixels.
+    /// Sets the offset in logical pixels.
     void setOffset(QPointF offset);
 
     void applyTo(QMatrix4x4 *matrix) const override;

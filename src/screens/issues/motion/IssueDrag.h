@@ -7,11 +7,11 @@
 #include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
-/// What a dragged issue carries, by media type: the key as plain text and, where the issue has an address, a titled link,
-/// so that it lands well in mail and documents.
+/// The content of a dragged issue by media type: the key as plain text and, if the issue has an address, a link with a
+/// title, which mail clients and word processors insert as such.
 QVariantMap dragContent(const Issue &issue, const std::optional<QUrl> &address);
 
-/// The issue that a drag carries out of its row or card.
+/// The issue that is dragged out of its row or card.
 class IssueDrag : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     const Issue &issue() const { return m_issue; }
     const QVariantMap &content() const { return m_content; }
 
-    /// Takes up an issue; false for one that is not known.
+    /// Selects the issue to drag. False if the issue is not known.
     Q_INVOKABLE bool take(const QString &key);
 
 Q_SIGNALS:

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-// A name and, at the end of the line, the control that goes by it.
+// A label and, at the end of the line, the control that belongs to it.
 Item {
     id: root
 

@@ -6,11 +6,11 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// The properties with one of them turned over, by its name: "key", "priority", "type", "labels", "assignee", "dueDate" or
-/// "updated"; any other name changes nothing.
+/// The properties with one of them inverted. Its name is "key", "priority", "type", "labels", "assignee", "dueDate" or
+/// "updated". Any other name changes nothing.
 DisplayProperties toggledDisplay(DisplayProperties display, const QString &name);
 
-/// Changes which columns rows show.
+/// Changes the columns that rows show.
 class DisplayOptions : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
 
-// The toolbar's display options, in a popover that exists while it is open.
+// The toolbar button for the display options, which are shown in a popover that exists only while it is open.
 ToolbarCell {
     id: root
 

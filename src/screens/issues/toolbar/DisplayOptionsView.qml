@@ -7,13 +7,13 @@ import Velmora.Model
 import Velmora.State
 import Velmora.Theme
 
-// How the list is grouped and sorted, and which columns its rows show.
+// The controls for the grouping and sorting of the list and for the columns of its rows.
 Item {
     id: root
 
     required property AppStore store
 
-    // For those who came by keyboard.
+    // Moves the focus to the first control, for users of the keyboard.
     function focusFirst() {
         const first = grouping.enabled ? grouping : ordering;
         first.forceActiveFocus(Qt.TabFocusReason);

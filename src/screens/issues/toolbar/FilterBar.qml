@@ -5,7 +5,7 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
-// The filters in force, a chip for each kind, over the list they narrow.
+// The active filters, one chip for each kind, above the filtered list.
 Item {
     id: root
 

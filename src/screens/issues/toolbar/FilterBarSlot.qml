@@ -5,13 +5,13 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Theme
 
-// The place of the filters in force, which opens and closes over the list.
+// The container of the filter bar, which opens and closes above the list.
 Item {
     id: root
 
     required property Filters filters
 
-    // How far it is open, 0 to 1.
+    // How far the container is open, from 0 to 1.
     property real presence: filters.isEmpty ? 0 : 1
     property real barHeight: 0
 

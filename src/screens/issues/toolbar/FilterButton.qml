@@ -4,7 +4,7 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Kit
 
-// The toolbar's filter menu, which exists while it is open.
+// The toolbar button for the filter menu, which exists only while it is open.
 ToolbarCell {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// A filter in force, and the button that lifts it.
+// An active filter, and the button that removes it.
 GlassCapsule {
     id: root
 

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 
-// What the list can be narrowed to: a submenu for each kind of choice, and the way back.
+// The filter menu: a submenu for each kind of filter, and the command that removes all filters.
 PopupMenu {
     id: root
 

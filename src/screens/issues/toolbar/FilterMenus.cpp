@@ -31,7 +31,7 @@ QString fieldOf(FilterSet set)
     return {};
 }
 
-/// Types of several projects can share a name; the filters know them by their ids.
+/// The ids of all types with a name, because the types of several projects can share a name and the filters store ids.
 QStringList typeIds(const QString &name, const IssueList &issues)
 {
     QStringList ids;
@@ -139,8 +139,8 @@ QString labelNames(const IssueFilters &filters, const QLocale &locale)
     return names.join(u", "_s);
 }
 
-/// What is chosen, in words; the number of chosen things where the list has none of them left. Labels are their own
-/// words.
+/// The chosen values as text. If the list contains none of them any more, their number instead. Labels serve as their
+/// own text.
 QString valueOf(FilterSet set, const IssueFilters &filters, const FilterSources &sources)
 {
     if (set == FilterSet::Labels)

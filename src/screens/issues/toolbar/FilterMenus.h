@@ -9,17 +9,17 @@
 /// The five sets of the filters, in the order in which menus and chips show them.
 enum class FilterSet { Statuses, Priorities, Assignees, Labels, Types };
 
-/// What the filters choose from.
+/// The data from which the filters are chosen.
 struct FilterSources
 {
     const IssueDerivationMenus &menus;
-    /// All issues of the list, shown or not.
+    /// All issues of the list, including those that are filtered out.
     const IssueList &issues;
-    /// By which names are ordered.
+    /// The locale that determines the order of names.
     QLocale locale;
 };
 
-/// One filled set of the filters, in words.
+/// One non-empty set of the filters, as text.
 class FilterChip
 {
     Q_GADGET
@@ -38,16 +38,17 @@ public:
 
 /// "status", "priority", "assignee", "labels" or "types".
 QString filterSetId(FilterSet set);
-/// Nothing for any other text.
+/// Absent for any other text.
 std::optional<FilterSet> filterSetFromId(const QString &id);
 
-/// The submenus of the filter menu. Labels and types are left out where the list has none.
+/// The submenus of the filter menu. Labels and types are omitted if the list has none.
 QList<MenuSection> filterSections(const IssueFilters &filters, const FilterSources &sources);
-/// One chip for each filled set.
+/// One chip for each non-empty set.
 QList<FilterChip> filterChips(const IssueFilters &filters, const FilterSources &sources);
 
-/// The filters with one entry of a set put in, or taken out if it was in. A type stands for all types of its name.
+/// The filters with one entry of a set added, or removed if it was present. A type stands for all types of the same
+/// name.
 IssueFilters toggledFilter(IssueFilters filters, FilterSet set, const QString &choice,
                            const FilterSources &sources);
-/// The filters with one set emptied.
+/// The filters with one set cleared.
 IssueFilters emptiedFilter(IssueFilters filters, FilterSet set);

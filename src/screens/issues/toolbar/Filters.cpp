@@ -22,7 +22,7 @@ FilterSources Filters::sources() const
 
 void Filters::update()
 {
-    // What the menus offer is worth making only for filters that name it.
+    // The menu contents are computed only while a filter is active, because only then are they needed.
     const auto chips = m_store->filters().isEmpty() ? QList<FilterChip>()
                                                     : filterChips(m_store->filters(), sources());
     if (m_chips == chips)

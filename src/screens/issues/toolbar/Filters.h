@@ -5,13 +5,13 @@
 
 #include <QPointer>
 
-/// The filters in force as screens show and change them.
+/// The active filters, as screens show and change them.
 class Filters : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
-    /// One for each filled set.
+    /// One chip for each non-empty set.
     Q_PROPERTY(QList<FilterChip> chips READ chips NOTIFY changed FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed FINAL)
 
@@ -23,11 +23,11 @@ public:
     const QList<FilterChip> &chips() const { return m_chips; }
     bool isEmpty() const { return m_chips.isEmpty(); }
 
-    /// The submenus of the filter menu, as they are now.
+    /// The present submenus of the filter menu.
     Q_INVOKABLE QList<MenuSection> sections() const;
-    /// Puts the choice of a section in, or takes it out; unknown sections do nothing.
+    /// Adds the choice to a set, or removes it if it is present. Does nothing for an unknown section.
     Q_INVOKABLE void toggle(const QString &section, const QString &choice);
-    /// Empties one set.
+    /// Clears one set.
     Q_INVOKABLE void remove(const QString &chip);
     Q_INVOKABLE void clear();
 

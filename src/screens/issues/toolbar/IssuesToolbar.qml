@@ -6,7 +6,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// Title and count at the left, commands and the search field at the right.
+// The toolbar: title and count on the left, commands and the search field on the right.
 Item {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-// One of the layouts, told as chosen or not.
+// One of the layouts, which exposes to screen readers whether it is chosen.
 ToolbarCell {
     id: root
 
@@ -14,7 +14,7 @@ ToolbarCell {
 
     Accessible.checkable: true
     Accessible.checked: on
-    // The template writes its own state over these whenever a screen reader starts.
+    // The template overwrites these with its own state whenever a screen reader starts.
     Accessible.onCheckableChanged: tell()
     Accessible.onCheckedChanged: tell()
 }

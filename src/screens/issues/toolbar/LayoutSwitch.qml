@@ -4,7 +4,7 @@ import Velmora.Kit
 import Velmora.Model
 import Velmora.State
 
-// List or board.
+// The switch between list and board.
 GlassCapsule {
     id: root
 

@@ -6,7 +6,7 @@ import Velmora.Model
 import Velmora.State
 import Velmora.Theme
 
-// Above the list of a recap: which period, whose work, what came of it, and a report to take along.
+// The header above the list of a recap: the period, whose work it covers, the counters, and a report to copy.
 GlassPanel {
     id: root
 
@@ -85,7 +85,7 @@ GlassPanel {
             spacing: 20
 
             Repeater {
-                // By number, so that a counter stays and counts when its value changes.
+                // The model is a number, so that a counter keeps its item and animates when its value changes.
                 model: root.content.pillCount
 
                 RecapPill {

@@ -9,10 +9,10 @@ Row {
     required property string symbol
     required property int value
     required property string label
-    /// Counts up or down to the value.
+    /// The shown number, which counts up or down to the value.
     property real shown: value
 
-    // By symbol: what was finished, what moved, what is new.
+    // The colour depends on the symbol: finished, moved or new issues.
     readonly property color tint: symbol === "checkmark.circle.fill" ? Theme.done
         : symbol === "arrow.forward.circle.fill" ? Theme.inProgress
         : symbol === "plus.circle.fill" ? Theme.review : Theme.neutral

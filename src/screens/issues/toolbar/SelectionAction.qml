@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// A command of the selection bar: a symbol over a word.
+// A command of the selection bar: a symbol above a label.
 FocusableItem {
     id: root
 

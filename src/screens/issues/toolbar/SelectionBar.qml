@@ -6,13 +6,13 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// How many issues are checked, and what can be done to all of them at once.
+// The bar with the number of checked issues and the commands that apply to all of them.
 Item {
     id: root
 
     required property AppStore store
 
-    // How far it has come in: 0 away, 1 there.
+    // How far the bar has slid in, from 0 (hidden) to 1 (shown).
     property real presence: actions.isShown ? 1 : 0
 
     implicitWidth: line.width

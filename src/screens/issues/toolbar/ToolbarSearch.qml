@@ -3,20 +3,20 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The search field of the list. Where the toolbar is narrow it is shorter, and then a symbol that becomes a field while
-// it is used.
+// The search field of the list. In a narrow toolbar it is shorter. In an even narrower one it is a symbol that expands
+// to a field while it is used.
 Item {
     id: root
 
     required property AppStore store
-    // The toolbar's width.
+    // The width of the toolbar.
     required property real room
 
     readonly property bool isFolded: room < 500 && !field.activeFocus && store.filterText === ""
-    // The unfolded field needs the title's place.
+    // The expanded field covers the title.
     readonly property bool coversTitle: room < 500 && !isFolded
 
-    // The keyboard is the list's from now on; the text stays.
+    // The focus goes back to the list. The text is kept.
     signal finished()
 
     function open() {
