@@ -4,7 +4,7 @@ import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Model
 
-/// The controls at rest, chosen, focused and disabled, on the sidebar and on the plane.
+/// The controls at rest, chosen, focused and disabled, on the background of the sidebar and of lists.
 Item {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Velmora.Gallery
 import Velmora.Kit
 
-/// What is typed into and what stands in a row, in each of its states.
+/// Text fields and rows in each of their states.
 Column {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
-/// The gallery's window: a page of samples, and what to look at them by.
+/// The gallery's window: one page of samples, and controls for the page, the appearance and the accent.
 Window {
     id: root
 

@@ -3,13 +3,13 @@ import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Theme
 
-/// What opens over a window, open: menus, a popover, a hint; and what stands for waiting.
+/// Overlays in their open state: menus, a popover, a hint. Also the loading indicators.
 Item {
     id: root
 
     readonly property bool isShown: Window.window !== null
 
-    // A popover needs a window to open in.
+    // A popover can open only inside a window.
     function open() {
         if (isShown && !chip.isPresented)
             chip.activate()

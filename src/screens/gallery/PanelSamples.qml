@@ -4,7 +4,8 @@ import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
 
-/// What floats: lists of options, a calendar, display options, a sheet's and a toast's surface, chips in a wrapping row.
+/// Floating surfaces: lists of options, a calendar, display options, the surfaces of a sheet and a toast, and chips in
+/// a wrapping row.
 Item {
     id: root
 

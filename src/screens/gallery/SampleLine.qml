@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-/// A line of a form: its words, and the control at its end.
+/// A line of a form: its label, and the control at its end.
 Item {
     id: root
 

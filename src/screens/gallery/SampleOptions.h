@@ -4,7 +4,7 @@
 
 #include <QtQml/qqmlregistration.h>
 
-/// Options for the gallery to show.
+/// Sample options for the gallery.
 class SampleOptions : public OptionSource
 {
     Q_OBJECT

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// The surface of a popover, as high as what stands on it.
+/// The surface of a popover, as high as its content.
 GlassPanel {
     id: root
 

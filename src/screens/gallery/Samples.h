@@ -9,7 +9,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Records for the gallery to show.
+/// Sample records for the gallery.
 class Samples : public QObject
 {
     Q_OBJECT

@@ -4,7 +4,7 @@ import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Model
 
-/// A sheet over a page of text: the rest of the window is dimmed and out of reach.
+/// A sheet above a page of text: the rest of the window is dimmed and cannot be reached.
 Item {
     id: root
 

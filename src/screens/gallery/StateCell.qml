@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Gallery
 
-/// A control in the state of that number.
+/// A control in the state with that number.
 Item {
     id: root
 

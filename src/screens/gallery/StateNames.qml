@@ -3,7 +3,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// The head of a table of states.
+/// The header of a table of states.
 Row {
     id: root
 

@@ -4,7 +4,8 @@ import Velmora.Gallery
 import Velmora.Kit
 import Velmora.Theme
 
-/// A control in each of its states, side by side: at rest, under the pointer, pressed, focused by the keyboard, disabled.
+/// A control in each of its states, side by side: at rest, under the pointer, pressed, with the keyboard focus,
+/// disabled.
 Row {
     id: root
 

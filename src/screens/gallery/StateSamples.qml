@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Gallery
 import Velmora.Kit
 
-/// What can be pressed, in each of its states.
+/// The controls that can be pressed, in each of their states.
 Column {
     id: root
 

@@ -6,7 +6,7 @@
 
 #include <initializer_list>
 
-/// Puts a control into one of its states for a picture, which otherwise only a pointer or a key would.
+/// Puts a control into one of its states for a picture. Normally only a pointer or a key does that.
 class States : public QObject
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ public:
     enum State { Rest, Hovered, Pressed, Focused, Disabled };
     Q_ENUM(State)
 
-    /// What a control doesn't have (a field cannot be pressed) stays at rest. Of a group of controls the first one shows
-    /// the state.
+    /// A control that does not have the state (a field cannot be pressed) stays at rest. In a group of controls the
+    /// first one shows the state.
     Q_INVOKABLE void show(QQuickItem *sample, int state) const
     {
         auto *control = sample ? firstControl(sample) : nullptr;

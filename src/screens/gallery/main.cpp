@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Qt reads it when the application object is made, before the options are parsed.
+// Qt reads the variable when the application object is created, which is before the options are parsed.
 void setScale(int argc, char **argv)
 {
     const auto option = "--scale="_L1;
@@ -49,7 +49,7 @@ void savePicture(QQuickWindow *window, const QString &file)
         window->grabWindow().save(file);
         window->close();
     };
-    // What moves begins to when it is first seen.
+    // Animations start when the window is first visible.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, window,
         [window, save] { QTimer::singleShot(settled, window, save); },
