@@ -4,7 +4,7 @@
 
 void AltTap::keyPressed(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    // Some systems count the key that goes down among the modifiers already.
+    // On some systems the modifiers of a key press already include the pressed key.
     const bool isAlone = !(modifiers & ~Qt::KeyboardModifiers(Qt::AltModifier));
     m_isDown = key == Qt::Key_Alt && isAlone;
 }

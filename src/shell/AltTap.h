@@ -2,14 +2,14 @@
 
 #include <Qt>
 
-/// Tells when Alt was pressed and released with nothing in between, which asks for the menu bar.
+/// Detects a press and release of Alt with nothing in between, which shows the menu bar.
 class AltTap
 {
 public:
     void keyPressed(Qt::Key key, Qt::KeyboardModifiers modifiers);
-    /// True when this release ends a tap.
+    /// True if this release completes the tap.
     bool keyReleased(Qt::Key key);
-    /// Something else happened: a click, the loss of the focus.
+    /// Reports any other event, such as a click or the loss of the focus, which cancels the tap.
     void interrupt() { m_isDown = false; }
 
 private:

@@ -7,7 +7,7 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The program's menus, above the window's content while the keyboard asked for them.
+// The program's menus, shown above the window's content while the user operates them by keyboard.
 T.MenuBar {
     id: root
 

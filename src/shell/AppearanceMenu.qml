@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Model
 import Velmora.State
 
-// Which appearance the program has.
+// The choice of the program's appearance.
 PopupMenu {
     id: root
 

@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.Theme
 
-// Says that the data is made up, and leads to the form that takes real ones.
+// Tells the user that the data is fictitious, and opens the form for signing in to a site.
 FocusableItem {
     id: root
 

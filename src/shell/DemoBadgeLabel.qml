@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The words of the demo's badge, with its symbol.
+// The text and the symbol of the demo badge.
 Item {
     id: root
 

@@ -6,13 +6,13 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The pane beside the list: the issue that is open. Another issue begins afresh.
+// The pane beside the list, which shows the open issue. A new view is created for each issue.
 GlassPanel {
     id: root
 
     required property AppStore store
 
-    // The issue that is open, or was until the pane began to go.
+    // The key of the open issue. While the pane closes, the key of the issue that was open last.
     property string key: ""
 
     function follow() {

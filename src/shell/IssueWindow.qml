@@ -33,7 +33,7 @@ Window {
         store: root.store
         key: root.key
 
-        // In an item: whatever is open over it has the key first.
+        // Declared inside an item, so that popups above it receive the key first.
         Shortcut {
             sequences: ["Escape"]
             onActivated: root.close()

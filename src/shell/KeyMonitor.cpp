@@ -32,7 +32,7 @@ bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || watched != m_window || !m_store)
         return false;
     const KeyPress press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
-    // Asking for a screen that is not there would only take the keyboard away.
+    // Requesting a screen that does not exist would only remove the keyboard focus.
     if (!hasCreateScreen && route(press) == KeyCommand::NewIssue)
         return false;
     if (m_store->palette() || m_store->isCreating() || isTyping() || isInPopup() ||
@@ -75,7 +75,7 @@ bool KeyMonitor::isPressingAControl(int key) const
 
 bool KeyMonitor::isWalkingAList(int key) const
 {
-    // A list hands the focus on to its current row.
+    // A list forwards the focus to its current row.
     const QQuickItem *item = m_window->activeFocusItem();
     while (item && !item->property("walksItsRows").toBool())
         item = item->parentItem();

@@ -7,10 +7,10 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A press
-/// passes on untouched while the user is typing in a text field, the palette or the create screen is open, a menu or a
-/// popover has the focus, where a focused list walks its own rows with Return and the arrows, and where Return or Space
-/// presses a control that was reached by Tab.
+/// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A
+/// press is passed on while the user types in a text field, while the palette or the create screen is open, and while a
+/// menu or a popover has the focus. Return and the arrow keys are passed on to a focused list that moves through its
+/// rows itself. Return and Space are passed on to a control that was reached by Tab.
 class KeyMonitor : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
 Q_SIGNALS:
     void windowChanged();
     void storeChanged();
-    /// A key has moved the focus to another issue, or would have if there were one.
+    /// A key press has moved the focus to another issue, or would have if there were another one.
     void walked();
 
 private:

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Kit
 
-// Shows only until it is known which screen comes first.
+// Shown until the first screen is known.
 Item {
     id: root
 

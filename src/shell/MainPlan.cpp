@@ -4,9 +4,9 @@
 
 namespace {
 
-/// A row with all its columns, the summary at its least, and what lies round the list.
+/// The width of a row with all its columns and the minimum summary, plus the margins of the list.
 constexpr int detailMinimum = 532;
-/// Below this a list beside the inspector shows no summaries to speak of.
+/// Below this width a list beside the inspector would show almost nothing of the summaries.
 constexpr int detailLeast = 350;
 
 } // namespace

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// What the main window is asked to show side by side. Lengths in logical pixels.
+/// The inputs for the layout of the main window's panes. Lengths are in logical pixels.
 struct MainWishes
 {
     int window = 0;
@@ -13,7 +13,7 @@ struct MainWishes
     bool hasInspector = false;
 };
 
-/// How the panes of the main window share its width.
+/// The distribution of the main window's width among its panes.
 class MainPlan
 {
     Q_GADGET
@@ -24,20 +24,21 @@ class MainPlan
     Q_PROPERTY(bool coversDetail MEMBER coversDetail CONSTANT FINAL)
 
 public:
-    /// There is room for the sidebar. Without, it comes over the rest when it is asked for.
+    /// There is enough width for the sidebar. Otherwise it is shown above the other panes on request.
     bool hasSidebar = true;
-    /// Its width, wherever it stands.
+    /// The width of the sidebar, in either position.
     int sidebar = 240;
-    /// The inspector's width; 0 without one.
+    /// The width of the inspector. 0 if it is not shown.
     int inspector = 0;
-    /// The inspector takes the place of the list.
+    /// The inspector replaces the list.
     bool coversDetail = false;
 
     bool operator==(const MainPlan &) const = default;
 };
 
-/// The list keeps room for a row. When space ends, the inspector shrinks first, then the sidebar, which hides at last;
-/// where a list beside the inspector would be of no use, the inspector takes its place.
+/// Computes the layout. The list keeps enough width for a row. As the window narrows, the inspector shrinks first, then
+/// the sidebar, which is finally hidden. If the list beside the inspector would be too narrow to be useful, the
+/// inspector replaces it.
 MainPlan mainPlan(const MainWishes &wishes);
 
 /// The widths that the user can choose.

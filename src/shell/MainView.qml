@@ -7,30 +7,30 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The signed-in screen: the sidebar, the issues beside it and, at the end, the issue that is open.
+// The screen of a signed-in user: the sidebar, the issues and, at the trailing edge, the inspector.
 FocusScope {
     id: root
 
     required property AppStore store
     required property WindowMemory memory
 
-    // The sidebar lies over the issues, because there is no room for it and it was asked for.
+    // The sidebar is shown above the issues, because the user requested it and the window is too narrow to show both.
     property bool isSidebarFloating: false
 
     readonly property mainPlan plan: MainPlans.plan(width, memory.sidebarWidth, memory.inspectorWidth,
         store.showInspector)
-    // The same with the inspector, which keeps its place while it comes and goes.
+    // The same plan with the inspector. It gives the inspector a fixed position while it slides in and out.
     readonly property mainPlan openPlan: MainPlans.plan(width, memory.sidebarWidth, memory.inspectorWidth, true)
-    // How far the inspector has come in: 0 away, 1 there. The panes beside it stand at their new places at once, so that
-    // a frame of its way moves one item and lays out nothing.
+    // How far the inspector has slid in, from 0 (hidden) to 1 (shown). The other panes take their final positions at
+    // once, so that each frame of the animation moves one item and needs no layout.
     property real inspectorPresence: store.showInspector ? 1 : 0
-    // Where the issues begin and end.
+    // The horizontal extent of the issue list.
     readonly property int detailLeft: plan.hasSidebar ? plan.sidebar : 0
     readonly property int detailRight: plan.coversDetail ? width : width - plan.inspector
     readonly property real detailCentre: plan.coversDetail ? width / 2 : (detailLeft + detailRight) / 2
     readonly property bool isInspecting: store.showInspector
 
-    // At the beginning of its way: what leaves takes no more keys.
+    // At the start of the animation, so that a closing inspector receives no more keys.
     onIsInspectingChanged: if (!isInspecting && inspector.activeFocus) issues.focusIssues()
 
     onPlanChanged: isSidebarFloating = isSidebarFloating && !plan.hasSidebar
@@ -38,7 +38,7 @@ FocusScope {
     KeyMonitor {
         window: root.Window.window
         store: root.store
-        // Whoever walks the issues from a button has left the button.
+        // A key press that moves to another issue also moves the focus away from any button.
         onWalked: issues.focusIssues()
     }
 
@@ -53,7 +53,7 @@ FocusScope {
         isFloating: root.isSidebarFloating
         store: root.store
         onDismissed: root.isSidebarFloating = false
-        // Its rows would go on taking the arrows.
+        // A hidden sidebar with the focus would still receive the arrow keys.
         onVisibleChanged: if (!visible && activeFocus) issues.forceActiveFocus(Qt.OtherFocusReason)
     }
 
@@ -70,7 +70,7 @@ FocusScope {
         onMoved: width => root.memory.sidebarWidth = width
     }
 
-    // Not while the palette has the keyboard.
+    // Disabled while the palette has the keyboard focus.
     Shortcut {
         sequences: ["Ctrl+F"]
         enabled: root.activeFocus && issues.visible
@@ -89,7 +89,8 @@ FocusScope {
         onSidebarWanted: root.isSidebarFloating = true
     }
 
-    // A press beside the floating sidebar only puts it away. Not before it ends: what lies below would get its end.
+    // A press beside the floating sidebar only closes it. It closes on release, because otherwise the content below
+    // would receive the release.
     MouseArea {
         anchors.fill: parent
         z: 1

@@ -62,7 +62,7 @@ void MenuBarKeys::setHasOpenMenu(bool open)
     if (std::exchange(m_hasOpenMenu, open) == open)
         return;
     Q_EMIT hasOpenMenuChanged();
-    // A step from one menu to the next closes the first before it opens the second.
+    // Moving from one menu to the next closes the first menu before it opens the second.
     if (!open)
         QMetaObject::invokeMethod(this, &MenuBarKeys::closeWithItsMenus, Qt::QueuedConnection);
 }
@@ -94,7 +94,7 @@ bool MenuBarKeys::hasMovedOn(const QQuickItem *focus) const
 {
     if (!focus || focus->isAncestorOf(m_before))
         return false;
-    // The menus are popups; there are no others while the bar is shown.
+    // The menus are popups. While the bar is shown there are no other popups.
     while (focus && focus != m_layer && !focus->inherits("QQuickPopupItem"))
         focus = focus->parentItem();
     return focus == nullptr;

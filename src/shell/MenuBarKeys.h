@@ -9,10 +9,10 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// The keys of a window's menus: it carries out their shortcuts, shows the menu bar at a tap of Alt and at F10, in the
-/// place of whatever is open over the window's content, and hides it in the same way. While the bar is shown it has the
-/// keyboard; what is chosen there is carried out when the bar is gone and the focus is back where it was, so that commands
-/// find the window as the user left it.
+/// Handles the keys of a window's menus: it carries out their shortcuts, and shows and hides the menu bar at a tap of
+/// Alt and at F10. Showing the bar closes any popup above the window's content. While the bar is shown it has the
+/// keyboard focus. A chosen command is carried out after the bar is closed and the focus is restored, so that the
+/// command sees the window in the state in which the user left it.
 class MenuBarKeys : public QObject
 {
     Q_OBJECT
@@ -20,10 +20,10 @@ class MenuBarKeys : public QObject
     Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL REQUIRED)
     Q_PROPERTY(
         AppCommands *commands READ commands WRITE setCommands NOTIFY commandsChanged FINAL REQUIRED)
-    /// One of the bar's menus is open; when none is any more, the bar closes.
+    /// One of the bar's menus is open. The bar closes when no menu is open any more.
     Q_PROPERTY(
         bool hasOpenMenu READ hasOpenMenu WRITE setHasOpenMenu NOTIFY hasOpenMenuChanged FINAL)
-    /// Holds the bar. A focus that has moved on to anything else is left there when the bar closes.
+    /// The item that contains the bar. If the focus has moved to any other item, it stays there when the bar closes.
     Q_PROPERTY(QQuickItem *layer MEMBER m_layer NOTIFY layerChanged FINAL REQUIRED)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged FINAL)
 
@@ -50,7 +50,7 @@ Q_SIGNALS:
     void isOpenChanged();
     void hasOpenMenuChanged();
     void layerChanged();
-    /// What is open above the window's content, and is no popover or menu, is to be closed.
+    /// Requests that everything that is open above the window's content, and is no popup, be closed.
     void aboutToOpen();
 
 private:

@@ -5,19 +5,19 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
 
-// The menus of a window: their shortcuts, and the bar, made when it is asked for and gone afterwards.
+// The menus of a window: their shortcuts, and the menu bar, which exists only while it is shown.
 Item {
     id: root
 
     required property AppStore store
-    // The issue whose window this is; empty in the main window.
+    // The key of the issue that the window shows. Empty in the main window.
     property string issueKey: ""
 
     MenuBarKeys {
         id: barKeys
         window: root.Window.window
         layer: root
-        // The palette is the main window's.
+        // Only the main window has a palette.
         onAboutToOpen: if (root.issueKey === "") root.store.closePalette()
         commands: menuCommands
     }
@@ -33,7 +33,7 @@ Item {
         onActivated: Qt.quit()
     }
 
-    // Where the desktop has no key of its own for a program's settings, this one is the custom.
+    // The conventional key for settings on desktops that define none of their own.
     Shortcut {
         sequences: ["Ctrl+,"]
         onActivated: root.store.settingsRequested()

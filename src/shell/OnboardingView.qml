@@ -4,7 +4,7 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// What someone signed out sees: one card on a slowly moving field of colours.
+// The screen of a user who is not signed in: one card on a slowly moving background of colours.
 FocusScope {
     id: root
 

@@ -4,7 +4,7 @@ import Velmora.Kit
 import Velmora.Model
 import Velmora.State
 
-// What can be done with a project of the sidebar.
+// The menu of a project in the sidebar.
 PopupMenu {
     id: root
 

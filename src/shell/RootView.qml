@@ -7,14 +7,14 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The content of the main window: one screen by phase, and the layers that float over every screen.
+// The content of the main window: one screen for each phase, and the layers above every screen.
 Window {
     id: root
 
     required property AppStore store
     required property WindowMemory memory
 
-    // Where the middle of the issues is, over which toasts stand.
+    // The horizontal centre of the issue list, above which toasts are centred.
     property real detailCentre: width / 2
 
     title: "Velmora"
@@ -49,7 +49,7 @@ Window {
             store: root.store
             memory: root.memory
             onDetailCentreChanged: root.detailCentre = detailCentre
-            // The first screen goes with the keyboard's focus in one of its fields.
+            // The sign-in screen disappears while one of its fields has the focus.
             Component.onCompleted: {
                 root.detailCentre = detailCentre;
                 forceActiveFocus();
@@ -67,7 +67,7 @@ Window {
 
     ToastStack {
         toasts: root.store.toasts
-        // Over the selection bar while issues are checked, near the edge otherwise.
+        // Above the selection bar while issues are checked, otherwise near the window's edge.
         bottomGap: root.store.isSelecting ? Metrics.toastBottomAboveBar : Metrics.toastBottom
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.horizontalCenterOffset: root.detailCentre - root.width / 2

@@ -12,7 +12,7 @@ void bringForward(QQuickWindow *window)
 {
     if (window->windowStates().testFlag(Qt::WindowMinimized))
         window->setWindowStates(window->windowStates() & ~Qt::WindowStates(Qt::WindowMinimized));
-    // A window that comes anew comes on top.
+    // A window that is shown again is raised to the top.
     if (window->isVisible())
         window->raise();
     window->show();
@@ -32,7 +32,7 @@ Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences)
 
 Scenes::~Scenes()
 {
-    // What windows tell on their way out is told to nobody.
+    // Signals of windows that are being destroyed are ignored.
     if (m_main)
         m_main->disconnect(this);
     QList<QQuickWindow *> others = m_issues.values();
@@ -41,7 +41,7 @@ Scenes::~Scenes()
     for (auto *window : others)
         window->disconnect(this);
     qDeleteAll(others);
-    // Before what they show.
+    // The windows are destroyed before the objects that they show.
     qDeleteAll(m_leaving);
 }
 
@@ -104,7 +104,7 @@ QQuickWindow *Scenes::make(const QString &file, const QVariantMap &properties)
         return nullptr;
     }
     component.setInitialProperties(window, all);
-    // Before it is shown. What is remembered fits already.
+    // The frame is set before the window is shown. A remembered frame already fits.
     if (!all.contains(u"width"_s) && window->screen())
         window->resize(sizeOnScreen(window->size(), window->screen()->availableSize()));
     component.completeCreate();
@@ -129,7 +129,7 @@ void Scenes::forget(QQuickWindow *window)
     if (window == m_settings)
         m_settings = nullptr;
     m_issues.removeIf([window](const auto &entry) { return entry.value() == window; });
-    // Its own code may be running.
+    // The window's own code may be running.
     window->deleteLater();
     m_leaving.removeAll(nullptr);
     m_leaving.append(window);

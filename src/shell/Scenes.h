@@ -12,39 +12,39 @@
 
 #include <memory>
 
-/// The windows of the program: one main window, one window for each issue key, one for the settings. Asking for one that
-/// is there brings it forward; windows of issues and of the settings are gone when they are closed, the main window is
-/// kept for the next time.
+/// The windows of the program: one main window, one window for each issue key, and one for the settings. Opening a
+/// window that exists raises it. Windows of issues and of the settings are destroyed when they are closed, and the main
+/// window is kept for the next time.
 class Scenes : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All references outlive the windows.
+    /// All references must outlive the windows.
     Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences);
     ~Scenes() override;
 
-    /// Null before the main window was first shown.
+    /// The main window. Null before it was first shown.
     QQuickWindow *mainWindow() const { return m_main.get(); }
-    /// Null unless the issue has a window.
+    /// The window of an issue. Null if the issue has none.
     QQuickWindow *issueWindow(const QString &key) const { return m_issues.value(key); }
     QQuickWindow *settingsWindow() const { return m_settings; }
-    /// No window can be seen.
+    /// True if no window is visible.
     bool isAllClosed() const;
 
-    /// False when the description of the window cannot be loaded.
+    /// False if the QML description of the window cannot be loaded.
     bool showMain();
     void showIssue(const QString &key);
     void showSettings();
 
 Q_SIGNALS:
-    /// The last window that could be seen was closed.
+    /// The last visible window was closed.
     void allClosed();
 
 private:
     QVariantMap mainProperties();
     QQuickWindow *make(const QString &file, const QVariantMap &properties);
-    /// Follows a window from now on.
+    /// Starts to observe a window.
     void watch(QQuickWindow *window);
     void forget(QQuickWindow *window);
 
@@ -55,6 +55,6 @@ private:
     std::unique_ptr<QQuickWindow> m_main;
     QHash<QString, QQuickWindow *> m_issues;
     QQuickWindow *m_settings = nullptr;
-    /// Closed, and to be deleted with the next turn of the event loop.
+    /// Windows that are closed and will be deleted in the next iteration of the event loop.
     QList<QPointer<QQuickWindow>> m_leaving;
 };

@@ -16,7 +16,7 @@ class SettingsTab
     Q_PROPERTY(QString symbol MEMBER symbol CONSTANT FINAL)
 
 public:
-    /// As it is stored.
+    /// The identifier that is stored in the preferences.
     QString value;
     QString title;
     QString symbol;
@@ -24,7 +24,7 @@ public:
     bool operator==(const SettingsTab &) const = default;
 };
 
-/// The tabs of the settings that have something to show, and which one is chosen, which outlives the process.
+/// The settings tabs that have content, and the chosen one, which is remembered across starts.
 class SettingsTabs : public QObject
 {
     Q_OBJECT
@@ -38,10 +38,10 @@ public:
     explicit SettingsTabs(Preferences &preferences, QObject *parent = nullptr);
 
     QList<SettingsTab> tabs() const;
-    /// The stored tab where that is one of them, else the first.
+    /// The stored tab if it exists, otherwise the first one.
     QString tab() const;
     void setTab(const QString &tab);
-    /// In this system's words.
+    /// The title in the terms of this system.
     QList<ShortcutGroup> shortcuts() const;
 
 Q_SIGNALS:

@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The keys for things of one kind.
+// The shortcuts of one group.
 Column {
     id: root
 

@@ -6,7 +6,7 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.Theme
 
-// All that keys do, to read.
+// A reference of all keyboard shortcuts.
 Flickable {
     id: root
 

@@ -6,7 +6,7 @@ import Velmora.Model
 import Velmora.State
 import Velmora.Theme
 
-// One line of the sidebar's list: a section's title, a row to pick, or the words in place of projects.
+// One line of the sidebar's list: the title of a section, a selectable row, or the text shown in place of projects.
 Item {
     id: root
 
@@ -18,7 +18,7 @@ Item {
     required property bool isSelected
     required property string badgeText
     required property string accessibleName
-    // The row has the keyboard's focus, and it is to be seen.
+    // The row has the keyboard focus, and the focus is visible.
     property bool isFocused: false
     readonly property bool isSection: kind === SidebarEnums.Section
 

@@ -8,17 +8,17 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The left pane: where the user picks what to look at.
+// The left pane, in which the user chooses the list of issues to show.
 FocusScope {
     id: root
 
     required property AppStore store
-    // Over the issues, not beside them; a choice or Escape puts it away.
+    // The sidebar is shown above the issues and not beside them. A choice or Escape closes it.
     property bool isFloating: false
 
     signal dismissed()
 
-    // The menu of the project that is shown.
+    // Opens the menu of the project that is shown.
     function openProjectMenu() {
         list.positionViewAtIndex(workspace.projectRow, ListView.Contain);
         const line = list.itemAtIndex(workspace.projectRow) as SidebarLine;
@@ -57,7 +57,7 @@ FocusScope {
     ListView {
         id: list
 
-        // The key monitor leaves the arrows and Return to a list that walks its own rows.
+        // Tells the key monitor to leave the arrow keys and Return to this list, which moves through its rows itself.
         readonly property bool walksItsRows: true
 
         anchors.top: header.bottom

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A square of `side` logical pixels, for screens of one to three device pixels each.
+/// A square of `side` logical pixels, for screens with one to three device pixels per logical pixel.
 QIcon drawn(qreal side, const std::function<void(QPainter &)> &paint)
 {
     QIcon icon;

@@ -5,9 +5,9 @@
 
 #include <QIcon>
 
-/// Icons for native menus, which cannot hold a live drawing. Each is drawn once.
+/// Icons for native menus, which can only show bitmaps. Each is drawn once.
 
-/// The icon of a status, 14 wide; a finished status has the accent's colour.
+/// The icon of a status, 14 wide. A finished status has the accent colour.
 QIcon statusMenuIcon(const IssueStatus &status, AccentChoice accent);
-/// The program's mark, which can be told apart on light panels and on dark ones.
+/// The program's mark, recognizable on light and dark panels.
 QIcon statusItemIcon();

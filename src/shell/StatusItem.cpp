@@ -10,7 +10,7 @@ namespace {
 
 using Kind = StatusMenuEntry::Kind;
 
-/// A menu takes a lone "&" for the mark of a key.
+/// Doubles each "&", because menus interpret a single one as the marker of a mnemonic.
 QString menuText(QString text)
 {
     return text.replace(u'&', u"&&"_s);
@@ -32,7 +32,7 @@ StatusItem::StatusItem(AppStore &store) : m_store(store)
     m_icon.setToolTip(u"Velmora"_s);
     m_icon.setIcon(statusItemIcon());
     m_icon.setContextMenu(&m_menu);
-    // A plain click, where the desktop tells of it.
+    // A plain click, on desktops that report it.
     connect(&m_icon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 if (reason == QSystemTrayIcon::Trigger)

@@ -6,14 +6,15 @@
 #include <QObject>
 #include <QSystemTrayIcon>
 
-/// The program's item among the desktop's status items, with its menu. It follows the store; what is chosen it tells, or
-/// does where that needs no window. Make it only where such items are shown.
+/// The program's item among the desktop's status items, with its menu. It follows the store. A choice in the menu is
+/// reported by a signal if it needs a window, and carried out directly otherwise. Create it only on desktops that show
+/// such items.
 class StatusItem : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The store outlives it.
+    /// The store must outlive this object.
     explicit StatusItem(AppStore &store);
 
     QMenu &menu() { return m_menu; }

@@ -10,17 +10,17 @@ struct StatusMenuEntry
     Kind kind;
     /// Empty for a divider.
     QString text;
-    /// For issues only.
+    /// Set only for issues.
     QString issueKey;
     IssueStatus status;
 
     bool operator==(const StatusMenuEntry &) const = default;
 };
 
-/// Whether there is a screen to make an issue on.
+/// Whether there is a screen for creating an issue.
 enum class IssueCreation { Offered, Withheld };
 
-/// The menu from top to bottom: in a session the first twelve of the user's open issues, in every phase the way to the
-/// main window and out of the program.
+/// The menu from top to bottom: during a session the first twelve open issues of the user, and in every phase the
+/// entries that show the main window and quit the program.
 QList<StatusMenuEntry> statusMenu(AppStore::Phase phase, const IssueList &openIssues,
                                   IssueCreation creation);

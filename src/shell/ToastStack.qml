@@ -5,7 +5,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The toasts now shown, oldest first. They come in and go out at the bottom edge.
+// The current toasts, oldest first. They appear and disappear at the bottom edge.
 ListView {
     id: root
 

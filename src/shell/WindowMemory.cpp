@@ -63,7 +63,7 @@ std::optional<QRect> frameOnScreens(const QRect &frame, const QList<QRect> &scre
 QSize sizeOnScreen(const QSize &usual, const QSize &room)
 {
     constexpr QSize smallestMain(940, 580);
-    // The desktop's own is known only once the window is there; few are higher.
+    // The real height of the title bar is known only after the window is shown. Few are higher than this.
     constexpr int titleBar = 40;
     const bool holdsTheProgram =
         room.width() >= smallestMain.width() && room.height() >= smallestMain.height();

@@ -11,24 +11,23 @@
 
 #include <optional>
 
-/// The frame as it fits on one of the screens, none of which is hidden: no larger than the screen that it lies on most,
-/// and moved into it. Nothing if it lies on none.
+/// The frame, adjusted to fit completely on one of the screens: it is made no larger than the screen that it overlaps
+/// most, and moved into that screen. Absent if it overlaps no screen.
 std::optional<QRect> frameOnScreens(const QRect &frame, const QList<QRect> &screens);
 
-/// The size of a window that comes up for the first time, where the screen leaves that much room: no larger than the room,
-/// less the height of a title bar. A screen that does not hold the smallest main window, 940 × 580, is left to the
-/// desktop.
+/// The size of a window that is shown for the first time, reduced to the available area minus the height of a title
+/// bar. If the area is smaller than the smallest main window, 940 × 580, the size is left to the desktop.
 QSize sizeOnScreen(const QSize &usual, const QSize &room);
 
-/// Remembers size, place and pane widths of the main window in the preferences, from one start to the next.
+/// Stores the size, the position and the pane widths of the main window in the preferences.
 class WindowMemory : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the composition root")
-    /// 210 to 320.
+    /// In logical pixels, 210 to 320.
     Q_PROPERTY(int sidebarWidth READ sidebarWidth WRITE setSidebarWidth NOTIFY changed FINAL)
-    /// 380 to 780.
+    /// In logical pixels, 380 to 780.
     Q_PROPERTY(int inspectorWidth READ inspectorWidth WRITE setInspectorWidth NOTIFY changed FINAL)
 
 public:
@@ -40,9 +39,9 @@ public:
     int inspectorWidth() const { return m_inspectorWidth; }
     void setInspectorWidth(int width);
 
-    /// What a window that opens now is given: x, y, width, height and visibility, as far as they are remembered.
+    /// The initial properties of a new window: x, y, width, height and visibility, as far as they are stored.
     QVariantMap initialProperties(const QList<QRect> &screens) const;
-    /// Remembers the window when it closes or the program ends.
+    /// Stores the state of the window when it closes or the program ends.
     void follow(QQuickWindow *window);
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -57,6 +56,6 @@ private:
     int m_sidebarWidth;
     int m_inspectorWidth;
     QPointer<QQuickWindow> m_window;
-    /// Of the window while it is neither maximized nor full screen.
+    /// The frame of the window while it is neither maximized nor full screen.
     QRect m_frame;
 };

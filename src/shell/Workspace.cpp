@@ -6,7 +6,7 @@ int neighbourRow(const QList<SidebarRow> &rows, int from, int direction)
     const int edge = direction > 0 ? -1 : int(rows.size());
     for (int row = (from < 0 ? edge : from) + direction; row >= 0 && row < rows.size();
          row += direction) {
-        // A project's row and the row of all its issues bear one scope; a step between them would lead nowhere.
+        // A project and its list of all issues have the same scope, so a step between their rows would change nothing.
         if (rows[row].scope && rows[row].scope != present)
             return row;
     }

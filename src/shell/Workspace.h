@@ -6,21 +6,22 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// The sidebar's rules: how the site and its user are called above the list, and how the keyboard walks the rows.
+/// The rules of the sidebar: the names of the site and of its user above the list, and the movement through the rows by
+/// keyboard.
 class Workspace : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
-    /// The first letter of the site's name; empty without a site.
+    /// The first letter of the site's name. Empty without a site.
     Q_PROPERTY(QString initial READ initial NOTIFY changed FINAL)
     Q_PROPERTY(QString userName READ userName NOTIFY changed FINAL)
-    /// Empty where the service does not disclose it.
+    /// Empty if the service does not disclose it.
     Q_PROPERTY(QString userEmail READ userEmail NOTIFY changed FINAL)
-    /// The row of the present scope; -1 for a scope that no row bears.
+    /// The row of the present scope. -1 if no row has that scope.
     Q_PROPERTY(int selectedRow READ selectedRow NOTIFY rowsChanged FINAL)
 
-    /// The row of the project that the present scope belongs to; -1 without one.
+    /// The row of the project that the present scope belongs to. -1 if there is none.
     Q_PROPERTY(int projectRow READ projectRow NOTIFY rowsChanged FINAL)
 
 public:
@@ -34,8 +35,8 @@ public:
     int selectedRow() const;
     int projectRow() const;
 
-    /// Selects the next row above (-1) or below (1) that can be selected, if there is one; from no selection, the first
-    /// or the last.
+    /// Selects the next selectable row above (-1) or below (1), if there is one. Without a selection, selects the last
+    /// (-1) or the first (1) selectable row.
     Q_INVOKABLE void selectNeighbour(int direction);
 
 Q_SIGNALS:
@@ -47,6 +48,6 @@ private:
     QPointer<AppStore> m_store;
 };
 
-/// The row that `selectNeighbour` goes to: the next with a scope other than that of `from`, or `from` itself when there is
-/// none in that direction.
+/// The target row of `selectNeighbour`: the next row with a scope other than that of `from`, or `from` itself if there
+/// is none in that direction.
 int neighbourRow(const QList<SidebarRow> &rows, int from, int direction);

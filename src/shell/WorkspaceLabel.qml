@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The site's square with its letter, its name, and the sign that a menu hangs below.
+// The square with the site's initial, the site's name, and a chevron that indicates a menu.
 Item {
     id: root
 
@@ -13,7 +13,7 @@ Item {
     implicitHeight: 22
 
     Rectangle {
-        // Whole device pixels: without graphics hardware Qt frays round corners that end between two of them.
+        // Whole device pixels, because the software renderer draws ragged rounded corners that end between two pixels.
         width: Math.round(22 * Screen.devicePixelRatio) / Screen.devicePixelRatio
         height: width
         radius: Metrics.radiusSquare

@@ -11,13 +11,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Between two pictures: a thirtieth of a second, rounded up; twice that where the processor draws the whole window.
+/// The time between two frames: a thirtieth of a second, rounded up, and twice that if the whole window is drawn by the
+/// software renderer.
 constexpr auto FramePeriod = 34ms;
 constexpr auto SoftwareFramePeriod = 67ms;
 constexpr QSize FieldSize(96, 64);
-/// Where the field stands while it is still, in seconds.
+/// The time at which the still field is shown, in seconds.
 constexpr double StillTime = 10;
-/// Time counts from the first instant of 2001, in UTC.
+/// The origin of time is the start of 2001 in UTC.
 constexpr qint64 ReferenceMilliseconds = 978307200000;
 
 } // namespace
@@ -41,7 +42,7 @@ void AnimatedMeshBackground::setStill(bool still)
 
 bool AnimatedMeshBackground::eventFilter(QObject *object, QEvent *event)
 {
-    // The window takes note of its exposure when it handles the event, which is after this filter.
+    // The window updates its exposed state when it handles the event, which is after this filter.
     if (event->type() == QEvent::Expose || event->type() == QEvent::Hide)
         QMetaObject::invokeMethod(this, &AnimatedMeshBackground::refreshMoving,
                                   Qt::QueuedConnection);

@@ -5,15 +5,15 @@
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
-/// A slowly drifting field of colours, at most 30 pictures a second, and none while nobody sees them: the window hidden
-/// or covered, or the item invisible. Works with every renderer.
+/// A slowly drifting field of colours, drawn at most 30 times a second. It is not redrawn while it cannot be seen:
+/// while the window is hidden or covered, or the item is invisible. Works with every renderer.
 class AnimatedMeshBackground : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// The field stands still, always in the same place.
+    /// The field does not move and always shows the same state.
     Q_PROPERTY(bool still READ isStill WRITE setStill NOTIFY stillChanged FINAL)
-    /// Pictures are being made.
+    /// The animation is running.
     Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged FINAL)
 
 public:

@@ -6,21 +6,21 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// The rules of the form that takes a site, an e-mail and a token.
+/// The rules of the sign-in form, which takes a site, an e-mail address and a token.
 class ConnectForm : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Whoever sets it fills site and e-mail with those of the last sign-in; the token is never read back.
+    /// Setting the store fills in the site and the e-mail address of the last sign-in. The token is never read back.
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
     Q_PROPERTY(QString site READ site WRITE setSite NOTIFY siteChanged FINAL)
     Q_PROPERTY(QString email READ email WRITE setEmail NOTIFY emailChanged FINAL)
     Q_PROPERTY(QString token READ token WRITE setToken NOTIFY tokenChanged FINAL)
     Q_PROPERTY(bool connecting READ connecting NOTIFY connectingChanged FINAL)
-    /// Why the last attempt failed; empty when it did not.
+    /// The reason why the last attempt failed. Empty if it did not fail.
     Q_PROPERTY(QString error READ error NOTIFY errorChanged FINAL)
     Q_PROPERTY(bool canConnect READ canConnect NOTIFY canConnectChanged FINAL)
-    /// Where the token is kept, in the words of this system.
+    /// The place where the token is stored, in the terms of this system.
     Q_PROPERTY(QString keychainHint READ keychainHint CONSTANT FINAL)
 
 public:
@@ -36,16 +36,17 @@ public:
     void setToken(const QString &token);
     bool connecting() const { return *m_connecting; }
     const QString &error() const { return *m_error; }
-    /// A site and a token that are more than blanks, and no attempt under way. The e-mail may be empty: that is how a
-    /// personal access token is entered.
+    /// Site and token contain more than white space, and no attempt is running. The e-mail address may be empty, which
+    /// is how a personal access token is entered.
     bool canConnect() const { return *m_canConnect; }
     static QString keychainHint();
 
-    /// Signs in with what was typed, if it can. On success the token is forgotten; on failure everything stays as typed.
+    /// Signs in with the entered values, if `canConnect` holds. On success the token is cleared. On failure all values
+    /// stay.
     Q_INVOKABLE void connect();
     using QObject::connect;
     Q_INVOKABLE void dismissError() { m_error.set({}); }
-    /// Opens the page on which a token is made.
+    /// Opens the web page for creating a token.
     Q_INVOKABLE void openTokenPage();
 
 Q_SIGNALS:
@@ -58,7 +59,7 @@ Q_SIGNALS:
     void canConnectChanged();
 
 private:
-    /// A property, with what QML needs to know of its changes.
+    /// The value of a property, with the change signal that QML needs.
     template <typename T>
     class Field
     {

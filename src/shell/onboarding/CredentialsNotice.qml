@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// Says that a saved session could not be opened, why, and what to do.
+// Tells the user that a saved session could not be opened, why, and what to do.
 Rectangle {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora.Theme
 
-// What lies under a field on glass: a quiet fill, and in focus an inner line and a glow.
+// The background of a field on glass: a subtle fill and, with the focus, an inner line and a glow.
 Rectangle {
     id: root
 

@@ -3,13 +3,14 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.Theme
 
-// One row of the form: a symbol and a field. A secure one shows dots, and screen readers hear neither them nor the text.
+// One row of the form: a symbol and a field. A secure field shows dots, and neither the dots nor the text is exposed to
+// screen readers.
 FocusScope {
     id: root
 
     required property string symbol
     required property string placeholder
-    // Not called text: screen readers read a property of that name.
+    // Not called `text`, because screen readers read a property of that name.
     property alias typed: field.text
     property bool secure: false
 

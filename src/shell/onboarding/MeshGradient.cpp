@@ -20,7 +20,7 @@ constexpr std::array Colors = {
     Color{0.12, 0.10, 0.28}, Color{0.38, 0.20, 0.62}, Color{0.08, 0.10, 0.22},
 };
 
-/// The indices of the first corner of the four quads; the others are one to the right and one row down.
+/// The indices of the first corner of the four quads. The other corners are one to the right and one row down.
 constexpr std::array<std::size_t, 4> Quads = {0, 1, 3, 4};
 
 double cross(const QPointF &a, const QPointF &b)
@@ -38,7 +38,8 @@ bool isWithin(double x)
     return x >= -1e-4 && x <= 1.0001;
 }
 
-/// Where in a quad, in shares of its sides, a place lies: the inverse of the bilinear map of its corners.
+/// The coordinates of a point within a quad, as fractions of its sides: the inverse of the bilinear map of the quad's
+/// corners.
 class Quad
 {
 public:
@@ -62,7 +63,7 @@ public:
     }
 
 private:
-    /// The root of a quadratic equation that lies within the quad.
+    /// The root of a quadratic equation for which the point lies within the quad.
     double downShare(const QPointF &offset) const
     {
         const double square = cross(m_skew, m_down);
@@ -81,7 +82,7 @@ private:
     QPointF m_skew;
 };
 
-/// How far outside its quad a place is; 0 within.
+/// The distance of a point from its quad. 0 inside.
 double distance(const QPointF &shares)
 {
     return std::max({0.0, -shares.x(), shares.x() - 1, -shares.y(), shares.y() - 1});

@@ -5,14 +5,14 @@
 
 #include <array>
 
-/// A field of nine colours, three by three over the unit square, whose middle slowly drifts.
+/// A field of nine colours, three by three over the unit square, whose middle point slowly drifts.
 namespace MeshGradient {
 
 /// The control points, row by row from the top, `time` in seconds.
 std::array<QPointF, 9> points(double time);
-/// The colour at a place of the unit square, smooth between the control points.
+/// The colour at a point of the unit square, interpolated smoothly between the control points.
 QRgb colorAt(const QPointF &place, double time);
-/// The field in that many pixels, opaque. It is so smooth that few are enough, stretched.
+/// The field as an opaque image of `size` pixels. The field is so smooth that a small image can be stretched.
 QImage image(const QSize &size, double time);
 
 } // namespace MeshGradient

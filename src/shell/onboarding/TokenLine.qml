@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.Theme
 
-// Where a token is made, and where it is kept.
+// The link for creating a token, and a note on where the token is stored.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The words of the link to the page of tokens.
+// The label of the link to the page for creating tokens.
 Item {
     id: root
 
