@@ -24,8 +24,8 @@ SiteChange assignment(const QDateTime &date, const QString &from, const QString 
     return {.date = date, .author = u"lea"_s, .field = u"assignee"_s, .from = from, .to = to};
 }
 
-/// One project with sprints (A), one without (B), and one issue for each case that a query can distinguish.
-Site smallSite()
+/// One project with sprints (A) and one without (B).
+Site siteWithoutIssues()
 {
     Site site;
     site.now = [] { return now; };
@@ -42,6 +42,13 @@ Site smallSite()
          .statuses = statuses,
          .hasSprints = false},
     };
+    return site;
+}
+
+/// The two projects with one issue for each case that a query can distinguish.
+Site smallSite()
+{
+    Site site = siteWithoutIssues();
     int rank = 100;
     const auto add = [&](const QString &key, const QString &status, SiteIssue issue) {
         issue.id = key;
