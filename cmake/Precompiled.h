@@ -1,4 +1,4 @@
-// What nearly every source includes; compiled once per target.
+// Headers that most sources include; compiled once per target.
 #pragma once
 
 #include <QCoro/QCoroTask>

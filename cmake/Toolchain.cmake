@@ -1,4 +1,4 @@
-# Compiler, warnings, sanitizers, cache and linker: the same for every target of ours.
+# Compiler, warnings, sanitizers, cache and linker: the same for all our targets.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 14)
     message(FATAL_ERROR "GCC before 14 destroys temporaries of a statement with co_await twice; use Clang 19.")
 endif()
@@ -10,7 +10,7 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(QT_QML_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
-# Some optimisation even in daily work: the tests walk large inputs, and -Og keeps a backtrace readable.
+# Light optimisation also in daily work, because the tests process large inputs; backtraces stay readable.
 set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
 
 find_program(CCACHE ccache)
@@ -29,14 +29,14 @@ target_compile_definitions(velmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 target_compile_options(velmora_options INTERFACE
-    # Some libraries ask for it; a precompiled header is shared only among those that agree.
+    # Some libraries require it; targets share a precompiled header only if they agree on it.
     -pthread
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror
-    # Qt's static plugin glue repeats declarations; our own code is covered by clang-tidy.
+    # Designated initialisers leave out the members that keep their defaults.
     -Wno-missing-field-initializers)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    # A precompiled header can be cached without its time stamp, and used in another checkout when it holds the text of
-    # the files that it was made from.
+    # A precompiled header without a time stamp can be cached, and one that contains the text of its files can be used in
+    # another checkout.
     add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-Xclang -fno-pch-timestamp -Xclang -fmodules-embed-all-files>"
         -fdebug-compilation-dir=.)
 endif()

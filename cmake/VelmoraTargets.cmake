@@ -1,8 +1,8 @@
-# Targets in the words a reviewer needs: a name, its files, and whom it may know.
+# Functions that declare targets: a name, its files and its dependencies.
 include_guard()
 
 # _velmora_common(<target> [PRECOMPILED <the target whose precompiled header it shares>]
-#                 [HEADERS <what its own precompiled header holds beside the usual>])
+#                 [HEADERS <further headers of its own precompiled header>])
 function(_velmora_common target)
     cmake_parse_arguments(ARG "" "PRECOMPILED" "HEADERS" ${ARGN})
     target_link_libraries(${target} PRIVATE velmora_options)
@@ -14,8 +14,8 @@ function(_velmora_common target)
     endif()
 endfunction()
 
-# velmora_library(<name> SOURCES <files> [DEPENDS <targets whose types its headers show>]
-#                 [USES <targets that only its sources know>])
+# velmora_library(<name> SOURCES <files> [DEPENDS <targets that its headers include>]
+#                 [USES <targets that only its sources include>])
 function(velmora_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;USES" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
@@ -33,15 +33,15 @@ function(velmora_qml_module name)
         URI ${ARG_URI}
         VERSION 1.0
         RESOURCE_PREFIX /qt/qml
-        # Not IMPORTS: those are followed again for every document that imports the module, a seventh of a start.
+        # Not IMPORTS: the engine resolves those again for every document that imports the module, a seventh of the start.
         DEPENDENCIES ${ARG_IMPORTS}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS}
         RESOURCES ${ARG_RESOURCES}
         SOURCES ${ARG_SOURCES})
-    # The full ahead-of-time compiler of Qt 6.4 turns a failed type lookup into an endless loop; bytecode does not.
+    # With the full ahead-of-time compiler of Qt 6.4 a failed type lookup is an endless loop; with bytecode it is not.
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
     target_link_libraries(${name} PUBLIC Qt6::Qml ${ARG_DEPENDS} PRIVATE ${ARG_USES})
-    # The generated registration names headers without their folders.
+    # The generated registration code includes headers without their folders.
     foreach(source ${ARG_SOURCES})
         cmake_path(GET source PARENT_PATH folder)
         target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
@@ -53,19 +53,19 @@ function(velmora_qml_module name)
     endif()
 endfunction()
 
-# velmora_test(<name> [OPTIMISED] [FIXTURE <a header below tests/ that most of its sources include, worth a precompiled header>]
+# velmora_test(<name> [OPTIMISED] [FIXTURE <a header below tests/ that most of its sources include; it is precompiled>]
 #              SOURCES <files> DEPENDS <targets>): one GoogleTest program, one ctest entry.
 function(velmora_test name)
     cmake_parse_arguments(ARG "OPTIMISED" "FIXTURE" "SOURCES;DEPENDS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_DEPENDS} test_support)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    # Nearly all of a test runs once: optimising it takes longer than running it.
+    # Most code of a test runs once: optimising it takes longer than running it.
     if(ARG_OPTIMISED)
         _velmora_common(${name})
     elseif(ARG_FIXTURE)
         _velmora_common(${name} HEADERS <gtest/gtest.h> <${ARG_FIXTURE}>)
-        # The templates that the fixture needs are made once, with the header.
+        # The templates that the fixture needs are instantiated once, with the header.
         target_compile_options(${name} PRIVATE -O0 -fpch-instantiate-templates)
     else()
         _velmora_common(${name} PRECOMPILED test_precompiled)
