@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QRectF>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
