@@ -7,6 +7,7 @@ gi.require_version("Gio", "2.0")
 gi.require_version("GLib", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
+from . import calls
 from .bus import connected_to
 from .waiting import DriverError
 
@@ -19,6 +20,12 @@ STATES = ("invalid active armed busy checked collapsed defunct editable enabled 
 PROPERTIES = "org.freedesktop.DBus.Properties"
 _A = "org.a11y.atspi."
 EXTENTS = (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,)))
+# What a dump reads of every object, and of those whose place is asked for.
+READ = (calls.Call(_A + "Accessible", "GetRoleName", calls.text_at),
+        calls.Call(PROPERTIES, "Get", calls.variant_text, "ss", calls.strings(_A + "Accessible", "Name")),
+        calls.Call(_A + "Accessible", "GetState", calls.numbers),
+        calls.Call(_A + "Accessible", "GetChildren", calls.addresses))
+READ_PLACE = calls.Call(_A + "Component", "GetExtents", calls.place, "u", bytes(4))
 
 
 def prop(iface, name):
@@ -188,6 +195,10 @@ class A11y:
         bus = session.dbus()
         answer = bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, 10000, None)
         self.conn = connected_to(answer.unpack()[0])
+        self.batches = calls.Connection(answer.unpack()[0], timeout_ms / 1000)
+
+    def close(self):
+        self.batches.close()
 
     def call(self, bus, path, iface, method, args=None, reply=None):
         try:
@@ -204,48 +215,22 @@ class A11y:
         return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                          "GetConnectionUnixProcessID", GLib.Variant("(s)", (bus,)))[0]
 
-    def batch(self, calls):
-        """Sends all calls (bus, path, interface, method, args) at once; their answers in order, None for a failed one."""
-        out, left = [None] * len(calls), len(calls)
-        ctx = GLib.MainContext.new()
-        ctx.push_thread_default()
-
-        def done(conn, res, i):
-            nonlocal left
-            left -= 1
-            try:
-                out[i] = conn.call_finish(res).unpack()
-            except GLib.Error:
-                pass
-        try:
-            for i, (bus, path, iface, method, args) in enumerate(calls):
-                self.conn.call(bus, path, iface, method, args, None, Gio.DBusCallFlags.NONE, self.timeout, None, done,
-                               i)
-            while left:
-                ctx.iteration(True)
-        finally:
-            ctx.pop_thread_default()
-        return out
-
     def read(self, nodes):
         """Fills role, name and states of many nodes in one round of calls, and returns their children's addresses."""
-        acc = _A + "Accessible"
-        calls = [(acc, "GetRoleName", None), prop("Accessible", "Name"), (acc, "GetState", None),
-                 (acc, "GetChildren", None)]
-        got = self.batch([(n.bus, n.path) + c for n in nodes for c in calls])
+        got = self.batches.batch([(n.bus, n.path, call) for n in nodes for call in READ])
         kids = []
         for k, n in enumerate(nodes):
-            role, name, state, children = got[k * len(calls):(k + 1) * len(calls)]
-            n.role, n.name = (v[0] if v else "" for v in (role, name))
-            bits = sum(w << (32 * i) for i, w in enumerate(state[0])) if state else 0
+            role, name, state, children = got[k * len(READ):(k + 1) * len(READ)]
+            n.role, n.name = role or "", name or ""
+            bits = sum(w << (32 * i) for i, w in enumerate(state or ()))
             n.states = frozenset(s for i, s in enumerate(STATES) if bits >> i & 1)
-            kids.append([c for c in children[0] if not c[1].endswith("/null")] if children else [])
+            kids.append([c for c in children or () if not c[1].endswith("/null")])
         return kids
 
     def read_places(self, nodes):
         """Reads where many nodes are in one round of calls."""
-        for n, found in zip(nodes, self.batch([(n.bus, n.path) + EXTENTS for n in nodes])):
-            n.rect = found and tuple(found[0])
+        for n, found in zip(nodes, self.batches.batch([(n.bus, n.path, READ_PLACE) for n in nodes])):
+            n.rect = found
 
     def tree(self, bus, path, max_nodes=5000, showing_only=False):
         root = Node(self, bus, path)

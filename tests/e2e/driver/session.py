@@ -385,6 +385,8 @@ class Session:
                 pass
         if self.tray_host:
             self.tray_host.stop()
+        if self._a11y:
+            self._a11y.close()
         if self.x:
             self.x.close()
             self.x = None
