@@ -16,25 +16,25 @@ import sys
 from fontTools import subset
 from fontTools.ttLib import TTFont
 
-# Latin, combining marks, Greek, Cyrillic; then punctuation, currencies, arrows, mathematics and signs.
+# Latin, combining marks, Greek, Cyrillic; then punctuation, currencies, arrows, mathematics and symbols.
 CHARACTERS = [
     (0x20, 0x24F), (0x2B0, 0x36F), (0x370, 0x52F), (0x1E00, 0x1EFF), (0x2000, 0x20CF), (0x2100, 0x22FF),
     (0x2300, 0x23FF), (0x2460, 0x24FF), (0x2500, 0x27BF), (0x2900, 0x297F), (0x2B00, 0x2BFF), (0xFB00, 0xFB06),
 ]
 EVERYTHING = [code for first, last in CHARACTERS for code in range(first, last + 1)]
-# Without contextual alternates and ligatures: a text is shown as it was written, "3x1" and "->" included.
+# No contextual alternates and ligatures, so that texts such as "3x1" and "->" are shown as written.
 FEATURES = ["kern", "mark", "mkmk", "ccmp", "locl"]
 
-# Name of the source and the characters that stay.
+# The name of the source and the characters that are kept.
 INTER = [
     ("Inter-Regular", EVERYTHING), ("Inter-Medium", EVERYTHING), ("Inter-SemiBold", EVERYTHING),
     ("Inter-Bold", EVERYTHING), ("InterDisplay-SemiBold", EVERYTHING), ("InterDisplay-Bold", EVERYTHING),
-    # Only the exclamation mark of the urgent priority is this heavy.
+    # Used only for the exclamation mark of the urgent priority.
     ("Inter-Black", [ord("!")]),
 ]
 TABULAR = ["Inter-Regular", "Inter-Medium", "Inter-SemiBold"]
-# Qt rounds a font's size to whole pixels. For the two half sizes of the type scale there are families whose glyphs are
-# smaller in their em by as much as the rounding adds: name of the family, style, size wanted, size asked for.
+# Qt rounds a font's size to whole pixels. For the two half sizes of the type scale there are families with smaller glyphs,
+# which compensate for the rounding: name of the family, style, intended size, requested size.
 HALVES = [
     ("Inter Eleven Half", "Regular", 11.5, 12), ("Inter Eleven Half", "Medium", 11.5, 12),
     ("Inter Ten Half", "Medium", 10.5, 11), ("Inter Ten Half", "SemiBold", 10.5, 11),
@@ -73,7 +73,7 @@ def rename(font, family):
 
 
 def shrink(font, wanted, asked):
-    """Makes the em so much larger that a text asked for at one size comes out at the other."""
+    """Enlarges the em so that a text requested at one size has the other size."""
     em = round(font["head"].unitsPerEm * asked / wanted)
     font["head"].unitsPerEm = em
     font["CFF "].cff.topDictIndex[0].FontMatrix = [1 / em, 0, 0, 1 / em, 0, 0]
@@ -100,7 +100,7 @@ def take_own_names(font):
 
 def write(font, folder, name):
     take_own_names(font)
-    # The same input gives the same bytes, so that a build can be repeated.
+    # No time stamp, so that the same input gives the same bytes.
     font.recalcTimestamp = False
     font.save(os.path.join(folder, name))
 

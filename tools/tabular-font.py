@@ -1,4 +1,4 @@
-"""Makes "Inter Tabular": Inter whose digits are its own tabular ones, for a Qt without font features.
+"""Makes "Inter Tabular": Inter with its tabular digits, because Qt 6.4 cannot enable font features.
 
 The glyphs are unchanged: the character map points the ten digits at the glyphs of the feature "tnum". The result stays
 under the SIL Open Font License and has a name of its own.

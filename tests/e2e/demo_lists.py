@@ -1,4 +1,4 @@
-"""The demo's lists, told a second time and apart from the program: its data, and the rules that make lists of it."""
+"""The expected lists of the demo, computed independently of the program from the same data and rules."""
 import datetime
 import zoneinfo
 from typing import NamedTuple, Optional
@@ -6,7 +6,7 @@ from typing import NamedTuple, Optional
 ZONE = zoneinfo.ZoneInfo("Europe/Paris")
 STATUSES = ["Backlog", "À faire", "En cours", "En revue", "Terminé", "Annulé"]
 CLOSED = (4, 5)
-# The orders of status groups: work under way leads a list, finished work leads a recap.
+# The orders of status groups: issues in progress come first in a list, closed issues in a recap.
 LIST_ORDER = [3, 2, 1, 0, 4, 5]
 RECAP_ORDER = [4, 3, 2, 1, 0, 5]
 USERS = {"me": "Noam Talvère", "nora": "Nora Valmy", "basile": "Basile Rochat", "maud": "Maud Ferrand",
@@ -18,7 +18,7 @@ class Row(NamedTuple):
     key: str
     title: str
     status: int
-    priority: Optional[int]     # 0 is the most pressing
+    priority: Optional[int]     # 0 is the highest
     assignee: str
     labels: str
     in_sprint: bool
@@ -38,7 +38,7 @@ class Row(NamedTuple):
 
     @property
     def level(self):
-        """Low and lowest are one level; no priority comes last."""
+        """Low and lowest are the same level; issues without priority come last."""
         return 4 if self.priority is None else min(self.priority, 3)
 
 
@@ -94,7 +94,7 @@ def reporter(row):
 
 
 def groups(rows, order, rank):
-    """[(title, [keys])] of the status groups, the rows of each by rank."""
+    """[(title, [keys])] of the status groups, each sorted by rank."""
     found = [(STATUSES[status], [row.key for row in sorted(rows, key=rank) if row.status == status]) for status in order]
     return [(title, keys) for title, keys in found if keys]
 
@@ -141,7 +141,7 @@ def events(row, now):
 
 
 def week(now, offset):
-    """The Monday that begins a week, and the one that ends it."""
+    """The start of a week's Monday, and that of the next one."""
     monday = now.astimezone(ZONE).date() - datetime.timedelta(days=now.astimezone(ZONE).weekday()) \
         + datetime.timedelta(weeks=offset)
     start, end = (datetime.datetime.combine(day, datetime.time(), ZONE) for day in (monday, monday + datetime.timedelta(7)))
@@ -149,14 +149,14 @@ def week(now, offset):
 
 
 def recap(now, offset):
-    """The groups of my recap of this week (offset 0) or of an earlier one; of equal dates the smaller key first."""
+    """The groups of the user's recap of this week (offset 0) or of an earlier one; equal dates are sorted by key."""
     dates = last_dates(now, offset)
     return groups([row for row in ROWS if row.key in dates], RECAP_ORDER,
                   lambda row: (-dates[row.key].timestamp(), row.key))
 
 
 def last_dates(now, offset):
-    """{key: date of its last event in the week} for the issues of my recap."""
+    """{key: date of its last event in the week} for the issues of the user's recap."""
     start, end = week(now, offset)
     logs = {row.key: [event for event in events(row, now) if start <= event[0] < end] for row in ROWS}
     return {row.key: max(logs[row.key])[0] for row in ROWS
@@ -164,7 +164,7 @@ def last_dates(now, offset):
 
 
 def with_equals_by_key(listed, now, offset):
-    """The same recap; issues whose last events have one date stand in any order, and here by their keys."""
+    """The same recap with issues of equal dates sorted by key, since their order is not defined."""
     dates = last_dates(now, offset)
     return [(title, sorted(keys, key=lambda key: (keys.index(first_of_date(keys, dates, key)), key)))
             for title, keys in listed]
@@ -175,7 +175,7 @@ def first_of_date(keys, dates, key):
 
 
 def matching(found, text):
-    """The groups with only those issues that the text is found in; the text is given folded."""
+    """The groups without the issues that do not contain the text, which is given folded."""
     def holds(key):
         row = ROWS[INDEX[key]]
         return text in fold(" ".join([row.key, row.title, row.labels, USERS.get(row.assignee, "")]))

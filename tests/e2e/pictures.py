@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Takes pictures of the main screens, in light and dark, of a program that runs on a virtual display.
+"""Saves screenshots of the main screens, light and dark, of the program on a virtual display.
 
 Usage: tests/e2e/pictures.py <program> <folder>
 
-Each appearance has a profile of its own that is gone afterwards.
+Each appearance has a temporary profile.
 """
 import os
 import sys
@@ -19,7 +19,7 @@ SCOPES = [("list", "Mes tickets"), ("recap", "Cette semaine"), ("project", "Plat
 
 
 class Album:
-    """The pictures of one appearance."""
+    """The screenshots of one appearance."""
 
     def __init__(self, session, folder, appearance):
         self.session, self.folder, self.appearance = session, folder, appearance

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Runs the tests that drive the built program in a window, with each renderer, several at once.
+"""Runs the window tests of the built program with each renderer, several at once.
 
 Usage: tests/e2e/run.py <program> [--renderer software|opengl] [--results <folder>] [-k <part of a test's name>]
 
-Each test has a process, a desktop and a home of its own. What a failed test saw (picture, accessible tree, what the
-program wrote) is left in the folder of results. Run it with the system's python3.
+Each test has its own process, desktop and home folder. The screenshot, the accessibility tree and the output of a failed
+test are saved in the folder of results. Run it with the system's python3.
 """
 import argparse
 import concurrent.futures
@@ -27,7 +27,7 @@ def arguments():
     parser.add_argument("--renderer", choices=["software", "opengl"], action="append")
     parser.add_argument("--results", default="build/reports/e2e-cases")
     parser.add_argument("-k", dest="patterns", action="append")
-    parser.add_argument("--only", help=argparse.SUPPRESS)  # the one test of a process
+    parser.add_argument("--only", help=argparse.SUPPRESS)  # the only test of a child process
     return parser.parse_args()
 
 
@@ -47,7 +47,7 @@ def names(patterns):
 
 
 def run_here(given):
-    """Runs the one test that this process is for."""
+    """Runs the only test of this process."""
     support.RUN.set(program=given.program, renderer=given.renderer[0], results=given.results)
     test = unittest.defaultTestLoader.loadTestsFromName(given.only)
     result = unittest.TextTestRunner(verbosity=2, warnings="error").run(test)
@@ -57,7 +57,7 @@ def run_here(given):
 
 
 def run_apart(given, renderer, name):
-    """Runs a test in a process of its own; how it went and what it said."""
+    """Runs a test in a child process; its result and output."""
     done = subprocess.run([sys.executable, os.path.abspath(__file__), given.program, "--renderer", renderer,
                            "--results", given.results, "--only", name],
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, errors="replace")
@@ -70,7 +70,7 @@ def main():
         return run_here(given)
     os.makedirs(given.results, exist_ok=True)
     counts = {PASSED: 0, FAILED: 0, SKIPPED: 0}
-    # A test waits for two fifths of its time.
+    # A test spends much of its time waiting, so one more than the cores can run.
     with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0)) + 1) as pool:
         runs = [(renderer, name, pool.submit(run_apart, given, renderer, name))
                 for renderer in given.renderer or ["software", "opengl"] for name in names(given.patterns)]

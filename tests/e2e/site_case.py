@@ -1,4 +1,4 @@
-"""A made-up Jira site to sign in to, and what a person does to get there."""
+"""A simulated Jira site, and the steps of signing in to it."""
 import os
 import re
 
@@ -6,7 +6,7 @@ from support import ISSUE, RUN, WindowCase
 
 
 class Simulator:
-    """A made-up Jira site, running."""
+    """A running simulated Jira site."""
 
     def __init__(self, session):
         build = os.path.dirname(os.path.dirname(os.path.dirname(RUN.program)))
@@ -23,7 +23,7 @@ class Simulator:
 
 
 class SiteCase(WindowCase):
-    """A test with a site and a keyring beside the desktop."""
+    """A test with a simulated site and a keyring."""
 
     def setUp(self):
         super().setUp()
@@ -31,14 +31,14 @@ class SiteCase(WindowCase):
         self.site = Simulator(self.session)
         self.addCleanup(self.site.cut)
 
-    # what a person does
+    # actions of the user
     def open_card(self):
         velmora = self.open()
         velmora.app.find(role="push button", name="^Se connecter$", timeout=15)
         return velmora
 
     def fill(self, site, email, token):
-        """The fields from the first to the last; the first one has the focus."""
+        """Fills the fields from the first, which has the focus, to the last."""
         for number, text in enumerate((site, email, token)):
             if number:
                 self.session.key("Tab")

@@ -1,4 +1,4 @@
-"""What the tests in a window share: a desktop with the program in it, and the words in which the tests speak of it."""
+"""The base of the window tests: a desktop with the program, and operations on the program."""
 import datetime
 import os
 import re
@@ -9,14 +9,14 @@ from driver import DriverError, Session, wait_until
 
 ISSUE = re.compile(r"^([A-Z]+-\d+), ")
 HEADER = re.compile(r"^(.+), \d+ tickets?(, replié)?$")
-# Tall enough for every list of the demo to stand in the window whole.
+# High enough to show every list of the demo completely.
 SCREEN = (1500, 1500)
 WINDOW = (1320, 1440)
 SIDEBAR = 240
 
 
 class Run:
-    """What the whole run was started with."""
+    """The arguments of the whole run."""
 
     def set(self, program, renderer, results):
         self.program, self.renderer, self.results = os.path.abspath(program), renderer, os.path.abspath(results)
@@ -26,7 +26,7 @@ RUN = Run()
 
 
 def write_preferences(session, **values):
-    """Lays preferences into the session's home, as an earlier run of the program would have left them."""
+    """Writes preferences into the session's home, as an earlier run of the program would have saved them."""
     folder = os.path.join(session.env["XDG_CONFIG_HOME"], "Velmora")
     os.makedirs(folder, exist_ok=True)
     with open(os.path.join(folder, "Velmora.ini"), "w") as file:
@@ -34,7 +34,7 @@ def write_preferences(session, **values):
 
 
 class Velmora:
-    """The running program, seen from outside."""
+    """The running program, as its windows and accessibility tree show it."""
 
     def __init__(self, session, program, size=WINDOW):
         self.session = session
@@ -45,9 +45,9 @@ class Velmora:
             self.app.move_window(0, 0, size=size)
         self.app.wait_tree()
 
-    # what it shows
+    # what the program shows
     def title(self):
-        """The heading over the list."""
+        """The heading above the list."""
         return self.app.find(role="heading", where=self.is_beside_the_sidebar).name
 
     def is_beside_the_sidebar(self, node):
@@ -60,7 +60,7 @@ class Velmora:
             issue, header = ISSUE.match(node.name), HEADER.match(node.name)
             if issue and node.role == "list item":
                 if not groups:
-                    # Looked at while the list changes: its header is still to come.
+                    # The list is changing and its header does not exist yet.
                     groups.append((None, []))
                 groups[-1][1].append(issue.group(1))
             elif header and node.role == "push button":
@@ -71,7 +71,7 @@ class Velmora:
         return [key for _, keys in self.listed() for key in keys]
 
     def focused_key(self):
-        """The key of the row with the focus, if any."""
+        """The key of the focused row, or None."""
         focused = [node for node in self.app.all(role="list item", name=ISSUE.pattern, states=("focused",))]
         return ISSUE.match(focused[0].name).group(1) if focused else None
 
@@ -88,12 +88,12 @@ class Velmora:
     def search_field(self):
         return self.app.find(role="text", name="Filtrer")
 
-    # what is done to it
+    # actions of the user
     def tab_to(self, name):
-        """Presses Tab until something of that name has the focus."""
+        """Presses Tab until an object of that name has the focus."""
         seen = [self._focused_names()]
         for _ in range(30):
-            # Beside the control that has the keyboard, the focused issue says so too.
+            # Both the control with the keyboard focus and the focused issue have the state "focused".
             if any(re.search(name, each) for each in seen[-1]):
                 return
             self.session.key("Tab")
@@ -104,15 +104,15 @@ class Velmora:
         return [node.name for node in self.app.all(states=("focused",))]
 
     def _focus_after(self, names):
-        """What has the focus once it has gone on; in a window with one stop it stays."""
+        """The names with the focus after it has moved; in a window with a single tab stop it does not move."""
         try:
             return wait_until(lambda: next(iter([now for now in [self._focused_names()] if now and now != names]), None), 1)
         except DriverError:
             return names
 
-    # what is waited for
+    # waiting
     def wait_listed(self, expected, what, normal=lambda listed: listed):
-        """Waits until exactly these groups are listed; normal brings what may stand in any order into one."""
+        """Waits until exactly these groups are listed. `normal` sorts issues whose order is not defined."""
         seen = []
 
         def look():
@@ -124,7 +124,7 @@ class Velmora:
             raise AssertionError("%s: expected %s, saw %s" % (what, expected, seen)) from None
 
     def wait_recap(self, offset, what):
-        """Waits until my recap of this week (0) or of an earlier one is listed."""
+        """Waits until the user's recap of this week (0) or of an earlier one is listed."""
         self.wait_listed(demo_lists.recap(self.started, offset), what,
                          lambda listed: demo_lists.with_equals_by_key(listed, self.started, offset))
 
@@ -141,12 +141,12 @@ class Velmora:
 
 
 def faults(result):
-    """How many faults a result has so far."""
+    """The number of failures and errors of a result so far."""
     return len(result.failures) + len(result.errors)
 
 
 class WindowCase(unittest.TestCase):
-    """A test with a desktop of its own. It fails too if the program has written anything; what it saw is kept then."""
+    """A test with its own desktop. It also fails if the program has written any output. What a failed test saw is saved."""
     screen = SCREEN
 
     def run(self, result=None):
@@ -166,12 +166,12 @@ class WindowCase(unittest.TestCase):
             self.fail("the program wrote:\n" + said[-2000:])
 
     def open(self, size=WINDOW):
-        """Starts the program on whatever profile the session has."""
+        """Starts the program with the current profile of the session."""
         self.programs.append(Velmora(self.session, RUN.program, size))
         return self.programs[-1]
 
     def open_demo(self, size=WINDOW, **preferences):
-        """Starts the program on the demo, and waits for its first list."""
+        """Starts the program on the demo and waits for its first list."""
         write_preferences(self.session, demoMode="true", **preferences)
         velmora = self.open(size)
         velmora.app.find(role="list item", name=ISSUE.pattern, timeout=15)

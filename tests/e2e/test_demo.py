@@ -1,4 +1,4 @@
-"""The road from the first start into the demo, and back into it after a restart."""
+"""The demo is opened at the first start, and again after a restart."""
 import demo_lists
 from support import ISSUE, WindowCase
 

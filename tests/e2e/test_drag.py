@@ -1,4 +1,4 @@
-"""Dragging issues with the pointer, as the desktop carries them."""
+"""Issues are dragged with the pointer, through the drag and drop of the desktop."""
 from driver import wait_until
 from support import WindowCase
 
@@ -12,12 +12,12 @@ class Drag(WindowCase):
         return velmora
 
     def column(self, velmora, title):
-        """A free place in a column of the board."""
+        """A free point in a column of the board."""
         x, y, width, height = velmora.app.find(role="list", name="^%s, " % title).rect
         return x + width // 2, y + height * 2 // 3
 
     def take(self, velmora, key):
-        """Where a card can be taken: between its head and its foot."""
+        """A point of a card at which a drag can start: between its head and its foot."""
         x, y, width, _ = velmora.row(key).rect
         return x + width // 2, y + 45
 

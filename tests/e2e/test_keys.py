@@ -1,4 +1,4 @@
-"""Walking and filtering by keyboard."""
+"""The focus and the filter are controlled by keyboard."""
 import demo_lists
 from support import WindowCase
 
@@ -14,7 +14,7 @@ class Walking(WindowCase):
         self.session.key("k")
         velmora.wait_focus(PATH[4])
 
-    def test_the_arrows_walk_as_j_and_k_do(self):
+    def test_the_arrow_keys_move_the_focus_as_j_and_k_do(self):
         velmora = self.open_demo()
         self.session.key("Down", "Down")
         velmora.wait_focus(PATH[1])

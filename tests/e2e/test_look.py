@@ -1,4 +1,4 @@
-"""Light and dark, and what the window looks like where a glance can tell."""
+"""The light and the dark appearance of the window."""
 from driver import wait_until
 from gi.repository import GLib
 from support import WindowCase
@@ -9,7 +9,7 @@ DARK, LIGHT = GLib.Variant("u", 1), GLib.Variant("u", 2)
 
 class Appearance(WindowCase):
     def luminance_of_the_list(self, velmora):
-        """Of the empty place under the list's last row, from 0 to 255."""
+        """The brightness below the last row of the list, from 0 to 255."""
         window = velmora.app.window("Velmora")
         self.session.settle()
         red, green, blue = self.session.pixel(window.x + window.width - 60, window.y + window.height - 60)

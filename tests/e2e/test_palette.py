@@ -1,4 +1,4 @@
-"""The palette by keyboard: finding, running, picking, and where the focus is afterwards."""
+"""The palette by keyboard: searching, running actions, setting values, and the focus afterwards."""
 import demo_lists
 from driver import wait_until
 from support import WindowCase

@@ -1,4 +1,4 @@
-"""Everything within reach of the hands: one long way through the demo that never touches the mouse."""
+"""A long session in the demo that reaches every feature by keyboard only."""
 import demo_lists
 from driver import Session, wait_until
 from support import RUN, WindowCase
@@ -12,21 +12,21 @@ class ByKeyboardAlone(WindowCase):
         self.addCleanup(self.session.stop)
         self.programs = []
 
-    # what a person does
+    # actions of the user
     def command(self, velmora, text, row):
-        """Finds a row of the palette by its words and takes it; it is the one that Return takes."""
+        """Searches a row of the palette by its title and activates it with Return; it must be the highlighted one."""
         self.session.key("ctrl+k")
         self.session.type(text)
         velmora.app.find(role="list item", name=row, states=("focused",))
         self.session.key("Return")
 
     def label(self, velmora, text, row):
-        """Takes a row of the picker of labels, which stays open."""
+        """Activates a row of the label picker, which stays open."""
         self.session.type(text)
         velmora.app.find(role="list item", name=row, states=("focused",))
         self.session.key("Return")
 
-    # what a person sees
+    # what the user sees
     def wait_word(self, velmora, key, word):
         velmora.app.find(role="list item", name="^%s, .*%s" % (key, word))
 

@@ -1,4 +1,4 @@
-"""Picking several issues, acting on them and taking them along, with the keyboard alone."""
+"""Several issues are selected, changed and copied by keyboard only."""
 import demo_lists
 from driver import wait_until
 from support import WindowCase
@@ -33,7 +33,7 @@ class Selection(WindowCase):
         for key in five:
             velmora.app.find(role="list item", name="^%s, .*assigné à Noam Talvère, " % key)
 
-    def test_shift_and_the_arrow_select_on_the_way(self):
+    def test_shift_and_the_arrow_keys_extend_the_selection(self):
         velmora = self.open_sprint()
         self.session.key("shift+Down", "shift+Down")
         wait_until(lambda: self.checked(velmora) == SPRINT[:3], 5, 0.1, "three checked rows")

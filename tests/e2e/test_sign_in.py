@@ -1,4 +1,4 @@
-"""The road from the card to a site and back, with a real keyring and a made-up site."""
+"""Signing in to a site and out again, with a real keyring and a simulated site."""
 import os
 import re
 
@@ -12,7 +12,7 @@ class SignIn(SiteCase):
         velmora.app.find(role="push button", name="^Espace ").click()
         velmora.app.find(role="menu item", name="^Se déconnecter$").click()
 
-    # what a person sees
+    # what the user sees
     def wait_sentence(self, velmora, sentence):
         velmora.app.find(name=re.escape(sentence), timeout=15)
         self.assertEqual(velmora.app.all(role="list item", name=ISSUE.pattern), [])

@@ -1,4 +1,4 @@
-"""The status item, and who keeps the process alive."""
+"""The status item, and how long the process runs."""
 import demo_lists
 from driver import Session, wait_until
 from support import RUN, SCREEN, WindowCase

@@ -1,4 +1,4 @@
-"""On a site whose workflow refuses: what was changed by hand goes back, and says why."""
+"""On a site whose workflow refuses a change, the change is reverted and the reason is shown."""
 import re
 
 from driver import wait_until
@@ -7,7 +7,7 @@ from triage_case import SMALL, see_row
 
 
 class RefusedByTheWorkflow(SiteCase):
-    """On this site only what is under way can be reviewed."""
+    """On this site only issues in progress can be moved to review."""
 
     screen = (1900, 1000)
     REFUSAL = "Le workflow Jira ne permet pas de passer à « En revue » depuis le statut actuel."
@@ -28,7 +28,7 @@ class RefusedByTheWorkflow(SiteCase):
         return velmora
 
     def to_do(self, velmora):
-        """The cards of what is to do, by place."""
+        """The cards of the status "to do", by position."""
         cards = velmora.app.all(role="list item", name=r"^PORT-\d+, .*, À faire, ", by_place=True)
         return [card.name.split(",")[0] for card in cards]
 

@@ -1,10 +1,10 @@
-"""Twenty issues are triaged by somebody whose mouse is unplugged."""
+"""Twenty issues are triaged by keyboard only."""
 from driver import wait_until
 from triage_case import PROJECTS, STATUS_DIGITS, TriageCase, in_status
 
 
 class TwentyWithoutMouse(TriageCase):
-    # what a person does
+    # actions of the user
     def open_project(self, key):
         self.session.key("ctrl+k")
         self.velmora.app.find(role="text", states=("focused",))
@@ -15,7 +15,7 @@ class TwentyWithoutMouse(TriageCase):
         self.velmora.app.find(role="list item", name="^%s-" % key)
 
     def go_to(self, key):
-        """Walks to an issue, down first."""
+        """Moves the focus to an issue, first downwards."""
         for step in ("j", "k"):
             for _ in range(8):
                 seen, focused = self.issues_in_sight()
@@ -27,7 +27,7 @@ class TwentyWithoutMouse(TriageCase):
         raise AssertionError("no way to %s" % key)
 
     def pick(self, letter, row):
-        """Chooses in a picker by typing what the row says."""
+        """Chooses a row of a picker by typing its title."""
         self.session.key(letter)
         self.velmora.app.find(role="text", states=("focused",))
         self.session.type(row)
@@ -40,7 +40,7 @@ class TwentyWithoutMouse(TriageCase):
         self.velmora.app.find(role="list item", name="^%s$" % status)
         self.session.key(STATUS_DIGITS[status])
 
-    # the way
+    # the test
     def test_twenty_issues(self):
         self.open_walk()
         self.filter_group_and_change_three_at_once()
@@ -127,7 +127,7 @@ class TwentyWithoutMouse(TriageCase):
         self.session.key("l")
         self.session.type("docs")
         self.velmora.app.find(role="list item", name="^docs$", states=("focused",))
-        # The picker stays for more labels: its text goes first, then the picker, then the palette below it.
+        # The picker stays open for more labels. Escape clears its text, then closes it, then closes the palette.
         self.session.key("Return", "Escape", "Escape", "Escape")
         self.velmora.app.gone(role="text", states=("focused",))
         for key in three:

@@ -1,4 +1,4 @@
-"""Twenty issues are triaged by somebody who has only a pointer."""
+"""Twenty issues are triaged by pointer only."""
 from support import ISSUE
 from triage_case import LARGE, PROJECTS, SMALL, TriageCase, in_status
 
@@ -6,7 +6,7 @@ from triage_case import LARGE, PROJECTS, SMALL, TriageCase, in_status
 class TwentyWithoutKeyboard(TriageCase):
     worlds = ((LARGE, "dark"), (SMALL, "light"))
 
-    # what a person does
+    # actions of the user
     def open_project(self, key):
         self.velmora.scope(PROJECTS[key]).click()
         self.see_title(PROJECTS[key])
@@ -19,7 +19,7 @@ class TwentyWithoutKeyboard(TriageCase):
             self.session.settle()
 
     def bring(self, key):
-        """Turns the wheel until the row is whole in sight, clear of the pinned header and of the selection bar."""
+        """Turns the wheel until the row is completely visible between the pinned header and the selection bar."""
         area = self.velmora.app.find(role="list", name=", \\d+ tickets?$").rect
         for _ in range(12):
             rows = self.velmora.app.all(role="list item", name="^%s, " % key)
@@ -31,25 +31,25 @@ class TwentyWithoutKeyboard(TriageCase):
         raise AssertionError("no way to %s" % key)
 
     def press_beside(self):
-        """Puts the display options away by a press on a row beside them, which does no more than that."""
+        """Closes the display options by a press on a row beside them, which has no other effect."""
         row = self.velmora.app.find(role="list item", name=ISSUE.pattern)
         row.click(at=(row.rect[0] + 110, row.centre[1]))
         self.velmora.app.gone(role="dialog", name="^Options d'affichage$")
         self.assertEqual(self.velmora.app.all(role="panel", name="^Inspecteur$"), [])
 
     def pick_in_row(self, key, cell, option):
-        """Opens the picker of a row's icon and takes a row of it."""
+        """Opens the picker of a row's icon and activates one of its rows."""
         self.bring(key).find(role="push button", name="^%s : " % cell).click()
         self.choose(("list item", "^%s" % option))
 
     def take(self, key):
-        """Where a card can be taken: between its head and its foot."""
+        """A point of a card at which a drag can start: between its head and its foot."""
         x, y, width, _ = self.velmora.row(key).rect
         right = self.velmora.app.window("Velmora").width
         return min(x + width // 2, right - 20), y + 45
 
     def column(self, title):
-        """A place in a column that is well inside the window: near its edge the board would scroll away below a drag."""
+        """A point in a column far from the edges of the window: near an edge a drag scrolls the board."""
         for _ in range(12):
             x, y, width, height = self.velmora.app.find(role="list", name="^%s, " % title).rect
             if x + width // 2 < self.size[0] - 70:
@@ -58,11 +58,11 @@ class TwentyWithoutKeyboard(TriageCase):
         raise AssertionError("no way to %s" % title)
 
     def tilt(self):
-        """A notch of the wheel to the right."""
+        """Tilts the wheel by one notch to the right."""
         self.session.scroll_sideways((self.size[0] - 200, 400), 1)
         self.session.settle()
 
-    # the way
+    # the test
     def test_twenty_issues(self):
         self.open_walk()
         self.filter_group_and_change_three_at_once()
@@ -103,7 +103,7 @@ class TwentyWithoutKeyboard(TriageCase):
         for key in in_status("MOB", 3) + in_status("MOB", 2) + in_status("MOB", 1)[:3]:
             self.bring(key).click()
             self.velmora.app.find(role="panel", name="^Inspecteur$")
-            # It slides in.
+            # The inspector slides in.
             self.session.settle()
             inspector = self.velmora.app.find(role="panel", name="^Inspecteur$")
             inspector.find(role="push button", name="^Priorité").click()
@@ -134,7 +134,7 @@ class TwentyWithoutKeyboard(TriageCase):
         self.drag(in_status("SUP", 3)[0], "En cours")
 
     def bring_card(self, key):
-        """Tilts the wheel, a notch at a time, until enough of the card is in sight to take it."""
+        """Tilts the wheel, one notch at a time, until enough of the card is visible to drag it."""
         for _ in range(12):
             cards = self.velmora.app.all(role="list item", name="^%s, " % key)
             if cards and cards[0].rect[0] < self.size[0] - 100:

@@ -1,4 +1,4 @@
-"""The main window among others: where it comes up, and how it takes half a screen."""
+"""The position of the main window, and its layout on half a screen."""
 import demo_lists
 from driver import wait_until
 from support import WindowCase
@@ -31,10 +31,10 @@ class SmallScreen(WindowCase):
 
 
 class SmallSteps(WindowCase):
-    """A fractional scale: pixels that are neither plane nor pane would be a gap or a blurred edge."""
+    """At a fractional scale, a colour that belongs to no pane would be a gap or a blurred edge."""
 
     def columns_of_colour(self, y, left, right):
-        """The colours along a line, each once where it begins."""
+        """The sequence of colours along a line."""
         width, _, pixels = self.session.x.grab((left, y, right - left, 1))
         row = [tuple(pixels[4 * x:4 * x + 3]) for x in range(width)]
         return [colour for at, colour in enumerate(row) if at == 0 or colour != row[at - 1]]

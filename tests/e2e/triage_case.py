@@ -1,4 +1,4 @@
-"""What a long way through the demo needs: twenty issues that change, and what has to be seen of each."""
+"""The base of the long tests in the demo: twenty issues that change, and the checks of each change."""
 import re
 
 import demo_lists
@@ -6,7 +6,7 @@ from driver import DriverError, wait_until
 from support import ISSUE, RUN, WindowCase
 
 PROJECTS = {"MOB": "App mobile", "WEB": "Plateforme web", "DS": "Design System", "SUP": "Support client"}
-# The order in which statuses are offered, as digits choose them.
+# The digit that chooses each status in its picker.
 STATUS_DIGITS = {title: str(number + 1) for number, title in enumerate(demo_lists.STATUSES)}
 SMALL, LARGE = (940, 580), (2560, 1440)
 
@@ -17,7 +17,7 @@ def in_status(project, status):
 
 
 def see_row(velmora, key, *words):
-    """Waits until the issue's row or card says these words, in this order."""
+    """Waits until the row or card of the issue contains these words, in this order."""
     try:
         velmora.app.find(role="list item", name="^%s, .*%s" % (key, ".*".join(map(re.escape, words))))
     except DriverError:
@@ -26,7 +26,7 @@ def see_row(velmora, key, *words):
 
 
 class TriageCase(WindowCase):
-    """Each renderer walks in a window of another size and appearance, given as (software, OpenGL)."""
+    """Each renderer has a window of a different size and appearance, given as (software, OpenGL)."""
 
     worlds = ((SMALL, "dark"), (LARGE, "light"))
 
@@ -40,9 +40,9 @@ class TriageCase(WindowCase):
         self.velmora = self.open_demo(size=self.size, appearance=self.appearance)
         return self.velmora
 
-    # what a person sees
+    # what the user sees
     def see(self, key, *words):
-        """Waits until the issue's row or card says these words, and remembers that it was dealt with."""
+        """Waits until the row or card of the issue contains these words, and counts the issue as triaged."""
         see_row(self.velmora, key, *words)
         self.triaged[key] = words
 
@@ -50,11 +50,11 @@ class TriageCase(WindowCase):
         wait_until(lambda: self.velmora.title() == title, 5, 0.05, "the heading %r" % title)
 
     def see_count(self, count):
-        """The line under the heading."""
+        """Waits for this number of issues in the line below the heading."""
         self.velmora.app.find(role="label", name="^%s$" % ("1 ticket" if count == 1 else "%d tickets" % count))
 
     def see_groups(self, *titles):
-        """All groups from top to bottom; in a low window those in sight."""
+        """Waits for these groups, from top to bottom; in a low window for the visible ones."""
         seen = []
 
         def look():
@@ -66,7 +66,7 @@ class TriageCase(WindowCase):
             raise AssertionError("expected the groups %s, saw %s" % (titles, seen)) from None
 
     def issues_in_sight(self):
-        """The keys in the order in which j walks them, and the one with the focus, if it is among them."""
+        """The visible keys in the order in which J moves the focus, and the focused one, or None."""
         rows = self.velmora.app.all(role="list item", name=ISSUE.pattern)
         in_columns = sorted(rows, key=lambda row: row.rect[:2])
         focused = [key_of(row) for row in rows if "focused" in row.states]

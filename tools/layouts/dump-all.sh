@@ -1,5 +1,5 @@
 #!/bin/sh
-# Writes the tables of all layouts that the tests of the key map know.
+# Writes the tables of all keyboard layouts in the tests of the key map.
 set -eu
 cd "$(dirname "$0")"
 target=../../tests/commands/layouts

@@ -1,9 +1,9 @@
-// Part of tools/tidy, loaded into clang-tidy: keeps its checks to what is declared outside system headers.
+// Part of tools/tidy, loaded into clang-tidy: restricts the checks to declarations outside system headers.
 //
-// clang-tidy walks through every declaration of Qt and the standard library with every check, and then throws away what
-// it has found there. That walk is most of its time. Here it is told, before it sets out, what to walk through: each
-// declaration at the top of a file of ours, whole. Types and functions of a library are still seen wherever our code
-// names them.
+// clang-tidy visits every declaration of Qt and the standard library with every check, and then discards the findings in
+// system headers. This takes most of its time. The plugin sets the traversal scope before any check runs: the top-level
+// declarations of our own files, with all that is in them. Types and functions of a library are still resolved where our
+// code uses them. See docs/decisions/0012-clang-tidy-plugin.md.
 #include <clang-tidy/ClangTidyCheck.h>
 #include <clang-tidy/ClangTidyModule.h>
 #include <clang-tidy/ClangTidyModuleRegistry.h>

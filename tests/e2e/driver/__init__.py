@@ -1,6 +1,5 @@
-"""Drives a desktop program from outside, as a person would: an X server, a window manager and a session bus of its own,
-keys and pointer by XTest, pictures of the screen, and the accessible tree to see with. It needs no hook in the program.
-Runs with the system's python3, its standard library and gi.
+"""Controls a desktop program from outside: with its own X server, window manager and session bus, keys and pointer through
+XTest, screenshots and the accessibility tree. The program needs no support for it. Runs with the system's python3, its standard library and gi.
 """
 from .a11y import A11y, Node
 from .app import App

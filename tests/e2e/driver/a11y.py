@@ -1,4 +1,4 @@
-"""What a program says of itself over AT-SPI: its tree of accessible objects, read and worked over D-Bus."""
+"""The accessibility tree of a program: AT-SPI objects, read and controlled over D-Bus."""
 import re
 from functools import cached_property
 
@@ -20,7 +20,7 @@ STATES = ("invalid active armed busy checked collapsed defunct editable enabled 
 PROPERTIES = "org.freedesktop.DBus.Properties"
 _A = "org.a11y.atspi."
 EXTENTS = (_A + "Component", "GetExtents", GLib.Variant("(u)", (0,)))
-# What a dump reads of every object, and of those whose place is asked for.
+# The calls that read every object of a tree, and the one that reads the position of an object.
 READ = (calls.Call(_A + "Accessible", "GetRoleName", calls.text_at),
         calls.Call(PROPERTIES, "Get", calls.variant_text, "ss", calls.strings(_A + "Accessible", "Name")),
         calls.Call(_A + "Accessible", "GetState", calls.numbers),
@@ -34,8 +34,8 @@ def prop(iface, name):
 
 
 class Node:
-    """An accessible object, with the role, name and states that it had at the moment of the dump; the rest is read when
-    it is first asked for."""
+    """An accessible object with the role, name and states that it had when the tree was read. Other values are read at
+    their first use."""
 
     def __init__(self, a11y, bus, path, parent=None, depth=0):
         self.a11y, self.bus, self.path, self.parent, self.depth = a11y, bus, path, parent, depth
@@ -71,7 +71,7 @@ class Node:
         return rect and tuple(rect)
 
     def _asked(self, interface, *call, default=None):
-        """The first value of an answer; the default from what is gone or does not have the interface."""
+        """The first value of an answer; the default if the object no longer exists or does not have the interface."""
         if interface not in ("Accessible", "Component") and interface not in self.interfaces:
             return default
         try:
@@ -83,17 +83,17 @@ class Node:
         return self.a11y.call(self.bus, self.path, _A + iface, method, args, reply)
 
     def refresh(self):
-        """Reads the node's own values again; its children stay as they are."""
+        """Reads the values of the node again, but not its children."""
         for asked in ("description", "interfaces", "text", "value", "actions", "rect"):
             self.__dict__.pop(asked, None)
         self.a11y.read([self])
         return self
 
     def awake(self):
-        """Asks the program something and waits for the answer."""
+        """Sends the program a call and waits for the answer."""
         self._call("Accessible", "GetRoleName")
 
-    # what it is
+    # properties
     @property
     def showing(self):
         return "showing" in self.states
@@ -129,8 +129,8 @@ class Node:
             by_place=False):
         """Nodes below (and with) this one; role, name, text and description are regular expressions, searched.
 
-        by_place sorts by place on screen, top to bottom then left to right: a list's rows need not stand in order in
-        the tree.
+        by_place sorts by position on screen, top to bottom and then left to right, because the order of rows in the
+        tree is not defined.
         """
         def ok(n):
             return ((role is None or re.search(role, n.role)) and (name is None or re.search(name, n.name))
@@ -140,7 +140,7 @@ class Node:
         got = [n for n in self.walk() if ok(n)]
         if where or by_place:
             self.a11y.read_places(got)
-            # What has lost its place since the tree was read shows no longer.
+            # An object without a position has been hidden since the tree was read.
             got = [n for n in got if (n.rect or not showing) and (where is None or where(n))]
         return sorted(got, key=lambda n: (n.rect or (0, 0))[1::-1]) if by_place else got
 
@@ -150,7 +150,7 @@ class Node:
             raise DriverError("no node with %s" % kw)
         return got[0]
 
-    # what it can do
+    # actions
     @property
     def centre(self):
         x, y, w, h = self.rect
@@ -228,7 +228,7 @@ class A11y:
         return kids
 
     def read_places(self, nodes):
-        """Reads where many nodes are in one round of calls."""
+        """Reads the positions of many nodes in one round of calls."""
         for n, found in zip(nodes, self.batches.batch([(n.bus, n.path, READ_PLACE) for n in nodes])):
             n.rect = found
 

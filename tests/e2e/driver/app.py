@@ -33,7 +33,7 @@ class App:
             return f.read().decode("utf-8", "replace")
 
     def wait_log(self, pattern, timeout=10):
-        """Waits until what the program wrote to its standard output and error matches."""
+        """Waits until the output of the program matches."""
         return wait_until(lambda: re.search(pattern, self.log()), timeout, 0.05, "log %r" % pattern)
 
     def need_running(self):
@@ -106,7 +106,7 @@ class App:
         raise DriverError("program is not on the accessibility bus")
 
     def answer(self):
-        """Waits for an answer of the program, if it has been on the accessibility bus: its events have taken a turn."""
+        """Waits for an answer of the program, which it sends after its pending events. Does nothing before its tree was read."""
         if self.tree and self.running:
             self.tree.awake()
 
@@ -128,7 +128,7 @@ class App:
         return self.refresh().all(**kw)
 
     def find(self, timeout=5, **kw):
-        """The first showing node that fits; waits for it."""
+        """Waits for a showing node that matches, and returns the first one."""
         kw.setdefault("showing", True)
 
         def look():
@@ -160,7 +160,7 @@ class App:
         raise DriverError("no window")
 
     def first_paint_ms(self, timeout=30, colours=8):
-        """Milliseconds from exec to a window that shows at least that many colours, hence real content."""
+        """Milliseconds from exec to a window that shows at least that many colours, so that it has content."""
         end = self.t_exec + timeout
         while time.monotonic() < end:
             for w in self.session.x.windows(self.pid):
@@ -205,7 +205,7 @@ class App:
         return int(s[11]) + int(s[12]), switches
 
     def idle(self, seconds=10):
-        """What the program does when left alone: dict(cpu_ticks, cpu_percent, wakeups_per_s, by_thread)."""
+        """The activity of the idle program: dict(cpu_ticks, cpu_percent, wakeups_per_s, by_thread)."""
         t0, c0 = self._counters()
         time.sleep(seconds)
         t1, c1 = self._counters()

@@ -1,4 +1,4 @@
-"""Names of keys as people write them, as X knows them."""
+"""Converts names of keys into keysym names of X."""
 
 MODIFIERS = {"ctrl": "Control_L", "shift": "Shift_L", "alt": "Alt_L", "super": "Super_L", "meta": "Super_L"}
 _KEYS = {"enter": "Return", "return": "Return", "esc": "Escape", "escape": "Escape", "tab": "Tab", "space": "space",

@@ -18,7 +18,7 @@ _XML = """<node><interface name="org.freedesktop.portal.Settings">
 
 
 class SettingsPortal:
-    """Answers reads on a thread of its own, and tells of changes. Values are by group and key."""
+    """Answers reads on its own thread and signals changes. `values` is keyed by group and key."""
 
     def __init__(self, address, values):
         self._values, self._ready = dict(values), threading.Event()
@@ -46,7 +46,7 @@ class SettingsPortal:
         if value is None:
             answer.return_dbus_error("org.freedesktop.portal.Error.NotFound", "no such setting")
         else:
-            # A read wraps its value twice.
+            # The answer of Read wraps its value in two variants.
             answer.return_value(GLib.Variant("(v)", (GLib.Variant("v", value),)))
 
     def change(self, group, key, value):

@@ -1,4 +1,4 @@
-"""Child processes that outlive nobody."""
+"""Child processes that end with their parent."""
 import ctypes
 import os
 import select
@@ -11,7 +11,7 @@ _libc = ctypes.CDLL(None)
 
 
 def die_with_parent():
-    """For a child's preexec: nothing outlives a killed driver."""
+    """For the preexec of a child: it is terminated when its parent is killed."""
     _libc.prctl(1, signal.SIGTERM)          # PR_SET_PDEATHSIG
 
 

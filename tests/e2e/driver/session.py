@@ -1,4 +1,4 @@
-"""An isolated desktop: X server, window manager, D-Bus, accessibility, a home of its own."""
+"""An isolated desktop: X server, window manager, D-Bus, accessibility, home folder."""
 import os
 import shutil
 import signal
@@ -100,7 +100,7 @@ class Session:
                          "LC_COLLATE": lang, "LANG": lang if lang.split(".")[0].lower() in _generated() else "C.UTF-8"})
         self.env.update(_RENDERERS[renderer])
         self.env.update(extra)
-        # what the program opens outside lands in a folder instead
+        # addresses and files that the program opens are recorded in a folder
         opener = os.path.join(d, "bin", "xdg-open")
         with open(opener, "w") as f:
             f.write('#!/bin/sh\nprintf "%%s\\n" "$@" >> "%s/opened/list"\n' % d)
@@ -115,7 +115,7 @@ class Session:
         os.close(r)
         self.env["DISPLAY"] = self.display
         self.x = XDisplay(self.display)
-        # session bus, with only the services asked for
+        # session bus, with only the service of the accessibility bus
         addr_path = os.path.join(d, "run", "bus")
         sdir = os.path.join(d, "services")
         shutil.copy("/usr/share/dbus-1/services/org.a11y.Bus.service", sdir)
@@ -166,13 +166,13 @@ class Session:
 
     # services
     def start_keyring(self):
-        """The real keyring of a desktop, unlocked, with its files in the session's home."""
+        """Starts the real keyring, unlocked, with its files in the session's home."""
         self._spawn(["sh", "-c", "printf 'a password' | exec gnome-keyring-daemon --foreground --unlock "
                      "--components=secrets"])
         self._wait_name("org.freedesktop.secrets")
 
     def start_portal(self, values):
-        """The desktop's settings, as (group, key) to GLib.Variant; gives the portal, which can change them."""
+        """Starts a portal with settings of the desktop, {(group, key): GLib.Variant}, and returns it."""
         portal = SettingsPortal(self.env["DBUS_SESSION_BUS_ADDRESS"], values)
         self._wait_name("org.freedesktop.portal.Desktop")
         return portal
@@ -186,7 +186,7 @@ class Session:
         return app
 
     def run(self, argv, timeout=30, **kw):
-        """Runs a tool inside the session: the CompletedProcess with text output."""
+        """Runs a command in the session and returns its CompletedProcess with text output."""
         return subprocess.run(argv, env=self.env, timeout=timeout, text=True, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, **kw)
 
@@ -199,7 +199,7 @@ class Session:
             time.sleep(delay)
 
     def type(self, text, delay_ms=8):
-        """Types text of any characters into what has the focus."""
+        """Types any text into the object with the focus."""
         self.x.type_text(text, delay_ms / 1000)
 
     def xdotool(self, *args, timeout=30):
@@ -271,15 +271,15 @@ class Session:
         self.await_programs()
 
     def _await_picture(self, x, y, before):
-        """Waits until what is dragged hangs on the pointer, as a window of its own; a program paints that picture first,
-        which can take a while. What is pulled without one (a handle) is none the worse for it."""
+        """Waits until the dragged picture follows the pointer, as a separate window, because a program may need some time
+        to paint it. Drags without a picture (of a handle) continue after the time-out."""
         end = time.monotonic() + 3
         while time.monotonic() < end and self._floating() <= before:
             for step in (1, 0):
                 self._pull(x + step, y, 0.02)
 
     def _floating(self):
-        """The windows that no window manager cares for: menus, hints, what is dragged."""
+        """The windows without a window manager: menus, tooltips, dragged pictures."""
         return {window.id for app in self._apps for window in app.windows() if window.override}
 
     def release(self):
@@ -288,13 +288,13 @@ class Session:
         time.sleep(0.15)
 
     def await_programs(self):
-        """Waits until every program has seen the input so far. On a busy machine one that lags behind would be given
-        many steps of the pointer as a single one."""
+        """Waits until every program has processed the input so far. On a busy machine, several pointer motions would
+        otherwise reach it as a single one."""
         self.x.x11.XSync(self.x.d, 0)
         for app in self._apps:
             app.answer()
 
-    # seeing
+    # screen
     def screenshot(self, path, rect=None):
         """Saves the screen, or a rectangle, a window or a node of it, as PNG."""
         if rect is not None and not isinstance(rect, tuple):
@@ -308,12 +308,12 @@ class Session:
         return px[2], px[1], px[0]
 
     def settle(self, quiet=0.25, timeout=10):
-        """Waits until nothing has been painted for a while; False if the screen never rests."""
+        """Waits until nothing has been painted for `quiet` seconds; False if that does not happen."""
         self.x.watch_damage()
         end = time.monotonic() + timeout
         while time.monotonic() < end:
             if not self.x.next_damage(quiet):
-                # What rests may also be a program that has not had its turn.
+                # The program may also not have processed its events yet.
                 self.await_programs()
                 if not self.x.next_damage(0.05):
                     return True
@@ -331,7 +331,7 @@ class Session:
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=True)
 
     def opened(self):
-        """Addresses and files that programs gave to the default browser or application."""
+        """The addresses and files that programs opened in the default browser or application."""
         try:
             with open(os.path.join(self.dir, "opened", "list")) as f:
                 return f.read().split("\n")[:-1]
@@ -377,7 +377,7 @@ class Session:
 
     # ending
     def stop(self):
-        """Ends every process that the session started, by pid, and removes its folder."""
+        """Ends every process that the session started and removes its folder."""
         for a in self._apps:
             try:
                 a.stop()

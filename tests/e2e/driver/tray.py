@@ -109,7 +109,7 @@ class TrayItem:
         return conv(root)["children"]
 
     def choose(self, label):
-        """Clicks the first entry whose label matches the regular expression; the menu may be about to be told anew."""
+        """Clicks the first entry whose label matches the regular expression. Waits for it, because the menu may be changing."""
         def flat(es):
             for e in es:
                 yield e

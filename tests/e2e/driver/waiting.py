@@ -1,13 +1,13 @@
-"""Waiting for something to become true, with a limit."""
+"""Waiting for a condition, with a time limit."""
 import time
 
 
 class DriverError(Exception):
-    """Something that the driver waited for or asked for did not happen."""
+    """A condition or an answer that the driver waited for did not occur."""
 
 
 def wait_until(fn, timeout=10.0, every=0.05, what="condition"):
-    """Calls fn until it gives a true value, and returns that value."""
+    """Calls fn until it returns a true value, and returns that value."""
     end = time.monotonic() + timeout
     while True:
         value = fn()

@@ -77,7 +77,7 @@ def _xlibs():
     sig(xdmg, "XDamageQueryExtension", i, p, C.POINTER(i), C.POINTER(i))
     sig(xdmg, "XDamageCreate", ul, p, ul, i)
     handler_t = C.CFUNCTYPE(C.c_int, p, C.POINTER(_XErrorEvent))
-    handler = handler_t(lambda d, e: 0)        # a window may vanish under us
+    handler = handler_t(lambda d, e: 0)        # a window may disappear at any time
     x11.XSetErrorHandler.argtypes = [handler_t]
     x11.XSetErrorHandler.restype = p
     x11.XSetErrorHandler(handler)
@@ -101,7 +101,7 @@ def write_png(path, width, height, bgrx):
 
 
 class Window:
-    """A mapped top-level window, as read at one moment."""
+    """The properties of a mapped top-level window at one moment."""
 
     def __init__(self, **kw):
         self.__dict__.update(kw)
@@ -250,7 +250,7 @@ class XDisplay:
         self.x11.XFlush(self.d)
 
     def _layout(self):
-        """The keyboard map: {keysym: (keycode, shifted)} and the keycodes that carry nothing."""
+        """The keyboard map: {keysym: (keycode, shifted)}, and the keycodes without keysyms."""
         lo, hi, per = C.c_int(), C.c_int(), C.c_int()
         self.x11.XDisplayKeycodes(self.d, C.byref(lo), C.byref(hi))
         n = hi.value - lo.value + 1
@@ -277,13 +277,13 @@ class XDisplay:
         while at < len(syms):
             where, spare = self._layout()
             spare, end, new = spare[:-2], at, []
-            while end < len(syms):                        # the longest run that the spare keys can carry
+            while end < len(syms):                        # the longest run that fits on the spare keys
                 if syms[end] not in where and syms[end] not in new:
                     if len(new) == len(spare):
                         break
                     new.append(syms[end])
                 end += 1
-            if end == at:                                 # no spare key left: empty those that we took
+            if end == at:                                 # no spare key left: clear those in use
                 empty = (C.c_ulong * 2)(0, 0)
                 for k in self._taken:
                     self.x11.XChangeKeyboardMapping(self.d, k, 2, empty, 1)
