@@ -3,8 +3,8 @@
 
 Usage: tests/e2e/run.py <program> [--renderer software|opengl] [--results <folder>] [-k <part of a test's name>]
 
-Each test has its own process, desktop and home folder. The screenshot, the accessibility tree and the output of a failed
-test are saved in the folder of results. Run it with the system's python3.
+Each test has its own process, desktop and home folder. The screenshot, the accessibility tree and the output of a
+failed test are saved in the folder of results. Run it with the system's python3.
 """
 import argparse
 import concurrent.futures

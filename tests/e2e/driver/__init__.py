@@ -1,5 +1,6 @@
-"""Controls a desktop program from outside: with its own X server, window manager and session bus, keys and pointer through
-XTest, screenshots and the accessibility tree. The program needs no support for it. Runs with the system's python3, its standard library and gi.
+"""Controls a desktop program from outside: with its own X server, window manager and session bus, keys and pointer
+through XTest, screenshots and the accessibility tree. The program needs no support for it. Runs with the system's
+python3, its standard library and gi.
 """
 from .a11y import A11y, Node
 from .app import App

@@ -1,8 +1,9 @@
 """Many D-Bus calls at once.
 
-Reading the accessibility tree takes four calls for each object, and a call through GLib's Python bindings costs more time
-than the called program and the bus together. This module therefore writes and reads the messages itself. It implements
-the part of the protocol that the tree needs: method calls, little-endian answers, and the types of their bodies.
+Reading the accessibility tree takes four calls for each object, and a call through GLib's Python bindings costs more
+time than the called program and the bus together. This module therefore writes and reads the messages itself. It
+implements the part of the protocol that the tree needs: method calls, little-endian answers, and the types of their
+bodies.
 """
 import os
 import select
