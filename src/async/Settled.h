@@ -1,5 +1,6 @@
 #pragma once
 
+#include "async/WhileAlive.h"
 #include "model/Failure.h"
 
 #include <QCoro/QCoroTask>
@@ -24,7 +25,8 @@ using Settled = std::expected<T, TaskFailure>;
 
 /// Awaits `task` and returns its result or its failure as a value, so that several tasks can run concurrently and be
 /// examined one after the other. `kept` holds the objects that the task uses; they are destroyed after the task has
-/// ended. Exceptions that are not a `Failure` are rethrown.
+/// ended. An exception that is not a `Failure` is a fault of the program; it becomes a failure too, so that the user
+/// is told. `OwnerGone` is rethrown.
 template <typename T>
 QCoro::Task<Settled<T>> settled(std::shared_ptr<const void> kept, QCoro::Task<T> task)
 {
@@ -39,5 +41,10 @@ QCoro::Task<Settled<T>> settled(std::shared_ptr<const void> kept, QCoro::Task<T>
     } catch (const Failure &failure) {
         const bool isCancellation = dynamic_cast<const Cancelled *>(&failure) != nullptr;
         co_return Settled<T>(std::unexpect, failure.message(), isCancellation);
+    } catch (const OwnerGone &) {
+        throw;
+    } catch (const std::exception &) {
+        co_return Settled<T>(std::unexpect, QStringLiteral("Une erreur inattendue est survenue."),
+                             false);
     }
 }

@@ -16,6 +16,31 @@ public:
     const char *what() const noexcept override { return "the owner of the task is gone"; }
 };
 
+/// Awaits `task`, whose owner may go before `caller` does: gives `otherwise` in place of a result when only the task's
+/// owner is gone.
+template <typename T>
+QCoro::Task<T> unlessGone(QPointer<QObject> caller, QCoro::Task<T> task, T otherwise)
+{
+    try {
+        co_return co_await task;
+    } catch (const OwnerGone &) {
+        if (!caller)
+            throw;
+    }
+    co_return otherwise;
+}
+
+/// The same for a task without a result.
+inline QCoro::Task<> unlessGone(QPointer<QObject> caller, QCoro::Task<> task)
+{
+    try {
+        co_await task;
+    } catch (const OwnerGone &) {
+        if (!caller)
+            throw;
+    }
+}
+
 /// Awaits `task` on behalf of a member function of `owner`. Returns its result or throws its failure as long as the
 /// owner exists, and throws `OwnerGone` instead once the owner was destroyed. Member functions of QObjects await
 /// everything through this function.
