@@ -1,6 +1,7 @@
 #include "jira/JiraClient.h"
 
 #include "async/Settled.h"
+#include "jira/IssueSearch.h"
 #include "jira/ProjectPages.h"
 #include "jira/SearchPages.h"
 #include "jira/SiteAnswers.h"
@@ -28,6 +29,11 @@ JiraClient::~JiraClient()
 QString JiraClient::siteName() const
 {
     return m_credentials.siteName();
+}
+
+std::optional<qsizetype> JiraClient::listLimit(const IssueScope &scope) const
+{
+    return searchFor(scope, m_clock.now(), m_calendar).search.limit;
 }
 
 std::optional<QUrl> JiraClient::browseURL(const QString &key) const

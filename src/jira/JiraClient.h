@@ -62,6 +62,7 @@ public:
     /// Sends no request for a file that was downloaded before.
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) override;
+    std::optional<qsizetype> listLimit(const IssueScope &scope) const override;
     std::optional<QUrl> browseURL(const QString &key) const override;
 
 private:

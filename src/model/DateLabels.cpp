@@ -21,6 +21,18 @@ QString compactRelative(const QDateTime &date, const QDateTime &now, const UserC
     return dayAndShortMonth(calendar.day(date), calendar.locale);
 }
 
+QString agoText(const QDateTime &date, const QDateTime &now, const UserCalendar &calendar)
+{
+    constexpr qint64 minute = 60;
+    constexpr qint64 week = 7 * 24 * 60 * minute;
+
+    const qint64 seconds = date.secsTo(now);
+    const QString relative = compactRelative(date, now, calendar);
+    if (seconds < minute)
+        return relative;
+    return seconds < week ? u"il y a "_s + relative : u"le "_s + relative;
+}
+
 QString dueLabel(const QDate &day, const QDateTime &now, const UserCalendar &calendar)
 {
     switch (calendar.day(now).daysTo(day)) {

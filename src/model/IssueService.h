@@ -18,8 +18,8 @@
 
 /// The interface between the application and a back end. Every asynchronous operation may fail with a `Failure` whose
 /// text can be shown to the user. Results are returned on the thread of the caller. When a stop is requested, an
-/// operation fails with `Cancelled` as soon as possible. Two operations are synchronous, never fail and never use the
-/// network: `siteName` and `browseURL`.
+/// operation fails with `Cancelled` as soon as possible. Three operations are synchronous, never fail and never use the
+/// network: `siteName`, `listLimit` and `browseURL`.
 class IssueService
 {
 public:
@@ -78,6 +78,8 @@ public:
     virtual QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) = 0;
     /// Deletes the attachment with this identifier.
     virtual QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) = 0;
+    /// The most issues that `issues` returns for a scope; nothing where there is no limit.
+    virtual std::optional<qsizetype> listLimit(const IssueScope &) const { return std::nullopt; }
     /// The address of the issue's web page; absent if it cannot be built.
     virtual std::optional<QUrl> browseURL(const QString &key) const = 0;
 };

@@ -37,9 +37,21 @@ public:
     void recover() { m_faults.clear(); }
 
 private:
+    /// What the site was until a write.
+    struct Past
+    {
+        QDateTime until;
+        Site site;
+    };
+
     RawAnswer answerTo(const RawRequest &request);
+    RawAnswer written(const RawRequest &request);
+    /// The site as a search finds it.
+    const Site &indexed() const;
 
     Site m_site;
+    /// Oldest first; kept only while searches lag.
+    QList<Past> m_past;
     QHash<SiteOperation, RawAnswer> m_faults;
     RawServer m_server;
     RawServer m_files;

@@ -78,4 +78,34 @@ TEST_P(SimulatedSiteTest, AFaultConcernsItsOperationUntilItRecovers)
     EXPECT_EQ(statusOf(*get(rest(u"priority"_s), "Bearer jeton-de-test")), 200);
 }
 
+TEST_P(SimulatedSiteTest, ASearchFindsWhatWasThereBeforeItsLag)
+{
+    QDateTime time = now;
+    Site &site = simulated.site();
+    site.now = [&time] { return time; };
+    site.searchLag = std::chrono::seconds(60);
+    const QString key = site.issues().first().key;
+    const QByteArray credentials = "Bearer jeton-de-test";
+    const auto send = [&](const QByteArray &method, const QString &path, const QByteArray &body) {
+        QNetworkRequest request(rest(path));
+        request.setRawHeader("Authorization", credentials);
+        request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
+        std::unique_ptr<QNetworkReply> reply(manager.sendCustomRequest(request, method, body));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return reply->isFinished(); }, 5000));
+        return reply->readAll();
+    };
+    const auto found = [&] {
+        return send("POST", u"search/jql"_s,
+                    "{\"jql\":\"project = " + key.section(u'-', 0, 0).toUtf8() +
+                        "\",\"fields\":[\"summary\"]}");
+    };
+    ASSERT_TRUE(found().contains("summary"));
+    send("PUT", u"issue/"_s + key, R"({"fields":{"summary":"Titre neuf"}})");
+
+    EXPECT_TRUE(get(rest(u"issue/"_s + key), credentials)->readAll().contains("Titre neuf"));
+    EXPECT_FALSE(found().contains("Titre neuf"));
+    time = time.addSecs(61);
+    EXPECT_TRUE(found().contains("Titre neuf"));
+}
+
 } // namespace

@@ -21,7 +21,9 @@ const SiteIssue *Site::issue(const QString &keyOrId) const
 
 SiteIssue *Site::issue(const QString &keyOrId)
 {
-    return const_cast<SiteIssue *>(std::as_const(*this).issue(keyOrId));
+    const SiteIssue *found = std::as_const(*this).issue(keyOrId);
+    // Through the list, which a copy of the site may share until it is written to.
+    return found ? &m_issues[found - m_issues.constData()] : nullptr;
 }
 
 const SiteUser *Site::user(const QString &accountId) const

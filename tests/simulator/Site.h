@@ -8,6 +8,7 @@
 #include <QTimeZone>
 #include <QUrl>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -30,6 +31,8 @@ public:
     /// The maximum number of issues on a page of a search, and the maximum size of an upload in bytes.
     qsizetype largestPage = 100;
     qsizetype largestUpload = 20 << 20;
+    /// The age of what a search finds, as that of a site whose search index lags behind its data.
+    std::chrono::seconds searchLag{0};
 
     QList<SiteUser> users;
     QList<SitePriority> priorities;

@@ -33,6 +33,14 @@ void tell(SimulatedSite &simulated)
 
 } // namespace
 
+/// The number of seconds after `--search-lag`; 0 without it.
+std::chrono::seconds searchLag()
+{
+    const QStringList words = QCoreApplication::arguments();
+    const qsizetype at = words.indexOf(u"--search-lag"_s);
+    return std::chrono::seconds(at < 0 ? 0 : words.value(at + 1).toInt());
+}
+
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
@@ -40,6 +48,7 @@ int main(int argc, char **argv)
     const bool anywhere = QCoreApplication::arguments().contains(u"--any-port"_s);
     SimulatedSite small(presentCompany(300), {}, anywhere ? 0 : smallPort);
     SimulatedSite large(presentCompany(5000), {}, anywhere ? 0 : largePort);
+    small.site().searchLag = large.site().searchLag = searchLag();
     tell(small);
     tell(large);
     std::printf("E-mail                %s (none: the token is taken as a personal access token)\n"
