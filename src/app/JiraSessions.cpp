@@ -33,25 +33,28 @@ QCoro::Task<SiteSessions::Saved> JiraSessions::restore()
     if (const auto *blocked = std::get_if<CredentialsStore::Blocked>(&stored))
         co_return Blocked{blocked->text};
     if (const auto *credentials = std::get_if<JiraCredentials>(&stored)) {
-        m_onBegin(*credentials);
-        co_return m_makeClient(*credentials);
+        co_return opened(*credentials);
     }
     co_return None();
 }
 
-SiteSessions::Service JiraSessions::open(const SignIn &signIn) const
+SiteSessions::Opened JiraSessions::open(const SignIn &signIn) const
 {
-    return m_makeClient(credentialsOf(signIn));
+    return opened(credentialsOf(signIn));
+}
+
+SiteSessions::Opened JiraSessions::opened(const JiraCredentials &credentials) const
+{
+    return {m_makeClient(credentials),
+            [credentials, onBegin = m_onBegin] { onBegin(credentials); }};
 }
 
 QCoro::Task<> JiraSessions::keep(SignIn signIn)
 {
     const JiraCredentials credentials = credentialsOf(signIn);
     const auto store = m_credentials;
-    const auto onBegin = m_onBegin;
     const auto turn = co_await m_turns.next();
     co_await store->save(credentials);
-    onBegin(credentials);
 }
 
 QCoro::Task<> JiraSessions::forget()

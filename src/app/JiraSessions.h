@@ -21,7 +21,7 @@ public:
 
     SignIn lastSignIn() const override;
     QCoro::Task<Saved> restore() override;
-    Service open(const SignIn &signIn) const override;
+    Opened open(const SignIn &signIn) const override;
     QCoro::Task<> keep(SignIn signIn) override;
     QCoro::Task<> forget() override;
 
@@ -29,6 +29,8 @@ public:
     QCoro::Task<> settled();
 
 private:
+    Opened opened(const JiraCredentials &credentials) const;
+
     // Shared with waiting operations, which may outlive this object.
     std::shared_ptr<CredentialsStore> m_credentials;
     MakeClient m_makeClient;

@@ -23,7 +23,7 @@ void Workspace::setStore(AppStore *store)
     }
     m_store = store;
     if (m_store) {
-        connect(m_store, &AppStore::serviceChanged, this, &Workspace::changed);
+        connect(m_store, &AppStore::sessionChanged, this, &Workspace::changed);
         connect(m_store, &AppStore::meChanged, this, &Workspace::changed);
         connect(m_store->sidebar(), &QAbstractItemModel::dataChanged, this,
                 &Workspace::rowsChanged);

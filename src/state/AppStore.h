@@ -1,7 +1,7 @@
 #pragma once
 
+#include "async/Newest.h"
 #include "async/Settled.h"
-#include "async/Turns.h"
 #include "commands/CopiedText.h"
 #include "commands/KeyCommand.h"
 #include "commands/KeyPress.h"
@@ -11,6 +11,7 @@
 #include "derivation/IssueDerivation.h"
 #include "state/AppStoreContext.h"
 #include "state/AppStorePreferences.h"
+#include "state/PendingWrites.h"
 #include "state/edits/CommentAudience.h"
 #include "state/edits/IssueCopies.h"
 #include "state/edits/ListedIssues.h"
@@ -30,7 +31,8 @@
 /// toasts. Made once by the composition root; lives on the UI thread; the single writer of its fields. Screens bind to
 /// its properties and call its operations, and never see the service.
 ///
-/// Asynchronous operations never fail; a wait that outlives the store ends with `OwnerGone`.
+/// Asynchronous operations never fail. They belong to the session in which they begin: when it is over they end without a
+/// result and change nothing. A wait that outlives the store ends with `OwnerGone`.
 class AppStore : public AppStorePreferences
 {
     Q_OBJECT
@@ -46,6 +48,8 @@ class AppStore : public AppStorePreferences
     Q_PROPERTY(QString scopeTitle READ scopeTitle NOTIFY scopeTitleChanged FINAL)
     Q_PROPERTY(int visibleCount READ visibleCount NOTIFY visibleCountChanged FINAL)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged FINAL)
+    Q_PROPERTY(QString listAge READ listAge NOTIFY listAgeChanged FINAL)
+    Q_PROPERTY(QString countHint READ countHint NOTIFY countHintChanged FINAL)
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged FINAL)
     Q_PROPERTY(
         ActivityHeaderData activityHeader READ activityHeader NOTIFY activityHeaderChanged FINAL)
@@ -81,6 +85,9 @@ public:
     /// What the form offers: the site and the e-mail of the last sign-in.
     SignIn lastSignIn() const { return m_context.sessions.lastSignIn(); }
 
+    /// The writes that are not answered yet, those of sessions that are over included.
+    const PendingWrites &writes() const { return m_writes; }
+
     // Loading ---------------------------------------------------------------------------------------------------------
     /// Shows another list: its last known state at once, and a fresh one when the service has answered.
     Q_INVOKABLE void select(const IssueScope &scope);
@@ -89,7 +96,8 @@ public:
     Q_INVOKABLE void selectInSidebar(const IssueScope &scope) { setSidebarSelection(scope); }
     /// Fetches the current list anew. Of overlapping reloads only the last one started writes.
     QCoro::Task<> reload();
-    /// `reload` for a button, which does not wait.
+    /// Fetches the current list, and what the start of the session could not, for a user who asked for it: a failure is
+    /// told by a toast where the list is not empty.
     Q_INVOKABLE void refresh();
     QCoro::Task<> refreshMyIssues();
     /// Fetches all of an opened issue: the record, its comments and its transitions.
@@ -120,6 +128,11 @@ public:
     int visibleCount() const { return *m_visibleCount; }
     /// "13 tickets", and whether a refresh is under way.
     const QString &subtitle() const { return *m_subtitle; }
+    /// "il y a 12 min": when the list on the screen was fetched, while refreshing it fails; empty otherwise. The reason is
+    /// `loadError`.
+    const QString &listAge() const { return *m_listAge; }
+    /// Says that the site gave only a part of a long list; empty otherwise.
+    const QString &countHint() const { return *m_countHint; }
     /// The present to the minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
@@ -252,47 +265,69 @@ Q_SIGNALS:
     void subtitleChanged();
     void nowChanged();
     void activityHeaderChanged();
+    void listAgeChanged();
+    void countHintChanged();
+    /// The site did not take a change; `reason` is the text of the toast.
+    void writeRefused(const QString &reason);
     /// Asks for the window of an issue of its own.
     void openWindowRequested(const QString &key);
     /// Asks for the window of the settings.
     void settingsRequested();
 
 private:
-    enum class SessionKind { Real, Demo };
+    // The private operations run in the present session and await through it. `OwnerGone` ends them when it is over; the
+    // public ones then end without a result.
 
     // AppStoreSession.cpp
-    QCoro::Task<> activate(std::shared_ptr<IssueService> service, SessionKind kind,
+    QCoro::Task<> activate(SiteSessions::Opened opened, Session::Kind kind,
                            std::optional<JiraUser> knownUser);
-    QCoro::Task<> fetchAccount(std::shared_ptr<IssueService> service,
-                               std::optional<JiraUser> knownUser);
-    QCoro::Task<> fetchSite(std::shared_ptr<IssueService> service);
-    /// Whether another session has begun than the one on this service.
-    bool isOverFor(const std::shared_ptr<IssueService> &service) const;
-    /// Then ends the flow with `Cancelled`.
-    void requireCurrent(const std::shared_ptr<IssueService> &service) const;
-    /// Fetches anew what the start of the session could not.
+    Session *open(const SiteSessions::Opened &opened, Session::Kind kind);
+    QCoro::Task<std::optional<QString>> fetchBasics();
+    QCoro::Task<std::optional<QString>> fetchMissingBasics();
     QCoro::Task<> completeSession();
-    void open(std::shared_ptr<IssueService> service, SessionKind kind);
+    void showSignIn(const std::optional<QString> &issue);
+    void endSession();
     void resetData();
     void startAutoRefresh();
     QCoro::Task<> refreshInBackground();
     // AppStoreLoading.cpp
-    void takeReloaded(const IssueScope &scope, const Settled<IssueList> &outcome);
+    /// Who asked for a reload decides who is told of its failure.
+    enum class AskedBy { Program, User };
+    QCoro::Task<> refreshForUser();
+    QCoro::Task<> reloadList(AskedBy askedBy);
+    QCoro::Task<> reloadMyIssues();
+    QCoro::Task<IssueList> foundIssues(QString text, std::stop_token stop);
+    void takeReloaded(const IssueScope &scope, const IssueList &answer,
+                      const OpenEdits::Reading &reading);
+    void takeReloadFailure(const TaskFailure &failure, AskedBy askedBy);
+    IssueList current(const IssueList &answer, const OpenEdits::Reading &reading);
+    IssueList withJustCreated(const IssueList &fresh, const IssueScope &scope,
+                              const OpenEdits::Reading &reading) const;
     void startProjectMeta();
     void mergeIntoDetails();
     void uncheckUnlisted();
     // AppStoreDetails.cpp
-    void takeDetails(const QString &key, const Issue &issue);
+    QCoro::Task<> fetchDetails(QString key, std::stop_token stop);
+    QCoro::Task<> fetchProjectMeta(QString key);
+    void takeDetails(const QString &key, const Issue &answer, const OpenEdits::Reading &reading);
     void takeFullRecord(const Issue &issue);
+    void showJustCreated(const SharedIssue &issue);
     void takeDetailsFailure(const QString &key, const TaskFailure &failure);
     void takeAssignables(const QString &key, const QList<JiraUser> &users);
     // AppStoreEdits.cpp, AppStoreTransitions.cpp
     IssueList knownIssues(const QStringList &keys) const;
     void carryOut(const QList<OptimisticEdit> &edits);
-    void show(const QList<OptimisticEdit> &edits);
-    QCoro::Task<> commit(OptimisticEdit edit);
-    QCoro::Task<> transition(OptimisticEdit edit, IssueStatus wished);
-    void undo(const OptimisticEdit &edit, const TaskFailure &failure);
+    QList<OpenEdits::Id> show(const QList<OptimisticEdit> &edits);
+    QCoro::Task<> commit(OptimisticEdit edit, OpenEdits::Id id);
+    QCoro::Task<> transition(QString key, OpenEdits::Id id, IssueStatus wished);
+    QCoro::Task<IssueStatus> moved(QString key, IssueStatus wished);
+    void undo(OpenEdits::Id id, const TaskFailure &failure);
+    void showConfirmed(const std::optional<OptimisticEdit> &confirmed);
+    // AppStoreComments.cpp
+    QCoro::Task<bool> postComment(QString markdown, QString key, CommentAudience audience,
+                                  QList<JiraUser> mentions);
+    QCoro::Task<std::optional<QString>> createIssue(IssueDraft draft);
+    QCoro::Task<QList<JiraUser>> foundUsers(QString query, std::stop_token stop);
     void mutate(const IssueChanges &changes);
     /// Records that take their rows' places in the list, with the same key and project each.
     using ListedRecords = std::map<quint32, SharedIssue>;
@@ -304,6 +339,9 @@ private:
     // AppStoreOptions.cpp
     OptionInputs optionInputs(const QStringList &keys) const;
     // AppStoreAttachments.cpp
+    QCoro::Task<QList<Attachment>> upload(QString key, QList<QUrl> files);
+    QCoro::Task<> uploadPasted(QString key);
+    QCoro::Task<std::optional<QUrl>> downloaded(Attachment attachment);
     void countUploads(const QString &key, int change);
     void takeUploaded(const QString &key, const QList<Attachment> &attachments);
     // AppStoreSelection.cpp
@@ -325,6 +363,7 @@ private:
     const StatusLookup &statusLookup() const;
     // AppStoreToasts.cpp
     void report(const TaskFailure &failure);
+    void reportRefusal(const TaskFailure &failure);
     // AppStoreDerived.cpp
     void flush(unsigned what) override;
     IssueDerivationInputs derivationInputs() const;
@@ -334,23 +373,19 @@ private:
     void feedMarks();
     void feedSidebar();
     void refreshCaptions();
+    QString listAgeText() const;
+    QString countHintText() const;
     void startMinutes();
 
     AppStoreContext m_context;
     bool m_didBootstrap = false;
-    /// Grows when a session begins or ends; tells whether one did during a wait.
-    int m_sessionCount = 0;
-    /// The account, the projects or the priorities could not be fetched.
-    bool m_isIncomplete = false;
-    /// Grows with each reload and each end of a session; tells a late list from a wanted one.
-    int m_generation = 0;
+    /// Attempts to open a session: the newest one counts, until a session begins or ends.
+    Newest m_openings;
+    PendingWrites m_writes;
     QHash<IssueScope, ListedIssues> m_scopeCache;
     /// Of the user's open issues.
     mutable std::optional<KeyIndex> m_myOpenKeys;
-    QSet<QString> m_loadedMeta;
     QHash<QString, JiraUser> m_knownUsers;
-    /// How many transitions are under way at once.
-    Turns m_transitionTurns{8};
     Clock::TimerHandle m_refreshTimer;
     Clock::TimerHandle m_minuteTimer;
     std::map<QUuid, Clock::TimerHandle> m_toastTimers;
@@ -360,6 +395,8 @@ private:
     Observed<AppStore, QString> m_scopeTitle{this, &AppStore::scopeTitleChanged};
     Observed<AppStore, int> m_visibleCount{this, &AppStore::visibleCountChanged};
     Observed<AppStore, QString> m_subtitle{this, &AppStore::subtitleChanged};
+    Observed<AppStore, QString> m_listAge{this, &AppStore::listAgeChanged};
+    Observed<AppStore, QString> m_countHint{this, &AppStore::countHintChanged};
     Observed<AppStore, QDateTime> m_now{this, &AppStore::nowChanged, Time, m_context.clock.now()};
     Observed<AppStore, ActivityHeaderData> m_activityHeader{this, &AppStore::activityHeaderChanged};
     /// Made when they are asked for.

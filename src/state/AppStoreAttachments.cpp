@@ -28,49 +28,70 @@ QString captureName(const QDateTime &now, const UserCalendar &calendar)
 
 QCoro::Task<QList<Attachment>> AppStore::uploadAttachments(QString key, QList<QUrl> files)
 {
-    const auto service = *m_service;
-    if (!service || files.isEmpty())
+    return unlessGone(this, upload(key, files), QList<Attachment>());
+}
+
+QCoro::Task<QList<Attachment>> AppStore::upload(QString key, QList<QUrl> files)
+{
+    Session *const session = m_session->get();
+    if (!session || files.isEmpty())
         co_return QList<Attachment>();
+    const auto service = session->service();
+    const PendingWrites::Token write = m_writes.begin();
     countUploads(key, int(files.size()));
     const auto stored =
-        co_await whileAlive(this, settled(service, service->uploadAttachments(key, files)));
+        co_await whileAlive(session, settled(service, service->uploadAttachments(key, files)));
     const Batch batch(*this);
     if (stored)
         takeUploaded(key, *stored);
     else
-        report(stored.error());
+        reportRefusal(stored.error());
     countUploads(key, -int(files.size()));
     co_return stored.value_or(QList<Attachment>());
 }
 
 QCoro::Task<> AppStore::uploadFromPasteboard(QString key)
 {
+    return unlessGone(this, uploadPasted(key));
+}
+
+QCoro::Task<> AppStore::uploadPasted(QString key)
+{
+    Session *const session = m_session->get();
+    if (!session)
+        co_return;
     const QList<QUrl> files = m_context.desktop.pastedFiles();
     if (!files.isEmpty()) {
-        co_await whileAlive(this, uploadAttachments(key, files));
+        co_await whileAlive(session, upload(key, files));
         co_return;
     }
     const QByteArray png =
-        co_await whileAlive(this, CaptureFile::png(m_context.desktop.pastedImage()));
+        co_await whileAlive(session, CaptureFile::png(m_context.desktop.pastedImage()));
     if (png.isEmpty()) {
         toast(u"Rien à joindre dans le presse-papiers"_s, u"doc.on.clipboard"_s, ToastKind::Error);
         co_return;
     }
     const QString name = captureName(m_context.clock.now(), m_context.calendar);
     const auto file = co_await whileAlive(
-        this, settled(nullptr, CaptureFile::store(png, name, QDir::tempPath())));
+        session, settled(nullptr, CaptureFile::store(png, name, QDir::tempPath())));
     if (file)
-        co_await whileAlive(this, uploadAttachments(key, {*file}));
+        co_await whileAlive(session, upload(key, {*file}));
     else
         report(file.error());
 }
 
 QCoro::Task<std::optional<QUrl>> AppStore::localFile(Attachment attachment)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, downloaded(attachment), std::optional<QUrl>());
+}
+
+QCoro::Task<std::optional<QUrl>> AppStore::downloaded(Attachment attachment)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return std::nullopt;
-    const auto file = co_await whileAlive(this, settled(service, service->download(attachment)));
+    const auto service = session->service();
+    const auto file = co_await whileAlive(session, settled(service, service->download(attachment)));
     if (file)
         co_return *file;
     report(file.error());
@@ -89,6 +110,12 @@ void AppStore::countUploads(const QString &key, int change)
 
 void AppStore::takeUploaded(const QString &key, const QList<Attachment> &attachments)
 {
-    mutate({{key, [&attachments](Issue &issue) { issue.attachments += attachments; }}});
+    const QDateTime now = m_context.clock.now();
+    for (const Attachment &attachment : attachments)
+        (*m_session)->edits.noteStored({key, AttachmentAddition{attachment}}, now);
+    mutate({{key, [&attachments](Issue &issue) {
+                 for (const Attachment &attachment : attachments)
+                     AttachmentAddition{attachment}.apply(issue);
+             }}});
     toast(uploadedText(key, attachments), u"paperclip"_s);
 }

@@ -40,7 +40,7 @@ void AppStore::openInBrowser(const std::optional<QString> &key)
 
 void AppStore::openSite()
 {
-    if (*m_service)
+    if (*m_session)
         m_context.desktop.open(QUrl(u"https://"_s + siteName()));
 }
 
@@ -53,7 +53,7 @@ std::optional<QString> AppStore::targetOr(const std::optional<QString> &key) con
 std::optional<QUrl> AppStore::browseURL(const std::optional<QString> &key) const
 {
     const auto target = targetOr(key);
-    return target && *m_service ? (*m_service)->browseURL(*target) : std::nullopt;
+    return target && *m_session ? (*m_session)->service()->browseURL(*target) : std::nullopt;
 }
 
 void AppStore::openAddress(const QUrl &address)

@@ -15,35 +15,53 @@ const auto LastProjectKey = u"lastProject"_s;
 QCoro::Task<bool> AppStore::addComment(QString markdown, QString key, CommentAudience audience,
                                        QList<JiraUser> mentions)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, postComment(markdown, key, audience, mentions), false);
+}
+
+QCoro::Task<bool> AppStore::postComment(QString markdown, QString key, CommentAudience audience,
+                                        QList<JiraUser> mentions)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return false;
+    const auto service = session->service();
+    const PendingWrites::Token write = m_writes.begin();
     const ADFNode body = composedDocument(markdown, mentions + mentionCandidates(key));
     const bool isInternal = audience == CommentAudience::Agents;
     const auto comment =
-        co_await whileAlive(this, settled(service, service->addComment(key, body, isInternal)));
+        co_await whileAlive(session, settled(service, service->addComment(key, body, isInternal)));
     if (!comment) {
-        report(comment.error());
+        reportRefusal(comment.error());
         co_return false;
     }
+    session->edits.noteComment(key, *comment);
     m_comments.insert(key, m_comments->value(key) + QList{*comment});
     co_return true;
 }
 
 QCoro::Task<std::optional<QString>> AppStore::create(IssueDraft draft)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, createIssue(draft), std::optional<QString>());
+}
+
+QCoro::Task<std::optional<QString>> AppStore::createIssue(IssueDraft draft)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return std::nullopt;
-    const auto created = co_await whileAlive(this, settled(service, service->create(draft)));
+    const auto service = session->service();
+    PendingWrites::Token write = m_writes.begin();
+    const auto created = co_await whileAlive(session, settled(service, service->create(draft)));
+    write.reset();
     if (!created) {
-        report(created.error());
+        reportRefusal(created.error());
         co_return std::nullopt;
     }
+    session->edits.noteCreated(*created, m_context.clock.now());
     m_context.preferences.setText(LastProjectKey, draft.projectKey);
     toast(*created + u" créé"_s, u"checkmark.circle.fill"_s);
-    co_await whileAlive(this, reload());
-    co_await whileAlive(this, refreshMyIssues());
+    co_await whileAlive(session, reloadList(AskedBy::Program));
+    co_await whileAlive(session, reloadMyIssues());
     setSelection({*created, *m_checked, *created});
     co_return *created;
 }
@@ -74,11 +92,17 @@ QList<JiraUser> AppStore::mentionCandidates(const std::optional<QString> &issueK
 
 QCoro::Task<QList<JiraUser>> AppStore::searchUsers(QString query, std::stop_token stop)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, foundUsers(query, stop), QList<JiraUser>());
+}
+
+QCoro::Task<QList<JiraUser>> AppStore::foundUsers(QString query, std::stop_token stop)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return QList<JiraUser>();
+    const auto service = session->service();
     const auto found =
-        co_await whileAlive(this, settled(service, service->searchUsers(query, stop)));
+        co_await whileAlive(session, settled(service, service->searchUsers(query, stop)));
     if (!found)
         co_return QList<JiraUser>();
     for (const JiraUser &user : *found)

@@ -1,3 +1,4 @@
+#include "model/DateLabels.h"
 #include "state/AppStore.h"
 
 using namespace Qt::StringLiterals;
@@ -124,7 +125,25 @@ void AppStore::refreshCaptions()
     const int count = int(visibleIssues().size());
     m_visibleCount.set(count);
     m_scopeTitle.set(::scopeTitle(m_derivation.inputs(), *m_now, m_context.calendar));
+    m_listAge.set(listAgeText());
+    m_countHint.set(countHintText());
     m_subtitle.set(countText(count) + (*m_isLoading ? u" · synchronisation…"_s : QString()));
+}
+
+QString AppStore::listAgeText() const
+{
+    if (!*m_session || !*m_loadError || m_issues->isEmpty())
+        return {};
+    const QDateTime fetched = (*m_session)->fetchedAt.value(*m_scope);
+    return fetched.isValid() ? agoText(fetched, *m_now, m_context.calendar) : QString();
+}
+
+QString AppStore::countHintText() const
+{
+    const auto limit = *m_session ? (*m_session)->service()->listLimit(*m_scope) : std::nullopt;
+    if (!limit || m_issues->size() < *limit)
+        return {};
+    return u"La liste s'arrête aux %1 premiers tickets."_s.arg(*limit);
 }
 
 void AppStore::startMinutes()

@@ -4,9 +4,16 @@
 
 QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, fetchDetails(key, stop));
+}
+
+QCoro::Task<> AppStore::fetchDetails(QString key, std::stop_token stop)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return;
+    const auto service = session->service();
+    const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
     std::stop_source commentsStop;
     const std::stop_callback stopsComments(stop, [commentsStop] {
         // A copy: the stop may end this task, and with it what was captured.
@@ -16,32 +23,38 @@ QCoro::Task<> AppStore::loadDetails(QString key, std::stop_token stop)
     });
     auto issueTask = settled(service, service->issue(key, stop));
     auto commentsTask = settled(service, service->comments(key, commentsStop.get_token()));
-    const auto issue = co_await whileAlive(this, std::move(issueTask));
+    const auto issue = co_await whileAlive(session, std::move(issueTask));
     if (!issue) {
         commentsStop.request_stop();
-        co_await whileAlive(this, std::move(commentsTask));
+        co_await whileAlive(session, std::move(commentsTask));
         takeDetailsFailure(key, issue.error());
         co_return;
     }
-    takeDetails(key, *issue);
-    const auto comments = co_await whileAlive(this, std::move(commentsTask));
+    takeDetails(key, *issue, reading);
+    const auto comments = co_await whileAlive(session, std::move(commentsTask));
     if (stop.stop_requested())
         co_return;
     // An entry of some kind in any case, so that the screen can end its wait.
-    m_comments.insert(key, comments.value_or(m_comments->value(key)));
-    co_await whileAlive(this, loadProjectMeta(issue->projectKey));
-    const auto transitions =
-        co_await whileAlive(this, settled(service, service->transitions(key, stop)));
-    if (transitions)
-        m_transitions.insert(key, *transitions);
+    m_comments.insert(key, comments ? session->edits.laidOver(*comments, key, reading)
+                                    : m_comments->value(key));
+    co_await whileAlive(session, fetchProjectMeta(issue->projectKey));
+    const OpenEdits::Reading offerReading = session->edits.beginReading(m_context.clock.now());
+    const auto offered =
+        co_await whileAlive(session, settled(service, service->transitions(key, stop)));
+    // What was offered before a change of the status is not offered now.
+    if (offered && !session->edits.mayLackStatus(key, offerReading))
+        m_transitions.insert(key, *offered);
 }
 
-void AppStore::takeDetails(const QString &key, const Issue &issue)
+void AppStore::takeDetails(const QString &key, const Issue &answer,
+                           const OpenEdits::Reading &reading)
 {
     const Batch batch(*this);
+    const SharedIssue issue =
+        (*m_session)->edits.laidOver(answer, reading, OpenEdits::Source::Issue);
     m_details.insert(key, issue);
     m_detailErrors.remove(key);
-    takeFullRecord(issue);
+    takeFullRecord(*issue);
 }
 
 /// The full record in its issue's place in the list.
@@ -49,7 +62,7 @@ void AppStore::takeFullRecord(const Issue &issue)
 {
     const auto row = derivation().rowOf(issue.key);
     if (!row)
-        return;
+        return showJustCreated(issue);
     const SharedIssue &listed = (*m_issues)[*row];
     const SharedIssue full = withActivityOf(issue, *listed);
     if (full == listed)
@@ -61,6 +74,16 @@ void AppStore::takeFullRecord(const Issue &issue)
     m_issues.set(issues);
 }
 
+/// An issue that was created a short time ago stands in its list before a search finds it.
+void AppStore::showJustCreated(const SharedIssue &issue)
+{
+    if (!(*m_session)->edits.isJustCreated(issue->key, m_context.clock.now()) ||
+        !belongsTo(*issue, *m_scope, *m_me))
+        return;
+    m_issues.set(IssueList{issue} + *m_issues);
+    m_scopeCache.insert(*m_scope, *m_issues);
+}
+
 void AppStore::takeDetailsFailure(const QString &key, const TaskFailure &failure)
 {
     if (!failure.isCancellation && !m_details->contains(key))
@@ -69,19 +92,25 @@ void AppStore::takeDetailsFailure(const QString &key, const TaskFailure &failure
 
 QCoro::Task<> AppStore::loadProjectMeta(QString key)
 {
-    const auto service = *m_service;
-    if (!service || m_loadedMeta.contains(key))
+    return unlessGone(this, fetchProjectMeta(key));
+}
+
+QCoro::Task<> AppStore::fetchProjectMeta(QString key)
+{
+    Session *const session = m_session->get();
+    if (!session || session->loadedMeta.contains(key))
         co_return;
     // Before anything is fetched, so that a second caller does not fetch again.
-    m_loadedMeta.insert(key);
+    session->loadedMeta.insert(key);
+    const auto service = session->service();
     auto statusesTask = settled(service, service->statuses(key));
     auto usersTask = settled(service, service->assignableUsers(key));
     auto projectTask = settled(service, service->project(key));
-    if (const auto statuses = co_await whileAlive(this, std::move(statusesTask)))
+    if (const auto statuses = co_await whileAlive(session, std::move(statusesTask)))
         m_projectStatuses.insert(key, *statuses);
-    if (const auto users = co_await whileAlive(this, std::move(usersTask)))
+    if (const auto users = co_await whileAlive(session, std::move(usersTask)))
         takeAssignables(key, *users);
-    if (const auto project = co_await whileAlive(this, std::move(projectTask)))
+    if (const auto project = co_await whileAlive(session, std::move(projectTask)))
         m_projectDetails.insert(key, *project);
 }
 

@@ -97,34 +97,52 @@ void AppStore::setDueDate(const std::optional<QDate> &day, const QString &key)
 
 void AppStore::carryOut(const QList<OptimisticEdit> &edits)
 {
-    show(edits);
-    for (const OptimisticEdit &edit : edits)
-        spawn(commit(edit));
+    const auto ids = show(edits);
+    for (qsizetype i = 0; i < ids.size(); ++i)
+        spawn(commit(edits[i], ids[i]));
 }
 
-void AppStore::show(const QList<OptimisticEdit> &edits)
+/// Changes all copies of the issues. Gives the numbers of the edits; none without a session, where nothing is sent.
+QList<OpenEdits::Id> AppStore::show(const QList<OptimisticEdit> &edits)
 {
+    QList<OpenEdits::Id> ids;
     IssueChanges changes;
-    for (const OptimisticEdit &edit : edits)
+    for (const OptimisticEdit &edit : edits) {
+        if (Session *const session = m_session->get()) {
+            const auto shown = issue(edit.key);
+            ids += session->edits.open(edit, shown ? (*shown)->updated : QDateTime());
+        }
         changes.insert(edit.key, [&edit](Issue &issue) { edit.apply(issue); });
+    }
     mutate(changes);
+    return ids;
 }
 
-QCoro::Task<> AppStore::commit(OptimisticEdit edit)
+QCoro::Task<> AppStore::commit(OptimisticEdit edit, OpenEdits::Id id)
 {
-    const auto service = *m_service;
-    if (!service)
-        co_return;
-    const auto outcome = co_await whileAlive(this, settled(service, sent(service, edit)));
-    if (!outcome)
-        undo(edit, outcome.error());
+    Session *const session = m_session->get();
+    const auto service = session->service();
+    const PendingWrites::Token write = m_writes.begin();
+    const auto outcome = co_await whileAlive(session, settled(service, sent(service, edit)));
+    if (outcome)
+        showConfirmed(session->edits.confirm(id, m_context.clock.now()));
+    else
+        undo(id, outcome.error());
 }
 
-void AppStore::undo(const OptimisticEdit &edit, const TaskFailure &failure)
+void AppStore::undo(OpenEdits::Id id, const TaskFailure &failure)
 {
     const Batch batch(*this);
-    mutate({{edit.key, [&edit](Issue &issue) { edit.revert(issue); }}});
-    report(failure);
+    const OptimisticEdit undone = (*m_session)->edits.refuse(id);
+    mutate({{undone.key, [&undone](Issue &issue) { undone.apply(issue); }}});
+    reportRefusal(failure);
+}
+
+/// The copies of the issue show the value already, unless another edit of the same field ended in between.
+void AppStore::showConfirmed(const std::optional<OptimisticEdit> &confirmed)
+{
+    if (confirmed)
+        mutate({{confirmed->key, [&confirmed](Issue &issue) { confirmed->layOver(issue); }}});
 }
 
 void AppStore::mutate(const IssueChanges &changes)

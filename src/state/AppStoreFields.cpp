@@ -11,7 +11,7 @@ constexpr auto CloudSuffix = ".atlassian.net"_L1;
 
 QString AppStoreFields::siteName() const
 {
-    return *m_service ? (*m_service)->siteName() : QString();
+    return *m_session ? (*m_session)->service()->siteName() : QString();
 }
 
 QString AppStoreFields::siteShortName() const

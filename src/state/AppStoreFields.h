@@ -4,8 +4,8 @@
 #include "derivation/IssueFilters.h"
 #include "model/Comment.h"
 #include "model/IssueScope.h"
-#include "model/IssueService.h"
 #include "state/Observed.h"
+#include "state/Session.h"
 #include "state/Toast.h"
 
 #include <QObject>
@@ -24,13 +24,13 @@ class AppStoreFields : public QObject, public Batched
 
     // Session
     Q_PROPERTY(AppStoreFields::Phase phase READ phase NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(bool isDemo READ isDemo NOTIFY isDemoChanged FINAL)
+    Q_PROPERTY(bool isDemo READ isDemo NOTIFY sessionChanged FINAL)
     Q_PROPERTY(bool hasMe READ hasMe NOTIFY meChanged FINAL)
     Q_PROPERTY(JiraUser me READ meOrEmpty NOTIFY meChanged FINAL)
     Q_PROPERTY(QList<Project> projects READ projects NOTIFY projectsChanged FINAL)
     Q_PROPERTY(QList<IssuePriority> priorities READ priorities NOTIFY prioritiesChanged FINAL)
-    Q_PROPERTY(QString siteName READ siteName NOTIFY serviceChanged FINAL)
-    Q_PROPERTY(QString siteShortName READ siteShortName NOTIFY serviceChanged FINAL)
+    Q_PROPERTY(QString siteName READ siteName NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString siteShortName READ siteShortName NOTIFY sessionChanged FINAL)
     Q_PROPERTY(
         bool hasCredentialsIssue READ hasCredentialsIssue NOTIFY credentialsIssueChanged FINAL)
     Q_PROPERTY(
@@ -88,13 +88,14 @@ public:
     using ProjectMap = QHash<QString, Project>;
 
     Phase phase() const { return *m_phase; }
-    bool isDemo() const { return *m_isDemo; }
+    /// Whether the session is on made-up data; false without a session.
+    bool isDemo() const { return *m_session && (*m_session)->isDemo(); }
     const std::optional<JiraUser> &me() const { return *m_me; }
     const QList<Project> &projects() const { return *m_projects; }
     const QList<IssuePriority> &priorities() const { return *m_priorities; }
     /// Why saved credentials could not be read.
     const std::optional<QString> &credentialsIssue() const { return *m_credentialsIssue; }
-    /// The service's name of the site; empty without a service.
+    /// The name of the session's site; empty without a session.
     QString siteName() const;
     /// The same without the suffix that all Jira Cloud sites share.
     QString siteShortName() const;
@@ -149,8 +150,7 @@ public:
 
 Q_SIGNALS:
     void phaseChanged();
-    void serviceChanged();
-    void isDemoChanged();
+    void sessionChanged();
     void meChanged();
     void projectsChanged();
     void prioritiesChanged();
@@ -197,8 +197,8 @@ protected:
     using QObject::QObject;
 
     Field<Phase> m_phase{this, &This::phaseChanged};
-    Field<std::shared_ptr<IssueService>> m_service{this, &This::serviceChanged};
-    Field<bool> m_isDemo{this, &This::isDemoChanged};
+    /// The present session. Only the store holds it, so that it ends when it is replaced.
+    Field<std::shared_ptr<Session>> m_session{this, &This::sessionChanged};
     Field<std::optional<JiraUser>> m_me{this, &This::meChanged, List};
     Field<QList<Project>> m_projects{this, &This::projectsChanged, List | Sidebar};
     Field<QList<IssuePriority>> m_priorities{this, &This::prioritiesChanged};
@@ -206,7 +206,7 @@ protected:
     Field<IssueScope> m_scope{this, &This::scopeChanged, List | Sidebar};
     Field<IssueList> m_issues{this, &This::issuesChanged, List};
     Field<bool> m_isLoading{this, &This::isLoadingChanged, Captions};
-    Field<std::optional<QString>> m_loadError{this, &This::loadErrorChanged, Sidebar};
+    Field<std::optional<QString>> m_loadError{this, &This::loadErrorChanged, Sidebar | Captions};
     Field<IssueMap> m_details{this, &This::detailsChanged};
     Field<TextMap> m_detailErrors{this, &This::detailErrorsChanged};
     Field<CommentMap> m_comments{this, &This::commentsChanged};

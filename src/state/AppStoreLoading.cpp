@@ -9,6 +9,11 @@ namespace {
 /// How many projects of one list get their metadata fetched, so that a list across many does not flood the service.
 constexpr qsizetype MetaPerReload = 8;
 
+bool hasKey(const IssueList &issues, const QString &key)
+{
+    return std::ranges::any_of(issues, [&](const SharedIssue &issue) { return issue->key == key; });
+}
+
 QStringList someProjectKeys(const IssueList &issues)
 {
     QStringList keys;
@@ -33,7 +38,7 @@ void AppStore::select(const IssueScope &scope)
     m_focusedKey.set(std::nullopt);
     m_checked.set({});
     m_loadError.set(std::nullopt);
-    refresh();
+    spawn(reload());
 }
 
 void AppStore::setSidebarSelection(const std::optional<IssueScope> &scope)
@@ -50,52 +55,104 @@ void AppStore::setSidebarSelection(const std::optional<IssueScope> &scope)
 
 void AppStore::refresh()
 {
+    spawn(refreshForUser());
+}
+
+QCoro::Task<> AppStore::refreshForUser()
+{
+    Session *const session = m_session->get();
+    if (!session)
+        co_return;
     spawn(completeSession());
-    spawn(reload());
+    co_await whileAlive(session, reloadList(AskedBy::User));
+    // The start of the session could not fetch them.
+    if (!session->hasMyIssues)
+        co_await whileAlive(session, reloadMyIssues());
 }
 
 QCoro::Task<> AppStore::reload()
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, reloadList(AskedBy::Program));
+}
+
+QCoro::Task<> AppStore::reloadList(AskedBy askedBy)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return;
-    const int generation = ++m_generation;
+    const auto service = session->service();
+    const Newest::Mark mark = session->reloads.begin();
+    const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
     const IssueScope scope = *m_scope;
     m_isLoading.set(true);
-    const auto outcome = co_await whileAlive(this, settled(service, service->issues(scope)));
-    if (generation != m_generation)
+    const auto outcome = co_await whileAlive(session, settled(service, service->issues(scope)));
+    if (!isNewest(mark))
         co_return;
-    takeReloaded(scope, outcome);
+    if (outcome)
+        takeReloaded(scope, *outcome, reading);
+    else
+        takeReloadFailure(outcome.error(), askedBy);
     // Before the others, which may be of the same project: whoever comes second does not wait.
     std::optional<QCoro::Task<>> own;
     if (const auto *project = scope.asProject())
-        own = loadProjectMeta(project->key);
+        own = fetchProjectMeta(project->key);
     startProjectMeta();
     if (own)
-        co_await whileAlive(this, std::move(*own));
+        co_await whileAlive(session, std::move(*own));
 }
 
-void AppStore::takeReloaded(const IssueScope &scope, const Settled<IssueList> &outcome)
+void AppStore::takeReloaded(const IssueScope &scope, const IssueList &answer,
+                            const OpenEdits::Reading &reading)
 {
     const Batch batch(*this);
-    if (outcome) {
-        // What has not changed stays the same object, so that the lists derived from it need not look inside.
-        const IssueList issues = reusingRecords(*outcome, *m_issues);
-        m_issues.set(issues);
-        m_scopeCache.insert(scope, issues);
-        mergeIntoDetails();
-        uncheckUnlisted();
-        m_loadError.set(std::nullopt);
-    } else if (!outcome.error().isCancellation) {
-        m_loadError.set(outcome.error().message);
-    }
+    const IssueList fresh = withJustCreated(current(answer, reading), scope, reading);
+    // What has not changed stays the same object, so that the lists derived from it need not look inside.
+    const IssueList issues = reusingRecords(fresh, *m_issues);
+    m_issues.set(issues);
+    m_scopeCache.insert(scope, issues);
+    (*m_session)->fetchedAt.insert(scope, m_context.clock.now());
+    mergeIntoDetails();
+    uncheckUnlisted();
+    m_loadError.set(std::nullopt);
     m_isLoading.set(false);
+}
+
+/// The list stays. Where there is none the screen itself tells the failure.
+void AppStore::takeReloadFailure(const TaskFailure &failure, AskedBy askedBy)
+{
+    const Batch batch(*this);
+    if (!failure.isCancellation)
+        m_loadError.set(failure.message);
+    if (askedBy == AskedBy::User && !m_issues->isEmpty())
+        report(failure);
+    m_isLoading.set(false);
+}
+
+/// The answer of a search as the user is to see it: each issue once, and no confirmed edit undone.
+IssueList AppStore::current(const IssueList &answer, const OpenEdits::Reading &reading)
+{
+    return (*m_session)
+        ->edits.laidOver(withoutRepeatedKeys(answer), reading, OpenEdits::Source::Search);
+}
+
+/// A search may lack an issue that was created a short time ago; one that has been seen stays in its list.
+IssueList AppStore::withJustCreated(const IssueList &fresh, const IssueScope &scope,
+                                    const OpenEdits::Reading &reading) const
+{
+    const OpenEdits &edits = (*m_session)->edits;
+    IssueList missing;
+    for (const SharedIssue &opened : *m_details) {
+        if (edits.isJustCreated(opened->key, reading.beganAt()) &&
+            belongsTo(*opened, scope, *m_me) && !hasKey(fresh, opened->key))
+            missing += opened;
+    }
+    return missing + fresh;
 }
 
 void AppStore::startProjectMeta()
 {
     for (const QString &key : someProjectKeys(*m_issues))
-        spawn(loadProjectMeta(key));
+        spawn(fetchProjectMeta(key));
 }
 
 void AppStore::mergeIntoDetails()
@@ -117,15 +174,25 @@ void AppStore::uncheckUnlisted()
 
 QCoro::Task<> AppStore::refreshMyIssues()
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, reloadMyIssues());
+}
+
+QCoro::Task<> AppStore::reloadMyIssues()
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return;
+    const auto service = session->service();
+    const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
     const IssueScope scope = IssueScope::myIssues();
-    const auto mine = co_await whileAlive(this, settled(service, service->issues(scope)));
-    if (!mine || isOverFor(service))
+    const auto answer = co_await whileAlive(session, settled(service, service->issues(scope)));
+    if (!answer)
         co_return;
-    m_scopeCache.insert(scope, *mine);
-    setMyOpenIssues(openIssues(*mine));
+    session->hasMyIssues = true;
+    session->fetchedAt.insert(scope, m_context.clock.now());
+    const IssueList mine = withJustCreated(current(*answer, reading), scope, reading);
+    m_scopeCache.insert(scope, mine);
+    setMyOpenIssues(openIssues(mine));
 }
 
 void AppStore::setMyOpenIssues(const IssueList &issues)
@@ -144,11 +211,18 @@ QHash<IssueScope, IssueList> AppStore::scopeCache() const
 
 QCoro::Task<IssueList> AppStore::searchRemote(QString text, std::stop_token stop)
 {
-    const auto service = *m_service;
-    if (!service)
+    return unlessGone(this, foundIssues(text, stop), IssueList());
+}
+
+QCoro::Task<IssueList> AppStore::foundIssues(QString text, std::stop_token stop)
+{
+    Session *const session = m_session->get();
+    if (!session)
         co_return IssueList();
-    const auto found = co_await whileAlive(this, settled(service, service->search(text, stop)));
-    co_return found.value_or(IssueList());
+    const auto service = session->service();
+    const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
+    const auto found = co_await whileAlive(session, settled(service, service->search(text, stop)));
+    co_return found ? current(*found, reading) : IssueList();
 }
 
 std::optional<SharedIssue> AppStore::issue(const QString &key) const

@@ -10,16 +10,35 @@ namespace {
 const auto DemoModeKey = u"demoMode"_s;
 constexpr auto RefreshPeriod = 120s;
 
+QCoro::Task<> nothingToDo()
+{
+    co_return;
+}
+
+/// The value of an outcome, or its failure thrown for the caller to show.
+template <typename T>
+T valueOf(const Settled<T> &outcome)
+{
+    if (outcome) {
+        if constexpr (std::is_void_v<T>)
+            return;
+        else
+            return *outcome;
+    }
+    if (outcome.error().isCancellation)
+        throw Cancelled();
+    throw Failure(outcome.error().message);
+}
+
 } // namespace
 
 QCoro::Task<> AppStore::bootstrap()
 {
     if (std::exchange(m_didBootstrap, true))
-        co_return;
+        return nothingToDo();
     if (startsWithDemo())
-        co_await whileAlive(this, activate(m_context.makeDemo(), SessionKind::Demo, std::nullopt));
-    else
-        co_await whileAlive(this, restoreSavedSession());
+        return unlessGone(this, activate({m_context.makeDemo()}, Session::Kind::Demo, {}));
+    return restoreSavedSession();
 }
 
 bool AppStore::startsWithDemo() const
@@ -30,8 +49,7 @@ bool AppStore::startsWithDemo() const
 QCoro::Task<> AppStore::startDemo()
 {
     m_context.preferences.setFlag(DemoModeKey, true);
-    resetData();
-    co_await whileAlive(this, activate(m_context.makeDemo(), SessionKind::Demo, std::nullopt));
+    return unlessGone(this, activate({m_context.makeDemo()}, Session::Kind::Demo, {}));
 }
 
 void AppStore::openDemo()
@@ -41,17 +59,24 @@ void AppStore::openDemo()
 
 QCoro::Task<> AppStore::restoreSavedSession()
 {
-    const int sessionCount = m_sessionCount;
-    const auto saved = co_await whileAlive(this, m_context.sessions.restore());
-    if (sessionCount != m_sessionCount)
+    const Newest::Mark attempt = m_openings.begin();
+    const auto saved = co_await whileAlive(this, settled(nullptr, m_context.sessions.restore()));
+    if (!isNewest(attempt))
         co_return;
-    if (const auto *service = std::get_if<SiteSessions::Service>(&saved)) {
-        m_credentialsIssue.set(std::nullopt);
-        co_await whileAlive(this, activate(*service, SessionKind::Real, std::nullopt));
-        co_return;
-    }
-    if (const auto *blocked = std::get_if<SiteSessions::Blocked>(&saved))
-        m_credentialsIssue.set(blocked->text);
+    if (!saved)
+        co_return showSignIn(saved.error().message);
+    if (const auto *blocked = std::get_if<SiteSessions::Blocked>(&*saved))
+        co_return showSignIn(blocked->text);
+    const auto *opened = std::get_if<SiteSessions::Opened>(&*saved);
+    if (!opened)
+        co_return showSignIn(*m_credentialsIssue);
+    m_credentialsIssue.set(std::nullopt);
+    co_await unlessGone(this, activate(*opened, Session::Kind::Site, {}));
+}
+
+void AppStore::showSignIn(const std::optional<QString> &issue)
+{
+    m_credentialsIssue.set(issue);
     m_phase.set(Phase::SignedOut);
 }
 
@@ -63,35 +88,51 @@ void AppStore::retrySavedSession()
 QCoro::Task<> AppStore::connect(QString site, QString email, QString token)
 {
     const SignIn signIn{site, email.trimmed(), token.trimmed()};
-    const auto service = m_context.sessions.open(signIn);
-    const JiraUser user = co_await whileAlive(this, service->currentUser());
-    co_await whileAlive(this, m_context.sessions.keep(signIn));
+    const SiteSessions::Opened opened = m_context.sessions.open(signIn);
+    const Newest::Mark attempt = m_openings.begin();
+    const auto user =
+        co_await whileAlive(this, settled(opened.service, opened.service->currentUser()));
+    if (!isNewest(attempt))
+        throw Cancelled();
+    const JiraUser account = valueOf(user);
+    const auto kept = co_await whileAlive(this, settled(nullptr, m_context.sessions.keep(signIn)));
+    if (!isNewest(attempt)) {
+        // Another session has begun, or a sign-out came, while the token was being stored.
+        if (kept)
+            spawn(m_context.sessions.forget());
+        throw Cancelled();
+    }
+    valueOf(kept);
     m_credentialsIssue.set(std::nullopt);
     m_context.preferences.setFlag(DemoModeKey, false);
-    resetData();
-    co_await whileAlive(this, activate(service, SessionKind::Real, user));
+    co_await unlessGone(this, activate(opened, Session::Kind::Site, account));
 }
 
 void AppStore::signOut()
 {
-    if (!*m_isDemo)
+    if (!isDemo())
         spawn(m_context.sessions.forget());
     const Batch batch(*this);
-    ++m_sessionCount;
     m_context.preferences.setFlag(DemoModeKey, false);
-    resetData();
-    m_service.set(nullptr);
-    m_isDemo.set(false);
-    m_me.set(std::nullopt);
+    endSession();
+    m_phase.set(Phase::SignedOut);
+}
+
+/// What still runs for the session ends here, and so does every attempt to open another one.
+void AppStore::endSession()
+{
+    m_openings.end();
     m_refreshTimer.reset();
     m_minuteTimer.reset();
-    m_phase.set(Phase::SignedOut);
+    m_session.set(nullptr);
+    resetData();
+    m_me.set(std::nullopt);
+    m_uploading.set({});
 }
 
 void AppStore::resetData()
 {
     const Batch batch(*this);
-    ++m_generation;
     m_projects.set({});
     m_priorities.set({});
     m_issues.set({});
@@ -104,7 +145,6 @@ void AppStore::resetData()
     m_projectDetails.set({});
     setMyOpenIssues({});
     m_scopeCache.clear();
-    m_loadedMeta.clear();
     m_focusedKey.set(std::nullopt);
     m_checked.set({});
     m_inspectorKey.set(std::nullopt);
@@ -115,88 +155,86 @@ void AppStore::resetData()
     m_isLoading.set(false);
 }
 
-/// Nothing that fails here ends the session: the list area says what went wrong, and each refresh tries again. The
-/// next session ends this, so that nothing of one site comes into the lists of another.
-QCoro::Task<> AppStore::activate(std::shared_ptr<IssueService> service, SessionKind kind,
+/// No failure ends the session: the list area says what went wrong, and each refresh tries again.
+QCoro::Task<> AppStore::activate(SiteSessions::Opened opened, Session::Kind kind,
                                  std::optional<JiraUser> knownUser)
 {
-    open(service, kind);
-    try {
-        co_await whileAlive(this, fetchAccount(service, knownUser));
-        co_await whileAlive(this, fetchSite(service));
-    } catch (const Failure &failure) {
-        requireCurrent(service);
-        m_isIncomplete = true;
-        m_loadError.set(failure.message());
+    Session *const session = open(opened, kind);
+    if (knownUser) {
+        m_me.set(knownUser);
+        session->basics.hasAccount = true;
     }
-    co_await whileAlive(this, reload());
-    co_await whileAlive(this, refreshMyIssues());
-    requireCurrent(service);
+    const auto failure = co_await whileAlive(session, fetchBasics());
+    if (failure)
+        m_loadError.set(*failure);
+    co_await whileAlive(session, reloadList(AskedBy::Program));
+    co_await whileAlive(session, reloadMyIssues());
     startAutoRefresh();
 }
 
-void AppStore::open(std::shared_ptr<IssueService> service, SessionKind kind)
+Session *AppStore::open(const SiteSessions::Opened &opened, Session::Kind kind)
 {
     const Batch batch(*this);
-    ++m_sessionCount;
-    m_isIncomplete = false;
-    m_service.set(std::move(service));
-    m_isDemo.set(kind == SessionKind::Demo);
+    endSession();
+    m_session.set(std::make_shared<Session>(opened.service, kind));
+    opened.onBegin();
+    // Loading rows stand in the empty list until the first answer.
+    m_isLoading.set(true);
     m_phase.set(Phase::Ready);
     startMinutes();
+    return m_session->get();
 }
 
-QCoro::Task<> AppStore::fetchAccount(std::shared_ptr<IssueService> service,
-                                     std::optional<JiraUser> knownUser)
+/// Gives what the user is told when the account or the projects cannot be fetched.
+QCoro::Task<std::optional<QString>> AppStore::fetchBasics()
 {
-    if (!knownUser)
-        knownUser = co_await whileAlive(this, service->currentUser());
-    requireCurrent(service);
-    m_me.set(knownUser);
+    Session *const session = m_session->get();
+    session->basics.areUnderWay = true;
+    const auto failure = co_await whileAlive(session, fetchMissingBasics());
+    session->basics.areUnderWay = false;
+    co_return failure;
 }
 
-QCoro::Task<> AppStore::fetchSite(std::shared_ptr<IssueService> service)
+QCoro::Task<std::optional<QString>> AppStore::fetchMissingBasics()
 {
-    std::stop_source stop;
-    auto projectsTask = settled(service, service->projects());
-    auto prioritiesTask = settled(service, service->priorities(stop.get_token()));
-    const auto projects = co_await whileAlive(this, std::move(projectsTask));
-    if (!projects) {
-        stop.request_stop();
-        co_await whileAlive(this, std::move(prioritiesTask));
-        throw Failure(projects.error().message);
+    Session *const session = m_session->get();
+    const auto service = session->service();
+    if (!session->basics.hasAccount) {
+        const auto account = co_await whileAlive(session, settled(service, service->currentUser()));
+        if (!account)
+            co_return account.error().message;
+        m_me.set(*account);
+        session->basics.hasAccount = true;
     }
-    requireCurrent(service);
-    m_projects.set(*projects);
-    const auto priorities = co_await whileAlive(this, std::move(prioritiesTask));
-    requireCurrent(service);
-    m_priorities.set(priorities.value_or(QList<IssuePriority>()));
+    std::stop_source stop;
+    std::optional<QCoro::Task<Settled<QList<IssuePriority>>>> priorities;
+    if (!session->basics.hasPriorities)
+        priorities = settled(service, service->priorities(stop.get_token()));
+    if (!session->basics.hasProjects) {
+        const auto projects = co_await whileAlive(session, settled(service, service->projects()));
+        if (!projects) {
+            stop.request_stop();
+            if (priorities)
+                co_await whileAlive(session, *std::move(priorities));
+            co_return projects.error().message;
+        }
+        m_projects.set(*projects);
+        session->basics.hasProjects = true;
+    }
+    if (priorities) {
+        const auto fetched = co_await whileAlive(session, *std::move(priorities));
+        m_priorities.set(fetched.value_or(QList<IssuePriority>()));
+        session->basics.hasPriorities = fetched.has_value();
+    }
+    co_return std::nullopt;
 }
 
-bool AppStore::isOverFor(const std::shared_ptr<IssueService> &service) const
-{
-    return *m_service && *m_service != service;
-}
-
-void AppStore::requireCurrent(const std::shared_ptr<IssueService> &service) const
-{
-    if (isOverFor(service))
-        throw Cancelled();
-}
-
-/// The list's own reload tells when the site still cannot be reached.
+/// Fetches what the start of the session could not. Only the list's own reload tells when the site still fails.
 QCoro::Task<> AppStore::completeSession()
 {
-    const auto service = *m_service;
-    if (!service || !std::exchange(m_isIncomplete, false))
-        co_return;
-    try {
-        co_await whileAlive(this, fetchAccount(service, *m_me));
-        co_await whileAlive(this, fetchSite(service));
-    } catch (const Failure &) {
-        requireCurrent(service);
-        m_isIncomplete = true;
-    }
+    Session *const session = m_session->get();
+    if (session && !session->basics.areComplete() && !session->basics.areUnderWay)
+        co_await whileAlive(session, fetchBasics());
 }
 
 void AppStore::startAutoRefresh()
@@ -207,9 +245,10 @@ void AppStore::startAutoRefresh()
 /// A program in the background makes no requests at all.
 QCoro::Task<> AppStore::refreshInBackground()
 {
-    if (*m_phase != Phase::Ready || !m_context.desktop.isApplicationActive())
+    Session *const session = m_session->get();
+    if (!session || !m_context.desktop.isApplicationActive())
         co_return;
     spawn(completeSession());
-    co_await whileAlive(this, reload());
-    co_await whileAlive(this, refreshMyIssues());
+    co_await whileAlive(session, reloadList(AskedBy::Program));
+    co_await whileAlive(session, reloadMyIssues());
 }

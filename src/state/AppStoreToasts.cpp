@@ -48,6 +48,13 @@ void AppStore::report(const TaskFailure &failure)
         toast(failure.message, u"exclamationmark.triangle.fill"_s, ToastKind::Error);
 }
 
+void AppStore::reportRefusal(const TaskFailure &failure)
+{
+    report(failure);
+    if (!failure.isCancellation)
+        Q_EMIT writeRefused(failure.message);
+}
+
 void AppStore::cycleAppearance()
 {
     setAppearance(following(*m_appearance));

@@ -4,52 +4,52 @@
 #include "state/AppStore.h"
 #include "state/edits/TransitionChoice.h"
 
-namespace {
-
-/// Takes the issue to the wished status by its workflow, as it is at this moment; gives the status really reached.
-QCoro::Task<IssueStatus> moved(std::shared_ptr<IssueService> service, QString key,
-                               IssueStatus wished)
+/// Takes the issue to the wished status by its workflow, as it is at this moment; gives the status that is reached.
+QCoro::Task<IssueStatus> AppStore::moved(QString key, IssueStatus wished)
 {
-    const auto offered = co_await service->transitions(key);
+    Session *const session = m_session->get();
+    const auto service = session->service();
+    const auto offered = co_await whileAlive(session, service->transitions(key));
     const auto chosen = transitionTo(wished, offered);
     if (!chosen)
         throw JiraError(JiraError::TransitionUnavailable{wished.name()});
-    co_await service->perform(*chosen, key);
+    co_await whileAlive(session, service->perform(*chosen, key));
     co_return chosen->to;
 }
 
-} // namespace
-
 void AppStore::setStatus(const IssueStatus &status, const QStringList &keys)
 {
-    if (!*m_service)
+    if (!*m_session)
         return;
     QList<OptimisticEdit> edits;
     for (const SharedIssue &issue : knownIssues(keys)) {
         if (const auto edit = statusEdit(*issue, status, m_context.clock.now()))
             edits += *edit;
     }
-    show(edits);
-    for (const OptimisticEdit &edit : edits)
-        spawn(transition(edit, status));
+    const auto ids = show(edits);
+    for (qsizetype i = 0; i < ids.size(); ++i)
+        spawn(transition(edits[i].key, ids[i], status));
 }
 
-QCoro::Task<> AppStore::transition(OptimisticEdit edit, IssueStatus wished)
+QCoro::Task<> AppStore::transition(QString key, OpenEdits::Id id, IssueStatus wished)
 {
-    const auto service = *m_service;
-    const auto turn = co_await whileAlive(this, m_transitionTurns.next());
-    const auto reached =
-        co_await whileAlive(this, settled(service, moved(service, edit.key, wished)));
+    Session *const session = m_session->get();
+    const auto service = session->service();
+    const PendingWrites::Token write = m_writes.begin();
+    const auto turn = co_await whileAlive(session, session->transitionTurns.next());
+    const auto reached = co_await whileAlive(session, settled(service, moved(key, wished)));
     if (!reached) {
-        undo(edit, reached.error());
+        undo(id, reached.error());
         co_return;
     }
-    mutate({{edit.key, [&reached](Issue &issue) { issue.status = *reached; }}});
+    showConfirmed(session->edits.confirm(id, *reached, m_context.clock.now()));
     // What the workflow offers depends on the present status.
-    const auto offered =
-        co_await whileAlive(this, settled(service, service->transitions(edit.key)));
+    const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
+    const auto offered = co_await whileAlive(session, settled(service, service->transitions(key)));
+    if (session->edits.mayLackStatus(key, reading))
+        co_return;
     if (offered)
-        m_transitions.insert(edit.key, *offered);
+        m_transitions.insert(key, *offered);
     else
-        m_transitions.remove(edit.key);
+        m_transitions.remove(key);
 }

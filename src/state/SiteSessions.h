@@ -5,6 +5,7 @@
 #include <QCoro/QCoroTask>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <variant>
 
@@ -24,6 +25,13 @@ class SiteSessions
 {
 public:
     using Service = std::shared_ptr<IssueService>;
+    /// A back end that is ready for a session.
+    struct Opened
+    {
+        Service service;
+        /// To be called when the session begins.
+        std::function<void()> onBegin = [] {};
+    };
     /// There may be a saved session, but the system refused to hand it over.
     struct Blocked
     {
@@ -34,7 +42,7 @@ public:
     struct None
     {
     };
-    using Saved = std::variant<Service, Blocked, None>;
+    using Saved = std::variant<Opened, Blocked, None>;
 
     SiteSessions() = default;
     virtual ~SiteSessions() = default;
@@ -46,7 +54,7 @@ public:
     /// A session with the saved credentials, which are not tried.
     virtual QCoro::Task<Saved> restore() = 0;
     /// A session with these credentials, which are neither tried nor kept. Fails with `JiraError::InvalidSite`.
-    virtual Service open(const SignIn &signIn) const = 0;
+    virtual Opened open(const SignIn &signIn) const = 0;
     /// Keeps the credentials for the next start. Fails with the words of the system's store of secrets.
     virtual QCoro::Task<> keep(SignIn signIn) = 0;
     /// Deletes the token of the last sign-in; never fails.

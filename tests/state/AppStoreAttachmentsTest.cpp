@@ -148,12 +148,13 @@ TEST_F(AppStoreAttachmentsTest, withoutFilesOrWithoutASessionNothingHappens)
     EXPECT_TRUE(store->toasts().isEmpty());
 }
 
-TEST_F(AppStoreAttachmentsTest, anUploadOutlivesTheSession)
+TEST_F(AppStoreAttachmentsTest, anUploadIsNotCountedAfterItsSession)
 {
     startWith({});
     const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(1)));
-    store->signOut();
     EXPECT_EQ(uploading(), 1);
+    store->signOut();
+    EXPECT_EQ(uploading(), 0);
     service->uploadAttachmentsCalls[0].finish({attachment(u"a"_s)});
 
     EXPECT_EQ(uploading(), 0);

@@ -184,15 +184,15 @@ TEST_F(AppStoreDetailsTest, withoutAServiceNothingIsAsked)
     EXPECT_EQ(service->statusesCalls.count(), 0);
 }
 
-TEST_F(AppStoreDetailsTest, aResultAfterTheSignOutIsHarmless)
+TEST_F(AppStoreDetailsTest, aResultAfterTheSignOutIsDropped)
 {
     const auto opened = openIssue();
     store->signOut();
     service->issueCalls.last().finish(sampleIssue(Key));
     service->commentsCalls.last().finish({});
 
-    EXPECT_TRUE(store->details().contains(Key))
-        << "keyed by issue; a new session does not read it by accident";
+    EXPECT_FALSE(store->details().contains(Key));
+    EXPECT_FALSE(store->comments().contains(Key));
     EXPECT_EQ(store->phase(), AppStore::Phase::SignedOut);
 }
 

@@ -159,18 +159,12 @@ TEST_F(AppStoreEditsTest, aCancelledEditIsUndoneWithoutAToast)
     EXPECT_TRUE(store->toasts().isEmpty());
 }
 
-TEST_F(AppStoreEditsTest, withoutAServiceTheEditStaysAndNothingIsSent)
+TEST_F(AppStoreEditsTest, withoutASessionNothingIsSent)
 {
-    const TaskResult<void> opened(store->loadDetails(u"WEB-1"_s));
     store->signOut();
-    service->issueCalls.last().finish(detailed());
     store->rename(u"WEB-1"_s, u"Nouveau"_s);
     store->setStatus(Doing, {u"WEB-1"_s});
     store->assign({u"WEB-1"_s}, Maud);
-
-    const auto issue = store->details().value(u"WEB-1"_s);
-    EXPECT_EQ(issue->summary, u"Nouveau"_s);
-    EXPECT_EQ(issue->assignee, Maud);
 
     EXPECT_EQ(service->updateCalls.count() + service->assignCalls.count(), 0);
     EXPECT_TRUE(store->toasts().isEmpty());
@@ -195,10 +189,21 @@ TEST_F(AppStoreEditsTest, ofTwoQuickEditsTheFirstThatFailsPutsBackTheValueFromBe
 {
     store->rename(u"WEB-1"_s, u"Un"_s);
     store->rename(u"WEB-1"_s, u"Deux"_s);
+    service->updateCalls[0].fail(Refused);
+    expectEverywhere(u"WEB-1"_s, &Issue::summary, u"Résumé de WEB-1"_s);
+
+    service->updateCalls[1].finish();
+    expectEverywhere(u"WEB-1"_s, &Issue::summary, u"Deux"_s);
+}
+
+TEST_F(AppStoreEditsTest, ofTwoQuickEditsTheFirstFailsAfterTheSecondWasTaken)
+{
+    store->rename(u"WEB-1"_s, u"Un"_s);
+    store->rename(u"WEB-1"_s, u"Deux"_s);
     service->updateCalls[1].finish();
     service->updateCalls[0].fail(Refused);
 
-    expectEverywhere(u"WEB-1"_s, &Issue::summary, u"Résumé de WEB-1"_s);
+    expectEverywhere(u"WEB-1"_s, &Issue::summary, u"Deux"_s);
 }
 
 TEST_F(AppStoreEditsTest, issuesThatAreAsWishedOrUnknownAreLeftOut)

@@ -147,4 +147,121 @@ TEST_F(AppStoreRefreshTest, aFailedCancelledOrServicelessSearchFindsNothing)
     EXPECT_EQ(service->searchCalls.count(), 2);
 }
 
+// What the window says of a list that could not be refreshed ----------------------------------------------------------------
+
+TEST_F(AppStoreRefreshTest, aRefreshThatTheUserAskedForTellsItsFailureByAToast)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    store->refresh();
+    listCall().fail(Refused);
+
+    ASSERT_EQ(store->toasts().size(), 1);
+    EXPECT_EQ(store->toasts()[0].message, Refused.message());
+    EXPECT_EQ(keys(store->issues()), QStringList(u"WEB-1"_s));
+}
+
+TEST_F(AppStoreRefreshTest, aRefreshThatNobodyAskedForFailsWithoutAToast)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    clock.advance(120s);
+    listCall().fail(Refused);
+    store->select(IssueScope::recent());
+    listCall().fail(Refused);
+
+    EXPECT_TRUE(store->toasts().isEmpty());
+}
+
+TEST_F(AppStoreRefreshTest, anEmptyListTellsTheFailureOnItsScreenAlone)
+{
+    store->refresh();
+    listCall().fail(Refused);
+
+    EXPECT_TRUE(store->toasts().isEmpty());
+    EXPECT_EQ(store->loadError(), Refused.message());
+    EXPECT_TRUE(store->listAge().isEmpty());
+}
+
+TEST_F(AppStoreRefreshTest, aListThatCannotBeRefreshedSaysHowOldItIsUntilItCan)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    EXPECT_TRUE(store->listAge().isEmpty());
+    clock.advance(720s);
+    for (int i = 0; i < service->issuesCalls.count(); ++i) {
+        if (service->issuesCalls[i].isPending())
+            service->issuesCalls[i].fail(Refused);
+    }
+    EXPECT_EQ(store->listAge(), u"il y a 12 min"_s);
+    clock.advance(60s);
+    EXPECT_EQ(store->listAge(), u"il y a 13 min"_s);
+
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    EXPECT_TRUE(store->listAge().isEmpty());
+}
+
+TEST_F(AppStoreRefreshTest, theAgeIsThatOfTheListOnTheScreen)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    desktop.isActive = false;
+    clock.advance(600s);
+    store->select(IssueScope::recent());
+    listCall().finish({sampleIssue(u"WEB-2"_s)});
+    store->select(IssueScope::myIssues());
+    listCall().fail(Refused);
+
+    EXPECT_EQ(store->listAge(), u"il y a 10 min"_s);
+}
+
+TEST_F(AppStoreRefreshTest, aListThatTheSiteCutSaysSo)
+{
+    service->limit = 2;
+    reloadWith({sampleIssue(u"WEB-1"_s)});
+    EXPECT_TRUE(store->countHint().isEmpty());
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s)});
+    EXPECT_EQ(store->countHint(), u"La liste s'arrête aux 2 premiers tickets."_s);
+}
+
+TEST_F(AppStoreRefreshTest, anIssueThatAnAnswerRepeatsIsListedOnce)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s), sampleIssue(u"WEB-1"_s)});
+    EXPECT_EQ(keys(store->issues()), QStringList({u"WEB-1"_s, u"WEB-2"_s}));
+}
+
+// A search that lags behind what was written ---------------------------------------------------------------------------------
+
+TEST_F(AppStoreRefreshTest, anIssueJustCreatedStaysInItsListWhenASearchLacksIt)
+{
+    service->issueCalls.answerBy([](const QString &key) { return sampleIssue(key); });
+    service->commentsCalls.answerWith({});
+    service->transitionsCalls.answerWith({});
+    service->createCalls.answerWith(u"WEB-9"_s);
+    service->issuesCalls.answerWith({sampleIssue(u"WEB-1"_s)});
+    store->select(IssueScope::project(u"WEB"_s, ProjectView::All));
+    const TaskResult<std::optional<QString>> created(store->create(IssueDraft()));
+    // The inspector fetches what it shows.
+    const TaskResult<void> opened(store->loadDetails(u"WEB-9"_s));
+    EXPECT_EQ(keys(store->issues()), QStringList({u"WEB-9"_s, u"WEB-1"_s}));
+
+    const TaskResult<void> reloaded(store->reload());
+    EXPECT_EQ(keys(store->issues()), QStringList({u"WEB-9"_s, u"WEB-1"_s}));
+
+    desktop.isActive = false;
+    clock.advance(OpenEdits::SearchLag);
+    const TaskResult<void> later(store->reload());
+    EXPECT_EQ(keys(store->issues()), QStringList(u"WEB-1"_s)) << "for a bounded time";
+}
+
+TEST_F(AppStoreRefreshTest, anIssueCreatedElsewhereIsNotPutIntoTheList)
+{
+    service->issueCalls.answerBy([](const QString &key) { return sampleIssue(key); });
+    service->commentsCalls.answerWith({});
+    service->transitionsCalls.answerWith({});
+    service->createCalls.answerWith(u"SUP-9"_s);
+    service->issuesCalls.answerWith({sampleIssue(u"WEB-1"_s)});
+    store->select(IssueScope::project(u"WEB"_s, ProjectView::All));
+    const TaskResult<std::optional<QString>> created(store->create(IssueDraft()));
+    const TaskResult<void> opened(store->loadDetails(u"SUP-9"_s));
+
+    EXPECT_EQ(keys(store->issues()), QStringList(u"WEB-1"_s));
+}
+
 } // namespace

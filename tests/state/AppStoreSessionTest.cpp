@@ -255,16 +255,16 @@ TEST_F(AppStoreSessionTest, cachedListsDoNotOutliveTheSession)
     EXPECT_TRUE(store->isLoading());
 }
 
-TEST_F(AppStoreSessionTest, signingOutWhileTheUserIsFetchedLetsTheActivationEndHarmlessly)
+TEST_F(AppStoreSessionTest, signingOutWhileTheUserIsFetchedEndsTheActivation)
 {
     const TaskResult<void> started(store->startDemo());
     store->signOut();
     service->currentUserCalls[0].finish(sampleUser(u"u1"_s, u"Noam"_s));
-    service->projectsCalls[0].finish({sampleProject(u"WEB"_s)});
-    service->prioritiesCalls[0].finish({});
 
     EXPECT_TRUE(started.isDone());
-    EXPECT_EQ(service->issuesCalls.count(), 0) << "without a service nothing is loaded";
+    EXPECT_FALSE(store->me());
+    EXPECT_EQ(service->projectsCalls.count() + service->prioritiesCalls.count(), 0);
+    EXPECT_EQ(service->issuesCalls.count(), 0) << "without a session nothing is loaded";
     EXPECT_EQ(store->phase(), Phase::SignedOut);
 
     clock.advance(300s);
@@ -297,7 +297,7 @@ TEST_F(AppStoreSessionTest, openingASessionTellsObserversOfEachFieldOnce)
 {
     const QSignalSpy phases(store.get(), &AppStore::phaseChanged);
     const QSignalSpy users(store.get(), &AppStore::meChanged);
-    const QSignalSpy services(store.get(), &AppStore::serviceChanged);
+    const QSignalSpy services(store.get(), &AppStore::sessionChanged);
     startSession();
 
     EXPECT_EQ(phases.count(), 1);

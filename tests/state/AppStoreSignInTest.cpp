@@ -54,7 +54,7 @@ TEST_F(AppStoreSignInTest, signingOutOfADemoTouchesNoStoreOfSecrets)
 
 TEST_F(AppStoreSignInTest, savedCredentialsOpenTheirSessionWithoutBeingTried)
 {
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     const TaskResult<void> done(store->bootstrap());
 
     EXPECT_EQ(store->phase(), Phase::Ready) << "before anything was fetched";
@@ -86,7 +86,7 @@ TEST_F(AppStoreSignInTest, aRefusedReadSaysWhyOnTheFirstScreenUntilItSucceeds)
     store->retrySavedSession();
     EXPECT_EQ(store->credentialsIssue(), Locked) << "nothing found is no answer to it";
 
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     store->retrySavedSession();
     EXPECT_FALSE(store->credentialsIssue());
     EXPECT_EQ(store->phase(), Phase::Ready);
@@ -97,7 +97,7 @@ TEST_F(AppStoreSignInTest, aSessionBegunWhileTheStoreOfSecretsWasAskedStands)
     sessions.restoreCalls.hold();
     store->retrySavedSession();
     startSession();
-    sessions.restoreCalls[0].finish(sessions.service);
+    sessions.restoreCalls[0].finish(SiteSessions::Opened{sessions.service});
 
     EXPECT_TRUE(store->isDemo());
     EXPECT_EQ(service->currentUserCalls.count(), 1);
@@ -108,15 +108,15 @@ TEST_F(AppStoreSignInTest, pressingRetryTwiceOpensOneSession)
     sessions.restoreCalls.hold();
     store->retrySavedSession();
     store->retrySavedSession();
-    sessions.restoreCalls[0].finish(sessions.service);
-    sessions.restoreCalls[1].finish(sessions.service);
+    sessions.restoreCalls[0].finish(SiteSessions::Opened{sessions.service});
+    sessions.restoreCalls[1].finish(SiteSessions::Opened{sessions.service});
 
     EXPECT_EQ(service->currentUserCalls.count(), 1);
 }
 
 TEST_F(AppStoreSignInTest, aTokenThatWasRevokedSinceShowsInTheList)
 {
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     service->currentUserCalls.failWith(Refused);
     service->issuesCalls.failWith(Refused);
     const TaskResult<void> done(store->bootstrap());
@@ -128,7 +128,7 @@ TEST_F(AppStoreSignInTest, aTokenThatWasRevokedSinceShowsInTheList)
 TEST_F(AppStoreSignInTest, aNetworkThatIsDownAtTheStartIsToldAndTheNextRefreshMakesGood)
 {
     const Failure offline(u"Tu sembles hors ligne."_s);
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     service->currentUserCalls.failWith(offline);
     service->issuesCalls.failWith(offline);
     const TaskResult<void> done(store->bootstrap());
@@ -153,7 +153,7 @@ TEST_F(AppStoreSignInTest, aNetworkThatIsDownAtTheStartIsToldAndTheNextRefreshMa
 
 TEST_F(AppStoreSignInTest, whileTheAccountIsUnknownNothingIsAssignedToItAndAToastSaysSo)
 {
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     service->currentUserCalls.failWith(Failure(u"Tu sembles hors ligne."_s));
     service->issuesCalls.answerWith({sampleIssue(u"WEB-1"_s)});
     const TaskResult<void> done(store->bootstrap());
@@ -169,7 +169,7 @@ TEST_F(AppStoreSignInTest, whatASiteAnswersAfterItsSessionComesIntoNoOther)
 {
     const auto site = std::make_shared<ScriptedService>();
     sessions.service = site;
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     site->currentUserCalls.hold();
     const TaskResult<void> done(store->bootstrap());
     store->signOut();
@@ -187,7 +187,7 @@ TEST_F(AppStoreSignInTest, aFailureOfASiteAfterItsSessionIsToldInNoOther)
 {
     const auto site = std::make_shared<ScriptedService>();
     sessions.service = site;
-    sessions.restoreCalls.answerWith(sessions.service);
+    sessions.restoreCalls.answerWith(SiteSessions::Opened{sessions.service});
     site->currentUserCalls.hold();
     const TaskResult<void> done(store->bootstrap());
     store->signOut();

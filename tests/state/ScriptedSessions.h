@@ -10,6 +10,8 @@ class ScriptedSessions final : public SiteSessions
 public:
     /// The back end of every session opened.
     Service service;
+    /// What each session opened calls when it begins.
+    std::function<void()> onBegin = [] {};
     SignIn last;
     /// Whether `open` takes what was typed for the address of a site.
     bool isSiteValid = true;
@@ -37,12 +39,12 @@ public:
 
     SignIn lastSignIn() const override { return last; }
     QCoro::Task<Saved> restore() override { return restoreCalls.call({}); }
-    Service open(const SignIn &signIn) const override
+    Opened open(const SignIn &signIn) const override
     {
         opened += signIn;
         if (!isSiteValid)
             throw JiraError(JiraError::InvalidSite{});
-        return service;
+        return {service, onBegin};
     }
     QCoro::Task<> keep(SignIn signIn) override { return keepCalls.call({}, signIn); }
     QCoro::Task<> forget() override { return forgetCalls.call({}); }

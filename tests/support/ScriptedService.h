@@ -46,6 +46,9 @@ public:
     /// The results of the two synchronous operations; `browseURL` appends "/browse/" and the key.
     QString site = QStringLiteral("exemple.atlassian.net");
 
+    /// What `listLimit` returns for every scope.
+    std::optional<qsizetype> limit;
+
     /// Ends all pending calls of all operations with `Cancelled`.
     void cancelPending();
 
@@ -73,6 +76,7 @@ public:
                                                      std::stop_token stop) override;
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop) override;
+    std::optional<qsizetype> listLimit(const IssueScope &) const override { return limit; }
     std::optional<QUrl> browseURL(const QString &key) const override;
 
 private:

@@ -1,5 +1,7 @@
 #include "state/edits/IssueUpkeep.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <tuple>
 #include <vector>
@@ -44,6 +46,33 @@ Issue withActivityOf(Issue fetched, const Issue &row)
 {
     fetched.activity = row.activity;
     return fetched;
+}
+
+IssueList withoutRepeatedKeys(const IssueList &issues)
+{
+    QSet<QString> met;
+    met.reserve(issues.size());
+    IssueList distinct;
+    distinct.reserve(issues.size());
+    for (const SharedIssue &issue : issues) {
+        const qsizetype before = met.size();
+        met.insert(issue->key);
+        if (met.size() > before)
+            distinct += issue;
+    }
+    return distinct;
+}
+
+bool belongsTo(const Issue &issue, const IssueScope &scope, const std::optional<JiraUser> &me)
+{
+    const auto isMe = [&](const std::optional<JiraUser> &person) {
+        return person && me && person->id == me->id;
+    };
+    if (const auto *project = scope.asProject())
+        return project->view == ProjectView::All && project->key == issue.projectKey;
+    if (scope == IssueScope::myIssues())
+        return isMe(issue.assignee);
+    return scope == IssueScope::reported() && isMe(issue.reporter);
 }
 
 IssueList openIssues(const IssueList &issues)

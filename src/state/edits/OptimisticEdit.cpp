@@ -16,6 +16,22 @@ QStringList without(QStringList labels, const QString &label)
     return labels;
 }
 
+bool hasAttachment(const Issue &issue, const Attachment &attachment)
+{
+    return std::ranges::any_of(issue.attachments,
+                               [&](const Attachment &other) { return other.id == attachment.id; });
+}
+
+/// Of a change of an attachment.
+std::optional<QString> attachmentId(const OptimisticEdit::Change &change)
+{
+    if (const auto *removal = std::get_if<AttachmentRemoval>(&change))
+        return removal->attachment.id;
+    if (const auto *addition = std::get_if<AttachmentAddition>(&change))
+        return addition->attachment.id;
+    return std::nullopt;
+}
+
 } // namespace
 
 void StatusEdit::apply(Issue &issue) const
@@ -24,10 +40,22 @@ void StatusEdit::apply(Issue &issue) const
     updated.apply(issue);
 }
 
-void StatusEdit::revert(Issue &issue) const
+void StatusEdit::layOver(Issue &issue) const
 {
-    status.revert(issue);
-    updated.revert(issue);
+    status.apply(issue);
+    issue.updated = std::max(issue.updated, updated.after);
+}
+
+void StatusEdit::setBefore(const Issue &issue)
+{
+    status.setBefore(issue);
+    updated.setBefore(issue);
+}
+
+void StatusEdit::setAfter(const Issue &issue)
+{
+    status.setAfter(issue);
+    updated.setAfter(issue);
 }
 
 void AttachmentRemoval::apply(Issue &issue) const
@@ -35,11 +63,25 @@ void AttachmentRemoval::apply(Issue &issue) const
     issue.attachments.removeIf([&](const Attachment &other) { return other.id == attachment.id; });
 }
 
-void AttachmentRemoval::revert(Issue &issue) const
+bool AttachmentRemoval::isShownBy(const Issue &issue) const
 {
-    const auto isPresent = [&](const Attachment &other) { return other.id == attachment.id; };
-    if (std::ranges::none_of(issue.attachments, isPresent))
+    return !hasAttachment(issue, attachment);
+}
+
+AttachmentAddition AttachmentRemoval::reversed() const
+{
+    return {attachment};
+}
+
+void AttachmentAddition::apply(Issue &issue) const
+{
+    if (!hasAttachment(issue, attachment))
         issue.attachments += attachment;
+}
+
+bool AttachmentAddition::isShownBy(const Issue &issue) const
+{
+    return hasAttachment(issue, attachment);
 }
 
 void OptimisticEdit::apply(Issue &issue) const
@@ -47,9 +89,38 @@ void OptimisticEdit::apply(Issue &issue) const
     std::visit([&](const auto &edit) { edit.apply(issue); }, change);
 }
 
-void OptimisticEdit::revert(Issue &issue) const
+void OptimisticEdit::layOver(Issue &issue) const
 {
-    std::visit([&](const auto &edit) { edit.revert(issue); }, change);
+    std::visit([&](const auto &edit) { edit.layOver(issue); }, change);
+}
+
+bool OptimisticEdit::isShownBy(const Issue &issue) const
+{
+    return std::visit([&](const auto &edit) { return edit.isShownBy(issue); }, change);
+}
+
+void OptimisticEdit::setBefore(const Issue &issue)
+{
+    std::visit([&](auto &edit) { edit.setBefore(issue); }, change);
+}
+
+void OptimisticEdit::setAfter(const Issue &issue)
+{
+    std::visit([&](auto &edit) { edit.setAfter(issue); }, change);
+}
+
+OptimisticEdit OptimisticEdit::reversed() const
+{
+    return {key, std::visit([](const auto &edit) { return Change(edit.reversed()); }, change)};
+}
+
+bool OptimisticEdit::hasSameTarget(const OptimisticEdit &other) const
+{
+    if (key != other.key)
+        return false;
+    const auto attachment = attachmentId(change);
+    return attachment ? attachment == attachmentId(other.change)
+                      : change.index() == other.change.index();
 }
 
 std::optional<IssueFieldUpdate> OptimisticEdit::fieldUpdate() const
@@ -59,6 +130,7 @@ std::optional<IssueFieldUpdate> OptimisticEdit::fieldUpdate() const
                           [](const StatusEdit &) { return Update(); },
                           [](const FieldEdit<&Issue::assignee> &) { return Update(); },
                           [](const AttachmentRemoval &) { return Update(); },
+                          [](const AttachmentAddition &) { return Update(); },
                           [](const FieldEdit<&Issue::priority> &edit) {
                               return edit.after ? Update({IssueFieldUpdate::Priority{*edit.after}})
                                                 : Update();

@@ -17,7 +17,12 @@ struct FieldEdit
     Value after;
 
     void apply(Issue &issue) const { issue.*Field = after; }
-    void revert(Issue &issue) const { issue.*Field = before; }
+    /// The same over a record from the site.
+    void layOver(Issue &issue) const { apply(issue); }
+    bool isShownBy(const Issue &issue) const { return issue.*Field == after; }
+    void setBefore(const Issue &issue) { before = issue.*Field; }
+    void setAfter(const Issue &issue) { after = issue.*Field; }
+    FieldEdit reversed() const { return {after, before}; }
 
     bool operator==(const FieldEdit &) const = default;
 };
@@ -29,38 +34,73 @@ struct StatusEdit
     FieldEdit<&Issue::updated> updated;
 
     void apply(Issue &issue) const;
-    void revert(Issue &issue) const;
+    /// A date that the site tells counts when it is later.
+    void layOver(Issue &issue) const;
+    bool isShownBy(const Issue &issue) const { return status.isShownBy(issue); }
+    void setBefore(const Issue &issue);
+    void setAfter(const Issue &issue);
+    StatusEdit reversed() const { return {status.reversed(), updated.reversed()}; }
 
     bool operator==(const StatusEdit &) const = default;
 };
 
-/// An attachment that goes. It comes back at the end, not at its old place.
+struct AttachmentAddition;
+
+/// An attachment that goes.
 struct AttachmentRemoval
 {
     Attachment attachment;
 
     void apply(Issue &issue) const;
-    void revert(Issue &issue) const;
+    void layOver(Issue &issue) const { apply(issue); }
+    bool isShownBy(const Issue &issue) const;
+    void setBefore(const Issue &) {}
+    void setAfter(const Issue &) {}
+    AttachmentAddition reversed() const;
 
     bool operator==(const AttachmentRemoval &) const = default;
+};
+
+/// An attachment that comes: a new one, or one whose removal was refused. It stands at the end, once.
+struct AttachmentAddition
+{
+    Attachment attachment;
+
+    void apply(Issue &issue) const;
+    void layOver(Issue &issue) const { apply(issue); }
+    bool isShownBy(const Issue &issue) const;
+    void setBefore(const Issue &) {}
+    void setAfter(const Issue &) {}
+    AttachmentRemoval reversed() const { return {attachment}; }
+
+    bool operator==(const AttachmentAddition &) const = default;
 };
 
 /// An edit that shows before the service has taken it: it can be applied to every copy of the issue, and undone there
 /// without touching any other field.
 struct OptimisticEdit
 {
-    using Change =
-        std::variant<StatusEdit, FieldEdit<&Issue::priority>, FieldEdit<&Issue::assignee>,
-                     FieldEdit<&Issue::labels>, FieldEdit<&Issue::summary>,
-                     FieldEdit<&Issue::description>, FieldEdit<&Issue::dueDate>, AttachmentRemoval>;
+    using Change = std::variant<StatusEdit, FieldEdit<&Issue::priority>,
+                                FieldEdit<&Issue::assignee>, FieldEdit<&Issue::labels>,
+                                FieldEdit<&Issue::summary>, FieldEdit<&Issue::description>,
+                                FieldEdit<&Issue::dueDate>, AttachmentRemoval, AttachmentAddition>;
 
     /// The issue's key.
     QString key;
     Change change;
 
     void apply(Issue &issue) const;
-    /// Puts the field back to what it was before the edit, whatever it is now.
-    void revert(Issue &issue) const;
+    /// Applies the edit to a record that the site sent without it.
+    void layOver(Issue &issue) const;
+    /// Whether the record has the edit's value already.
+    bool isShownBy(const Issue &issue) const;
+    /// Takes the record's value for the one before the edit, or for the one after it.
+    void setBefore(const Issue &issue);
+    void setAfter(const Issue &issue);
+    /// The edit that puts the field back to what it was before.
+    OptimisticEdit reversed() const;
+    /// Whether both change the same field of the same issue, or the same attachment.
+    bool hasSameTarget(const OptimisticEdit &other) const;
     /// What the service is told; nothing for a status, an assignee or an attachment, which have operations of their own.
     std::optional<IssueFieldUpdate> fieldUpdate() const;
 

@@ -80,7 +80,7 @@ TEST(OptimisticEdit, RevertingGivesTheIssueBack)
         Issue issue = sample();
         edit.apply(issue);
         EXPECT_NE(issue, sample());
-        edit.revert(issue);
+        edit.reversed().apply(issue);
         EXPECT_EQ(issue, sample());
     }
 }
@@ -92,7 +92,7 @@ TEST(OptimisticEdit, RevertingKeepsEditsOfOtherFields)
         Issue issue = sample();
         for (const OptimisticEdit &each : edits)
             each.apply(issue);
-        edit.revert(issue);
+        edit.reversed().apply(issue);
 
         Issue expected = sample();
         for (const OptimisticEdit &each : edits) {
@@ -110,7 +110,7 @@ TEST(OptimisticEdit, AFailedFirstOfTwoEditsPutsBackTheValueBeforeIt)
     first->apply(issue);
     const auto second = summaryEdit(issue, u"Trois"_s);
     second->apply(issue);
-    first->revert(issue);
+    first->reversed().apply(issue);
     EXPECT_EQ(issue.summary, sample().summary);
 }
 
