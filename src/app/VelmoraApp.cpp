@@ -37,15 +37,18 @@ VelmoraApp::VelmoraApp(Outside outside)
           },
           [this](const JiraCredentials &credentials) { m_images.showCredentials(credentials); }),
       m_store(context()),
-      m_scenes(m_engine, m_store, *m_outside.preferences),
+      m_farewell(*m_outside.clock, m_store),
+      m_scenes(m_engine, m_store, *m_outside.preferences, m_farewell),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)
 {
     Fonts::load();
     m_engine.addImportPath(QStringLiteral(":/qt/qml"));
     registerKitProviders(m_engine);
-    const auto end = [this] { quit(); };
-    QObject::connect(&m_engine, &QQmlEngine::quit, &m_store, end, Qt::QueuedConnection);
-    QObject::connect(&m_delegate, &AppDelegate::quitRequested, &m_store, end, Qt::QueuedConnection);
+    const auto quitForUser = [this] { quit(Farewell::Reason::User); };
+    QObject::connect(&m_engine, &QQmlEngine::quit, &m_store, quitForUser, Qt::QueuedConnection);
+    QObject::connect(&m_delegate, &AppDelegate::quitRequested, &m_store, quitForUser,
+                     Qt::QueuedConnection);
+    QObject::connect(&m_farewell, &Farewell::ended, &m_store, [this] { end(); });
 }
 
 AppStoreContext VelmoraApp::context()
@@ -66,7 +69,12 @@ bool VelmoraApp::open()
     return true;
 }
 
-void VelmoraApp::quit()
+void VelmoraApp::quit(Farewell::Reason reason)
+{
+    m_farewell.begin(reason);
+}
+
+void VelmoraApp::end()
 {
     m_lastMoment = m_outside.clock->after(longestFarewell, &QCoreApplication::quit);
     spawn(quitAfter(m_sessions.settled()));

@@ -4,6 +4,7 @@
 #include "app/JiraSessions.h"
 #include "app/Outside.h"
 #include "app/SiteImages.h"
+#include "shell/Farewell.h"
 #include "state/AppStore.h"
 
 #include <QQmlEngine>
@@ -16,9 +17,9 @@ public:
 
     /// Opens the main window and starts the session; false if the QML of the window cannot be loaded.
     bool open();
-    /// Ends the process. It waits a few seconds for the deletion of a token in progress, so that a user who has signed
+    /// Ends the process once nothing that the user changed is still being sent, see `Farewell`. It waits a few seconds for the deletion of a token in progress, so that a user who has signed
     /// out is not signed in at the next start.
-    void quit();
+    void quit(Farewell::Reason reason);
 
     AppStore &store() { return m_store; }
     Scenes &scenes() { return m_scenes; }
@@ -29,12 +30,14 @@ public:
 private:
     AppStoreContext context();
     void bootstrap();
+    void end();
 
     Outside m_outside;
     SiteImages m_images;
     JiraSessions m_sessions;
     AppStore m_store;
     // Declared after the store, so that the screens are destroyed before the data that they display.
+    Farewell m_farewell;
     QQmlEngine m_engine;
     Scenes m_scenes;
     AppDelegate m_delegate;

@@ -49,7 +49,7 @@ int main(int argc, char **argv)
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::asked, &application, [&velmora] {
         if (velmora)
-            velmora->quit();
+            velmora->quit(Farewell::Reason::System);
         else
             QApplication::quit();
     });

@@ -13,6 +13,7 @@ Window {
 
     required property AppStore store
     required property WindowMemory memory
+    required property Farewell farewell
 
     // The horizontal centre of the issue list, above which toasts are centred.
     property real detailCentre: width / 2
@@ -78,6 +79,14 @@ Window {
     MenuBarLayer {
         anchors.fill: parent
         store: root.store
+    }
+
+    When {
+        shown: root.farewell.isShown
+
+        FarewellSheet {
+            farewell: root.farewell
+        }
     }
 
     Shortcut {

@@ -21,11 +21,17 @@ void bringForward(QQuickWindow *window)
 
 } // namespace
 
-Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences)
-    : m_engine(engine), m_store(store), m_memory(preferences), m_tabs(preferences)
+Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell)
+    : m_engine(engine),
+      m_store(store),
+      m_farewell(farewell),
+      m_memory(preferences),
+      m_tabs(preferences)
 {
+    QQmlEngine::setObjectOwnership(&m_farewell, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_memory, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_tabs, QQmlEngine::CppOwnership);
+    connect(&m_farewell, &Farewell::windowWanted, this, &Scenes::showMain);
     connect(&m_store, &AppStore::openWindowRequested, this, &Scenes::showIssue);
     connect(&m_store, &AppStore::settingsRequested, this, &Scenes::showSettings);
 }
@@ -89,6 +95,7 @@ QVariantMap Scenes::mainProperties()
     for (const auto *screen : QGuiApplication::screens())
         screens += screen->availableGeometry();
     auto properties = m_memory.initialProperties(screens);
+    properties.insert(u"farewell"_s, QVariant::fromValue(&m_farewell));
     properties.insert(u"memory"_s, QVariant::fromValue(&m_memory));
     return properties;
 }

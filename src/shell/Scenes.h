@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Farewell.h"
 #include "shell/SettingsTabs.h"
 #include "shell/WindowMemory.h"
 #include "state/AppStore.h"
@@ -21,7 +22,7 @@ class Scenes : public QObject
 
 public:
     /// All references must outlive the windows.
-    Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences);
+    Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell);
     ~Scenes() override;
 
     /// The main window. Null before it was first shown.
@@ -50,6 +51,7 @@ private:
 
     QQmlEngine &m_engine;
     AppStore &m_store;
+    Farewell &m_farewell;
     WindowMemory m_memory;
     SettingsTabs m_tabs;
     std::unique_ptr<QQuickWindow> m_main;

@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.Theme
+
+// Tells that changes are still being sent while the program ends, and lets the user decide.
+Sheet {
+    id: root
+
+    required property Farewell farewell
+
+    name: farewell.title
+    implicitWidth: 400
+    visible: farewell.isShown
+    onClosed: {
+        if (root.farewell.isShown)
+            root.farewell.stay();
+    }
+
+    Item {
+        width: root.width
+        implicitHeight: column.implicitHeight + 2 * Metrics.gapLarge
+
+        Column {
+            id: column
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: Metrics.gapLarge
+            spacing: Metrics.gapMedium
+
+            AppText {
+                width: parent.width
+                role: TypeScale.Headline
+                text: root.farewell.title
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            AppText {
+                width: parent.width
+                color: Theme.text2
+                text: root.farewell.text
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            Row {
+                anchors.right: parent.right
+                topPadding: Metrics.gap
+                spacing: Metrics.gap
+
+                PushButton {
+                    text: "Quitter quand même"
+                    onClicked: root.farewell.leave()
+                }
+
+                PushButton {
+                    look: PushButton.Prominent
+                    text: "Rester"
+                    focus: true
+                    onClicked: root.farewell.stay()
+                }
+            }
+        }
+    }
+}
