@@ -72,7 +72,7 @@ FocusScope {
                 x: Metrics.paneMargin
                 width: parent.width - 2 * x
                 shown: content.isRecap
-                onWanted: setSource("RecapHeader.qml", { store: root.store })
+                onWanted: setSource("toolbar/RecapHeader.qml", { store: root.store })
             }
         }
 
@@ -119,7 +119,7 @@ FocusScope {
             anchors.fill: parent
             inSight: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.Board
             other: listPart
-            onWanted: setSource("BoardView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
+            onWanted: setSource("board/BoardView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
                                                    picker: rowPicker, drag: rowDrag })
         }
 
@@ -131,7 +131,7 @@ FocusScope {
             focus: true
             inSight: content.kind === IssuesContent.Issues && root.store.layout === Model.LayoutMode.List
             other: boardPart
-            onWanted: setSource("IssueListView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
+            onWanted: setSource("list/IssueListView.qml", { store: root.store, focus: true, contextMenu: rowMenu,
                                                        picker: rowPicker, drag: rowDrag })
         }
 

@@ -56,16 +56,9 @@ Item {
             Accessible.name: text
         }
 
-        AppText {
+        ListCount {
             width: parent.width
-            role: TypeScale.Badge
-            weight: Font.Normal
-            tabular: true
-            color: Theme.text2
-            text: root.store.subtitle
-            elide: Text.ElideRight
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            store: root.store
         }
     }
 
