@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/RawServer.h"
+#include "simulator/server/RawServer.h"
 
 #include <QList>
 

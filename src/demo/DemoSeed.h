@@ -5,7 +5,7 @@
 #include "model/Comment.h"
 #include "model/Issue.h"
 #include "model/Project.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QDateTime>
 #include <QHash>

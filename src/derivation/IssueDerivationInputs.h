@@ -3,7 +3,7 @@
 #include "derivation/IssueFilters.h"
 #include "model/IssueScope.h"
 #include "model/Project.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QHash>
 #include <QLocale>

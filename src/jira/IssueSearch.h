@@ -5,7 +5,7 @@
 #include "model/Issue.h"
 #include "model/IssueScope.h"
 #include "model/JiraError.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QList>
 #include <QString>

@@ -3,7 +3,7 @@
 #include "jira/JiraCredentials.h"
 #include "jira/SiteConnection.h"
 #include "model/IssueService.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 #include "platform/Clock.h"
 
 #include <QString>

@@ -3,7 +3,7 @@
 #include "jira/SiteConnection.h"
 #include "model/Issue.h"
 #include "model/IssueScope.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 /// The operations that list issues. `now` replaces missing dates and determines the period of a recap. If a page fails,
 /// the whole search fails.

@@ -1,6 +1,6 @@
 #include "model/ActivityPeriod.h"
 
-#include "model/DateParts.h"
+#include "model/dates/DateParts.h"
 
 #include <QHashFunctions>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Enums.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "model/LocalizedComparator.h"
 
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <optional>
 

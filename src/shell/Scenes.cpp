@@ -77,7 +77,7 @@ void Scenes::showIssue(const QString &key)
 void Scenes::showSettings()
 {
     if (!m_settings) {
-        m_settings = make(u"SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)}});
+        m_settings = make(u"settings/SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)}});
         watch(m_settings);
     }
     bringForward(m_settings);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "shell/Farewell.h"
-#include "shell/SettingsTabs.h"
 #include "shell/WindowMemory.h"
+#include "shell/settings/SettingsTabs.h"
 #include "state/AppStore.h"
 
 #include <QHash>

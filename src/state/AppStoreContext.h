@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/IssueService.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/Preferences.h"

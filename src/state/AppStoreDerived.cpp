@@ -1,4 +1,4 @@
-#include "model/DateLabels.h"
+#include "model/dates/DateLabels.h"
 #include "state/AppStore.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "app/SiteImages.h"
 
-#include "simulator/RawServer.h"
+#include "simulator/server/RawServer.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"

@@ -2,7 +2,7 @@
 
 #include "http/HttpSession.h"
 #include "http/TransportError.h"
-#include "simulator/RawServer.h"
+#include "simulator/server/RawServer.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "jira/JiraClient.h"
-#include "simulator/RawServer.h"
+#include "simulator/server/RawServer.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"

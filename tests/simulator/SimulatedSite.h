@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/RawServer.h"
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
+#include "simulator/server/RawServer.h"
 
 #include <QHash>
 

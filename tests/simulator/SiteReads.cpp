@@ -1,9 +1,9 @@
 #include "simulator/SiteReads.h"
 
-#include "simulator/JqlText.h"
 #include "simulator/SiteJson.h"
 #include "simulator/SiteReply.h"
 #include "simulator/SortedBy.h"
+#include "simulator/jql/JqlText.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/RawAnswer.h"
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
+#include "simulator/server/RawAnswer.h"
 
 /// The responses of the operations that only read.
 namespace SiteReads {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/RawAnswer.h"
+#include "simulator/server/RawAnswer.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

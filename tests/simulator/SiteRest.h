@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/RawAnswer.h"
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
+#include "simulator/server/RawAnswer.h"
 
 /// The REST interface of the site as a function from a request to a response, which may also change the site. Requests
 /// without the right `Authorization` get 401, paths unknown to the interface get 404.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/RawRequest.h"
+#include "simulator/server/RawRequest.h"
 
 #include <QString>
 #include <QUrlQuery>

@@ -1,7 +1,7 @@
-#include "simulator/JqlSearch.h"
 #include "simulator/SiteJson.h"
 #include "simulator/SiteReads.h"
 #include "simulator/SiteReply.h"
+#include "simulator/jql/JqlSearch.h"
 
 #include <QJsonDocument>
 

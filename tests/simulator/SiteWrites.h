@@ -1,8 +1,8 @@
 #pragma once
 
-#include "simulator/RawAnswer.h"
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
+#include "simulator/server/RawAnswer.h"
 
 /// The operations that change the site. They are as strict as the real ones: an invalid request gets 400 with a message
 /// for each field and changes nothing.

@@ -1,6 +1,6 @@
 #include "state/models/IssueListModel.h"
 
-#include "model/DateLabels.h"
+#include "model/dates/DateLabels.h"
 #include "state/models/IssueListSteps.h"
 
 using namespace Qt::StringLiterals;

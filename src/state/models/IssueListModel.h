@@ -1,7 +1,7 @@
 #pragma once
 
 #include "derivation/IssueGroupStep.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 #include "state/models/IssueListBadge.h"
 #include "state/models/IssueListRow.h"
 #include "state/models/KeyedListModel.h"

@@ -1,6 +1,6 @@
 #include "state/recap/ActivityBadge.h"
 
-#include "model/DateLabels.h"
+#include "model/dates/DateLabels.h"
 #include "state/recap/ActivityTexts.h"
 
 using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
 #include "state/recap/ActivityTexts.h"
 
-#include "model/DateLabels.h"
+#include "model/dates/DateLabels.h"
 
 using namespace Qt::StringLiterals;
 

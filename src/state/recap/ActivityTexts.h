@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/ActivityEvent.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 #include "state/recap/StatusLookup.h"
 
 /// What an event of the project's history was, by whom and when, in a sentence: "Créé par Nora, samedi 31 octobre à

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/Certificates.h"
-#include "simulator/RawAnswer.h"
+#include "simulator/server/Certificates.h"
+#include "simulator/server/RawAnswer.h"
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 #include "jira/matrix/Operation.h"
 #include "jira/matrix/Scratch.h"
 #include "jira/matrix/Spoken.h"
-#include "simulator/RawServer.h"
+#include "simulator/server/RawServer.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"

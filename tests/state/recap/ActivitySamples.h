@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Issue.h"
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 /// Made-up issues and their histories, for the tests of recaps.
 namespace Sample {

@@ -1,7 +1,7 @@
 #include "screens/issues/inspector/InspectedIssue.h"
 
 #include "async/Spawn.h"
-#include "model/DateLabels.h"
+#include "model/dates/DateLabels.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "screens/kit/controls/CalendarMonth.h"
 
-#include "model/DateParts.h"
-#include "model/UserCalendar.h"
+#include "model/dates/DateParts.h"
+#include "model/dates/UserCalendar.h"
 
 namespace {
 

@@ -1,0 +1,155 @@
+#include "app/WindowFixture.h"
+#include "shell/sidebar/Workspace.h"
+
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class Sidebar : public WindowFixture
+{
+protected:
+    Sidebar()
+    {
+        serve({});
+        openOnDemo();
+    }
+
+    /// The focus is on a list that walks its own rows, or on one of them.
+    bool isWalking()
+    {
+        for (QQuickItem *item = window().activeFocusItem(); item; item = item->parentItem()) {
+            if (item->property("walksItsRows").toBool())
+                return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(Sidebar, AClickOnARowSelectsItsScope)
+{
+    click(find(QAccessible::ListItem, u"Créés par moi"_s));
+
+    EXPECT_EQ(store().scope(), IssueScope::reported());
+    EXPECT_EQ(store().scopeTitle(), u"Créés par moi"_s);
+}
+
+TEST_F(Sidebar, TabReachesTheRowsAndTheArrowsWalkThem)
+{
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+
+    press(Qt::Key_Down);
+    EXPECT_EQ(store().scope(), IssueScope::recent());
+    press(Qt::Key_Down);
+    EXPECT_EQ(store().scope(), IssueScope::reported());
+    press(Qt::Key_Down);
+    EXPECT_EQ(store().scope(), IssueScope::activity({ActivityRange::Week, 0, false}));
+    press(Qt::Key_Up);
+    EXPECT_EQ(store().scope(), IssueScope::reported());
+}
+
+TEST_F(Sidebar, AProjectsViewsStandUnderItWhileItIsShown)
+{
+    EXPECT_TRUE(spokenIn(window(), QAccessible::ListItem, u"Sprint actif"_s).isEmpty());
+
+    click(find(QAccessible::ListItem, u"App mobile"_s));
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return !spokenIn(window(), QAccessible::ListItem, u"Sprint actif"_s).isEmpty(); }));
+    click(find(QAccessible::ListItem, u"Sprint actif"_s));
+
+    EXPECT_EQ(store().scope(), IssueScope::project(u"MOB"_s, ProjectView::Active));
+}
+
+TEST_F(Sidebar, AProjectBecomesAFavouriteThroughItsMenu)
+{
+    QTest::mouseClick(&window(), Qt::RightButton, {},
+                      find(QAccessible::ListItem, u"App mobile"_s).box.center());
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return !spokenIn(window(), QAccessible::MenuItem, u"favoris"_s).isEmpty(); }));
+    click(find(QAccessible::MenuItem, u"Ajouter aux favoris"_s));
+
+    EXPECT_EQ(store().favoriteProjects(), QStringList{u"MOB"_s});
+    find(QAccessible::Heading, u"Favoris"_s);
+}
+
+TEST_F(Sidebar, TheMenuOfTheSiteHasItsEntriesInTheirOrder)
+{
+    QSignalSpy settings(&store(), &AppStore::settingsRequested);
+    click(find(QAccessible::Button, u"Espace"_s));
+    await(QAccessible::MenuItem, u"Quitter le mode démo"_s);
+
+    auto entries = spokenIn(window(), QAccessible::MenuItem);
+    std::ranges::sort(entries, {}, [](const Spoken &entry) { return entry.box.top(); });
+    QStringList names;
+    for (const auto &entry : entries)
+        names += entry.name;
+    EXPECT_EQ(names, (QStringList{u"Noam Talvère"_s, u"Réglages…"_s,
+                                  u"Ouvrir "_s + store().siteName(), u"Quitter le mode démo"_s}));
+
+    click(find(QAccessible::MenuItem, u"Réglages…"_s));
+    EXPECT_EQ(settings.count(), 1);
+}
+
+TEST_F(Sidebar, TheKeyboardOpensTheMenuOfTheProjectThatIsShown)
+{
+    click(find(QAccessible::ListItem, u"App mobile"_s));
+    await(QAccessible::ListItem, u"Sprint actif"_s);
+    const auto row = spokenIn(window(), QAccessible::ListItem, u"App mobile"_s).first();
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    const auto entry = await(QAccessible::MenuItem, u"Ajouter aux favoris"_s);
+    EXPECT_NEAR(entry.box.top(), row.box.bottom(), 20);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, {}));
+    press(Qt::Key_Menu);
+    await(QAccessible::MenuItem, u"Ajouter aux favoris"_s);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+
+    EXPECT_EQ(store().favoriteProjects(), QStringList{u"MOB"_s});
+}
+
+TEST_F(Sidebar, OnARowWithoutAMenuTheMenuKeyDoesNothing)
+{
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+    press(Qt::Key_Menu);
+    settle();
+
+    EXPECT_TRUE(spokenIn(window(), QAccessible::MenuItem).isEmpty());
+}
+
+TEST(NeighbourRow, TitlesAndPlaceholdersAreSteppedOver)
+{
+    const QList<SidebarRow> rows = sidebarRows({});
+    const auto indexOf = [&](const QString &text) {
+        return int(std::ranges::find(rows, text, &SidebarRow::text) - rows.begin());
+    };
+
+    EXPECT_EQ(neighbourRow(rows, indexOf(u"Créés par moi"_s), 1), indexOf(u"Cette semaine"_s));
+    EXPECT_EQ(neighbourRow(rows, indexOf(u"Semaine dernière"_s), 1),
+              indexOf(u"Semaine dernière"_s));
+    EXPECT_EQ(neighbourRow(rows, indexOf(u"Mes tickets"_s), -1), indexOf(u"Mes tickets"_s));
+    EXPECT_EQ(neighbourRow(rows, -1, 1), indexOf(u"Mes tickets"_s));
+    EXPECT_EQ(neighbourRow(rows, -1, -1), indexOf(u"Semaine dernière"_s));
+}
+
+TEST(NeighbourRow, ARowOfTheSameScopeIsSteppedOver)
+{
+    SidebarInputs inputs;
+    inputs.projects = {Project{u"1"_s, u"MOB"_s, u"App mobile"_s, {}, {}, false}};
+    inputs.scope = IssueScope::project(u"MOB"_s, ProjectView::All);
+    const QList<SidebarRow> rows = sidebarRows(inputs);
+    const int tickets = int(std::ranges::find_if(rows, &SidebarRow::isSelected) - rows.begin());
+    ASSERT_EQ(rows[tickets].text, u"Tickets"_s);
+
+    EXPECT_EQ(rows[neighbourRow(rows, tickets, -1)].text, u"Semaine dernière"_s);
+    EXPECT_EQ(rows[neighbourRow(rows, tickets, 1)].text, u"Sprint actif"_s);
+}
