@@ -17,7 +17,7 @@ QString assigneeName(const Issue &issue)
 
 void appendText(QByteArray &texts, const QString &text)
 {
-    texts += folded(text).toUtf8();
+    texts += foldedForSearch(text).toUtf8();
     texts += endOfText;
 }
 
@@ -34,7 +34,7 @@ void appendTexts(QByteArray &texts, const Issue &issue)
 
 QByteArray SearchTexts::needle(const QString &filterText)
 {
-    return folded(filterText.trimmed()).toUtf8();
+    return foldedForSearch(filterText.trimmed()).toUtf8();
 }
 
 bool SearchTexts::sameTexts(const Issue &a, const Issue &b)

@@ -7,8 +7,8 @@
 
 #include <vector>
 
-/// What a text search looks through: key, summary, labels and assignee of each issue, folded, in one stretch of memory.
-/// A search reads it once from end to end, which is several times faster than visiting the records.
+/// What a text search looks through: key, summary, labels and assignee of each issue, folded for search, in one stretch
+/// of memory. A search reads it once from end to end, which is several times faster than visiting the records.
 class SearchTexts
 {
 public:

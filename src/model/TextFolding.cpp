@@ -110,9 +110,20 @@ QString folded(QStringView text)
     return result;
 }
 
+QString foldedForSearch(QStringView text)
+{
+    QString result = folded(text);
+    // To look for a letter costs far less than to prepare its replacement, and most texts have neither.
+    if (result.contains(u'œ'))
+        result.replace(u'œ', "oe"_L1);
+    if (result.contains(u'æ'))
+        result.replace(u'æ', "ae"_L1);
+    return result;
+}
+
 bool localizedContains(QStringView haystack, QStringView needle)
 {
-    return !needle.isEmpty() && folded(haystack).contains(folded(needle));
+    return !needle.isEmpty() && foldedForSearch(haystack).contains(foldedForSearch(needle));
 }
 
 QString slugified(QStringView text)

@@ -60,6 +60,19 @@ TEST(VisibleIssues, TheTextIsLookedForInKeySummaryLabelsAndAssigneeWithoutCaseAn
     EXPECT_EQ(visibleKeys(inputs), (QStringList{u"ETE-1"_s, u"WEB-2"_s, u"WEB-3"_s, u"WEB-4"_s}));
 }
 
+TEST(VisibleIssues, ALigatureAndItsTwoLettersAreTheSameToTheSearch)
+{
+    Issue ligature = sampleIssue(u"WEB-1"_s);
+    ligature.summary = u"Mettre en œuvre"_s;
+    Issue letters = sampleIssue(u"WEB-2"_s);
+    letters.summary = u"Mettre en oeuvre"_s;
+    auto inputs = inputsOf({ligature, letters});
+    for (const auto &text : {u"ŒUV"_s, u"Oeuv"_s}) {
+        inputs.filterText = text;
+        EXPECT_EQ(visibleKeys(inputs).size(), 2) << text.toStdString();
+    }
+}
+
 TEST(VisibleIssues, ATextDoesNotReachFromOneFieldIntoTheNextNorIntoTheNextIssue)
 {
     Issue first = sampleIssue(u"WEB-1"_s);

@@ -44,6 +44,14 @@ TEST(IssueStatus, UnknownNameIsItsOwnGroupInFoldedForm)
     EXPECT_EQ(named(u"Staging"_s).groupKey(), u"staging"_s);
 }
 
+TEST(IssueStatus, ANameWithALigatureIsAnotherGroupThanOneWithItsTwoLetters)
+{
+    const IssueStatus ligature(u"1"_s, u"Mise en Œuvre"_s, u"new"_s);
+    const IssueStatus letters(u"2"_s, u"Mise en oeuvre"_s, u"new"_s);
+    EXPECT_EQ(ligature.groupKey(), u"mise en œuvre"_s);
+    EXPECT_NE(ligature.groupKey(), letters.groupKey());
+}
+
 TEST(IssueStatus, OnlySpacesAndTabsAreTrimmedFromTheGroup)
 {
     EXPECT_EQ(named(u"\ndone"_s).groupKey(), u"\ndone"_s);

@@ -63,11 +63,28 @@ TEST(Folded, OfAnEmptyTextIsEmpty)
     EXPECT_TRUE(folded({}).isEmpty());
 }
 
+TEST(FoldedForSearch, SpellsLigaturesOut)
+{
+    EXPECT_EQ(foldedForSearch(u"ŒUVRE Ærø ǼǢ"), u"oeuvre aerø aeae"_s);
+    EXPECT_EQ(foldedForSearch(u"Straße ﬁn"), u"strasse fin"_s);
+    EXPECT_TRUE(foldedForSearch(u"").isEmpty());
+}
+
 TEST(LocalizedContains, IgnoresCaseAndAccentsOnBothSides)
 {
     EXPECT_TRUE(localizedContains(u"Corriger l'ÉLÉVATION", u"elev"));
     EXPECT_TRUE(localizedContains(u"elevation", u"ÉLÉ"));
     EXPECT_FALSE(localizedContains(u"elevation", u"elu"));
+}
+
+TEST(LocalizedContains, FindsALigatureByItsTwoLettersAndTheReverse)
+{
+    EXPECT_TRUE(localizedContains(u"Chef-d'ŒUVRE", u"oeuvre"));
+    EXPECT_TRUE(localizedContains(u"chef-d'oeuvre", u"Œuv"));
+    EXPECT_TRUE(localizedContains(u"curriculum vitæ", u"VITAE"));
+    EXPECT_TRUE(localizedContains(u"et caetera", u"Cæt"));
+    EXPECT_TRUE(localizedContains(u"GROẞ", u"gross"));
+    EXPECT_FALSE(localizedContains(u"œuf", u"euf d"));
 }
 
 TEST(LocalizedContains, FindsAnEmptyTextNowhere)

@@ -9,9 +9,9 @@ constexpr QChar betweenTexts(0xFFFF);
 
 QString foldedTexts(const OptionItem &item, SearchableItems::Texts texts)
 {
-    QString folded = ::folded(item.title);
+    QString folded = foldedForSearch(item.title);
     if (texts == SearchableItems::Texts::TitleAndSubtitle && item.subtitle)
-        folded += betweenTexts + ::folded(*item.subtitle);
+        folded += betweenTexts + foldedForSearch(*item.subtitle);
     return folded;
 }
 
@@ -29,7 +29,7 @@ QList<OptionItem> SearchableItems::matching(const QString &query) const
     const QString words = query.trimmed();
     if (words.isEmpty())
         return m_items;
-    const QString needle = folded(words);
+    const QString needle = foldedForSearch(words);
     QList<OptionItem> found;
     for (qsizetype i = 0; !needle.isEmpty() && i < m_items.size(); ++i) {
         if (m_folded[i].contains(needle))

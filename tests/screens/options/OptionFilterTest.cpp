@@ -76,6 +76,13 @@ TEST(CreateCandidate, AccentsTellTwoValuesApart)
     EXPECT_EQ(createCandidate({item(u"ete"_s)}, u"été"_s), u"été"_s);
 }
 
+TEST(CreateCandidate, ALigatureTellsTwoValuesApartThoughEachIsFoundByTheOther)
+{
+    const QList<OptionItem> items{item(u"œuvre"_s)};
+    EXPECT_EQ(filteredOptions(items, u"oeuvre"_s).size(), 1);
+    EXPECT_EQ(createCandidate(items, u"oeuvre"_s), u"oeuvre"_s);
+}
+
 TEST(ItemWithShortcut, IsTheFirstOne)
 {
     auto first = item(u"a"_s);

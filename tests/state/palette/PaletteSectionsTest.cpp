@@ -61,6 +61,19 @@ QStringList labelRows(const QString &query, const QStringList &known)
 
 } // namespace
 
+TEST(PaletteSections, ALigatureAndItsTwoLettersFindEachOther)
+{
+    const auto rows = actions({item(u"Mise en œuvre"_s), item(u"Mise en oeuvre"_s)});
+    EXPECT_EQ(rows.matching(u"oeuvre"_s).size(), 2);
+    EXPECT_EQ(rows.matching(u"Œuvre"_s).size(), 2);
+}
+
+TEST(PaletteSections, ALabelWithALigatureIsAnotherThanOneWithItsTwoLetters)
+{
+    EXPECT_EQ(labelRows(u"oeuvre"_s, {u"œuvre"_s}).size(), 2);
+    EXPECT_EQ(labelRows(u"oeuvre"_s, {u"oeuvre"_s}).size(), 1);
+}
+
 TEST(PaletteSections, TheOrderIsIssuesActionsDestinationsAndEmptyOnesAreLeftOut)
 {
     const auto copy = actions({item(u"Copier la clé"_s)});
