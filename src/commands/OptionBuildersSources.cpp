@@ -101,9 +101,16 @@ QList<IssueStatus> seenStatuses(const OptionInputs &inputs)
     return statuses;
 }
 
+/// The project that all issues belong to; empty when there is none.
+QString soleProject(const IssueList &issues)
+{
+    const QStringList keys = projectKeys(issues);
+    return keys.size() == 1 ? keys.first() : QString();
+}
+
 QList<IssueStatus> inBoardOrder(const QList<IssueStatus> &statuses, const OptionInputs &inputs)
 {
-    const StatusRanks ranks(inputs.projectStatuses);
+    const StatusRanks ranks(inputs.projectStatuses, soleProject(inputs.targets));
     const NameOrder names(inputs.locale);
     return sortedBy(statuses,
                     [&](const IssueStatus &status) { return boardPlace(status, ranks, names); });

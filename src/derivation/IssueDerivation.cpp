@@ -91,10 +91,12 @@ void IssueDerivation::setInputs(const IssueDerivationInputs &inputs)
     noteChange(Me, inputs.me != before.me);
     noteChange(Projects, inputs.projects != before.projects ||
                              inputs.projectDetails != before.projectDetails);
-    noteChange(Statuses, inputs.projectStatuses != before.projectStatuses);
+    const bool areRanksOther = inputs.projectStatuses != before.projectStatuses ||
+                               inputs.scopeProject() != before.scopeProject();
+    noteChange(Statuses, areRanksOther);
     noteChange(Locale, inputs.locale != before.locale);
-    if (inputs.projectStatuses != before.projectStatuses)
-        m_ranks = StatusRanks(inputs.projectStatuses);
+    if (areRanksOther)
+        m_ranks = StatusRanks(inputs.projectStatuses, inputs.scopeProject());
     if (inputs.locale != before.locale)
         m_names = NameOrder(inputs.locale);
 }

@@ -31,6 +31,12 @@ QString recapTitle(const ActivityPeriod &period, const QDateTime &now, const Use
 
 } // namespace
 
+QString IssueDerivationInputs::scopeProject() const
+{
+    const auto *project = scope.asProject();
+    return project ? project->key : QString();
+}
+
 std::optional<Project> IssueDerivationInputs::project(const QString &key) const
 {
     if (const auto detail = projectDetails.find(key); detail != projectDetails.end())

@@ -34,6 +34,8 @@ struct IssueDerivationInputs
     /// A recap shows what was finished, whatever the settings say.
     bool isRecap() const { return scope.asActivity() != nullptr; }
     bool showsClosed() const { return showCompleted || isRecap(); }
+    /// The key of the project that the scope is about; empty for all other scopes.
+    QString scopeProject() const;
     /// The project's details, else its entry in the list of projects.
     std::optional<Project> project(const QString &key) const;
 };

@@ -108,16 +108,21 @@ LocalizedKey NameOrder::key(const QString &name) const
     return *known;
 }
 
-StatusRanks::StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses)
+StatusRanks::StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses,
+                         const QString &ownProject)
 {
+    add(projectStatuses.value(ownProject));
     auto projects = projectStatuses.keys();
     std::sort(projects.begin(), projects.end());
-    for (const auto &project : projects) {
-        const auto statuses = projectStatuses.value(project);
-        for (int rank = 0; rank < statuses.size(); ++rank) {
-            if (!m_ranks.contains(statuses[rank].groupKey()))
-                m_ranks.insert(statuses[rank].groupKey(), rank);
-        }
+    for (const auto &project : projects)
+        add(projectStatuses.value(project));
+}
+
+void StatusRanks::add(const QList<IssueStatus> &workflow)
+{
+    for (int rank = 0; rank < workflow.size(); ++rank) {
+        if (!m_ranks.contains(workflow[rank].groupKey()))
+            m_ranks.insert(workflow[rank].groupKey(), rank);
     }
 }
 

@@ -30,12 +30,16 @@ public:
     static constexpr int unknown = 999;
 
     StatusRanks() = default;
-    /// Of projects that share a status the one with the first key, in plain text order, counts.
-    explicit StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses);
+    /// Of projects that share a status, `ownProject` counts before all others, and among those the one with the first
+    /// key, in plain text order. No project has an empty key.
+    explicit StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses,
+                         const QString &ownProject = {});
 
     int of(const QString &groupKey) const { return m_ranks.value(groupKey, unknown); }
 
 private:
+    void add(const QList<IssueStatus> &workflow);
+
     QHash<QString, int> m_ranks;
 };
 

@@ -82,6 +82,15 @@ TEST(StatusOptions, OfSeveralIssuesAreTheirProjectsOnePerGroup)
     EXPECT_EQ(statusOptions(inputs), (QList{english, done}));
 }
 
+TEST(StatusOptions, OfIssuesOfOneProjectStandInTheOrderOfItsWorkflow)
+{
+    const IssueStatus bench(u"7"_s, u"Banc"_s, u"indeterminate"_s);
+    const IssueStatus staging(u"8"_s, u"Staging"_s, u"indeterminate"_s);
+    OptionInputs inputs = inputsFor({issueWith(u"B-1"_s, staging), issueWith(u"B-2"_s, bench)});
+    inputs.projectStatuses = {{u"A"_s, {bench, staging}}, {u"B"_s, {staging, bench}}};
+    EXPECT_EQ(statusOptions(inputs), (QList{staging, bench}));
+}
+
 TEST(StatusOptions, OfUnloadedProjectsAreThoseOfTheKnownIssues)
 {
     OptionInputs inputs = inputsFor({issueWith(u"A-1"_s, todo)});

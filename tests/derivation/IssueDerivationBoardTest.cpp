@@ -107,6 +107,23 @@ TEST(BoardColumns, TheBoardFollowsTheWorkflowFromLeftToRight)
                            u"s:inreview=A-3"_s, u"s:done=A-2"_s, u"s:cancelled=A-1"_s}));
 }
 
+TEST(BoardColumns, OfTwoWorkflowsThatRankAStatusTheOneOfTheListsOwnProjectCounts)
+{
+    auto inputs = inputsOf({issueOf(u"WEB-1"_s, inProgress(u"Palier"_s)),
+                            issueOf(u"WEB-2"_s, inProgress(u"Staging"_s)),
+                            issueOf(u"WEB-3"_s, inProgress(u"Banc"_s))});
+    inputs.projectStatuses = {
+        {u"API"_s, {inProgress(u"Banc"_s), inProgress(u"Palier"_s), inProgress(u"Staging"_s)}},
+        {u"WEB"_s, {todo(), inProgress(u"Staging"_s), inProgress(u"Palier"_s)}}};
+    inputs.scope = IssueScope::project(u"WEB"_s, ProjectView::Active);
+    // "Banc" is unknown to the project and keeps the place that another one gives it.
+    EXPECT_EQ(columns(inputs), (QStringList{u"s:todo="_s, u"s:banc=WEB-3"_s, u"s:staging=WEB-2"_s,
+                                            u"s:palier=WEB-1"_s}));
+    inputs.scope = IssueScope::myIssues();
+    EXPECT_EQ(columns(inputs),
+              (QStringList{u"s:banc=WEB-3"_s, u"s:palier=WEB-1"_s, u"s:staging=WEB-2"_s}));
+}
+
 TEST(BoardColumns, ARecapKeepsClosedColumns)
 {
     auto inputs = inputsOf({issueOf(u"A-1"_s, done())});

@@ -50,6 +50,9 @@ bool goesBefore(const Issue &a, const Issue &b, const IssueDerivationInputs &inp
 int statusRank(const IssueStatus &status, const IssueDerivationInputs &inputs)
 {
     std::map<QString, QList<IssueStatus>> sorted;
+    // The empty text stands before all keys.
+    if (const auto *project = inputs.scope.asProject())
+        sorted[QString()] = inputs.projectStatuses.value(project->key);
     for (auto entry = inputs.projectStatuses.begin(); entry != inputs.projectStatuses.end();
          ++entry)
         sorted[entry.key()] = entry.value();

@@ -229,6 +229,21 @@ TEST(Groups, OfTwoWorkflowsThatRankAStatusTheFirstProjectByKeyCounts)
     EXPECT_EQ(groupIds(inputs), (QStringList{u"s:un"_s, u"s:deux"_s}));
 }
 
+TEST(Groups, AProjectsOwnWorkflowCountsAsSoonAsItIsTheList)
+{
+    auto inputs = inputsOf({issueOf(u"WEB-1"_s, inProgress(u"Palier"_s)),
+                            issueOf(u"WEB-2"_s, inProgress(u"Staging"_s))});
+    inputs.projectStatuses = {{u"API"_s, {inProgress(u"Palier"_s), inProgress(u"Staging"_s)}},
+                              {u"WEB"_s, {inProgress(u"Staging"_s), inProgress(u"Palier"_s)}}};
+    auto derivation = derived(inputs);
+    ASSERT_EQ(derivation.groups().first().id, u"s:palier"_s);
+    ASSERT_EQ(derivation.menus().statuses.first().name(), u"Palier"_s);
+    inputs.scope = IssueScope::project(u"WEB"_s, ProjectView::All);
+    derivation.setInputs(inputs);
+    EXPECT_EQ(derivation.groups().first().id, u"s:staging"_s);
+    EXPECT_EQ(derivation.menus().statuses.first().name(), u"Staging"_s);
+}
+
 TEST(Groups, MyOwnIssuesLeadAndNobodysCloseTheList)
 {
     Issue zoe = sampleIssue(u"A-1"_s);
