@@ -32,31 +32,22 @@ std::optional<QStringList> decoded(const QByteArray &json)
     return document.toVariant().toStringList();
 }
 
-std::unique_ptr<QSettings> prepared(std::unique_ptr<QSettings> settings)
+/// The user's own file. The system-wide settings of an administrator are not read.
+QString usersFile()
 {
-    // Read only the user's own file and not the system-wide settings of an administrator.
-    settings->setFallbacksEnabled(false);
-    return settings;
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, u"Velmora"_s, u"Velmora"_s)
+        .fileName();
 }
 
 } // namespace
 
-Preferences::Preferences()
-    : m_settings(prepared(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                                      u"Velmora"_s, u"Velmora"_s)))
-{
-}
+Preferences::Preferences() : Preferences(usersFile()) {}
 
-Preferences::Preferences(const QString &file)
-    : m_settings(prepared(std::make_unique<QSettings>(file, QSettings::IniFormat)))
-{
-}
-
-Preferences::~Preferences() = default;
+Preferences::Preferences(const QString &file) : m_file(file), m_values(m_file.read()) {}
 
 std::optional<QString> Preferences::text(const QString &key) const
 {
-    const QVariant value = m_settings->value(key);
+    const QVariant value = m_values.value(key);
     if (value.typeId() != QMetaType::QString)
         return std::nullopt;
     return value.toString();
@@ -80,7 +71,7 @@ std::optional<QStringList> Preferences::texts(const QString &key) const
 
 std::optional<QByteArray> Preferences::bytes(const QString &key) const
 {
-    const QVariant value = m_settings->value(key);
+    const QVariant value = m_values.value(key);
     if (value.typeId() != QMetaType::QByteArray)
         return std::nullopt;
     return value.toByteArray();
@@ -108,7 +99,7 @@ void Preferences::setBytes(const QString &key, const QByteArray &value)
 
 void Preferences::write(const QString &key, const QVariant &value)
 {
-    m_settings->setValue(key, value);
     // If the file cannot be written, the value still applies until the program ends.
-    m_settings->sync();
+    m_values.insert(key, value);
+    m_file.write(key, value);
 }

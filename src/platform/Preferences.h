@@ -1,18 +1,17 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
-#include <QVariant>
+#include "platform/PreferencesFile.h"
 
-#include <memory>
+#include <QByteArray>
+#include <QStringList>
+
 #include <optional>
 
-class QSettings;
-
 /// The user's store of small values, each under a plain name. A value of another type than requested counts as absent,
-/// so a damaged file or one written by another program causes no failure. Every write operation stores the value on
-/// disk before it returns. UI thread only.
+/// so a damaged file or one written by another program causes no failure. A written value applies at once; another
+/// thread stores it on disk, starting immediately and keeping the order of the writes. A crash loses at most the values
+/// that the thread has not stored yet; the destructor stores all that is left. Values that another process writes are
+/// read when the next object is made. UI thread only.
 class Preferences
 {
 public:
@@ -20,7 +19,6 @@ public:
     Preferences();
     /// Opens a store in the given file.
     explicit Preferences(const QString &file);
-    ~Preferences();
     Preferences(const Preferences &) = delete;
     Preferences &operator=(const Preferences &) = delete;
 
@@ -39,5 +37,6 @@ public:
 private:
     void write(const QString &key, const QVariant &value);
 
-    std::unique_ptr<QSettings> m_settings;
+    PreferencesFile m_file;
+    PreferencesFile::Values m_values;
 };

@@ -5,8 +5,8 @@
 #include "platform/Preferences.h"
 #include "state/AppStoreFields.h"
 
-/// The user's choices, which outlive sessions and the process. Each is read once, when the store is made, and written to
-/// the disk at its change; an unknown stored value reads as the default and stays until then.
+/// The user's choices, which outlive sessions and the process. Each is read once, when the store is made, and stored
+/// at its change; an unknown stored value reads as the default and stays until then.
 class AppStorePreferences : public AppStoreFields
 {
     Q_OBJECT

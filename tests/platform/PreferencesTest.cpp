@@ -2,7 +2,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
+#include <QProcess>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +21,19 @@ protected:
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
+    }
+
+    /// Starts a process that writes to the same file.
+    void startWriter(QProcess &process, const QStringList &arguments) const
+    {
+        process.start(QStringLiteral(VELMORA_PREFERENCES_WRITER), QStringList(path) + arguments);
+        ASSERT_TRUE(process.waitForStarted());
+    }
+
+    /// What is on the disk under the name; 0 when there is nothing.
+    int number(const QString &key) const
+    {
+        return Preferences(path).text(key).value_or(u"0"_s).toInt();
     }
 
     QTemporaryDir folder;
@@ -49,6 +65,88 @@ TEST_F(PreferencesTest, aSecondInstanceReadsWhatTheFirstWroteWhileTheFirstStillL
     EXPECT_EQ(reader.flag(u"demoMode"_s), true);
     EXPECT_EQ(reader.texts(u"favoriteProjects"_s), QStringList({u"WEB"_s, u"ÉTÉ, hiver"_s}));
     EXPECT_EQ(reader.bytes(u"display"_s), QByteArray("{\"key\":true}\0\xff", 14));
+}
+
+TEST_F(PreferencesTest, aWriteCountsAtOnceAndDoesNotWaitForADiskThatIsBusy)
+{
+    QLockFile busy(path + u".lock"_s);
+    ASSERT_TRUE(busy.lock());
+    Preferences preferences(path);
+    preferences.setText(u"layout"_s, u"board"_s);
+    EXPECT_EQ(preferences.text(u"layout"_s), u"board"_s);
+    EXPECT_FALSE(QFile::exists(path));
+    preferences.setText(u"layout"_s, u"list"_s);
+    preferences.setText(u"grouping"_s, u"project"_s);
+    busy.unlock();
+
+    const Preferences reader(path);
+    EXPECT_EQ(reader.text(u"layout"_s), u"list"_s);
+    EXPECT_EQ(reader.text(u"grouping"_s), u"project"_s);
+}
+
+TEST_F(PreferencesTest, aWriteReachesTheDiskThoughNothingElseHappens)
+{
+    Preferences preferences(path);
+    preferences.setText(u"layout"_s, u"board"_s);
+    const auto content = [this] {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return content().contains("layout=board"); }));
+}
+
+TEST_F(PreferencesTest, whatTheDiskRefusedIsWrittenWithTheNextValueAndAtTheEnd)
+{
+    writeFile("a file");
+    const QString blocked = path + u"/folder/Velmora.ini"_s;
+    {
+        Preferences preferences(blocked);
+        preferences.setText(u"layout"_s, u"board"_s);
+        ASSERT_FALSE(Preferences(blocked).text(u"grouping"_s));
+        QFile::remove(path);
+        preferences.setText(u"grouping"_s, u"project"_s);
+        EXPECT_EQ(Preferences(blocked).text(u"layout"_s), u"board"_s);
+        ASSERT_TRUE(QDir(path).removeRecursively());
+        writeFile("a file");
+        preferences.setText(u"layout"_s, u"list"_s);
+        ASSERT_FALSE(Preferences(blocked).text(u"density"_s));
+        QFile::remove(path);
+    }
+    EXPECT_EQ(Preferences(blocked).text(u"layout"_s), u"list"_s);
+}
+
+TEST_F(PreferencesTest, twoProcessesLeaveAllThatTheyWrote)
+{
+    constexpr int count = 100;
+    QProcess one;
+    QProcess other;
+    startWriter(one, {u"one"_s, QString::number(count)});
+    startWriter(other, {u"other"_s, QString::number(count)});
+    for (QProcess *process : {&one, &other}) {
+        ASSERT_TRUE(process->waitForFinished());
+        EXPECT_EQ(process->exitCode(), 0);
+    }
+    const Preferences reader(path);
+    for (int i = 1; i <= count; ++i) {
+        EXPECT_EQ(reader.text(u"one%1"_s.arg(i)), QString::number(i));
+        EXPECT_EQ(reader.text(u"other%1"_s.arg(i)), QString::number(i));
+    }
+}
+
+TEST_F(PreferencesTest, aProcessThatDiesLeavesAWholeFileInWhichNoLaterValueStandsWithoutTheEarlier)
+{
+    QProcess process;
+    startWriter(process, {});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QFile::exists(path); }));
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+
+    const int first = number(u"first"_s);
+    EXPECT_GT(first, 0);
+    EXPECT_LE(number(u"second"_s), first);
+    EXPECT_GE(number(u"second"_s), first - 1);
+    Preferences(path).setText(u"first"_s, u"-7"_s);
+    EXPECT_EQ(number(u"first"_s), -7);
 }
 
 TEST_F(PreferencesTest, listsOfOneAndOfNoTextStayLists)
