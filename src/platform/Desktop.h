@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Enums.h"
+
 #include <QImage>
 #include <QList>
 #include <QObject>
@@ -24,6 +26,9 @@ public:
     virtual bool prefersDark() const = 0;
     /// True if the desktop requests reduced motion.
     virtual bool prefersReducedMotion() const = 0;
+    /// Gives the native parts of the windows, such as title bars and menus, the appearance that the user has chosen.
+    /// Does nothing where the window manager draws them and no setting of the program reaches it, as on Linux.
+    virtual void applyAppearance(AppearanceMode /*mode*/) {}
     /// Opens the address in the default browser.
     virtual void open(const QUrl &address) = 0;
     /// Replaces the contents of the clipboard with a plain text.

@@ -124,6 +124,7 @@ void AppStorePreferences::setActivityTeamWide(bool teamWide)
 
 void AppStorePreferences::refreshAppearance()
 {
+    m_desktop.applyAppearance(*m_appearance);
     const bool followsDesktop = *m_appearance == AppearanceMode::System;
     m_isDark.set(followsDesktop ? m_desktop.prefersDark() : *m_appearance == AppearanceMode::Dark);
     m_prefersReducedMotion.set(m_desktop.prefersReducedMotion());

@@ -148,6 +148,18 @@ TEST_F(AppStorePreferencesTest, threeTurnsOfTheAppearanceEndWhereTheyBegan)
     EXPECT_FALSE(store->toasts()[0].isError());
 }
 
+TEST_F(AppStorePreferencesTest, theNativePartsTakeTheChosenAppearanceAtTheStartAndAtEachChange)
+{
+    EXPECT_EQ(desktop.nativeAppearance, AppearanceMode::System);
+    for (const auto mode : {AppearanceMode::Light, AppearanceMode::Dark, AppearanceMode::System}) {
+        store->setAppearance(mode);
+        EXPECT_EQ(desktop.nativeAppearance, mode);
+    }
+    preferences.setText(u"appearance"_s, u"dark"_s);
+    makeStore();
+    EXPECT_EQ(desktop.nativeAppearance, AppearanceMode::Dark);
+}
+
 TEST_F(AppStorePreferencesTest, theAppearanceInForceFollowsTheDesktopOnlyWhereAskedTo)
 {
     const QSignalSpy changes(store.get(), &AppStore::isDarkChanged);

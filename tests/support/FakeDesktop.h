@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 /// A desktop whose settings a test chooses, and that records what the program passes to it.
 class FakeDesktop final : public Desktop
 {
@@ -15,6 +17,9 @@ public:
     /// The contents of the clipboard other than text.
     QList<QUrl> files;
     QImage image;
+
+    /// The appearance of the native parts; nothing until the program has applied one.
+    std::optional<AppearanceMode> nativeAppearance;
 
     void setPrefersDark(bool dark)
     {
@@ -30,6 +35,7 @@ public:
     bool isApplicationActive() const override { return isActive; }
     bool prefersDark() const override { return m_prefersDark; }
     bool prefersReducedMotion() const override { return m_prefersReducedMotion; }
+    void applyAppearance(AppearanceMode mode) override { nativeAppearance = mode; }
     void open(const QUrl &address) override { opened += address; }
     void copyText(const QString &text) override { copied += text; }
     QList<QUrl> pastedFiles() const override { return files; }

@@ -16,6 +16,7 @@ public:
     bool isApplicationActive() const override;
     bool prefersDark() const override;
     bool prefersReducedMotion() const override;
+    void applyAppearance(AppearanceMode mode) override;
     void open(const QUrl &address) override;
     void copyText(const QString &text) override;
     QList<QUrl> pastedFiles() const override;

@@ -8,6 +8,24 @@
 
 #import <AppKit/AppKit.h>
 
+namespace {
+
+/// Nothing for the appearance of the system.
+NSAppearanceName nameOf(AppearanceMode mode)
+{
+    switch (mode) {
+    case AppearanceMode::Light:
+        return NSAppearanceNameAqua;
+    case AppearanceMode::Dark:
+        return NSAppearanceNameDarkAqua;
+    case AppearanceMode::System:
+        break;
+    }
+    return nil;
+}
+
+} // namespace
+
 /// Observes changes of the system's appearance during its lifetime.
 class DesktopMac::Observers {
 public:
@@ -50,14 +68,20 @@ bool DesktopMac::isApplicationActive() const
 
 bool DesktopMac::prefersDark() const
 {
-    NSString *best = [NSApp.effectiveAppearance
-        bestMatchFromAppearancesWithNames:@[ NSAppearanceNameAqua, NSAppearanceNameDarkAqua ]];
-    return [best isEqualToString:NSAppearanceNameDarkAqua];
+    // Not the appearance of the application, which `applyAppearance` replaces. The light appearance has no entry.
+    NSString *style = [NSUserDefaults.standardUserDefaults stringForKey:@"AppleInterfaceStyle"];
+    return [style isEqualToString:@"Dark"];
 }
 
 bool DesktopMac::prefersReducedMotion() const
 {
     return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
+}
+
+void DesktopMac::applyAppearance(AppearanceMode mode)
+{
+    NSAppearanceName name = nameOf(mode);
+    NSApp.appearance = name ? [NSAppearance appearanceNamed:name] : nil;
 }
 
 void DesktopMac::open(const QUrl &address)
