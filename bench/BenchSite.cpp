@@ -53,7 +53,7 @@ Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString 
     outside.desktop = std::make_unique<FakeDesktop>();
     outside.statusHost = std::make_unique<FakeStatusHost>();
     outside.keychain = std::make_unique<FakeKeychain>();
-    outside.calendar = UserCalendar::system();
-    outside.makeDemo = [site](Clock &, const UserCalendar &) { return site; };
+    outside.calendar = SystemCalendar::ofThisSystem();
+    outside.makeDemo = [site](Clock &, const SystemCalendar &) { return site; };
     return outside;
 }

@@ -160,7 +160,8 @@ struct Side
 void compare(LongestStep &application, const char *what, const QUrl &site, int runs)
 {
     SystemClock clock;
-    JiraClient client({site, u"a"_s, u"b"_s}, clock, UserCalendar::system(), {});
+    const auto calendar = SystemCalendar::ofThisSystem();
+    JiraClient client({site, u"a"_s, u"b"_s}, clock, *calendar, {});
     Floor floor(site);
     Side least;
     Side whole;

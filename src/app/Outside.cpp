@@ -12,12 +12,12 @@ Outside Outside::system()
     outside.desktop = Desktop::ofThisSystem();
     outside.statusHost = StatusHost::ofThisSystem();
     outside.keychain = Keychain::ofThisSystem(*outside.clock);
-    outside.calendar = UserCalendar::system();
-    outside.makeDemo = [](Clock &clock, const UserCalendar &calendar) {
+    outside.calendar = SystemCalendar::ofThisSystem();
+    outside.makeDemo = [](Clock &clock, const SystemCalendar &calendar) {
         return std::make_shared<DemoService>(clock, calendar);
     };
     outside.makeClient = [](const JiraCredentials &credentials, Clock &clock,
-                            const UserCalendar &calendar) {
+                            const SystemCalendar &calendar) {
         return std::make_shared<JiraClient>(credentials, clock, calendar,
                                             AttachmentCache::systemFolder());
     };

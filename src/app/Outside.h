@@ -7,6 +7,7 @@
 #include "platform/Keychain.h"
 #include "platform/Preferences.h"
 #include "platform/StatusHost.h"
+#include "platform/SystemCalendar.h"
 
 #include <functional>
 #include <memory>
@@ -18,16 +19,16 @@ struct Outside
     std::unique_ptr<Preferences> preferences;
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<StatusHost> statusHost;
+    std::unique_ptr<SystemCalendar> calendar;
     /// Declared after the members above, so that it is destroyed before them. Destroying it ends waiting operations,
     /// which may use those members.
     std::unique_ptr<Keychain> keychain;
-    UserCalendar calendar;
     /// Creates the back end of the demo; its times come from the clock.
-    std::function<std::shared_ptr<IssueService>(Clock &, const UserCalendar &)> makeDemo;
+    std::function<std::shared_ptr<IssueService>(Clock &, const SystemCalendar &)> makeDemo;
 
     /// Creates the back end for a site.
     std::function<std::shared_ptr<IssueService>(const JiraCredentials &, Clock &,
-                                                const UserCalendar &)>
+                                                const SystemCalendar &)>
         makeClient;
 
     /// The services of the machine and its desktop, with the user's own preferences.

@@ -33,7 +33,7 @@ VelmoraApp::VelmoraApp(Outside outside)
       m_sessions(
           *m_outside.preferences, *m_outside.keychain,
           [this](const JiraCredentials &credentials) {
-              return m_outside.makeClient(credentials, *m_outside.clock, m_outside.calendar);
+              return m_outside.makeClient(credentials, *m_outside.clock, *m_outside.calendar);
           },
           [this](const JiraCredentials &credentials) { m_images.showCredentials(credentials); }),
       m_store(context()),
@@ -44,6 +44,8 @@ VelmoraApp::VelmoraApp(Outside outside)
     Fonts::load();
     m_engine.addImportPath(QStringLiteral(":/qt/qml"));
     registerKitProviders(m_engine);
+    QObject::connect(m_outside.calendar.get(), &SystemCalendar::changed, &m_store,
+                     [this] { m_store.setCalendar(m_outside.calendar->current()); });
     const auto quitForUser = [this] { quit(Farewell::Reason::User); };
     QObject::connect(&m_engine, &QQmlEngine::quit, &m_store, quitForUser, Qt::QueuedConnection);
     QObject::connect(&m_delegate, &AppDelegate::quitRequested, &m_store, quitForUser,
@@ -57,8 +59,8 @@ AppStoreContext VelmoraApp::context()
             *m_outside.preferences,
             *m_outside.desktop,
             m_sessions,
-            m_outside.calendar,
-            [this] { return m_outside.makeDemo(*m_outside.clock, m_outside.calendar); }};
+            m_outside.calendar->current(),
+            [this] { return m_outside.makeDemo(*m_outside.clock, *m_outside.calendar); }};
 }
 
 bool VelmoraApp::open()

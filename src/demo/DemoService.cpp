@@ -21,11 +21,11 @@ const QString &host()
 
 } // namespace
 
-DemoService::DemoService(Clock &clock, UserCalendar calendar, DemoSources sources)
+DemoService::DemoService(Clock &clock, const SystemCalendar &calendar, DemoSources sources)
     : m_clock(clock),
-      m_calendar(std::move(calendar)),
+      m_calendar(calendar),
       m_sources(std::move(sources)),
-      m_site(DemoSite::from(DemoSeed::make(m_clock.now(), m_calendar, m_sources.newID)))
+      m_site(DemoSite::from(DemoSeed::make(m_clock.now(), m_calendar.current(), m_sources.newID)))
 {
 }
 
@@ -84,7 +84,7 @@ QCoro::Task<QList<JiraUser>> DemoService::assignableUsers(QString, std::stop_tok
 QCoro::Task<IssueList> DemoService::issues(IssueScope scope, std::stop_token stop)
 {
     co_await pause(std::move(stop));
-    co_return DemoQueries::issues(m_site, scope, m_clock.now(), m_calendar);
+    co_return DemoQueries::issues(m_site, scope, m_clock.now(), m_calendar.current());
 }
 
 QCoro::Task<IssueList> DemoService::search(QString text, std::stop_token stop)

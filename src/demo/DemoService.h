@@ -20,8 +20,9 @@ class DemoService final : public QObject, public IssueService
     Q_OBJECT
 
 public:
-    /// Starts with the seed data as of the current time. The clock must outlive the service.
-    DemoService(Clock &clock, UserCalendar calendar, DemoSources sources = DemoSources::system());
+    /// Starts with the seed data as of the current time. The clock and the calendar must outlive the service.
+    DemoService(Clock &clock, const SystemCalendar &calendar,
+                DemoSources sources = DemoSources::system());
 
     /// A fictitious host name.
     QString siteName() const override;
@@ -63,7 +64,7 @@ private:
     Attachment stored(const QUrl &file) const;
 
     Clock &m_clock;
-    UserCalendar m_calendar;
+    const SystemCalendar &m_calendar;
     DemoSources m_sources;
     DemoSite m_site;
 };

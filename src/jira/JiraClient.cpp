@@ -11,11 +11,11 @@
 
 // No operation uses the client after its first `co_await`, because the client may have been destroyed by then.
 
-JiraClient::JiraClient(const JiraCredentials &credentials, Clock &clock, UserCalendar calendar,
-                       QString attachmentFolder)
+JiraClient::JiraClient(const JiraCredentials &credentials, Clock &clock,
+                       const SystemCalendar &calendar, QString attachmentFolder)
     : m_credentials(credentials),
       m_clock(clock),
-      m_calendar(std::move(calendar)),
+      m_calendar(calendar),
       m_attachmentFolder(std::move(attachmentFolder)),
       m_connection(std::make_shared<SiteConnection>(credentials, clock))
 {
@@ -94,7 +94,7 @@ QCoro::Task<QList<JiraUser>> JiraClient::assignableUsers(QString projectKey, std
 {
     return readMapped<QList<UserDTO>>(
         m_connection, SiteRequests::assignableUsers(projectKey),
-        [locale = m_calendar.locale](const QList<UserDTO> &users) {
+        [locale = m_calendar.current().locale](const QList<UserDTO> &users) {
             return SiteAnswers::assignableUsers(users, locale);
         },
         std::move(stop));
@@ -108,7 +108,8 @@ QCoro::Task<QList<JiraUser>> JiraClient::searchUsers(QString query, std::stop_to
 
 QCoro::Task<IssueList> JiraClient::issues(IssueScope scope, std::stop_token stop)
 {
-    return scopeIssues(m_connection, std::move(scope), m_clock.now(), m_calendar, std::move(stop));
+    return scopeIssues(m_connection, std::move(scope), m_clock.now(), m_calendar.current(),
+                       std::move(stop));
 }
 
 QCoro::Task<IssueList> JiraClient::search(QString text, std::stop_token stop)

@@ -3,8 +3,8 @@
 #include "jira/JiraCredentials.h"
 #include "jira/SiteConnection.h"
 #include "model/IssueService.h"
-#include "model/dates/UserCalendar.h"
 #include "platform/Clock.h"
+#include "platform/SystemCalendar.h"
 
 #include <QString>
 
@@ -18,9 +18,9 @@
 class JiraClient final : public IssueService
 {
 public:
-    /// Opens no connection. The clock must outlive the client. `calendar` determines periods and the order of names;
+    /// Opens no connection. The clock and the calendar must outlive the client. `calendar` determines periods and the order of names;
     /// `attachmentFolder` is the folder for downloads, for example `AttachmentCache::systemFolder()`.
-    JiraClient(const JiraCredentials &credentials, Clock &clock, UserCalendar calendar,
+    JiraClient(const JiraCredentials &credentials, Clock &clock, const SystemCalendar &calendar,
                QString attachmentFolder);
     /// Cancels the running operations.
     ~JiraClient() override;
@@ -68,7 +68,7 @@ public:
 private:
     JiraCredentials m_credentials;
     Clock &m_clock;
-    UserCalendar m_calendar;
+    const SystemCalendar &m_calendar;
     QString m_attachmentFolder;
     SiteConnectionPtr m_connection;
 };

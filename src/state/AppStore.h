@@ -136,6 +136,8 @@ public:
     /// The present to the minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
+    /// The user's calendar has changed: everything that shows dates or sorts names is updated.
+    void setCalendar(const UserCalendar &calendar);
     /// For screens that wait.
     Clock &clock() const { return m_context.clock; }
     /// Each follows the issues while its layout is the present one, and is emptied with the session.
@@ -264,6 +266,7 @@ Q_SIGNALS:
     void visibleCountChanged();
     void subtitleChanged();
     void nowChanged();
+    void calendarChanged();
     void activityHeaderChanged();
     void listAgeChanged();
     void countHintChanged();

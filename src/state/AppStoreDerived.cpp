@@ -146,6 +146,16 @@ QString AppStore::countHintText() const
     return u"La liste s'arrête aux %1 premiers tickets."_s.arg(*limit);
 }
 
+void AppStore::setCalendar(const UserCalendar &calendar)
+{
+    const Batch batch(*this);
+    m_context.calendar = calendar;
+    m_issueList.setCalendar(calendar);
+    m_board.setCalendar(calendar);
+    markStale(List);
+    Q_EMIT calendarChanged();
+}
+
 void AppStore::startMinutes()
 {
     const auto tick = [this] { m_now.set(m_context.clock.now()); };

@@ -71,18 +71,21 @@ void WindowFixture::open()
     statusHost = ownStatusHost.get();
     outside.statusHost = std::move(ownStatusHost);
     outside.preferences = std::make_unique<Preferences>(preferencesPath);
-    outside.calendar = {QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
+    auto ownCalendar = std::make_unique<ManualCalendar>();
+    calendar = ownCalendar.get();
+    outside.calendar = std::move(ownCalendar);
     auto ownKeychain = std::make_unique<FakeKeychain>();
     keychain = ownKeychain.get();
     keychain->items = secrets;
     if (beforeOpening)
         beforeOpening();
     outside.keychain = std::move(ownKeychain);
-    outside.makeClient = [this](const JiraCredentials &credentials, Clock &, const UserCalendar &) {
+    outside.makeClient = [this](const JiraCredentials &credentials, Clock &,
+                                const SystemCalendar &) {
         clientsMade += credentials;
         return service;
     };
-    outside.makeDemo = [this](Clock &, const UserCalendar &) { return service; };
+    outside.makeDemo = [this](Clock &, const SystemCalendar &) { return service; };
     app = std::make_unique<VelmoraApp>(std::move(outside));
     ASSERT_TRUE(app->open());
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));

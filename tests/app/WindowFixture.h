@@ -5,6 +5,7 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeKeychain.h"
 #include "support/FakeStatusHost.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/ScriptedService.h"
 
@@ -56,6 +57,7 @@ protected:
     QTemporaryDir folder;
     QString preferencesPath = folder.filePath(QStringLiteral("Velmora.ini"));
     ManualClock *clock = nullptr;
+    ManualCalendar *calendar = nullptr;
     FakeDesktop *desktop = nullptr;
     FakeStatusHost *statusHost = nullptr;
     FakeKeychain *keychain = nullptr;

@@ -2,6 +2,7 @@
 
 #include "demo/DemoService.h"
 #include "model/JiraError.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/TaskResult.h"
 
@@ -51,5 +52,6 @@ protected:
     QStringList list(const IssueScope &scope);
 
     ManualClock m_clock;
-    DemoService m_service{m_clock, paris(), steadySources()};
+    ManualCalendar m_calendar;
+    DemoService m_service{m_clock, m_calendar, steadySources()};
 };

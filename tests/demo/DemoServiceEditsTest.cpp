@@ -51,7 +51,8 @@ protected:
     QTemporaryDir m_folder;
     QString m_caches = m_folder.filePath(u"caches"_s);
     ManualClock m_clock;
-    DemoService m_service{m_clock, paris(), steadySources(m_caches)};
+    ManualCalendar m_calendar;
+    DemoService m_service{m_clock, m_calendar, steadySources(m_caches)};
 };
 
 } // namespace

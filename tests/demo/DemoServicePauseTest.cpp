@@ -30,7 +30,7 @@ protected:
 
     void restart()
     {
-        m_service = std::make_unique<DemoService>(m_clock, paris(), m_draws.sources());
+        m_service = std::make_unique<DemoService>(m_clock, m_calendar, m_draws.sources());
     }
     IssueDraft draft() const
     {
@@ -47,6 +47,7 @@ protected:
     }
 
     ManualClock m_clock;
+    ManualCalendar m_calendar;
     SteeredDraws m_draws;
     std::unique_ptr<DemoService> m_service;
 };

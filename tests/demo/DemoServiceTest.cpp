@@ -135,6 +135,6 @@ TEST_F(DemoServiceTest, aNewServiceStartsAgainFromTheSeed)
 {
     settled(m_service.assign(u"MOB-105"_s, DemoSeed::me()));
     EXPECT_TRUE(list(IssueScope::myIssues()).contains(u"MOB-105"_s));
-    DemoService another(m_clock, paris(), steadySources());
+    DemoService another(m_clock, m_calendar, steadySources());
     EXPECT_FALSE(keysOf(settled(another.issues(IssueScope::myIssues()))).contains(u"MOB-105"_s));
 }

@@ -224,4 +224,14 @@ TEST_F(ClientSearch, ARecapKeepsWhatHappenedInItsPeriod)
         "(assignee"_s.left(93));
 }
 
+TEST_F(ClientSearch, ARecapFollowsTheTimeZoneThatTheSystemHasChangedTo)
+{
+    server.answer(recapPage());
+    calendar.change({QLocale(QLocale::French, QLocale::France), QTimeZone("America/New_York")});
+    const ActivityPeriod period{.range = ActivityRange::Week, .offset = 0, .teamWide = false};
+    // Both midnights in Paris are on Sunday evenings there.
+    EXPECT_EQ(keysOf(resultOf(client->issues(IssueScope::activity(period)))),
+              (QStringList{u"ABC-2"_s, u"ABC-3"_s}));
+}
+
 } // namespace

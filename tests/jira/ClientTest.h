@@ -2,6 +2,7 @@
 
 #include "jira/JiraClient.h"
 #include "simulator/server/RawServer.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
@@ -22,10 +23,7 @@ protected:
 
     void connectAs(const JiraCredentials &credentials)
     {
-        client.emplace(
-            credentials, clock,
-            UserCalendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")},
-            cache.filePath(QStringLiteral("attachments")));
+        client.emplace(credentials, clock, calendar, cache.filePath(QStringLiteral("attachments")));
     }
 
     /// Waits for the result of an operation and returns it; throws its failure.
@@ -59,6 +57,7 @@ protected:
 
     QTemporaryDir cache;
     ManualClock clock;
+    ManualCalendar calendar;
     RawServer server;
     std::optional<JiraClient> client;
 };

@@ -60,6 +60,7 @@ void IssuesContent::setStore(AppStore *store)
         connect(m_store, &AppStore::filterTextChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::filtersChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::update);
+        connect(m_store, &AppStore::calendarChanged, this, &IssuesContent::update);
         connect(m_store, &AppStore::scopeChanged, this, &IssuesContent::recapChanged);
     }
     Q_EMIT storeChanged();

@@ -163,6 +163,13 @@ void BoardModel::setNow(const QDateTime &now)
         cards->setNow(now);
 }
 
+void BoardModel::setCalendar(const UserCalendar &calendar)
+{
+    m_calendar = calendar;
+    for (auto *cards : std::as_const(m_cards))
+        cards->setCalendar(calendar);
+}
+
 int BoardModel::columnOfKey(const QString &key) const
 {
     for (int column = 0; column < rowCount(); ++column) {

@@ -58,6 +58,8 @@ public:
     void setOpenKey(const QString &key);
     /// Tells relative dates anew.
     void setNow(const QDateTime &now);
+    /// Updates everything that shows dates.
+    void setCalendar(const UserCalendar &calendar);
 
     /// The position of the column that shows the issue; -1 if none does.
     Q_INVOKABLE int columnOfKey(const QString &key) const;

@@ -135,6 +135,14 @@ void IssueListModel::setNow(const QDateTime &now)
                            {UpdatedTextRole, DueTextRole, IsOverdueRole});
 }
 
+void IssueListModel::setCalendar(const UserCalendar &calendar)
+{
+    m_calendar = calendar;
+    if (!rows().isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
+                           {UpdatedTextRole, DueTextRole, IsOverdueRole, DueTooltipRole});
+}
+
 void IssueListModel::refreshBadges()
 {
     if (!rows().isEmpty())

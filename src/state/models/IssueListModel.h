@@ -71,6 +71,8 @@ public:
     void setOpenKey(const QString &key);
     /// Tells relative dates anew.
     void setNow(const QDateTime &now);
+    /// Updates everything that shows dates.
+    void setCalendar(const UserCalendar &calendar);
 
     /// Makes the badge of an issue, when a view asks for it.
     using BadgeMaker = std::function<std::optional<ActivityBadge>(const Issue &)>;

@@ -5,6 +5,7 @@
 #include "jira/matrix/Scratch.h"
 #include "jira/matrix/Spoken.h"
 #include "simulator/server/RawServer.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
@@ -106,10 +107,8 @@ protected:
     const Certificates::TrustedAuthority trusted;
     ManualClock clock;
     RawServer server{certificate()};
-    JiraClient client{
-        JiraCredentials{site(), email, token}, clock,
-        UserCalendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")},
-        cacheFolder()};
+    ManualCalendar calendar;
+    JiraClient client{JiraCredentials{site(), email, token}, clock, calendar, cacheFolder()};
 };
 
 /// The text of a failed operation; nothing if it succeeded.

@@ -3,6 +3,7 @@
 #include "jira/JiraClient.h"
 #include "simulator/SimulatedSite.h"
 #include "simulator/SiteSeed.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
@@ -83,9 +84,9 @@ protected:
     QTemporaryDir folder;
     ManualClock clock;
     SimulatedSite simulated{SiteSeed::company(300, clock.now()), GetParam().certificate};
-    JiraClient client{
-        JiraCredentials{simulated.url(), GetParam().hasEmail ? simulated.site().email : QString(),
-                        simulated.site().token},
-        clock, UserCalendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")},
-        folder.filePath(QStringLiteral("cache"))};
+    ManualCalendar calendar;
+    JiraClient client{JiraCredentials{simulated.url(),
+                                      GetParam().hasEmail ? simulated.site().email : QString(),
+                                      simulated.site().token},
+                      clock, calendar, folder.filePath(QStringLiteral("cache"))};
 };

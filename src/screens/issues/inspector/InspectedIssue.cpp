@@ -22,6 +22,7 @@ void InspectedIssue::setStore(AppStore *store)
                                   &AppStore::myOpenIssuesChanged, &AppStore::projectsChanged})
             connect(m_store, change, this, &InspectedIssue::update);
         connect(m_store, &AppStore::nowChanged, this, &InspectedIssue::changed);
+        connect(m_store, &AppStore::calendarChanged, this, &InspectedIssue::changed);
         connect(m_store, &AppStore::detailErrorsChanged, this, &InspectedIssue::changed);
         connect(m_store, &AppStore::phaseChanged, this, &InspectedIssue::load);
     }

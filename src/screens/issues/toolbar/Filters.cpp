@@ -10,6 +10,7 @@ void Filters::setStore(AppStore *store)
     if (m_store) {
         connect(m_store, &AppStore::filtersChanged, this, &Filters::update);
         connect(m_store, &AppStore::issuesChanged, this, &Filters::update);
+        connect(m_store, &AppStore::calendarChanged, this, &Filters::update);
         update();
     }
     Q_EMIT storeChanged();

@@ -161,6 +161,22 @@ TEST_F(Rows, AnIssueDueTodayIsNotLate)
     EXPECT_FALSE(row->property("isOverdue").toBool());
 }
 
+TEST_F(Rows, ADueDateFollowsTheTimeZoneThatTheSystemHasChangedTo)
+{
+    // One day apart at every instant.
+    const QLocale french(QLocale::French, QLocale::France);
+    const UserCalendar west{french, QTimeZone("Pacific/Pago_Pago")};
+    const UserCalendar east{french, QTimeZone("Pacific/Tongatapu")};
+    openWith({due(u"MOB-1"_s, u"À faire"_s, west.day(ManualClock().now()))});
+    calendar->change(west);
+    settle();
+    EXPECT_NE(rowDue(u"Aujourd'hui"_s), nullptr);
+
+    calendar->change(east);
+    settle();
+    EXPECT_NE(rowDue(u"Hier"_s), nullptr);
+}
+
 TEST_F(Rows, ANarrowWindowDropsParentThenLabelNamesThenTheDueText)
 {
     Issue issue = due(u"MOB-1"_s, u"À faire"_s, {2026, 12, 24});
