@@ -1,5 +1,7 @@
 #include "commands/CommandTable.h"
 
+#include "commands/IssueCreation.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,35 +9,48 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Stands for a command that is not in the menu "Tickets".
+constexpr std::nullopt_t elsewhere = std::nullopt;
+
 struct Entry
 {
-    AppCommand command;
-    CommandGroup group;
+    Command command;
+    std::optional<CommandGroup> group;
     QStringView title;
 };
 
 constexpr std::array entries{
-    Entry{AppCommand::CommandPalette, CommandGroup::General, u"Palette de commandes…"},
-    Entry{AppCommand::Reload, CommandGroup::General, u"Actualiser"},
-    Entry{AppCommand::ChangeStatus, CommandGroup::Editing, u"Changer le statut…"},
-    Entry{AppCommand::ChangePriority, CommandGroup::Editing, u"Changer la priorité…"},
-    Entry{AppCommand::ChangeAssignee, CommandGroup::Editing, u"Assigner à…"},
-    Entry{AppCommand::AssignToMe, CommandGroup::Editing, u"M'assigner"},
-    Entry{AppCommand::ChangeLabels, CommandGroup::Editing, u"Étiquettes…"},
-    Entry{AppCommand::CopyKey, CommandGroup::Sharing, u"Copier la clé"},
-    Entry{AppCommand::CopyBranch, CommandGroup::Sharing, u"Copier le nom de branche git"},
-    Entry{AppCommand::CopyLink, CommandGroup::Sharing, u"Copier le lien"},
-    Entry{AppCommand::OpenInBrowser, CommandGroup::Sharing, u"Ouvrir dans Jira"},
-    Entry{AppCommand::ShowList, CommandGroup::Display, u"Afficher en liste"},
-    Entry{AppCommand::ShowBoard, CommandGroup::Display, u"Afficher en tableau"},
-    Entry{AppCommand::TogglePeek, CommandGroup::Display, u"Afficher l'aperçu"},
+    Entry{Command::NewIssue, elsewhere, u"Nouveau ticket"},
+    Entry{Command::TogglePalette, CommandGroup::General, u"Palette de commandes…"},
+    Entry{Command::Reload, CommandGroup::General, u"Actualiser"},
+    Entry{Command::PickStatus, CommandGroup::Editing, u"Changer le statut…"},
+    Entry{Command::PickPriority, CommandGroup::Editing, u"Changer la priorité…"},
+    Entry{Command::PickAssignee, CommandGroup::Editing, u"Assigner à…"},
+    Entry{Command::AssignToMe, CommandGroup::Editing, u"M'assigner"},
+    Entry{Command::PickLabels, CommandGroup::Editing, u"Étiquettes…"},
+    Entry{Command::CopyKeys, CommandGroup::Sharing, u"Copier la clé"},
+    Entry{Command::CopyBranch, CommandGroup::Sharing, u"Copier le nom de branche git"},
+    Entry{Command::CopyLink, CommandGroup::Sharing, u"Copier le lien"},
+    Entry{Command::OpenInBrowser, CommandGroup::Sharing, u"Ouvrir dans Jira"},
+    Entry{Command::OpenWindow, elsewhere, u"Ouvrir dans une nouvelle fenêtre"},
+    Entry{Command::ShowList, CommandGroup::Display, u"Afficher en liste"},
+    Entry{Command::ShowBoard, CommandGroup::Display, u"Afficher en tableau"},
+    Entry{Command::ToggleInspector, CommandGroup::Display, u"Afficher l'aperçu"},
+    Entry{Command::OpenSettings, elsewhere, u"Réglages"},
+};
+
+constexpr std::array pickCommands{
+    std::pair{PickerKind::Status, Command::PickStatus},
+    std::pair{PickerKind::Priority, Command::PickPriority},
+    std::pair{PickerKind::Assignee, Command::PickAssignee},
+    std::pair{PickerKind::Labels, Command::PickLabels},
 };
 
 } // namespace
 
-QList<AppCommand> commandsIn(CommandGroup group)
+QList<Command> commandsIn(CommandGroup group)
 {
-    QList<AppCommand> commands;
+    QList<Command> commands;
     for (const Entry &entry : entries) {
         if (entry.group == group)
             commands.append(entry.command);
@@ -43,18 +58,15 @@ QList<AppCommand> commandsIn(CommandGroup group)
     return commands;
 }
 
-QString commandTitle(AppCommand command, InspectorState inspector)
+QString commandTitle(Command command, InspectorState inspector)
 {
-    // It stands in a menu of its own.
-    if (command == AppCommand::NewIssue)
-        return u"Nouveau ticket"_s;
-    if (command == AppCommand::TogglePeek && inspector == InspectorState::Open)
+    if (command == Command::ToggleInspector && inspector == InspectorState::Open)
         return u"Masquer l'aperçu"_s;
     const auto *entry = std::ranges::find(entries, command, &Entry::command);
     return entry == entries.end() ? QString() : entry->title.toString();
 }
 
-QString commandShortcut(AppCommand command)
+QString commandShortcut(Command command)
 {
     const auto keys = shortcutKeys();
     const auto key = std::ranges::find(keys, command, &ShortcutKey::command);
@@ -69,4 +81,21 @@ QString shortcutText(const ShortcutKey &key)
     if (key.shift == ShortcutKey::Shift::Held)
         text += u'⇧';
     return text + QChar(key.character).toUpper();
+}
+
+bool isOffered(Command command)
+{
+    return command != Command::NewIssue || issueCreation == IssueCreation::Offered;
+}
+
+std::optional<PickerKind> pickerOf(Command command)
+{
+    const auto *row =
+        std::ranges::find(pickCommands, command, &std::pair<PickerKind, Command>::second);
+    return row == pickCommands.end() ? std::nullopt : std::optional(row->first);
+}
+
+Command pickCommand(PickerKind kind)
+{
+    return std::ranges::find(pickCommands, kind, &std::pair<PickerKind, Command>::first)->second;
 }

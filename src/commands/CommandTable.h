@@ -1,24 +1,34 @@
 #pragma once
 
-#include "commands/AppCommand.h"
+#include "commands/Command.h"
 #include "commands/ShortcutKey.h"
 
 #include <QList>
 #include <QString>
 
-/// The one table of the menus' commands: menus, hints and the reference of shortcuts take their words from it. Texts are
-/// the Mac's; `Wording` turns them into this system's.
+#include <optional>
+
+/// The one table of the commands' words: menus, the palette, hints and the reference of shortcuts take theirs from it.
+/// Texts are the Mac's; `Wording` turns them into this system's.
 
 /// The groups of the menu "Tickets", between which a line stands.
 enum class CommandGroup { General, Editing, Sharing, Display };
 
 /// The commands of a group in their order.
-QList<AppCommand> commandsIn(CommandGroup group);
+QList<Command> commandsIn(CommandGroup group);
 
 enum class InspectorState { Closed, Open };
-/// What the menus call the command.
-QString commandTitle(AppCommand command, InspectorState inspector);
+/// What menus and the palette call the command; empty for one that only keys ask for.
+QString commandTitle(Command command, InspectorState inspector = InspectorState::Closed);
 /// "⌘⇧O"; empty for a command without a shortcut.
-QString commandShortcut(AppCommand command);
+QString commandShortcut(Command command);
 /// "⌘⌥1" for a key of the table of shortcuts.
 QString shortcutText(const ShortcutKey &key);
+
+/// Whether the program has the command at all: no new issue while issues cannot be made.
+bool isOffered(Command command);
+
+/// The picker that the command opens; nothing for other commands.
+std::optional<PickerKind> pickerOf(Command command);
+/// The command that opens the picker.
+Command pickCommand(PickerKind kind);

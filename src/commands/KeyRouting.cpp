@@ -10,41 +10,41 @@ namespace {
 using Flags = KeyBinding::Flags;
 using Shift = KeyBinding::Shift;
 
-constexpr KeyBinding onKey(Qt::Key key, Flags flags, KeyCommand command)
+constexpr KeyBinding onKey(Qt::Key key, Flags flags, Command command)
 {
     return {.key = key, .flags = flags, .command = command};
 }
 
-constexpr KeyBinding onLetter(char16_t letter, KeyCommand command)
+constexpr KeyBinding onLetter(char16_t letter, Command command)
 {
     return {.character = letter, .command = command};
 }
 
-constexpr KeyBinding onDigit(char16_t digit, KeyCommand command)
+constexpr KeyBinding onDigit(char16_t digit, Command command)
 {
     return {.character = digit, .shift = Shift::NotHeld, .command = command};
 }
 
 constexpr std::array bindings{
-    onKey(Qt::Key_Return, Flags::None, KeyCommand::OpenInspector),
-    onKey(Qt::Key_Enter, Flags::None, KeyCommand::OpenInspector),
-    onKey(Qt::Key_Return, Flags::ControlOnly, KeyCommand::OpenWindow),
-    onKey(Qt::Key_Enter, Flags::ControlOnly, KeyCommand::OpenWindow),
-    onKey(Qt::Key_Space, Flags::None, KeyCommand::Peek),
-    onKey(Qt::Key_Escape, Flags::Any, KeyCommand::Escape),
-    onKey(Qt::Key_Down, Flags::None, KeyCommand::MoveDown),
-    onLetter(u'j', KeyCommand::MoveDown),
-    onKey(Qt::Key_Up, Flags::None, KeyCommand::MoveUp),
-    onLetter(u'k', KeyCommand::MoveUp),
-    onLetter(u'c', KeyCommand::NewIssue),
-    onLetter(u's', KeyCommand::PickStatus),
-    onLetter(u'p', KeyCommand::PickPriority),
-    onLetter(u'a', KeyCommand::PickAssignee),
-    onLetter(u'l', KeyCommand::PickLabels),
-    onLetter(u'i', KeyCommand::AssignToMe),
-    onLetter(u'x', KeyCommand::ToggleCheck),
-    onDigit(u'1', KeyCommand::ShowList),
-    onDigit(u'2', KeyCommand::ShowBoard),
+    onKey(Qt::Key_Return, Flags::None, Command::OpenIssue),
+    onKey(Qt::Key_Enter, Flags::None, Command::OpenIssue),
+    onKey(Qt::Key_Return, Flags::ControlOnly, Command::OpenWindow),
+    onKey(Qt::Key_Enter, Flags::ControlOnly, Command::OpenWindow),
+    onKey(Qt::Key_Space, Flags::None, Command::Peek),
+    onKey(Qt::Key_Escape, Flags::Any, Command::Escape),
+    onKey(Qt::Key_Down, Flags::None, Command::MoveDown),
+    onLetter(u'j', Command::MoveDown),
+    onKey(Qt::Key_Up, Flags::None, Command::MoveUp),
+    onLetter(u'k', Command::MoveUp),
+    onLetter(u'c', Command::NewIssue),
+    onLetter(u's', Command::PickStatus),
+    onLetter(u'p', Command::PickPriority),
+    onLetter(u'a', Command::PickAssignee),
+    onLetter(u'l', Command::PickLabels),
+    onLetter(u'i', Command::AssignToMe),
+    onLetter(u'x', Command::ToggleCheck),
+    onDigit(u'1', Command::ShowList),
+    onDigit(u'2', Command::ShowBoard),
 };
 
 /// With Shift some layouts type a wider or an unbreakable blank, which Qt gives another name.
@@ -92,7 +92,7 @@ std::span<const KeyBinding> keyBindings()
     return bindings;
 }
 
-std::optional<KeyCommand> route(const KeyPress &press)
+std::optional<Command> route(const KeyPress &press)
 {
     const auto row = std::ranges::find_if(
         bindings, [&](const KeyBinding &binding) { return takes(binding, press); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/KeyCommand.h"
+#include "commands/Command.h"
 #include "commands/KeyPress.h"
 
 #include <optional>
@@ -18,7 +18,7 @@ struct KeyBinding
     char16_t character = 0;
     Flags flags = Flags::None;
     Shift shift = Shift::Ignored;
-    KeyCommand command;
+    Command command;
 };
 
 /// The whole key map of the main window. No two rows take the same press.
@@ -26,4 +26,4 @@ std::span<const KeyBinding> keyBindings();
 
 /// What a press asks for; nothing for a press that the key map leaves alone. Keys go by their name, letters and digits
 /// as `KeyPress` reads them, so that each works without Shift under any layout; Caps Lock and the keypad do not count.
-std::optional<KeyCommand> route(const KeyPress &press);
+std::optional<Command> route(const KeyPress &press);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/PickerKind.h"
+#include "commands/Command.h"
 #include "model/IssuePriority.h"
 #include "model/IssueScope.h"
 #include "model/IssueStatus.h"
@@ -11,7 +11,8 @@
 #include <optional>
 #include <variant>
 
-/// What picking a row does, as a value: the store carries it out. `keys` are the issues it applies to.
+/// What picking a row does, as a value: the store carries it out. It is a command, or the choice of a value that no
+/// command names. `keys` are the issues it applies to.
 struct OptionAction
 {
     struct None
@@ -50,76 +51,12 @@ struct OptionAction
         QStringList keys;
         bool operator==(const AddLabel &) const = default;
     };
-    /// Does nothing while the account is unknown.
-    struct AssignToMe
+    /// A command. Without keys it means what is chosen in the main window.
+    struct RunCommand
     {
-        QStringList keys;
-        bool operator==(const AssignToMe &) const = default;
-    };
-    /// Takes the palette to a picker.
-    struct ShowPicker
-    {
-        PickerKind kind;
-        QStringList keys;
-        bool operator==(const ShowPicker &) const = default;
-    };
-    /// Opens the create screen.
-    struct NewIssue
-    {
-        bool operator==(const NewIssue &) const = default;
-    };
-    struct CopyKeys
-    {
-        QStringList keys;
-        bool operator==(const CopyKeys &) const = default;
-    };
-    struct CopyBranch
-    {
-        QString key;
-        bool operator==(const CopyBranch &) const = default;
-    };
-    struct CopyLink
-    {
-        QString key;
-        bool operator==(const CopyLink &) const = default;
-    };
-    struct OpenInBrowser
-    {
-        QString key;
-        bool operator==(const OpenInBrowser &) const = default;
-    };
-    /// Opens the issue in a window of its own.
-    struct OpenWindow
-    {
-        QString key;
-        bool operator==(const OpenWindow &) const = default;
-    };
-    /// Takes the focus to the issue and shows it in the inspector.
-    struct OpenIssue
-    {
-        QString key;
-        bool operator==(const OpenIssue &) const = default;
-    };
-    struct SetLayout
-    {
-        LayoutMode layout;
-        bool operator==(const SetLayout &) const = default;
-    };
-    struct ToggleCompleted
-    {
-        bool operator==(const ToggleCompleted &) const = default;
-    };
-    struct CycleAppearance
-    {
-        bool operator==(const CycleAppearance &) const = default;
-    };
-    struct Reload
-    {
-        bool operator==(const Reload &) const = default;
-    };
-    struct OpenSettings
-    {
-        bool operator==(const OpenSettings &) const = default;
+        Command command;
+        std::optional<QStringList> keys;
+        bool operator==(const RunCommand &) const = default;
     };
     struct Select
     {
@@ -127,10 +64,7 @@ struct OptionAction
         bool operator==(const Select &) const = default;
     };
 
-    std::variant<None, SetStatus, SetPriority, Assign, ToggleLabel, AddLabel, AssignToMe,
-                 ShowPicker, NewIssue, CopyKeys, CopyBranch, CopyLink, OpenInBrowser, OpenWindow,
-                 OpenIssue, SetLayout, ToggleCompleted, CycleAppearance, Reload, OpenSettings,
-                 Select>
+    std::variant<None, SetStatus, SetPriority, Assign, ToggleLabel, AddLabel, RunCommand, Select>
         value;
 
     bool operator==(const OptionAction &) const = default;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/Command.h"
 #include "commands/OptionItem.h"
-#include "commands/PickerKind.h"
 
 #include <QHash>
 #include <QLocale>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/PickerKind.h"
+#include "commands/Command.h"
 
 #include <QStringList>
 

@@ -40,7 +40,7 @@ QString inBrackets(const QString &words, const QString &keys)
 
 } // namespace
 
-QStringList keyTexts(KeyCommand command)
+QStringList keyTexts(Command command)
 {
     QStringList texts;
     for (const KeyBinding &binding : keyBindings()) {
@@ -51,59 +51,58 @@ QStringList keyTexts(KeyCommand command)
     return texts;
 }
 
-QString withShortcut(const QString &words, AppCommand command)
+QString withShortcut(const QString &words, Command command)
 {
     return inBrackets(words, commandShortcut(command));
 }
 
-QString withKey(const QString &words, KeyCommand command)
+QString withKey(const QString &words, Command command)
 {
     return inBrackets(words, keyTexts(command).value(keyTexts(command).size() - 1));
 }
 
-QString commandHint(AppCommand command)
+QString commandHint(Command command)
 {
     return withShortcut(commandTitle(command, InspectorState::Closed), command);
 }
 
 QString searchHint()
 {
-    return withShortcut(u"Rechercher"_s, AppCommand::CommandPalette);
+    return withShortcut(u"Rechercher"_s, Command::TogglePalette);
 }
 
 QString newIssueHint()
 {
-    return withKey(commandTitle(AppCommand::NewIssue, InspectorState::Closed),
-                   KeyCommand::NewIssue);
+    return withKey(commandTitle(Command::NewIssue, InspectorState::Closed), Command::NewIssue);
 }
 
 QString reloadHint()
 {
-    return commandHint(AppCommand::Reload);
+    return commandHint(Command::Reload);
 }
 
 QString openWindowHint()
 {
-    return withKey(u"Ouvrir dans une nouvelle fenêtre"_s, KeyCommand::OpenWindow);
+    return withKey(u"Ouvrir dans une nouvelle fenêtre"_s, Command::OpenWindow);
 }
 
 QString layoutHint()
 {
-    return withKey(u"Liste"_s, KeyCommand::ShowList) + u" · "_s +
-           withKey(u"Tableau"_s, KeyCommand::ShowBoard);
+    return withKey(u"Liste"_s, Command::ShowList) + u" · "_s +
+           withKey(u"Tableau"_s, Command::ShowBoard);
 }
 
 QString selectHint()
 {
-    return withKey(u"Sélectionner"_s, KeyCommand::ToggleCheck);
+    return withKey(u"Sélectionner"_s, Command::ToggleCheck);
 }
 
 QString deselectHint()
 {
-    return withKey(u"Désélectionner"_s, KeyCommand::Escape);
+    return withKey(u"Désélectionner"_s, Command::Escape);
 }
 
 QString closeHint()
 {
-    return withKey(u"Fermer"_s, KeyCommand::Escape);
+    return withKey(u"Fermer"_s, Command::Escape);
 }

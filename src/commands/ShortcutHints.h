@@ -1,7 +1,6 @@
 #pragma once
 
-#include "commands/AppCommand.h"
-#include "commands/KeyCommand.h"
+#include "commands/Command.h"
 
 #include <QStringList>
 
@@ -10,15 +9,15 @@
 /// this system's.
 
 /// How the keys of a command are written, in the order of the key map: "↓" and "J"; the keypad's are not told.
-QStringList keyTexts(KeyCommand command);
+QStringList keyTexts(Command command);
 
 /// "Rechercher (⌘K)"; the words alone for a command without a shortcut.
-QString withShortcut(const QString &words, AppCommand command);
+QString withShortcut(const QString &words, Command command);
 /// "Sélectionner (X)", with the last of the command's keys.
-QString withKey(const QString &words, KeyCommand command);
+QString withKey(const QString &words, Command command);
 
 /// What the menus call a command, with its shortcut.
-QString commandHint(AppCommand command);
+QString commandHint(Command command);
 QString searchHint();
 QString newIssueHint();
 QString reloadHint();

@@ -10,7 +10,7 @@ namespace {
 using Shift = ShortcutKey::Shift;
 
 constexpr ShortcutKey shortcut(char16_t character, Qt::KeyboardModifiers flags, Shift shift,
-                               AppCommand command)
+                               Command command)
 {
     return {character, flags, shift, command};
 }
@@ -19,16 +19,16 @@ constexpr Qt::KeyboardModifiers control = Qt::ControlModifier;
 constexpr Qt::KeyboardModifiers controlAlt = Qt::ControlModifier | Qt::AltModifier;
 
 constexpr std::array shortcuts{
-    shortcut(u'n', control, Shift::NotHeld, AppCommand::NewIssue),
-    shortcut(u'k', control, Shift::NotHeld, AppCommand::CommandPalette),
-    shortcut(u'r', control, Shift::NotHeld, AppCommand::Reload),
-    shortcut(u'.', control, Shift::NotHeld, AppCommand::CopyKey),
-    shortcut(u'.', control, Shift::Held, AppCommand::CopyBranch),
-    shortcut(u',', control, Shift::Held, AppCommand::CopyLink),
-    shortcut(u'o', control, Shift::Held, AppCommand::OpenInBrowser),
-    shortcut(u'1', controlAlt, Shift::NotHeld, AppCommand::ShowList),
-    shortcut(u'2', controlAlt, Shift::NotHeld, AppCommand::ShowBoard),
-    shortcut(u'i', controlAlt, Shift::NotHeld, AppCommand::TogglePeek),
+    shortcut(u'n', control, Shift::NotHeld, Command::NewIssue),
+    shortcut(u'k', control, Shift::NotHeld, Command::TogglePalette),
+    shortcut(u'r', control, Shift::NotHeld, Command::Reload),
+    shortcut(u'.', control, Shift::NotHeld, Command::CopyKeys),
+    shortcut(u'.', control, Shift::Held, Command::CopyBranch),
+    shortcut(u',', control, Shift::Held, Command::CopyLink),
+    shortcut(u'o', control, Shift::Held, Command::OpenInBrowser),
+    shortcut(u'1', controlAlt, Shift::NotHeld, Command::ShowList),
+    shortcut(u'2', controlAlt, Shift::NotHeld, Command::ShowBoard),
+    shortcut(u'i', controlAlt, Shift::NotHeld, Command::ToggleInspector),
 };
 
 /// One way to read a press.
@@ -76,7 +76,7 @@ Reading byPlace(const KeyPress &press)
     return {isHidden && character ? QString(*character) : QString(), heldShift(press)};
 }
 
-std::optional<AppCommand> commandOf(const Reading &reading, Qt::KeyboardModifiers flags)
+std::optional<Command> commandOf(const Reading &reading, Qt::KeyboardModifiers flags)
 {
     const auto row = std::ranges::find_if(shortcuts, [&](const ShortcutKey &key) {
         return reading.character == QChar(key.character) && key.shift == reading.shift &&
@@ -92,7 +92,7 @@ std::span<const ShortcutKey> shortcutKeys()
     return shortcuts;
 }
 
-std::optional<AppCommand> shortcutCommand(const KeyPress &press)
+std::optional<Command> shortcutCommand(const KeyPress &press)
 {
     for (const auto &read : {byOwnCharacter, byShiftedCharacter, byPlace}) {
         if (const auto command = commandOf(read(press), press.flags()))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/AppCommand.h"
+#include "commands/Command.h"
 #include "commands/KeyPress.h"
 
 #include <optional>
@@ -16,7 +16,7 @@ struct ShortcutKey
     /// Of Control, Alt and Meta, exactly these.
     Qt::KeyboardModifiers flags;
     Shift shift = Shift::NotHeld;
-    AppCommand command;
+    Command command;
 };
 
 /// The shortcuts of the menu commands that have one. No two rows have the same key, flags and Shift.
@@ -31,4 +31,4 @@ std::span<const ShortcutKey> shortcutKeys();
 /// 2. by what it types with Shift, as a press without Shift: the "." that AZERTY has only with Shift;
 /// 3. by its place on a QWERTY keyboard, with Shift as it is held, unless the layout has a Latin letter there: the key
 ///    ":" of AZERTY for ".", the digits of AZERTY and BÉPO, and all letters under other scripts.
-std::optional<AppCommand> shortcutCommand(const KeyPress &press);
+std::optional<Command> shortcutCommand(const KeyPress &press);

@@ -7,17 +7,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ShortcutMeaning command(AppCommand command, const QString &meaning)
+ShortcutMeaning command(Command command, const QString &meaning)
 {
     return {commandShortcut(command), meaning};
 }
 
-QString keyOf(KeyCommand command)
+QString keyOf(Command command)
 {
     return keyTexts(command).last();
 }
 
-ShortcutMeaning key(KeyCommand command, const QString &meaning)
+ShortcutMeaning key(Command command, const QString &meaning)
 {
     return {keyOf(command), meaning};
 }
@@ -34,38 +34,38 @@ QString lettersOrArrows(const QStringList &down, const QStringList &up)
 
 ShortcutGroup general()
 {
-    return {u"Général"_s,
-            {command(AppCommand::CommandPalette, u"Palette de commandes"_s),
-             key(KeyCommand::NewIssue, u"Nouveau ticket"_s),
-             command(AppCommand::Reload, u"Actualiser"_s),
-             {pair(keyOf(KeyCommand::ShowList), keyOf(KeyCommand::ShowBoard)),
-              u"Vue liste / tableau"_s}}};
+    return {
+        u"Général"_s,
+        {command(Command::TogglePalette, u"Palette de commandes"_s),
+         key(Command::NewIssue, u"Nouveau ticket"_s),
+         command(Command::Reload, u"Actualiser"_s),
+         {pair(keyOf(Command::ShowList), keyOf(Command::ShowBoard)), u"Vue liste / tableau"_s}}};
 }
 
 ShortcutGroup navigation()
 {
     return {u"Navigation"_s,
-            {{lettersOrArrows(keyTexts(KeyCommand::MoveDown), keyTexts(KeyCommand::MoveUp)),
+            {{lettersOrArrows(keyTexts(Command::MoveDown), keyTexts(Command::MoveUp)),
               u"Ticket suivant / précédent"_s},
-             key(KeyCommand::OpenInspector, u"Ouvrir le ticket"_s),
-             key(KeyCommand::Peek, u"Afficher / masquer l'aperçu"_s),
-             key(KeyCommand::OpenWindow, u"Ouvrir dans une nouvelle fenêtre"_s),
-             key(KeyCommand::Escape, u"Fermer / désélectionner"_s)}};
+             key(Command::OpenIssue, u"Ouvrir le ticket"_s),
+             key(Command::Peek, u"Afficher / masquer l'aperçu"_s),
+             key(Command::OpenWindow, u"Ouvrir dans une nouvelle fenêtre"_s),
+             key(Command::Escape, u"Fermer / désélectionner"_s)}};
 }
 
 ShortcutGroup issue()
 {
     return {u"Ticket"_s,
-            {key(KeyCommand::PickStatus, u"Changer le statut"_s),
-             key(KeyCommand::PickPriority, u"Changer la priorité"_s),
-             key(KeyCommand::PickAssignee, u"Assigner"_s),
-             key(KeyCommand::AssignToMe, u"M'assigner"_s),
-             key(KeyCommand::PickLabels, u"Étiquettes"_s),
-             {keyOf(KeyCommand::ToggleCheck) + u"  ·  ⌘clic  ·  ⇧clic"_s, u"Sélection multiple"_s},
-             command(AppCommand::CopyKey, u"Copier la clé"_s),
-             command(AppCommand::CopyBranch, u"Copier le nom de branche git"_s),
-             command(AppCommand::CopyLink, u"Copier le lien"_s),
-             command(AppCommand::OpenInBrowser, u"Ouvrir dans Jira"_s),
+            {key(Command::PickStatus, u"Changer le statut"_s),
+             key(Command::PickPriority, u"Changer la priorité"_s),
+             key(Command::PickAssignee, u"Assigner"_s),
+             key(Command::AssignToMe, u"M'assigner"_s),
+             key(Command::PickLabels, u"Étiquettes"_s),
+             {keyOf(Command::ToggleCheck) + u"  ·  ⌘clic  ·  ⇧clic"_s, u"Sélection multiple"_s},
+             command(Command::CopyKeys, u"Copier la clé"_s),
+             command(Command::CopyBranch, u"Copier le nom de branche git"_s),
+             command(Command::CopyLink, u"Copier le lien"_s),
+             command(Command::OpenInBrowser, u"Ouvrir dans Jira"_s),
              {u"⌘↩ (commentaire)"_s, u"Envoyer le commentaire"_s}}};
 }
 

@@ -1,8 +1,8 @@
 #include "shell/KeyMonitor.h"
 
+#include "commands/CommandTable.h"
 #include "commands/KeyPress.h"
 #include "commands/KeyRouting.h"
-#include "state/CreateScreen.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -32,8 +32,8 @@ bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || watched != m_window || !m_store)
         return false;
     const KeyPress press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
-    // Requesting a screen that does not exist would only remove the keyboard focus.
-    if (!hasCreateScreen && route(press) == KeyCommand::NewIssue)
+    const auto command = route(press);
+    if (command && !isOffered(*command))
         return false;
     if (m_store->palette() || m_store->isCreating() || isTyping() || isInPopup() ||
         isWalkingAList(press.key) || isPressingAControl(press.key))
@@ -44,7 +44,7 @@ bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
 bool KeyMonitor::give(const KeyPress &press)
 {
     const auto command = route(press);
-    const bool isStep = command == KeyCommand::MoveDown || command == KeyCommand::MoveUp;
+    const bool isStep = command == Command::MoveDown || command == Command::MoveUp;
     const auto before = m_store->focusedKey();
     const bool isTaken = m_store->handleKey(press);
     if (isStep || m_store->focusedKey() != before)

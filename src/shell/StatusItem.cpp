@@ -2,7 +2,6 @@
 
 #include "async/Spawn.h"
 #include "shell/StatusIcons.h"
-#include "state/CreateScreen.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,8 +42,7 @@ StatusItem::StatusItem(AppStore &store) : m_store(store)
 
 void StatusItem::refresh()
 {
-    const auto creation = hasCreateScreen ? IssueCreation::Offered : IssueCreation::Withheld;
-    m_entries = statusMenu(m_store.phase(), m_store.myOpenIssues(), creation);
+    m_entries = statusMenu(m_store.phase(), m_store.myOpenIssues(), issueCreation);
     m_menu.clear();
     for (const auto &entry : m_entries)
         append(entry);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/IssueCreation.h"
 #include "state/AppStore.h"
 
 /// One line of the status item's menu.
@@ -16,9 +17,6 @@ struct StatusMenuEntry
 
     bool operator==(const StatusMenuEntry &) const = default;
 };
-
-/// Whether there is a screen for creating an issue.
-enum class IssueCreation { Offered, Withheld };
 
 /// The menu from top to bottom: during a session the first twelve open issues of the user, and in every phase the
 /// entries that show the main window and quit the program.

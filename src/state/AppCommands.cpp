@@ -2,25 +2,24 @@
 
 #include "commands/ShortcutKey.h"
 #include "platform/Wording.h"
-#include "state/CreateScreen.h"
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
-bool isCommandEnabled(AppCommand command, AppStore::Phase phase)
+bool isCommandEnabled(Command command, AppStore::Phase phase)
 {
-    return command != AppCommand::NewIssue || (phase == AppStore::Phase::Ready && hasCreateScreen);
+    return isOffered(command) && (command != Command::NewIssue || phase == AppStore::Phase::Ready);
 }
 
-bool isOfIssueWindows(AppCommand command)
+bool isOfIssueWindows(Command command)
 {
     switch (command) {
-    case AppCommand::Reload:
-    case AppCommand::CopyKey:
-    case AppCommand::CopyBranch:
-    case AppCommand::CopyLink:
-    case AppCommand::OpenInBrowser:
+    case Command::Reload:
+    case Command::CopyKeys:
+    case Command::CopyBranch:
+    case Command::CopyLink:
+    case Command::OpenInBrowser:
         return true;
     default:
         return false;
@@ -50,8 +49,8 @@ void AppCommands::setIssueKey(const QString &key)
 
 void AppCommands::run(int command)
 {
-    if (isEnabled(AppCommand(command)))
-        carryOut(AppCommand(command));
+    if (isEnabled(Command(command)))
+        carryOut(Command(command));
 }
 
 bool AppCommands::runShortcut(const KeyPress &press)
@@ -59,31 +58,19 @@ bool AppCommands::runShortcut(const KeyPress &press)
     const auto command = shortcutCommand(press);
     if (!command || !isEnabled(*command))
         return false;
-    if (m_issueKey.isEmpty())
-        return m_store->handleShortcut(press);
     carryOut(*command);
     return true;
 }
 
-void AppCommands::carryOut(AppCommand command)
+void AppCommands::carryOut(Command command)
 {
     if (m_issueKey.isEmpty())
-        return m_store->run(command);
-    switch (command) {
-    case AppCommand::CopyKey:
-        return m_store->copyKeys(QStringList(m_issueKey));
-    case AppCommand::CopyBranch:
-        return m_store->copyBranch(m_issueKey);
-    case AppCommand::CopyLink:
-        return m_store->copyLink(m_issueKey);
-    case AppCommand::OpenInBrowser:
-        return m_store->openInBrowser(m_issueKey);
-    default:
-        return m_store->run(command);
-    }
+        m_store->run(command);
+    else
+        m_store->run(command, QStringList(m_issueKey));
 }
 
-CommandEntry AppCommands::entry(AppCommand command) const
+CommandEntry AppCommands::entry(Command command) const
 {
     const bool isInspecting = m_store && m_store->showInspector();
     CommandEntry entry;
@@ -98,14 +85,14 @@ CommandEntry AppCommands::entry(AppCommand command) const
 QList<CommandEntry> AppCommands::entries(CommandGroup group) const
 {
     QList<CommandEntry> entries;
-    for (const AppCommand command : commandsIn(group)) {
+    for (const Command command : commandsIn(group)) {
         if (m_issueKey.isEmpty() || isOfIssueWindows(command))
             entries.append(entry(command));
     }
     return entries;
 }
 
-bool AppCommands::isEnabled(AppCommand command) const
+bool AppCommands::isEnabled(Command command) const
 {
     return m_store && isCommandEnabled(command, m_store->phase()) &&
            (m_issueKey.isEmpty() || isOfIssueWindows(command));

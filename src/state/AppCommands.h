@@ -19,7 +19,7 @@ class CommandEntry
     Q_PROPERTY(bool isEnabled MEMBER isEnabled CONSTANT FINAL)
 
 public:
-    /// A `Commands.AppCommand`.
+    /// A `Commands.Command`.
     int command = 0;
     QString title;
     /// As this system's user reads it: "Ctrl+Maj+O"; empty without one.
@@ -55,13 +55,13 @@ public:
     const QString &issueKey() const { return m_issueKey; }
     void setIssueKey(const QString &key);
 
-    CommandEntry newIssue() const { return entry(AppCommand::NewIssue); }
+    CommandEntry newIssue() const { return entry(Command::NewIssue); }
     QList<CommandEntry> general() const { return entries(CommandGroup::General); }
     QList<CommandEntry> editing() const { return entries(CommandGroup::Editing); }
     QList<CommandEntry> sharing() const { return entries(CommandGroup::Sharing); }
     QList<CommandEntry> display() const { return entries(CommandGroup::Display); }
 
-    /// Carries out a `Commands.AppCommand`, unless it cannot be chosen now.
+    /// Carries out a `Commands.Command`, unless it cannot be chosen now.
     Q_INVOKABLE void run(int command);
     /// Carries out the command whose shortcut was pressed. False when there is none, or not in this window, or not now.
     bool runShortcut(const KeyPress &press);
@@ -71,16 +71,16 @@ Q_SIGNALS:
     void changed();
 
 private:
-    CommandEntry entry(AppCommand command) const;
+    CommandEntry entry(Command command) const;
     QList<CommandEntry> entries(CommandGroup group) const;
-    bool isEnabled(AppCommand command) const;
-    void carryOut(AppCommand command);
+    bool isEnabled(Command command) const;
+    void carryOut(Command command);
 
     QPointer<AppStore> m_store;
     QString m_issueKey;
 };
 
 /// Whether a command can be chosen. All of the menu "Tickets" can at all times: one without an issue answers with a toast.
-bool isCommandEnabled(AppCommand command, AppStore::Phase phase);
+bool isCommandEnabled(Command command, AppStore::Phase phase);
 /// Whether the window of an issue has a command: the others show themselves in the main window alone.
-bool isOfIssueWindows(AppCommand command);
+bool isOfIssueWindows(Command command);

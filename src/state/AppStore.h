@@ -2,8 +2,8 @@
 
 #include "async/Newest.h"
 #include "async/Settled.h"
+#include "commands/Command.h"
 #include "commands/CopiedText.h"
-#include "commands/KeyCommand.h"
 #include "commands/KeyPress.h"
 #include "commands/OptionBuilders.h"
 #include "commands/SelectionRules.h"
@@ -214,14 +214,11 @@ public:
     /// Carries out what the key map makes of a press; false for a press that is not consumed. Not for presses that a text
     /// field, the palette or the create screen should have.
     bool handleKey(const KeyPress &press);
-    /// The same for the shortcuts of the menus, which also count while the user types.
-    bool handleShortcut(const KeyPress &press);
-    void run(AppCommand command);
-    /// A picker for the targets, or a toast that asks for one; the same for the assignment.
-    void openPicker(PickerKind kind);
-    void assignToMe();
-    /// While the account is unknown, a toast says so.
-    void assignToMe(const QStringList &keys);
+    /// Carries out a command on the issues that are chosen. Where it needs one and there is none, a toast asks for it; where
+    /// it needs the account and that is unknown, a toast says so.
+    Q_INVOKABLE void run(Commands::Command command);
+    /// The same on these issues; a command on one issue takes the first.
+    Q_INVOKABLE void run(Commands::Command command, QStringList keys);
     Q_INVOKABLE void togglePalette();
     QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
     QList<IssueStatus> statusOptions(const QStringList &keys) const;
@@ -350,11 +347,17 @@ private:
     // AppStoreSelection.cpp
     Selection selection() const;
     void setSelection(const Selection &selection);
-    // AppStoreKeys.cpp
-    bool run(KeyCommand command, FocusMove move);
-    QStringList targetsOrToast();
+    // AppStoreCommands.cpp
+    /// Absent for the issues that are chosen.
+    using TargetKeys = std::optional<QStringList>;
+    /// False when there was nothing to do.
+    bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
+    void openPicker(PickerKind kind, const TargetKeys &keys);
+    void assignToMe(const TargetKeys &keys);
+    QStringList targetsOrToast(const TargetKeys &keys);
     bool takeSelection(const std::optional<Selection> &next);
-    bool requestWindow();
+    bool openIssue(const TargetKeys &keys);
+    bool requestWindow(const TargetKeys &keys);
     bool toggleFocusedCheck();
     bool escape();
     // AppStoreClipboard.cpp

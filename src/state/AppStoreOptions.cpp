@@ -55,28 +55,15 @@ void AppStore::run(const OptionAction &action)
     // A copy: carrying it out changes the rows that it may belong to.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const OptionAction kept = action;
-    std::visit(
-        Overloaded{
-            [](const A::None &) {},
-            [this](const A::SetStatus &a) { setStatus(a.status, a.keys); },
-            [this](const A::SetPriority &a) { setPriority(a.priority, a.keys); },
-            [this](const A::Assign &a) { assign(a.keys, a.user); },
-            [this](const A::ToggleLabel &a) { toggleLabel(a.label, a.keys); },
-            [this](const A::AddLabel &a) { addLabel(a.label, a.keys); },
-            [this](const A::AssignToMe &a) { assignToMe(a.keys); },
-            [this](const A::ShowPicker &a) { m_palette.set(PaletteMode::picker(a.kind, a.keys)); },
-            [this](const A::NewIssue &) { newIssue(); },
-            [this](const A::CopyKeys &a) { copyKeys(a.keys); },
-            [this](const A::CopyBranch &a) { copyBranch(a.key); },
-            [this](const A::CopyLink &a) { copyLink(a.key); },
-            [this](const A::OpenInBrowser &a) { openInBrowser(a.key); },
-            [this](const A::OpenWindow &a) { Q_EMIT openWindowRequested(a.key); },
-            [this](const A::OpenIssue &a) { openInInspector(a.key); },
-            [this](const A::SetLayout &a) { setLayout(a.layout); },
-            [this](const A::ToggleCompleted &) { setShowCompleted(!*m_showCompleted); },
-            [this](const A::CycleAppearance &) { cycleAppearance(); },
-            [this](const A::Reload &) { refresh(); },
-            [this](const A::OpenSettings &) { Q_EMIT settingsRequested(); },
-            [this](const A::Select &a) { select(a.scope); }},
-        kept.value);
+    std::visit(Overloaded{[](const A::None &) {},
+                          [this](const A::SetStatus &a) { setStatus(a.status, a.keys); },
+                          [this](const A::SetPriority &a) { setPriority(a.priority, a.keys); },
+                          [this](const A::Assign &a) { assign(a.keys, a.user); },
+                          [this](const A::ToggleLabel &a) { toggleLabel(a.label, a.keys); },
+                          [this](const A::AddLabel &a) { addLabel(a.label, a.keys); },
+                          [this](const A::RunCommand &a) {
+                              carryOut(a.command, a.keys, FocusMove::Plain);
+                          },
+                          [this](const A::Select &a) { select(a.scope); }},
+               kept.value);
 }

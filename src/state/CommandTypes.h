@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commands/AppCommand.h"
+#include "commands/Command.h"
 #include "commands/ShortcutReference.h"
 
 #include <QtQml/qqml.h>

@@ -32,14 +32,11 @@ public:
     static QString layout() { return Wording::localized(layoutHint()); }
     static QString deselect() { return Wording::localized(deselectHint()); }
     static QString close() { return Wording::localized(closeHint()); }
-    static QString copyBranch() { return ofCommand(AppCommand::CopyBranch); }
-    static QString copyLink() { return ofCommand(AppCommand::CopyLink); }
-    static QString openInBrowser() { return ofCommand(AppCommand::OpenInBrowser); }
+    static QString copyBranch() { return ofCommand(Command::CopyBranch); }
+    static QString copyLink() { return ofCommand(Command::CopyLink); }
+    static QString openInBrowser() { return ofCommand(Command::OpenInBrowser); }
     static QString openWindow() { return Wording::localized(openWindowHint()); }
 
 private:
-    static QString ofCommand(AppCommand command)
-    {
-        return Wording::localized(commandHint(command));
-    }
+    static QString ofCommand(Command command) { return Wording::localized(commandHint(command)); }
 };

@@ -54,13 +54,22 @@ TEST(CommandTable, TheMenuOfIssuesHasItsItemsInFourGroups)
 
 TEST(CommandTable, TheItemOfThePreviewFollowsTheInspector)
 {
-    EXPECT_EQ(commandTitle(AppCommand::TogglePeek, InspectorState::Open), u"Masquer l'aperçu"_s);
+    EXPECT_EQ(commandTitle(Command::ToggleInspector, InspectorState::Open), u"Masquer l'aperçu"_s);
 }
 
 TEST(CommandTable, NewIssueStandsInAMenuOfItsOwn)
 {
-    EXPECT_EQ(commandTitle(AppCommand::NewIssue, InspectorState::Closed), u"Nouveau ticket"_s);
-    EXPECT_EQ(commandShortcut(AppCommand::NewIssue), u"⌘N"_s);
+    EXPECT_EQ(commandTitle(Command::NewIssue, InspectorState::Closed), u"Nouveau ticket"_s);
+    EXPECT_EQ(commandShortcut(Command::NewIssue), u"⌘N"_s);
+}
+
+TEST(CommandTable, EachPickerHasACommandOfItsOwn)
+{
+    for (const auto kind :
+         {PickerKind::Status, PickerKind::Priority, PickerKind::Assignee, PickerKind::Labels})
+        EXPECT_EQ(pickerOf(pickCommand(kind)), kind);
+    EXPECT_EQ(pickCommand(PickerKind::Labels), Command::PickLabels);
+    EXPECT_EQ(pickerOf(Command::AssignToMe), std::nullopt);
 }
 
 TEST(ShortcutReference, ItsTextsAreThoseOfTheProgram)

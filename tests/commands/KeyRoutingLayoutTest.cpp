@@ -48,16 +48,16 @@ const std::array layouts{
 };
 
 constexpr std::array letterCommands{
-    KeyCommand::MoveDown,   KeyCommand::MoveUp,       KeyCommand::NewIssue,
-    KeyCommand::PickStatus, KeyCommand::PickPriority, KeyCommand::PickAssignee,
-    KeyCommand::PickLabels, KeyCommand::AssignToMe,   KeyCommand::ToggleCheck,
+    Command::MoveDown,   Command::MoveUp,       Command::NewIssue,
+    Command::PickStatus, Command::PickPriority, Command::PickAssignee,
+    Command::PickLabels, Command::AssignToMe,   Command::ToggleCheck,
 };
 
 class KeyMapUnderLayout : public testing::TestWithParam<Layout>
 {
 protected:
     /// All presses with the modifiers that lead to the command, Shift written as a negative scan code.
-    std::set<int> pressesOf(AppCommand command, Qt::KeyboardModifiers modifiers,
+    std::set<int> pressesOf(Command command, Qt::KeyboardModifiers modifiers,
                             Own own = Own::Known) const
     {
         std::set<int> presses;
@@ -72,7 +72,7 @@ protected:
         }
         return presses;
     }
-    std::set<quint32> keysOf(KeyCommand command,
+    std::set<quint32> keysOf(Command command,
                              Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         std::set<quint32> keys;
@@ -107,8 +107,8 @@ TEST_P(KeyMapUnderLayout, LettersAreOnNoOtherKeys)
 {
     for (std::size_t i = 2; i < letterCommands.size(); ++i)
         EXPECT_EQ(keysOf(letterCommands[i]), KeySet{GetParam().letters[i]}) << i;
-    EXPECT_EQ(keysOf(KeyCommand::MoveDown), (KeySet{GetParam().letters[0], 88, 116}));
-    EXPECT_EQ(keysOf(KeyCommand::MoveUp), (KeySet{GetParam().letters[1], 80, 111}));
+    EXPECT_EQ(keysOf(Command::MoveDown), (KeySet{GetParam().letters[0], 88, 116}));
+    EXPECT_EQ(keysOf(Command::MoveUp), (KeySet{GetParam().letters[1], 80, 111}));
 }
 
 TEST_P(KeyMapUnderLayout, EveryDigitOfTheTopRowWorksWithoutShift)
@@ -120,31 +120,31 @@ TEST_P(KeyMapUnderLayout, EveryDigitOfTheTopRowWorksWithoutShift)
 
 TEST_P(KeyMapUnderLayout, ListAndBoardAreOnTheFirstDigitsWithoutShiftOnly)
 {
-    EXPECT_EQ(keysOf(KeyCommand::ShowList), KeySet{oneKey});
-    EXPECT_EQ(keysOf(KeyCommand::ShowBoard), KeySet{oneKey + 1});
-    EXPECT_EQ(keysOf(KeyCommand::ShowList, Qt::ShiftModifier), KeySet{});
-    EXPECT_EQ(keysOf(KeyCommand::ShowBoard, Qt::ShiftModifier), KeySet{});
+    EXPECT_EQ(keysOf(Command::ShowList), KeySet{oneKey});
+    EXPECT_EQ(keysOf(Command::ShowBoard), KeySet{oneKey + 1});
+    EXPECT_EQ(keysOf(Command::ShowList, Qt::ShiftModifier), KeySet{});
+    EXPECT_EQ(keysOf(Command::ShowBoard, Qt::ShiftModifier), KeySet{});
 }
 
 TEST_P(KeyMapUnderLayout, NamedKeysWork)
 {
-    EXPECT_EQ(keysOf(KeyCommand::OpenInspector), (KeySet{36, 104}));
-    EXPECT_EQ(keysOf(KeyCommand::OpenWindow, Qt::ControlModifier), (KeySet{36, 104}));
-    EXPECT_EQ(keysOf(KeyCommand::Escape), KeySet{9});
-    EXPECT_EQ(keysOf(KeyCommand::Peek), KeySet{65});
-    EXPECT_EQ(keysOf(KeyCommand::Peek, Qt::ShiftModifier), KeySet{65});
+    EXPECT_EQ(keysOf(Command::OpenIssue), (KeySet{36, 104}));
+    EXPECT_EQ(keysOf(Command::OpenWindow, Qt::ControlModifier), (KeySet{36, 104}));
+    EXPECT_EQ(keysOf(Command::Escape), KeySet{9});
+    EXPECT_EQ(keysOf(Command::Peek), KeySet{65});
+    EXPECT_EQ(keysOf(Command::Peek, Qt::ShiftModifier), KeySet{65});
 }
 
 TEST_P(KeyMapUnderLayout, CopyingTheKeyAndTheBranchAreTwoCommands)
 {
-    EXPECT_EQ(pressesOf(AppCommand::CopyKey, Qt::ControlModifier), GetParam().copyKey);
-    EXPECT_EQ(pressesOf(AppCommand::CopyBranch, Qt::ControlModifier), GetParam().copyBranch);
-    EXPECT_EQ(pressesOf(AppCommand::CopyLink, Qt::ControlModifier), GetParam().copyLink);
+    EXPECT_EQ(pressesOf(Command::CopyKeys, Qt::ControlModifier), GetParam().copyKey);
+    EXPECT_EQ(pressesOf(Command::CopyBranch, Qt::ControlModifier), GetParam().copyBranch);
+    EXPECT_EQ(pressesOf(Command::CopyLink, Qt::ControlModifier), GetParam().copyLink);
 }
 
 TEST_P(KeyMapUnderLayout, CopyingTheKeyNeedsNoShift)
 {
-    const auto presses = pressesOf(AppCommand::CopyKey, Qt::ControlModifier);
+    const auto presses = pressesOf(Command::CopyKeys, Qt::ControlModifier);
     EXPECT_TRUE(std::ranges::any_of(presses, [](int press) { return press > 0; }));
 }
 
@@ -152,17 +152,17 @@ TEST_P(KeyMapUnderLayout, EveryShortcutIsOnOneOfItsKeysAlone)
 {
     for (const ShortcutKey &key : shortcutKeys())
         EXPECT_FALSE(pressesOf(key.command, key.flags).empty()) << int(key.command);
-    const auto palette = pressesOf(AppCommand::CommandPalette, Qt::ControlModifier);
+    const auto palette = pressesOf(Command::TogglePalette, Qt::ControlModifier);
     EXPECT_EQ(palette, std::set{int(GetParam().letters[1])});
-    const auto peek = pressesOf(AppCommand::TogglePeek, Qt::ControlModifier | Qt::AltModifier);
+    const auto peek = pressesOf(Command::ToggleInspector, Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(peek, std::set{int(GetParam().letters[7])});
 }
 
 TEST_P(KeyMapUnderLayout, TheLayoutShortcutsAreOnTheDigitsWithoutShift)
 {
     const auto controlAlt = Qt::ControlModifier | Qt::AltModifier;
-    EXPECT_TRUE(pressesOf(AppCommand::ShowList, controlAlt).contains(10));
-    EXPECT_TRUE(pressesOf(AppCommand::ShowBoard, controlAlt).contains(11));
+    EXPECT_TRUE(pressesOf(Command::ShowList, controlAlt).contains(10));
+    EXPECT_TRUE(pressesOf(Command::ShowBoard, controlAlt).contains(11));
 }
 
 INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapUnderLayout, testing::ValuesIn(layouts),
@@ -183,8 +183,8 @@ TEST_P(KeyMapWithoutOwnCharacters, CopyingTheKeyAndTheBranchAreTwoCommands)
     const KeyboardLayout layout = KeyboardLayout::load(QString::fromLatin1(GetParam()));
     const auto shifted = Qt::ControlModifier | Qt::ShiftModifier;
     EXPECT_EQ(shortcutCommand(layout.press(60, Qt::ControlModifier, Own::Unknown)),
-              AppCommand::CopyKey);
-    EXPECT_EQ(shortcutCommand(layout.press(60, shifted, Own::Unknown)), AppCommand::CopyBranch);
+              Command::CopyKeys);
+    EXPECT_EQ(shortcutCommand(layout.press(60, shifted, Own::Unknown)), Command::CopyBranch);
 }
 
 TEST_P(KeyMapWithoutOwnCharacters, EveryDigitOfTheTopRowWorksWithoutShift)

@@ -13,15 +13,15 @@ TEST(ShortcutHints, TheyTellTheKeysOfTheKeyMapAndOfTheShortcuts)
     EXPECT_EQ(reloadHint(), u"Actualiser (⌘R)"_s);
     EXPECT_EQ(layoutHint(), u"Liste (1) · Tableau (2)"_s);
     EXPECT_EQ(selectHint(), u"Sélectionner (X)"_s);
-    EXPECT_EQ(commandHint(AppCommand::CopyBranch), u"Copier le nom de branche git (⌘⇧.)"_s);
-    EXPECT_EQ(commandHint(AppCommand::OpenInBrowser), u"Ouvrir dans Jira (⌘⇧O)"_s);
+    EXPECT_EQ(commandHint(Command::CopyBranch), u"Copier le nom de branche git (⌘⇧.)"_s);
+    EXPECT_EQ(commandHint(Command::OpenInBrowser), u"Ouvrir dans Jira (⌘⇧O)"_s);
     EXPECT_EQ(openWindowHint(), u"Ouvrir dans une nouvelle fenêtre (⌘↩)"_s);
     EXPECT_EQ(deselectHint(), u"Désélectionner (Échap)"_s);
 }
 
 TEST(ShortcutHints, ACommandWithoutAShortcutIsItsWordsAlone)
 {
-    EXPECT_EQ(withShortcut(u"Statut"_s, AppCommand::ChangeStatus), u"Statut"_s);
+    EXPECT_EQ(withShortcut(u"Statut"_s, Command::PickStatus), u"Statut"_s);
 }
 
 TEST(ShortcutHints, EveryKeyOfTheKeyMapHasAName)
@@ -34,7 +34,7 @@ TEST(ShortcutHints, EveryKeyOfTheKeyMapHasAName)
 
 TEST(ShortcutHints, KeysThatDoTheSameAreToldOnceEach)
 {
-    EXPECT_EQ(keyTexts(KeyCommand::MoveDown), (QStringList{u"↓"_s, u"J"_s}));
-    EXPECT_EQ(keyTexts(KeyCommand::OpenInspector), QStringList{u"↩"_s});
-    EXPECT_EQ(keyTexts(KeyCommand::OpenWindow), QStringList{u"⌘↩"_s});
+    EXPECT_EQ(keyTexts(Command::MoveDown), (QStringList{u"↓"_s, u"J"_s}));
+    EXPECT_EQ(keyTexts(Command::OpenIssue), QStringList{u"↩"_s});
+    EXPECT_EQ(keyTexts(Command::OpenWindow), QStringList{u"⌘↩"_s});
 }

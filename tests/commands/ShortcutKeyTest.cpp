@@ -1,5 +1,7 @@
 #include "commands/ShortcutKey.h"
 
+#include "commands/CommandTable.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -10,7 +12,7 @@ constexpr auto control = Qt::ControlModifier;
 constexpr auto controlShift = Qt::ControlModifier | Qt::ShiftModifier;
 constexpr auto controlAlt = Qt::ControlModifier | Qt::AltModifier;
 
-std::optional<AppCommand> command(Qt::Key key, Qt::KeyboardModifiers modifiers)
+std::optional<Command> command(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     const QString text = key == Qt::Key_K ? u"\u000b"_s : QString();
     return shortcutCommand(KeyPress::make(key, 0, text, modifiers));
@@ -20,15 +22,15 @@ std::optional<AppCommand> command(Qt::Key key, Qt::KeyboardModifiers modifiers)
 
 TEST(ShortcutKey, LettersTakeExactlyTheirModifiers)
 {
-    EXPECT_EQ(command(Qt::Key_K, control), AppCommand::CommandPalette);
+    EXPECT_EQ(command(Qt::Key_K, control), Command::TogglePalette);
     EXPECT_EQ(command(Qt::Key_K, controlShift), std::nullopt);
     EXPECT_EQ(command(Qt::Key_K, controlAlt), std::nullopt);
     EXPECT_EQ(command(Qt::Key_K, Qt::NoModifier), std::nullopt);
-    EXPECT_EQ(command(Qt::Key_R, control), AppCommand::Reload);
-    EXPECT_EQ(command(Qt::Key_N, control), AppCommand::NewIssue);
-    EXPECT_EQ(command(Qt::Key_O, controlShift), AppCommand::OpenInBrowser);
+    EXPECT_EQ(command(Qt::Key_R, control), Command::Reload);
+    EXPECT_EQ(command(Qt::Key_N, control), Command::NewIssue);
+    EXPECT_EQ(command(Qt::Key_O, controlShift), Command::OpenInBrowser);
     EXPECT_EQ(command(Qt::Key_O, control), std::nullopt);
-    EXPECT_EQ(command(Qt::Key_I, controlAlt), AppCommand::TogglePeek);
+    EXPECT_EQ(command(Qt::Key_I, controlAlt), Command::ToggleInspector);
 }
 
 TEST(ShortcutKey, TheTableHasNoTwoRowsForOnePress)
@@ -42,30 +44,30 @@ TEST(ShortcutKey, TheTableHasNoTwoRowsForOnePress)
     }
 }
 
-TEST(ShortcutKey, NoCommandHasTwoShortcutsAndTheFiveThatActOnAFieldHaveNone)
+TEST(ShortcutKey, NoCommandHasTwoShortcutsAndThoseOfTheMenuThatActOnAFieldHaveNone)
 {
     QSet<int> commands;
     for (const ShortcutKey &key : shortcutKeys())
         commands.insert(int(key.command));
     EXPECT_EQ(commands.size(), qsizetype(shortcutKeys().size()));
-    for (const auto command :
-         {AppCommand::ChangeStatus, AppCommand::ChangePriority, AppCommand::ChangeAssignee,
-          AppCommand::AssignToMe, AppCommand::ChangeLabels})
-        EXPECT_FALSE(commands.contains(int(command)));
-    EXPECT_EQ(commands.size(), int(AppCommand::TogglePeek) + 1 - 5);
+    for (const auto group : {CommandGroup::General, CommandGroup::Editing, CommandGroup::Sharing,
+                             CommandGroup::Display}) {
+        for (const auto command : commandsIn(group))
+            EXPECT_EQ(commands.contains(int(command)), group != CommandGroup::Editing);
+    }
 }
 
 TEST(ShortcutKey, CapsLockChangesNothing)
 {
     EXPECT_EQ(shortcutCommand(KeyPress::make(Qt::Key_O, 32, u"\u000f"_s, controlShift, u"O"_s)),
-              AppCommand::OpenInBrowser);
+              Command::OpenInBrowser);
 }
 
 TEST(ShortcutKey, TheKeypadsFullStopCopiesTheKey)
 {
     EXPECT_EQ(
         shortcutCommand(KeyPress::make(Qt::Key_Period, 91, u"."_s, control | Qt::KeypadModifier)),
-        AppCommand::CopyKey);
+        Command::CopyKeys);
 }
 
 TEST(ShortcutKey, AKeyThatTypesNothingIsNone)

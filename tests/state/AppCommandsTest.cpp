@@ -12,7 +12,7 @@ class AppCommandsTest : public AppStoreFixture
 protected:
     AppCommandsTest() { commands.setStore(store.get()); }
 
-    void choose(AppCommand command) { commands.run(int(command)); }
+    void choose(Command command) { commands.run(int(command)); }
     QStringList toasts()
     {
         QStringList messages;
@@ -44,7 +44,7 @@ TEST_F(AppCommandsTest, TheWindowOfAnIssueHasOnlyWhatNeedsNothingOfTheMainWindow
     EXPECT_TRUE(commands.editing().isEmpty());
     EXPECT_EQ(commands.sharing().size(), 4);
     EXPECT_TRUE(commands.display().isEmpty());
-    choose(AppCommand::CommandPalette);
+    choose(Command::TogglePalette);
     EXPECT_FALSE(store->palette());
     EXPECT_FALSE(
         commands.runShortcut(KeyPress::make(Qt::Key_K, 0, u"k"_s, Qt::ControlModifier, u"k"_s)));
@@ -53,15 +53,15 @@ TEST_F(AppCommandsTest, TheWindowOfAnIssueHasOnlyWhatNeedsNothingOfTheMainWindow
 
 TEST_F(AppCommandsTest, ADisabledCommandDoesNothing)
 {
-    choose(AppCommand::NewIssue);
+    choose(Command::NewIssue);
     EXPECT_FALSE(store->isCreating());
 }
 
 TEST_F(AppCommandsTest, WithNoIssueChosenAPickerAsksForOne)
 {
     startSession();
-    for (const auto command : {AppCommand::ChangeStatus, AppCommand::ChangePriority,
-                               AppCommand::ChangeAssignee, AppCommand::ChangeLabels}) {
+    for (const auto command :
+         {Command::PickStatus, Command::PickPriority, Command::PickAssignee, Command::PickLabels}) {
         choose(command);
         EXPECT_FALSE(store->palette());
     }
@@ -73,11 +73,11 @@ TEST_F(AppCommandsTest, EachPickerOpensForTheTargets)
 {
     startSession();
     store->setFocusedKey(u"MOB-1"_s);
-    const QList<std::pair<AppCommand, PickerKind>> pickers{
-        {AppCommand::ChangeStatus, PickerKind::Status},
-        {AppCommand::ChangePriority, PickerKind::Priority},
-        {AppCommand::ChangeAssignee, PickerKind::Assignee},
-        {AppCommand::ChangeLabels, PickerKind::Labels}};
+    const QList<std::pair<Command, PickerKind>> pickers{
+        {Command::PickStatus, PickerKind::Status},
+        {Command::PickPriority, PickerKind::Priority},
+        {Command::PickAssignee, PickerKind::Assignee},
+        {Command::PickLabels, PickerKind::Labels}};
     for (const auto &[command, kind] : pickers) {
         choose(command);
         EXPECT_EQ(store->palette(), PaletteMode::picker(kind, {u"MOB-1"_s}));
@@ -86,16 +86,16 @@ TEST_F(AppCommandsTest, EachPickerOpensForTheTargets)
 
 TEST_F(AppCommandsTest, ThePaletteTwiceLeavesItClosed)
 {
-    choose(AppCommand::CommandPalette);
+    choose(Command::TogglePalette);
     EXPECT_EQ(store->palette(), PaletteMode::root());
-    choose(AppCommand::CommandPalette);
+    choose(Command::TogglePalette);
     EXPECT_FALSE(store->palette());
 }
 
 TEST_F(AppCommandsTest, ThePaletteCommandClosesAPickerToo)
 {
     store->setPalette(PaletteMode::picker(PickerKind::Status, {u"MOB-1"_s}));
-    choose(AppCommand::CommandPalette);
+    choose(Command::TogglePalette);
     EXPECT_FALSE(store->palette());
 }
 
@@ -104,7 +104,7 @@ TEST_F(AppCommandsTest, AssigningToMeAssignsAllCheckedIssues)
     startSession();
     reloadWith({sampleIssue(u"MOB-1"_s), sampleIssue(u"MOB-2"_s), sampleIssue(u"MOB-3"_s)});
     store->setChecked({u"MOB-1"_s, u"MOB-3"_s});
-    choose(AppCommand::AssignToMe);
+    choose(Command::AssignToMe);
     EXPECT_TRUE((*store->issue(u"MOB-1"_s))->assignee);
     EXPECT_FALSE((*store->issue(u"MOB-2"_s))->assignee);
     EXPECT_TRUE((*store->issue(u"MOB-3"_s))->assignee);
@@ -116,7 +116,7 @@ TEST_F(AppCommandsTest, TheItemOfThePreviewFollowsTheInspector)
     startSession();
     reloadWith({sampleIssue(u"MOB-1"_s)});
     QSignalSpy changed(&commands, &AppCommands::changed);
-    choose(AppCommand::TogglePeek);
+    choose(Command::ToggleInspector);
     EXPECT_TRUE(store->showInspector());
     EXPECT_GE(changed.count(), 1);
     EXPECT_EQ(commands.display().last().title, u"Masquer l'aperçu"_s);
@@ -124,9 +124,9 @@ TEST_F(AppCommandsTest, TheItemOfThePreviewFollowsTheInspector)
 
 TEST_F(AppCommandsTest, TheLayoutIsChosen)
 {
-    choose(AppCommand::ShowBoard);
+    choose(Command::ShowBoard);
     EXPECT_EQ(store->layout(), LayoutMode::Board);
-    choose(AppCommand::ShowList);
+    choose(Command::ShowList);
     EXPECT_EQ(store->layout(), LayoutMode::List);
 }
 

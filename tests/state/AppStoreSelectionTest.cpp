@@ -1,3 +1,4 @@
+#include "state/AppCommands.h"
 #include "state/AppStoreFixture.h"
 
 #include <QSignalSpy>
@@ -13,6 +14,7 @@ protected:
     {
         startSession();
         reloadWith(Issues);
+        commands.setStore(store.get());
     }
 
     static KeyPress key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
@@ -34,6 +36,7 @@ protected:
         return PaletteMode::picker(kind, keys);
     }
 
+    AppCommands commands;
     const IssueList Issues = {sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s),
                               sampleIssue(u"WEB-3"_s), sampleIssue(u"WEB-4"_s, u"Terminé"_s)};
 };
@@ -233,8 +236,8 @@ TEST_F(AppStoreSelectionTest, beforeASessionNoIssueCanBeMade)
     store->signOut();
     store->newIssue();
     EXPECT_FALSE(store->isCreating());
-    EXPECT_FALSE(store->handleShortcut(letter(u'n', Qt::ControlModifier)));
-    EXPECT_TRUE(store->handleShortcut(letter(u'k', Qt::ControlModifier)));
+    EXPECT_FALSE(commands.runShortcut(letter(u'n', Qt::ControlModifier)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'k', Qt::ControlModifier)));
 }
 
 TEST_F(AppStoreSelectionTest, aContextMenuOutsideTheSelectionIsAboutItsRowAlone)
@@ -245,12 +248,33 @@ TEST_F(AppStoreSelectionTest, aContextMenuOutsideTheSelectionIsAboutItsRowAlone)
     EXPECT_EQ(store->checkedCount(), 2);
 }
 
+TEST_F(AppStoreSelectionTest, aCommandOnGivenIssuesLeavesTheChosenOnesAlone)
+{
+    const QSignalSpy asked(store.get(), &AppStore::openWindowRequested);
+    const QStringList given{u"WEB-2"_s, u"WEB-3"_s};
+    store->setFocusedKey(u"WEB-1"_s);
+    store->run(Command::CopyKeys, given);
+    EXPECT_EQ(desktop.copied.last(), u"WEB-2, WEB-3"_s);
+    store->run(Command::CopyLink, given);
+    EXPECT_EQ(desktop.copied.last(), u"https://exemple.atlassian.net/browse/WEB-2"_s);
+    store->run(Command::OpenWindow, given);
+    EXPECT_EQ(asked.last(), QVariantList{u"WEB-2"_s});
+    store->run(Command::AssignToMe, given);
+    EXPECT_EQ(store->issue(u"WEB-1"_s).value()->assignee, std::nullopt);
+    EXPECT_EQ(store->issue(u"WEB-3"_s).value()->assignee, store->me());
+    store->run(Command::PickLabels, given);
+    EXPECT_EQ(store->palette(), picker(PickerKind::Labels, given));
+    store->run(Command::OpenIssue, given);
+    EXPECT_EQ(store->focusedKey(), u"WEB-2"_s);
+    EXPECT_EQ(store->inspectorKey(), u"WEB-2"_s);
+}
+
 TEST_F(AppStoreSelectionTest, copyKeysGivesASortedListWhateverTheOrder)
 {
     store->copyKeys();
     EXPECT_TRUE(desktop.copied.isEmpty());
     store->setChecked({u"WEB-3"_s, u"WEB-1"_s, u"WEB-2"_s});
-    EXPECT_TRUE(store->handleShortcut(letter(u'.', Qt::ControlModifier)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'.', Qt::ControlModifier)));
     EXPECT_EQ(desktop.copied.last(), u"WEB-1, WEB-2, WEB-3"_s);
     EXPECT_EQ(lastToast(), u"Clés copié"_s);
     store->copyKeys(QStringList{u"WEB-9"_s});
@@ -261,18 +285,18 @@ TEST_F(AppStoreSelectionTest, copyKeysGivesASortedListWhateverTheOrder)
 TEST_F(AppStoreSelectionTest, branchAndLinkAreThoseOfTheFirstTarget)
 {
     const auto controlShift = Qt::ControlModifier | Qt::ShiftModifier;
-    EXPECT_TRUE(store->handleShortcut(letter(u'o', controlShift)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'o', controlShift)));
     EXPECT_TRUE(desktop.opened.isEmpty());
     store->setFocusedKey(u"WEB-2"_s);
     EXPECT_TRUE(
-        store->handleShortcut(KeyPress::make(Qt::Key_Greater, 0, u">"_s, controlShift, u"."_s)));
+        commands.runShortcut(KeyPress::make(Qt::Key_Greater, 0, u">"_s, controlShift, u"."_s)));
     EXPECT_EQ(desktop.copied.last(), store->issue(u"WEB-2"_s).value()->branchName());
     EXPECT_EQ(lastToast(), u"Nom de branche copié"_s);
     EXPECT_TRUE(
-        store->handleShortcut(KeyPress::make(Qt::Key_Less, 0, u"<"_s, controlShift, u","_s)));
+        commands.runShortcut(KeyPress::make(Qt::Key_Less, 0, u"<"_s, controlShift, u","_s)));
     EXPECT_EQ(desktop.copied.last(), u"https://exemple.atlassian.net/browse/WEB-2"_s);
     EXPECT_EQ(lastToast(), u"Lien copié"_s);
-    EXPECT_TRUE(store->handleShortcut(letter(u'o', controlShift)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'o', controlShift)));
     EXPECT_EQ(desktop.opened.last(), QUrl(u"https://exemple.atlassian.net/browse/WEB-2"_s));
     store->openSite();
     EXPECT_EQ(desktop.opened.last(), QUrl(u"https://exemple.atlassian.net"_s));
@@ -282,16 +306,16 @@ TEST_F(AppStoreSelectionTest, branchAndLinkAreThoseOfTheFirstTarget)
 
 TEST_F(AppStoreSelectionTest, thePaletteShortcutTwiceLeavesItClosed)
 {
-    EXPECT_TRUE(store->handleShortcut(letter(u'k', Qt::ControlModifier)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'k', Qt::ControlModifier)));
     EXPECT_EQ(store->palette(), PaletteMode::root());
-    EXPECT_TRUE(store->handleShortcut(letter(u'k', Qt::ControlModifier)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'k', Qt::ControlModifier)));
     EXPECT_EQ(store->palette(), std::nullopt);
 }
 
 TEST_F(AppStoreSelectionTest, theReloadShortcutReloads)
 {
     const int before = service->issuesCalls.count();
-    EXPECT_TRUE(store->handleShortcut(letter(u'r', Qt::ControlModifier)));
+    EXPECT_TRUE(commands.runShortcut(letter(u'r', Qt::ControlModifier)));
     EXPECT_EQ(service->issuesCalls.count(), before + 1);
 }
 

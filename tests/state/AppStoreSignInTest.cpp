@@ -158,7 +158,7 @@ TEST_F(AppStoreSignInTest, whileTheAccountIsUnknownNothingIsAssignedToItAndAToas
     service->issuesCalls.answerWith({sampleIssue(u"WEB-1"_s)});
     const TaskResult<void> done(store->bootstrap());
     store->setFocusedKey(u"WEB-1"_s);
-    store->assignToMe();
+    store->run(Command::AssignToMe);
 
     EXPECT_EQ(service->assignCalls.count(), 0);
     ASSERT_EQ(store->toasts().size(), 1);

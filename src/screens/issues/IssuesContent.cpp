@@ -1,6 +1,6 @@
 #include "screens/issues/IssuesContent.h"
 
-#include "screens/issues/CreateScreen.h"
+#include "state/CreateScreen.h"
 
 using namespace Qt::StringLiterals;
 

@@ -25,17 +25,6 @@ QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString 
     return found;
 }
 
-std::optional<QString> createCandidate(const QList<OptionItem> &items, const QString &query)
-{
-    QString candidate = query.trimmed().replace(u' ', u'-');
-    const bool isTaken = std::ranges::any_of(items, [&](const OptionItem &item) {
-        return item.title.compare(candidate, Qt::CaseInsensitive) == 0;
-    });
-    if (candidate.isEmpty() || isTaken)
-        return std::nullopt;
-    return candidate;
-}
-
 std::optional<int> itemWithShortcut(const QList<OptionItem> &items, int digit)
 {
     const std::optional shortcut = QString::number(digit);

@@ -10,9 +10,5 @@
 /// of case and accents. White space around the query is ignored. An empty query matches all items.
 QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString &query);
 
-/// The title of the new value that a query would create: the words of the query joined by hyphens. Absent if the query
-/// has no word, or if any item, matching or not, has that title already, regardless of case.
-std::optional<QString> createCandidate(const QList<OptionItem> &items, const QString &query);
-
 /// The index of the first item that a digit picks.
 std::optional<int> itemWithShortcut(const QList<OptionItem> &items, int digit);

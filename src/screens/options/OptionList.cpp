@@ -1,5 +1,6 @@
 #include "screens/options/OptionList.h"
 
+#include "commands/NewLabel.h"
 #include "screens/options/OptionFilter.h"
 
 #include <QCursor>
@@ -46,7 +47,7 @@ void OptionList::refresh()
     const auto items = m_source ? m_source->items() : QList<OptionItem>();
     const bool canCreate = m_source && m_source->canCreate();
     m_found = filteredOptions(items, m_query);
-    m_candidate = canCreate ? createCandidate(items, m_query) : std::nullopt;
+    m_candidate = canCreate ? newLabel(m_query, items, LabelComparison::AsMade) : std::nullopt;
     QList<OptionListRow> rows;
     std::ranges::transform(m_found, std::back_inserter(rows), itemRow);
     if (m_candidate)

@@ -4,7 +4,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Options
 
-/// A chip that shows a property of some issues and opens the list that changes it. `kind` is a `PropertyOptions.Kind`,
+/// A chip that shows a property of some issues and opens the list that changes it. `kind` is a `Commands.PickerKind`,
 /// and `keys` are the keys of the issues.
 GlassChip {
     id: root

@@ -1,25 +1,7 @@
 #include "screens/options/PropertyOptions.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-PickerKind pickerKind(PropertyOptions::Kind kind)
-{
-    switch (kind) {
-    case PropertyOptions::Status:
-        return PickerKind::Status;
-    case PropertyOptions::Priority:
-        return PickerKind::Priority;
-    case PropertyOptions::Assignee:
-        return PickerKind::Assignee;
-    case PropertyOptions::Labels:
-        break;
-    }
-    return PickerKind::Labels;
-}
-
-} // namespace
+#include "commands/NewLabel.h"
+#include "commands/PickerWords.h"
 
 void PropertyOptions::setStore(AppStore *store)
 {
@@ -38,7 +20,7 @@ void PropertyOptions::setStore(AppStore *store)
     Q_EMIT itemsChanged();
 }
 
-void PropertyOptions::setKind(Kind kind)
+void PropertyOptions::setKind(PickerKind kind)
 {
     if (m_kind == kind)
         return;
@@ -58,22 +40,12 @@ void PropertyOptions::setKeys(const QStringList &keys)
 
 QString PropertyOptions::placeholder() const
 {
-    switch (m_kind) {
-    case Status:
-        return u"Statut…"_s;
-    case Priority:
-        return u"Priorité…"_s;
-    case Assignee:
-        return u"Assigner…"_s;
-    case Labels:
-        break;
-    }
-    return u"Ajouter des étiquettes…"_s;
+    return pickerPlaceholder(m_kind);
 }
 
 QList<OptionItem> PropertyOptions::items() const
 {
-    return m_store ? m_store->options(pickerKind(m_kind), m_keys) : QList<OptionItem>();
+    return m_store ? m_store->options(m_kind, m_keys) : QList<OptionItem>();
 }
 
 void PropertyOptions::run(const OptionItem &item)
@@ -84,20 +56,11 @@ void PropertyOptions::run(const OptionItem &item)
 
 QString PropertyOptions::createLabel(const QString &candidate) const
 {
-    return u"Créer l'étiquette « "_s + candidate + u" »"_s;
+    return newLabelTitle(candidate);
 }
 
 void PropertyOptions::create(const QString &label)
 {
-    // A copy, because the edits may destroy the object that holds the keys.
-    const QStringList keys = m_keys;
-    for (const auto &key : keys)
-        addLabel(label, key);
-}
-
-void PropertyOptions::addLabel(const QString &label, const QString &key)
-{
-    const auto issue = m_store ? m_store->issue(key) : std::nullopt;
-    if (issue && !(*issue)->labels.contains(label))
-        m_store->setLabels((*issue)->labels + QStringList{label}, key);
+    if (m_store)
+        m_store->addLabel(label, m_keys);
 }

@@ -13,22 +13,19 @@ class PropertyOptions : public OptionSource
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL)
-    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged FINAL)
+    Q_PROPERTY(Commands::PickerKind kind READ kind WRITE setKind NOTIFY kindChanged FINAL)
     /// The keys of the issues that a choice applies to.
     Q_PROPERTY(QStringList keys READ keys WRITE setKeys NOTIFY keysChanged FINAL)
     /// The placeholder of the search field.
     Q_PROPERTY(QString placeholder READ placeholder NOTIFY kindChanged FINAL)
 
 public:
-    enum Kind { Status, Priority, Assignee, Labels };
-    Q_ENUM(Kind)
-
     using OptionSource::OptionSource;
 
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
-    Kind kind() const { return m_kind; }
-    void setKind(Kind kind);
+    PickerKind kind() const { return m_kind; }
+    void setKind(PickerKind kind);
     const QStringList &keys() const { return m_keys; }
     void setKeys(const QStringList &keys);
     QString placeholder() const;
@@ -36,7 +33,7 @@ public:
     QList<OptionItem> items() const override;
     void run(const OptionItem &item) override;
     /// New values can be created only for labels.
-    bool canCreate() const override { return m_kind == Labels; }
+    bool canCreate() const override { return m_kind == PickerKind::Labels; }
     QString createLabel(const QString &candidate) const override;
     /// Adds the label to each known issue that does not have it.
     void create(const QString &label) override;
@@ -47,9 +44,7 @@ Q_SIGNALS:
     void keysChanged();
 
 private:
-    void addLabel(const QString &label, const QString &key);
-
     QPointer<AppStore> m_store;
-    Kind m_kind = Status;
+    PickerKind m_kind = PickerKind::Status;
     QStringList m_keys;
 };

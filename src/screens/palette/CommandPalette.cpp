@@ -1,5 +1,6 @@
 #include "screens/palette/CommandPalette.h"
 
+#include "commands/PickerWords.h"
 #include "platform/Wording.h"
 #include "state/palette/PaletteIssues.h"
 #include "state/palette/PaletteTexts.h"
@@ -181,7 +182,7 @@ void CommandPalette::activateInWindow(int row)
     const auto key = isRow ? issueKeyOf(m_rows[row].option) : std::nullopt;
     if (!key)
         return activate(row);
-    m_store->run({OptionAction::OpenWindow{*key}});
+    m_store->run(Command::OpenWindow, QStringList(*key));
     close();
 }
 

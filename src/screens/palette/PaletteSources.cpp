@@ -1,6 +1,5 @@
 #include "screens/palette/PaletteSources.h"
 
-#include "state/CreateScreen.h"
 #include "state/palette/PaletteIssues.h"
 #include "state/palette/PaletteNavigation.h"
 
@@ -8,12 +7,11 @@ namespace {
 
 PaletteActionInputs actionInputs(const AppStore &store)
 {
-    using Creation = PaletteActionInputs::Creation;
     return {.targets = store.actionTargets(),
             .layout = store.layout(),
             .showCompleted = store.showCompleted(),
             .appearance = store.appearance(),
-            .creation = hasCreateScreen ? Creation::Offered : Creation::Withheld};
+            .creation = issueCreation};
 }
 
 } // namespace

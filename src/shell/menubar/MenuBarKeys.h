@@ -39,7 +39,7 @@ public:
     void setHasOpenMenu(bool open);
 
     Q_INVOKABLE void close();
-    /// Closes the bar and then carries out a `Commands.AppCommand`.
+    /// Closes the bar and then carries out a `Commands.Command`.
     Q_INVOKABLE void choose(int command);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

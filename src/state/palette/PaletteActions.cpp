@@ -1,25 +1,31 @@
 #include "state/palette/PaletteActions.h"
 
 #include "commands/AppearanceWords.h"
-#include "state/palette/PaletteTexts.h"
+#include "commands/CommandTable.h"
+#include "commands/PickerWords.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Action = OptionAction;
-
 OptionItem actionItem(const QString &id, const QString &title, const QString &symbol,
-                      OptionAction run)
+                      OptionAction::RunCommand run)
 {
-    return {.id = id, .title = title, .icon = {OptionIcon::Symbol{symbol}}, .run = std::move(run)};
+    return {
+        .id = id, .title = title, .icon = {OptionIcon::Symbol{symbol}}, .run = {std::move(run)}};
+}
+
+/// The command under the words that the menus have for it.
+OptionItem commandItem(const QString &id, Command command, const QString &symbol,
+                       const std::optional<QStringList> &targets = {})
+{
+    return actionItem(id, commandTitle(command), symbol, {command, targets});
 }
 
 OptionItem pickerItem(const QString &id, PickerKind kind, const QString &symbol,
                       const QStringList &targets)
 {
-    OptionItem item =
-        actionItem(id, pickerActionTitle(kind), symbol, {Action::ShowPicker{kind, targets}});
+    OptionItem item = actionItem(id, pickerActionTitle(kind), symbol, {pickCommand(kind), targets});
     item.keepsOpen = true;
     return item;
 }
@@ -28,37 +34,30 @@ QList<OptionItem> itemsForIssues(const QStringList &targets)
 {
     if (targets.isEmpty())
         return {};
-    return {
-        pickerItem(u"status"_s, PickerKind::Status, u"circle.dashed"_s, targets),
-        pickerItem(u"priority"_s, PickerKind::Priority, u"chart.bar.fill"_s, targets),
-        pickerItem(u"assignee"_s, PickerKind::Assignee, u"person.crop.circle"_s, targets),
-        actionItem(u"me"_s, u"M'assigner"_s, u"person.fill.checkmark"_s,
-                   {Action::AssignToMe{targets}}),
-        pickerItem(u"labels"_s, PickerKind::Labels, u"tag"_s, targets),
-        actionItem(u"copy-key"_s, u"Copier la clé"_s, u"number"_s, {Action::CopyKeys{targets}})};
+    return {pickerItem(u"status"_s, PickerKind::Status, u"circle.dashed"_s, targets),
+            pickerItem(u"priority"_s, PickerKind::Priority, u"chart.bar.fill"_s, targets),
+            pickerItem(u"assignee"_s, PickerKind::Assignee, u"person.crop.circle"_s, targets),
+            commandItem(u"me"_s, Command::AssignToMe, u"person.fill.checkmark"_s, targets),
+            pickerItem(u"labels"_s, PickerKind::Labels, u"tag"_s, targets),
+            commandItem(u"copy-key"_s, Command::CopyKeys, u"number"_s, targets)};
 }
 
 QList<OptionItem> itemsForOneIssue(const QStringList &targets)
 {
     if (targets.size() != 1)
         return {};
-    const QString &key = targets.front();
-    return {
-        actionItem(u"copy-branch"_s, u"Copier le nom de branche git"_s, u"arrow.triangle.branch"_s,
-                   {Action::CopyBranch{key}}),
-        actionItem(u"copy-link"_s, u"Copier le lien"_s, u"link"_s, {Action::CopyLink{key}}),
-        actionItem(u"browser"_s, u"Ouvrir dans Jira"_s, u"safari"_s, {Action::OpenInBrowser{key}}),
-        actionItem(u"window"_s, u"Ouvrir dans une nouvelle fenêtre"_s, u"macwindow.on.rectangle"_s,
-                   {Action::OpenWindow{key}})};
+    return {commandItem(u"copy-branch"_s, Command::CopyBranch, u"arrow.triangle.branch"_s, targets),
+            commandItem(u"copy-link"_s, Command::CopyLink, u"link"_s, targets),
+            commandItem(u"browser"_s, Command::OpenInBrowser, u"safari"_s, targets),
+            commandItem(u"window"_s, Command::OpenWindow, u"macwindow.on.rectangle"_s, targets)};
 }
 
 OptionItem layoutItem(LayoutMode layout)
 {
     const bool isBoard = layout == LayoutMode::Board;
-    OptionItem item =
-        actionItem(u"layout"_s, isBoard ? u"Afficher en liste"_s : u"Afficher en tableau"_s,
-                   isBoard ? u"list.bullet"_s : u"rectangle.split.3x1"_s,
-                   {Action::SetLayout{isBoard ? LayoutMode::List : LayoutMode::Board}});
+    OptionItem item = isBoard
+                          ? commandItem(u"layout"_s, Command::ShowList, u"list.bullet"_s)
+                          : commandItem(u"layout"_s, Command::ShowBoard, u"rectangle.split.3x1"_s);
     item.shortcut = isBoard ? u"1"_s : u"2"_s;
     return item;
 }
@@ -69,21 +68,20 @@ QList<OptionItem> itemsForTheWindow(const PaletteActionInputs &inputs)
                                                    : u"Afficher les tickets terminés"_s;
     const QString appearance =
         u"Changer l'apparence ("_s + appearanceLabel(inputs.appearance) + u')';
-    return {
-        layoutItem(inputs.layout),
-        actionItem(u"completed"_s, completed, u"checkmark.circle"_s, {Action::ToggleCompleted{}}),
-        actionItem(u"appearance"_s, appearance, u"circle.lefthalf.filled"_s,
-                   {Action::CycleAppearance{}}),
-        actionItem(u"reload"_s, u"Actualiser"_s, u"arrow.clockwise"_s, {Action::Reload{}}),
-        actionItem(u"settings"_s, u"Réglages"_s, u"gear"_s, {Action::OpenSettings{}})};
+    return {layoutItem(inputs.layout),
+            actionItem(u"completed"_s, completed, u"checkmark.circle"_s,
+                       {Command::ToggleCompleted, {}}),
+            actionItem(u"appearance"_s, appearance, u"circle.lefthalf.filled"_s,
+                       {Command::CycleAppearance, {}}),
+            commandItem(u"reload"_s, Command::Reload, u"arrow.clockwise"_s),
+            commandItem(u"settings"_s, Command::OpenSettings, u"gear"_s)};
 }
 
-QList<OptionItem> itemsForCreation(PaletteActionInputs::Creation creation)
+QList<OptionItem> itemsForCreation(IssueCreation creation)
 {
-    if (creation == PaletteActionInputs::Creation::Withheld)
+    if (creation == IssueCreation::Withheld)
         return {};
-    return {
-        actionItem(u"new"_s, u"Nouveau ticket"_s, u"square.and.pencil"_s, {Action::NewIssue{}})};
+    return {commandItem(u"new"_s, Command::NewIssue, u"square.and.pencil"_s)};
 }
 
 } // namespace

@@ -1,20 +1,18 @@
 #pragma once
 
+#include "commands/IssueCreation.h"
 #include "commands/OptionItem.h"
 #include "model/Enums.h"
 
 /// What the actions of the palette depend on.
 struct PaletteActionInputs
 {
-    /// Whether there is a screen to make an issue on.
-    enum class Creation { Offered, Withheld };
-
     /// The keys of the issues that an action applies to.
     QStringList targets;
     LayoutMode layout = LayoutMode::List;
     bool showCompleted = true;
     AppearanceMode appearance = AppearanceMode::System;
-    Creation creation = Creation::Offered;
+    IssueCreation creation = IssueCreation::Offered;
 
     bool operator==(const PaletteActionInputs &) const = default;
 };

@@ -76,11 +76,12 @@ OptionItem issueItem(const Issue &issue)
             .title = issue.summary,
             .subtitle = issue.key,
             .icon = {issue.status},
-            .run = {OptionAction::OpenIssue{issue.key}}};
+            .run = {OptionAction::RunCommand{Command::OpenIssue, QStringList(issue.key)}}};
 }
 
 std::optional<QString> issueKeyOf(const OptionItem &item)
 {
-    const auto *open = std::get_if<OptionAction::OpenIssue>(&item.run.value);
-    return open ? std::optional(open->key) : std::nullopt;
+    const auto *run = std::get_if<OptionAction::RunCommand>(&item.run.value);
+    const bool opensIssue = run && run->command == Command::OpenIssue && run->keys;
+    return opensIssue ? std::optional(run->keys->first()) : std::nullopt;
 }

@@ -1,5 +1,6 @@
 #include "state/palette/PaletteSections.h"
 
+#include "commands/NewLabel.h"
 #include "state/palette/PaletteIssues.h"
 #include "state/palette/PaletteNavigation.h"
 
@@ -28,7 +29,7 @@ QList<OptionItem> offeredDestinations(const QString &query, const SearchableItem
 OptionItem newLabelItem(const QString &label, const QStringList &keys)
 {
     return {.id = u"create-label"_s,
-            .title = u"Créer l'étiquette « "_s + label + u" »"_s,
+            .title = newLabelTitle(label),
             .icon = {OptionIcon::Symbol{u"plus"_s}},
             .keepsOpen = true,
             .run = {OptionAction::AddLabel{label, keys}}};
@@ -54,18 +55,7 @@ QList<PaletteSection> pickerSections(const QString &query, const PaletteMode::Pi
     QList<PaletteSection> sections{{u"options"_s, QString(), options.matching(query)}};
     if (picker.kind != PickerKind::Labels)
         return sections;
-    if (const auto label = newLabel(query, options.items()))
+    if (const auto label = newLabel(query, options.items(), LabelComparison::AsTyped))
         sections.append({u"create"_s, QString(), {newLabelItem(*label, picker.keys)}});
     return sections;
-}
-
-std::optional<QString> newLabel(const QString &query, const QList<OptionItem> &options)
-{
-    QString words = query.trimmed();
-    const bool isTaken = std::ranges::any_of(options, [&](const OptionItem &option) {
-        return option.title.compare(words, Qt::CaseInsensitive) == 0;
-    });
-    if (words.isEmpty() || isTaken)
-        return std::nullopt;
-    return words.replace(u' ', u'-');
 }

@@ -24,7 +24,3 @@ QList<PaletteSection> rootSections(const QString &query, const IssueList &found,
 /// A picker: the options that match the query, and, for labels, the row that makes a new one.
 QList<PaletteSection> pickerSections(const QString &query, const PaletteMode::Picker &picker,
                                      const SearchableItems &options);
-
-/// The label that the query would make, its blanks as hyphens; nothing without a word, and where an option has the query
-/// as its title already, whatever the case.
-std::optional<QString> newLabel(const QString &query, const QList<OptionItem> &options);

@@ -1,43 +1,10 @@
 #include "state/palette/PaletteTexts.h"
 
+#include "commands/PickerWords.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-QString pickerActionTitle(PickerKind kind)
-{
-    switch (kind) {
-    case PickerKind::Status:
-        return u"Changer le statut…"_s;
-    case PickerKind::Priority:
-        return u"Changer la priorité…"_s;
-    case PickerKind::Assignee:
-        return u"Assigner…"_s;
-    case PickerKind::Labels:
-        return u"Étiquettes…"_s;
-    }
-    return {};
-}
-
-QString pickerTitle(PickerKind kind)
-{
-    return pickerActionTitle(kind).chopped(1);
-}
-
-QString pickerPlaceholder(PickerKind kind)
-{
-    switch (kind) {
-    case PickerKind::Status:
-        return u"Statut…"_s;
-    case PickerKind::Priority:
-        return u"Priorité…"_s;
-    case PickerKind::Assignee:
-        return u"Assigner…"_s;
-    case PickerKind::Labels:
-        return u"Ajouter des étiquettes…"_s;
-    }
-    return {};
-}
 
 QStringList keyCapsules(const QStringList &keys)
 {

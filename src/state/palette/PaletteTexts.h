@@ -3,13 +3,6 @@
 #include "commands/PaletteMode.h"
 #include "state/palette/PaletteRow.h"
 
-/// What the action that opens the picker is called, with its ellipsis.
-QString pickerActionTitle(PickerKind kind);
-/// What the picker does, as its head says it: the same without the ellipsis.
-QString pickerTitle(PickerKind kind);
-/// What the search field of the picker says while it is empty.
-QString pickerPlaceholder(PickerKind kind);
-
 /// The first three keys, and "+" and how many more there are.
 QStringList keyCapsules(const QStringList &keys);
 

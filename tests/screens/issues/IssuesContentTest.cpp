@@ -1,7 +1,7 @@
 #include "screens/issues/IssuesContent.h"
 
-#include "screens/issues/CreateScreen.h"
 #include "state/AppStoreFixture.h"
+#include "state/CreateScreen.h"
 
 using namespace Qt::StringLiterals;
 

@@ -21,11 +21,10 @@ QStringList found(const QList<OptionItem> &items, const QString &query)
 
 } // namespace
 
-TEST(FilteredOptions, AQueryOfBlanksOnlyFindsEverythingAndMakesNothing)
+TEST(FilteredOptions, AQueryOfBlanksOnlyFindsEverything)
 {
     const QList<OptionItem> items{item(u"Un"_s), item(u"Deux"_s)};
     EXPECT_EQ(found(items, u" \t\n "_s), (QStringList{u"Un"_s, u"Deux"_s}));
-    EXPECT_EQ(createCandidate(items, u" \t\n "_s), std::nullopt);
 }
 
 TEST(FilteredOptions, CaseAndAccentsDoNotCount)
@@ -45,42 +44,6 @@ TEST(FilteredOptions, ASubtitleIsSearchedToo)
 {
     const QList<OptionItem> items{item(u"Noam Talvère"_s, u"Moi"_s), item(u"Basile"_s)};
     EXPECT_EQ(found(items, u"moi"_s), QStringList{u"Noam Talvère"_s});
-}
-
-TEST(CreateCandidate, BugFixGivesBugHyphenFixUnlessAnItemIsCalledSoInAnyCase)
-{
-    EXPECT_EQ(createCandidate({item(u"auth"_s)}, u"bug fix"_s), u"bug-fix"_s);
-    EXPECT_EQ(createCandidate({item(u"auth"_s), item(u"BUG-FIX"_s)}, u"bug fix"_s), std::nullopt);
-}
-
-TEST(CreateCandidate, ItemsThatTheQueryDoesNotFindCountToo)
-{
-    const QList<OptionItem> items{item(u"bug-fix"_s)};
-    ASSERT_EQ(found(items, u"bug fix"_s), QStringList());
-    EXPECT_EQ(createCandidate(items, u"bug fix"_s), std::nullopt);
-}
-
-TEST(CreateCandidate, TheHyphenedTextIsComparedAndNotTheTypedOne)
-{
-    EXPECT_EQ(createCandidate({item(u"bug fix"_s)}, u"bug fix"_s), u"bug-fix"_s);
-}
-
-TEST(CreateCandidate, OnlyBlanksBecomeHyphensAndTheOuterOnesGo)
-{
-    EXPECT_EQ(createCandidate({}, u"  a  b\tc "_s), u"a--b\tc"_s);
-    EXPECT_EQ(createCandidate({}, u"été"_s), u"été"_s);
-}
-
-TEST(CreateCandidate, AccentsTellTwoValuesApart)
-{
-    EXPECT_EQ(createCandidate({item(u"ete"_s)}, u"été"_s), u"été"_s);
-}
-
-TEST(CreateCandidate, ALigatureTellsTwoValuesApartThoughEachIsFoundByTheOther)
-{
-    const QList<OptionItem> items{item(u"œuvre"_s)};
-    EXPECT_EQ(filteredOptions(items, u"oeuvre"_s).size(), 1);
-    EXPECT_EQ(createCandidate(items, u"oeuvre"_s), u"oeuvre"_s);
 }
 
 TEST(ItemWithShortcut, IsTheFirstOne)

@@ -31,21 +31,21 @@ protected:
 
 TEST_F(PropertyOptionsTest, EachKindSaysWhatItSearches)
 {
-    const std::pair<PropertyOptions::Kind, QString> placeholders[]{
-        {PropertyOptions::Status, u"Statut…"_s},
-        {PropertyOptions::Priority, u"Priorité…"_s},
-        {PropertyOptions::Assignee, u"Assigner…"_s},
-        {PropertyOptions::Labels, u"Ajouter des étiquettes…"_s}};
+    const std::pair<PickerKind, QString> placeholders[]{
+        {PickerKind::Status, u"Statut…"_s},
+        {PickerKind::Priority, u"Priorité…"_s},
+        {PickerKind::Assignee, u"Assigner…"_s},
+        {PickerKind::Labels, u"Ajouter des étiquettes…"_s}};
     for (const auto &[kind, placeholder] : placeholders) {
         options.setKind(kind);
         EXPECT_EQ(options.placeholder(), placeholder);
-        EXPECT_EQ(options.canCreate(), kind == PropertyOptions::Labels);
+        EXPECT_EQ(options.canCreate(), kind == PickerKind::Labels);
     }
 }
 
 TEST_F(PropertyOptionsTest, TheItemsAreThoseOfTheStore)
 {
-    options.setKind(PropertyOptions::Status);
+    options.setKind(PickerKind::Status);
     EXPECT_EQ(options.items(), store->options(PickerKind::Status, {u"MOB-1"_s}));
     EXPECT_EQ(titles(), (QStringList{u"À faire"_s, u"En cours"_s}));
 }
@@ -72,7 +72,7 @@ TEST_F(PropertyOptionsTest, ANewLabelGoesToTheEndOfEachIssueThatLacksIt)
     Issue third = sampleIssue(u"MOB-3"_s);
     third.labels = {u"Auth"_s};
     reloadWith({first, second, third});
-    options.setKind(PropertyOptions::Labels);
+    options.setKind(PickerKind::Labels);
     options.setKeys({u"MOB-1"_s, u"GONE-1"_s, u"MOB-2"_s, u"MOB-3"_s});
 
     options.create(u"auth"_s);

@@ -60,7 +60,7 @@ TEST_F(PaletteKeyTest, EscapeInAPickerClearsTheQueryThenReturnsToTheRootThenClos
 TEST_F(PaletteKeyTest, EscapeAfterAPickerOfAShortcutGoesToTheRootNotToThePreviousScreen)
 {
     store->setFocusedKey(u"MOB-1"_s);
-    store->openPicker(PickerKind::Assignee);
+    store->run(Command::PickAssignee);
     ASSERT_TRUE(palette.isPicker());
     EXPECT_TRUE(press(Qt::Key_Escape));
     EXPECT_EQ(store->palette(), PaletteMode::root());

@@ -61,8 +61,7 @@ TEST(PaletteActions, WithTwoOrMoreTargetsBranchLinkBrowserAndWindowAreNotOffered
 
 TEST(PaletteActions, WithoutAScreenForItNothingIsCreated)
 {
-    EXPECT_EQ(ids(paletteActions(
-                  {.targets = {u"MOB-1"_s}, .creation = PaletteActionInputs::Creation::Withheld})),
+    EXPECT_EQ(ids(paletteActions({.targets = {u"MOB-1"_s}, .creation = IssueCreation::Withheld})),
               without(all, {u"new"_s}));
 }
 
@@ -106,31 +105,26 @@ TEST(PaletteActions, PickersAndBulkActionsApplyToAllTargets)
 {
     const QStringList targets{u"MOB-1"_s, u"MOB-2"_s};
     const auto actions = paletteActions({.targets = targets});
-    EXPECT_EQ(withId(actions, u"status"_s).run.value,
-              OptionAction({Action::ShowPicker{PickerKind::Status, targets}}).value);
-    EXPECT_EQ(withId(actions, u"priority"_s).run.value,
-              OptionAction({Action::ShowPicker{PickerKind::Priority, targets}}).value);
-    EXPECT_EQ(withId(actions, u"assignee"_s).run.value,
-              OptionAction({Action::ShowPicker{PickerKind::Assignee, targets}}).value);
-    EXPECT_EQ(withId(actions, u"labels"_s).run.value,
-              OptionAction({Action::ShowPicker{PickerKind::Labels, targets}}).value);
-    EXPECT_EQ(withId(actions, u"me"_s).run.value,
-              OptionAction({Action::AssignToMe{targets}}).value);
-    EXPECT_EQ(withId(actions, u"copy-key"_s).run.value,
-              OptionAction({Action::CopyKeys{targets}}).value);
+    const QList<std::pair<QString, Command>> expected{
+        {u"status"_s, Command::PickStatus},     {u"priority"_s, Command::PickPriority},
+        {u"assignee"_s, Command::PickAssignee}, {u"labels"_s, Command::PickLabels},
+        {u"me"_s, Command::AssignToMe},         {u"copy-key"_s, Command::CopyKeys}};
+    for (const auto &[id, command] : expected)
+        EXPECT_EQ(withId(actions, id).run, (OptionAction{Action::RunCommand{command, targets}}))
+            << id.toStdString();
 }
 
 TEST(PaletteActions, TheLayoutIsTheOtherOneWithItsDigit)
 {
     const auto inList = withId(paletteActions({.layout = LayoutMode::List}), u"layout"_s);
     EXPECT_EQ(inList.shortcut, u"2"_s);
-    EXPECT_EQ(inList.run, (OptionAction{Action::SetLayout{LayoutMode::Board}}));
+    EXPECT_EQ(inList.run, (OptionAction{Action::RunCommand{Command::ShowBoard, {}}}));
 
     const auto onBoard = withId(paletteActions({.layout = LayoutMode::Board}), u"layout"_s);
     EXPECT_EQ(onBoard.title, u"Afficher en liste"_s);
     EXPECT_EQ(onBoard.shortcut, u"1"_s);
     EXPECT_EQ(onBoard.icon, (OptionIcon{OptionIcon::Symbol{u"list.bullet"_s}}));
-    EXPECT_EQ(onBoard.run, (OptionAction{Action::SetLayout{LayoutMode::List}}));
+    EXPECT_EQ(onBoard.run, (OptionAction{Action::RunCommand{Command::ShowList, {}}}));
 }
 
 TEST(PaletteActions, TitlesSayWhatIsNow)

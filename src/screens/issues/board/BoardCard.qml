@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Issues
 import Velmora.Kit
-import Velmora.Options
+import Velmora.State
 
 // One issue of the board.
 CardBody {
@@ -52,7 +52,7 @@ CardBody {
     RowCell {
         x: root.assigneeCell.x
         y: root.assigneeCell.y
-        kind: PropertyOptions.Assignee
+        kind: Commands.PickerKind.Assignee
         spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
         onPressed: root.pickRequested(kind, root.assigneeCell)
     }
@@ -61,7 +61,7 @@ CardBody {
         x: root.priorityCell.x
         y: root.priorityCell.y
         height: root.priorityCell.height
-        kind: PropertyOptions.Priority
+        kind: Commands.PickerKind.Priority
         spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
         onPressed: root.pickRequested(kind, root.priorityCell)
     }

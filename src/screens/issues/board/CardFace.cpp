@@ -3,7 +3,6 @@
 #include "screens/issues/board/CardCaptions.h"
 #include "screens/issues/board/CardNode.h"
 #include "screens/issues/board/CardPictures.h"
-#include "screens/options/PropertyOptions.h"
 #include "screens/theme/Springs.h"
 
 using namespace IssuePictures;
@@ -58,9 +57,9 @@ HotSpot CardFace::spotAt(double x, double y) const
 {
     const QPointF place(x, y);
     if (m_plan.assignee.contains(place))
-        return {m_plan.assignee, assigneeHint(), PropertyOptions::Assignee};
+        return {m_plan.assignee, assigneeHint(), PickerKind::Assignee};
     if (m_plan.priority.contains(place))
-        return {m_plan.priority, {}, PropertyOptions::Priority};
+        return {m_plan.priority, {}, PickerKind::Priority};
     const QRectF type(m_plan.type, CardPlan::margin, typeSide, CardPlan::headHeight);
     if (m_plan.type != CardPlan::absent && issue().type && type.contains(place))
         return {type, issue().type->name};

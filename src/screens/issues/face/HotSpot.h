@@ -1,9 +1,13 @@
 #pragma once
 
+#include "commands/Command.h"
+
 #include <QObject>
 #include <QRectF>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
+
+#include <optional>
 
 /// A part of a row or a card that has a hint or a picker.
 class HotSpot
@@ -12,20 +16,20 @@ class HotSpot
     QML_VALUE_TYPE(hotSpot)
     Q_PROPERTY(QRectF box MEMBER box CONSTANT FINAL)
     Q_PROPERTY(QString hint MEMBER hint CONSTANT FINAL)
-    Q_PROPERTY(int kind MEMBER kind CONSTANT FINAL)
+    Q_PROPERTY(int kind READ kind CONSTANT FINAL)
     Q_PROPERTY(bool isCell READ isCell CONSTANT FINAL)
 
 public:
-    static constexpr int noPicker = -1;
-
     /// The area within the row or card, in logical pixels.
     QRectF box;
     /// Empty if there is no hint.
     QString hint;
-    /// The kind of picker (`PropertyOptions::Kind`) that a click opens.
-    int kind = noPicker;
+    /// The picker that a click opens, if any.
+    std::optional<PickerKind> picker;
 
-    bool isCell() const { return kind != noPicker; }
+    /// The picker as a `Commands.PickerKind`; -1 without one.
+    int kind() const { return picker ? int(*picker) : -1; }
+    bool isCell() const { return picker.has_value(); }
 
     bool operator==(const HotSpot &) const = default;
 };

@@ -42,7 +42,7 @@ Q_SIGNALS:
     void planned();
     void hoverChanged();
     void hotSpotChanged();
-    /// Requests the picker of a kind (`PropertyOptions::Kind`) at a cell.
+    /// Requests the picker of a kind (`Commands.PickerKind`) at a cell.
     void pickRequested(int kind, QRectF cell);
 
 protected:

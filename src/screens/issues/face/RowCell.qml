@@ -6,7 +6,7 @@ Item {
     id: root
 
     required property string spoken
-    // The kind of its picker (`PropertyOptions.Kind`).
+    // The kind of its picker (`Commands.PickerKind`).
     property int kind: -1
     readonly property rect box: Qt.rect(x, y, width, height)
 

@@ -102,26 +102,8 @@ QString InspectedIssue::dueTitle() const
                : QString();
 }
 
-void InspectedIssue::openInBrowser()
+void InspectedIssue::run(Commands::Command command)
 {
     if (m_store)
-        m_store->openInBrowser(m_key);
-}
-
-void InspectedIssue::openWindow()
-{
-    if (m_store)
-        Q_EMIT m_store->openWindowRequested(m_key);
-}
-
-void InspectedIssue::copyLink()
-{
-    if (m_store)
-        m_store->copyLink(m_key);
-}
-
-void InspectedIssue::copyBranch()
-{
-    if (m_store)
-        m_store->copyBranch(m_key);
+        m_store->run(command, keys());
 }

@@ -62,10 +62,8 @@ public:
 
     /// Fetches the issue. Does nothing without a session. A change to another issue cancels the fetch.
     Q_INVOKABLE void load();
-    Q_INVOKABLE void openInBrowser();
-    Q_INVOKABLE void openWindow();
-    Q_INVOKABLE void copyLink();
-    Q_INVOKABLE void copyBranch();
+    /// Carries out a command on it.
+    Q_INVOKABLE void run(Commands::Command command);
 
 Q_SIGNALS:
     void storeChanged();

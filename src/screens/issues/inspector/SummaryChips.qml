@@ -22,7 +22,7 @@ FlowLayout {
         title: root.issue.statusTitle
         accessibleName: "Statut : " + title
         store: root.store
-        kind: PropertyOptions.Status
+        kind: Commands.PickerKind.Status
         keys: root.issue.keys
         leading: StatusIcon {
             status: root.issue.issue.status
@@ -34,7 +34,7 @@ FlowLayout {
         title: root.issue.priorityTitle
         accessibleName: "Priorité : " + title
         store: root.store
-        kind: PropertyOptions.Priority
+        kind: Commands.PickerKind.Priority
         keys: root.issue.keys
         leading: PriorityIcon {
             level: root.issue.issue.priorityLevel
@@ -46,7 +46,7 @@ FlowLayout {
         title: root.issue.assigneeTitle
         accessibleName: "Assigné : " + title
         store: root.store
-        kind: PropertyOptions.Assignee
+        kind: Commands.PickerKind.Assignee
         keys: root.issue.keys
         leading: Avatar {
             user: root.issue.issue.assigneeOrEmpty
@@ -60,7 +60,7 @@ FlowLayout {
         title: root.issue.labelsTitle
         accessibleName: "Étiquettes : " + title
         store: root.store
-        kind: PropertyOptions.Labels
+        kind: Commands.PickerKind.Labels
         keys: root.issue.keys
         leading: Symbol {
             name: "tag"

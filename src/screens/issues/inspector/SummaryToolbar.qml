@@ -16,7 +16,7 @@ Row {
         hint: Hints.copyBranch
         symbol: "arrow.triangle.branch"
         ink: Theme.text2
-        onClicked: root.issue.copyBranch()
+        onClicked: root.issue.run(Commands.Command.CopyBranch)
     }
 
     ToolbarCell {
@@ -24,7 +24,7 @@ Row {
         hint: Hints.copyLink
         symbol: "link"
         ink: Theme.text2
-        onClicked: root.issue.copyLink()
+        onClicked: root.issue.run(Commands.Command.CopyLink)
     }
 
     ToolbarCell {
@@ -32,7 +32,7 @@ Row {
         hint: Hints.openInBrowser
         symbol: "safari"
         ink: Theme.text2
-        onClicked: root.issue.openInBrowser()
+        onClicked: root.issue.run(Commands.Command.OpenInBrowser)
     }
 
     ToolbarCell {
@@ -41,6 +41,6 @@ Row {
         hint: Hints.openWindow
         symbol: "macwindow.on.rectangle"
         ink: Theme.text2
-        onClicked: root.issue.openWindow()
+        onClicked: root.issue.run(Commands.Command.OpenWindow)
     }
 }

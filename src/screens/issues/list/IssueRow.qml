@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Issues
 import Velmora.Kit
-import Velmora.Options
 import Velmora.State
 import Velmora.Theme
 
@@ -98,7 +97,7 @@ RowLine {
         visible: x >= 0
         x: root.plan.priority
         y: root.cellTop
-        kind: PropertyOptions.Priority
+        kind: Commands.PickerKind.Priority
         spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
         onPressed: root.pickRequested(kind, box)
     }
@@ -117,7 +116,7 @@ RowLine {
     RowCell {
         x: root.plan.status
         y: root.cellTop
-        kind: PropertyOptions.Status
+        kind: Commands.PickerKind.Status
         spoken: "Statut : " + root.issue.status.displayName
         onPressed: root.pickRequested(kind, box)
     }
@@ -137,7 +136,7 @@ RowLine {
         visible: x >= 0
         x: root.plan.assignee
         y: root.cellTop
-        kind: PropertyOptions.Assignee
+        kind: Commands.PickerKind.Assignee
         spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
         onPressed: root.pickRequested(kind, box)
     }

@@ -4,7 +4,6 @@
 #include "screens/issues/face/PictureNode.h"
 #include "screens/issues/list/RowCaptions.h"
 #include "screens/issues/list/RowPictures.h"
-#include "screens/options/PropertyOptions.h"
 
 namespace {
 
@@ -40,22 +39,22 @@ HotSpot RowLine::spotAt(double x, double) const
 {
     const double top = IssuePictures::centred(height(), cellSide);
     const auto spot = [top](double start, double width, const QString &hint,
-                            int kind = HotSpot::noPicker) {
-        return HotSpot{{start, top, width, cellSide}, hint, kind};
+                            std::optional<PickerKind> picker = {}) {
+        return HotSpot{{start, top, width, cellSide}, hint, picker};
     };
     if (isWithin(x, m_plan.check - checkOutset, cellSide))
         return spot(m_plan.check - checkOutset, cellSide, selectHint());
     if (isWithin(x, m_plan.priority, cellSide))
         return spot(m_plan.priority, cellSide, displayName(issue().priorityLevel()),
-                    PropertyOptions::Priority);
+                    PickerKind::Priority);
     if (isWithin(x, m_plan.status, cellSide))
-        return spot(m_plan.status, cellSide, issue().status.displayName(), PropertyOptions::Status);
+        return spot(m_plan.status, cellSide, issue().status.displayName(), PickerKind::Status);
     if (isWithin(x, m_plan.type, typeWidth))
         return spot(m_plan.type, typeWidth, issue().type ? issue().type->name : QString());
     if (isWithin(x, m_plan.due, m_plan.dueWidth))
         return spot(m_plan.due, m_plan.dueWidth, dueTooltip());
     if (isWithin(x, m_plan.assignee, cellSide))
-        return spot(m_plan.assignee, cellSide, assigneeHint(), PropertyOptions::Assignee);
+        return spot(m_plan.assignee, cellSide, assigneeHint(), PickerKind::Assignee);
     return {};
 }
 

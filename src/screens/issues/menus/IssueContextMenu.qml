@@ -5,6 +5,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
+import Velmora.State
 
 // The commands for one issue, or for all checked issues. The content comes from an `IssueMenu` that was prepared for
 // the issue.
@@ -37,7 +38,7 @@ PopupMenu {
         height: visible ? implicitHeight : 0
         text: "Ouvrir dans une nouvelle fenêtre"
         symbol: "macwindow.on.rectangle"
-        onTriggered: root.content.openWindow()
+        onTriggered: root.content.run(Commands.Command.OpenWindow)
     }
 
     PopupMenuItem {
@@ -45,7 +46,7 @@ PopupMenu {
         height: visible ? implicitHeight : 0
         text: "Ouvrir dans Jira"
         symbol: "safari"
-        onTriggered: root.content.openInBrowser()
+        onTriggered: root.content.run(Commands.Command.OpenInBrowser)
     }
 
     PopupMenuSeparator {
@@ -56,7 +57,7 @@ PopupMenu {
     PopupMenuItem {
         text: root.content.isSingle ? "Copier la clé" : root.content.copyKeysTitle
         symbol: root.content.isSingle ? "number" : "doc.on.doc"
-        onTriggered: root.content.copyKeys()
+        onTriggered: root.content.run(Commands.Command.CopyKeys)
     }
 
     PopupMenuItem {
@@ -64,7 +65,7 @@ PopupMenu {
         height: visible ? implicitHeight : 0
         text: "Copier le lien"
         symbol: "link"
-        onTriggered: root.content.copyLink()
+        onTriggered: root.content.run(Commands.Command.CopyLink)
     }
 
     PopupMenuItem {
@@ -72,6 +73,6 @@ PopupMenu {
         height: visible ? implicitHeight : 0
         text: "Copier le nom de branche git"
         symbol: "arrow.triangle.branch"
-        onTriggered: root.content.copyBranch()
+        onTriggered: root.content.run(Commands.Command.CopyBranch)
     }
 }

@@ -83,39 +83,15 @@ void IssueMenu::choose(const QString &section, const QString &choice)
     if (!m_store || submenu == submenus.end())
         return;
     if (choice == toMe)
-        return m_store->assignToMe(m_keys);
+        return run(Command::AssignToMe);
     const auto options = m_store->options(submenu->kind, m_keys);
     const auto option = std::ranges::find(options, choice, &OptionItem::id);
     if (option != options.end())
         m_store->run(option->run);
 }
 
-void IssueMenu::openWindow()
-{
-    if (m_store && isSingle())
-        Q_EMIT m_store->openWindowRequested(m_keys.front());
-}
-
-void IssueMenu::openInBrowser()
-{
-    if (m_store && isSingle())
-        m_store->openInBrowser(m_keys.front());
-}
-
-void IssueMenu::copyKeys()
+void IssueMenu::run(Commands::Command command)
 {
     if (m_store)
-        m_store->copyKeys(m_keys);
-}
-
-void IssueMenu::copyLink()
-{
-    if (m_store && isSingle())
-        m_store->copyLink(m_keys.front());
-}
-
-void IssueMenu::copyBranch()
-{
-    if (m_store && isSingle())
-        m_store->copyBranch(m_keys.front());
+        m_store->run(command, m_keys);
 }

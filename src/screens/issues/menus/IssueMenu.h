@@ -34,11 +34,8 @@ public:
     Q_INVOKABLE void prepare(const QString &key);
     /// Carries out an entry of a submenu. Does nothing for an unknown entry.
     Q_INVOKABLE void choose(const QString &section, const QString &choice);
-    Q_INVOKABLE void openWindow();
-    Q_INVOKABLE void openInBrowser();
-    Q_INVOKABLE void copyKeys();
-    Q_INVOKABLE void copyLink();
-    Q_INVOKABLE void copyBranch();
+    /// Carries out a command on the issues of the menu.
+    Q_INVOKABLE void run(Commands::Command command);
 
 Q_SIGNALS:
     void storeChanged();

@@ -16,12 +16,12 @@ Item {
     property bool isOpen: false
     property string issueKey: ""
     property rect cell
-    readonly property int alignment: options.kind === PropertyOptions.Assignee ? PopoverPlacement.Trailing
+    readonly property int alignment: options.kind === Commands.PickerKind.Assignee ? PopoverPlacement.Trailing
         : PopoverPlacement.Leading
 
     signal dismissed()
 
-    // Opens the picker of a kind (`PropertyOptions.Kind`) for an issue at a cell of its row or card, or closes the
+    // Opens the picker of a kind (`Commands.PickerKind`) for an issue at a cell of its row or card, or closes the
     // picker if it is already open there.
     function toggle(kind: int, key: string, face: Item, cell: rect) {
         if (isOpen && options.kind === kind && issueKey === key)

@@ -2,6 +2,6 @@
 
 void RowOptions::aim(int kind, const QString &key)
 {
-    setKind(Kind(kind));
+    setKind(PickerKind(kind));
     setKeys(store() ? store()->contextKeys(key) : QStringList());
 }

@@ -11,7 +11,7 @@ class RowOptions : public PropertyOptions
 public:
     using PropertyOptions::PropertyOptions;
 
-    /// Selects the property that a picker of a kind (`PropertyOptions.Kind`) changes, and the issues it applies to: all
+    /// Selects the property that a picker of a kind (`Commands.PickerKind`) changes, and the issues it applies to: all
     /// checked issues if `key` is one of them, otherwise the issue alone. The issues stay the same, even if the checked
     /// issues change meanwhile.
     Q_INVOKABLE void aim(int kind, const QString &key);

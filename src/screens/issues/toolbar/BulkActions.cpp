@@ -28,18 +28,6 @@ void BulkActions::update()
     Q_EMIT changed();
 }
 
-void BulkActions::pick(PickerKind kind)
-{
-    if (m_store)
-        m_store->openPicker(kind);
-}
-
-void BulkActions::copyKeys()
-{
-    if (m_store)
-        m_store->copyKeys();
-}
-
 void BulkActions::clear()
 {
     if (m_store)

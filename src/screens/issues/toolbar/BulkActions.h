@@ -9,7 +9,7 @@
 /// "1 sélectionné", "2 sélectionnés".
 QString selectedCountText(int count);
 
-/// The text and the commands of the selection bar.
+/// The text of the selection bar, and the command that closes it.
 class BulkActions : public QObject
 {
     Q_OBJECT
@@ -28,12 +28,6 @@ public:
     bool isShown() const { return m_store && m_store->isSelecting(); }
     const QString &countText() const { return m_countText; }
 
-    // Each of these opens a picker for the checked issues.
-    Q_INVOKABLE void pickStatus() { pick(PickerKind::Status); }
-    Q_INVOKABLE void pickPriority() { pick(PickerKind::Priority); }
-    Q_INVOKABLE void pickAssignee() { pick(PickerKind::Assignee); }
-    Q_INVOKABLE void pickLabels() { pick(PickerKind::Labels); }
-    Q_INVOKABLE void copyKeys();
     /// Unchecks all issues.
     Q_INVOKABLE void clear();
 
@@ -42,7 +36,6 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void pick(PickerKind kind);
     void update();
 
     QPointer<AppStore> m_store;

@@ -80,31 +80,31 @@ Item {
                 SelectionAction {
                     text: "Statut"
                     symbol: "circle.dashed"
-                    onClicked: actions.pickStatus()
+                    onClicked: root.store.run(Commands.Command.PickStatus)
                 }
 
                 SelectionAction {
                     text: "Priorité"
                     symbol: "chart.bar.fill"
-                    onClicked: actions.pickPriority()
+                    onClicked: root.store.run(Commands.Command.PickPriority)
                 }
 
                 SelectionAction {
                     text: "Assigner"
                     symbol: "person.crop.circle"
-                    onClicked: actions.pickAssignee()
+                    onClicked: root.store.run(Commands.Command.PickAssignee)
                 }
 
                 SelectionAction {
                     text: "Étiquettes"
                     symbol: "tag"
-                    onClicked: actions.pickLabels()
+                    onClicked: root.store.run(Commands.Command.PickLabels)
                 }
 
                 SelectionAction {
                     text: "Copier"
                     symbol: "doc.on.doc"
-                    onClicked: actions.copyKeys()
+                    onClicked: root.store.run(Commands.Command.CopyKeys)
                 }
             }
         }

@@ -107,7 +107,7 @@ TEST(RowPictures, TheCellUnderThePointerHasAFillBelowAllElse)
     const RowStyle style;
     const Issue issue = labelled(0);
     const auto plan = statusOnly();
-    const HotSpot cell{{36, 8, 22, 22}, u"En cours"_s, 0};
+    const HotSpot cell{{36, 8, 22, 22}, u"En cours"_s, PickerKind::Status};
     const HotSpot noCell{{36, 8, 22, 22}, u"Bug"_s};
 
     const auto over =

@@ -1,4 +1,4 @@
-#include "screens/issues/CreateScreen.h"
+#include "state/CreateScreen.h"
 
 void CreateScreen::open(AppStore *store, const QString &projectKey)
 {

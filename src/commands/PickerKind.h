@@ -1,4 +1,0 @@
-#pragma once
-
-/// What a picker picks.
-enum class PickerKind { Status, Priority, Assignee, Labels };
