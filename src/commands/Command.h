@@ -6,6 +6,8 @@
 /// and the store carries them out.
 namespace Commands {
 Q_NAMESPACE
+// QML gets only the scoped names, because a picker and a command may share one.
+Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
 /// What can be asked for. A command on issues takes its issues beside it; without any it means those that are chosen in
 /// the main window.

@@ -30,12 +30,8 @@ qint64 latestFirst(const QDateTime &instant)
 
 QDateTime lastActivityDate(const Issue &issue)
 {
-    if (issue.activity.isEmpty())
-        return issue.updated;
-    const auto isEarlier = [](const ActivityEvent &a, const ActivityEvent &b) {
-        return a.date < b.date;
-    };
-    return std::max_element(issue.activity.begin(), issue.activity.end(), isEarlier)->date;
+    const auto event = issue.lastActivity();
+    return event ? event->date : issue.updated;
 }
 
 /// The place of each project key in plain text order.
@@ -83,6 +79,14 @@ SortKey keyIn(Ordering ordering, const Issue &issue)
 
 int listRank(StatusCategory category, DoneFirst doneFirst)
 {
+    const bool leads = category == StatusCategory::Done && doneFirst == DoneFirst::Yes;
+    return leads ? -1 : workRank(category);
+}
+
+} // namespace
+
+int workRank(StatusCategory category)
+{
     switch (category) {
     case StatusCategory::InProgress:
         return 0;
@@ -91,14 +95,12 @@ int listRank(StatusCategory category, DoneFirst doneFirst)
     case StatusCategory::Backlog:
         return 2;
     case StatusCategory::Done:
-        return doneFirst == DoneFirst::Yes ? -1 : 3;
+        return 3;
     case StatusCategory::Cancelled:
         return 4;
     }
-    return 4;
+    Q_UNREACHABLE();
 }
-
-} // namespace
 
 LocalizedKey NameOrder::key(const QString &name) const
 {

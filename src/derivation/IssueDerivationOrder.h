@@ -43,6 +43,10 @@ private:
     QHash<QString, int> m_ranks;
 };
 
+/// The position of a category in lists, which begin with the work in progress: 0 for `InProgress`, then `Todo`,
+/// `Backlog`, `Done`, and 4 for `Cancelled`.
+int workRank(StatusCategory category);
+
 /// Where a status stands among others: smaller is earlier.
 using StatusPlace = std::tuple<int, double, int, LocalizedKey>;
 

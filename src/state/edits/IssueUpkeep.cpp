@@ -1,5 +1,7 @@
 #include "state/edits/IssueUpkeep.h"
 
+#include "derivation/IssueDerivationOrder.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -7,24 +9,6 @@
 #include <vector>
 
 namespace {
-
-/// Where an open issue stands by its status; the closed categories are never asked for.
-int rank(StatusCategory category)
-{
-    switch (category) {
-    case StatusCategory::InProgress:
-        return 0;
-    case StatusCategory::Todo:
-        return 1;
-    case StatusCategory::Backlog:
-        return 2;
-    case StatusCategory::Done:
-        return 3;
-    case StatusCategory::Cancelled:
-        return 4;
-    }
-    Q_UNREACHABLE();
-}
 
 /// What open issues are sorted by; the position keeps equals in their order.
 using Urgency = std::tuple<int, PriorityLevel, qsizetype>;
@@ -81,7 +65,7 @@ IssueList openIssues(const IssueList &issues)
     for (qsizetype i = 0; i < issues.size(); ++i) {
         const StatusCategory category = issues[i]->status.category();
         if (!isClosed(category))
-            order.emplace_back(rank(category), issues[i]->priorityLevel(), i);
+            order.emplace_back(workRank(category), issues[i]->priorityLevel(), i);
     }
     std::ranges::sort(order);
     IssueList open;
