@@ -27,19 +27,17 @@ SiteImages::~SiteImages()
 
 void SiteImages::showCredentials(const JiraCredentials &credentials)
 {
-    const QByteArray header = credentials.authorizationHeader();
-    m_identity = {Origin::of(credentials.site), header};
+    m_identity = {Origin::of(credentials.site), credentials.authorizationHeader()};
     m_site.reset();
-    m_loader.setAuthHost(credentials.site.host(QUrl::FullyEncoded));
-    m_loader.setAuthHeader(QString::fromLatin1(header));
+    m_loader.setSiteHost(credentials.site.host(QUrl::FullyEncoded));
 }
 
 QCoro::Task<ImageAnswer> SiteImages::fetch(ImageRequest request)
 {
-    auto &session = request.authorization ? m_site : m_elsewhere;
+    auto &session = request.withCredentials ? m_site : m_elsewhere;
     if (!session)
-        session =
-            std::make_shared<HttpSession>(request.authorization ? m_identity : Identity{}, m_clock);
+        session = std::make_shared<HttpSession>(request.withCredentials ? m_identity : Identity{},
+                                                m_clock);
     HttpRequest outgoing{.url = request.url,
                          .headers = {},
                          .body = {},

@@ -5,14 +5,14 @@
 #include <QUrl>
 
 #include <chrono>
-#include <optional>
 
 /// A picture to fetch.
 struct ImageRequest
 {
     QUrl url;
-    /// The complete value of the header "Authorization". Without it the request carries no credentials.
-    std::optional<QString> authorization;
+    /// The picture is on the site's own host, so that the request carries the site's credentials. All other requests
+    /// carry none.
+    bool withCredentials = false;
     std::chrono::seconds timeout{60};
     /// The maximum useful size of the answer in bytes. The fetcher may abort beyond it.
     qint64 mostBytes = 0;

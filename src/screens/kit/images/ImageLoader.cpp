@@ -39,11 +39,9 @@ ImageLoader::~ImageLoader()
         settle(*promise, {});
 }
 
-std::optional<QString> ImageLoader::authorizationFor(const QUrl &url) const
+bool ImageLoader::isOnSite(const QUrl &url) const
 {
-    const QString host = url.host(QUrl::FullyEncoded);
-    const bool isOfSite = m_authHost && !host.isEmpty() && host == *m_authHost;
-    return isOfSite ? m_authHeader : std::nullopt;
+    return !m_siteHost.isEmpty() && url.host(QUrl::FullyEncoded) == m_siteHost;
 }
 
 QCoro::Task<QImage> ImageLoader::image(QUrl url)
@@ -79,7 +77,7 @@ QCoro::Task<QByteArray> ImageLoader::bytes(QUrl url)
     if (!m_fetcher)
         co_return QByteArray();
     const ImageRequest request{
-        .url = url, .authorization = authorizationFor(url), .mostBytes = ImageLimits().bytes};
+        .url = url, .withCredentials = isOnSite(url), .mostBytes = ImageLimits().bytes};
     try {
         const ImageAnswer answer = co_await m_fetcher->fetch(request);
         co_return answer.status < firstRefusedStatus ? answer.body : QByteArray();

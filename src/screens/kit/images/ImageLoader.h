@@ -10,7 +10,6 @@
 #include <QThreadPool>
 
 #include <memory>
-#include <optional>
 
 /// Fetches pictures for the whole program, each with at most one request at a time, and keeps them for the lifetime of
 /// the process.
@@ -31,15 +30,12 @@ public:
 
     /// Sets the fetcher. With null nothing is fetched. The fetcher must outlive the loader or be reset to null.
     void setFetcher(ImageFetcher *fetcher) { m_fetcher = fetcher; }
-    /// Sets the only host that receives the credentials.
-    void setAuthHost(const std::optional<QString> &host) { m_authHost = host; }
-    /// Sets the complete value of the header "Authorization" for that host.
-    void setAuthHeader(const std::optional<QString> &header) { m_authHeader = header; }
-    const std::optional<QString> &authHost() const { return m_authHost; }
+    /// Sets the only host that receives the credentials, in its encoded form. Empty for none.
+    void setSiteHost(const QString &host) { m_siteHost = host; }
 
-    /// The credentials that a request for this address carries. Absent unless the host of the address is exactly the
-    /// host of the site.
-    std::optional<QString> authorizationFor(const QUrl &url) const;
+    /// Whether a request for this address carries the credentials: the host of the address must be exactly the host of
+    /// the site.
+    bool isOnSite(const QUrl &url) const;
     /// A picture that is already loaded, otherwise null.
     QImage cached(const QUrl &url) const { return m_cache.value(url); }
     /// The picture of an address, fetched if necessary. Null if it cannot be fetched. Calls during a running request
@@ -61,8 +57,7 @@ private:
     void finish(const QUrl &url, const QImage &image);
 
     ImageFetcher *m_fetcher = nullptr;
-    std::optional<QString> m_authHost;
-    std::optional<QString> m_authHeader;
+    QString m_siteHost;
     QHash<QUrl, QImage> m_cache;
     QHash<QUrl, Promise> m_pending;
     // Declared last, so that it is stopped before the other members are destroyed.
