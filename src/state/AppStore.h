@@ -221,9 +221,6 @@ public:
     Q_INVOKABLE void run(Commands::Command command, QStringList keys);
     Q_INVOKABLE void togglePalette();
     QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
-    QList<IssueStatus> statusOptions(const QStringList &keys) const;
-    QList<JiraUser> assigneeOptions(const QStringList &keys) const;
-    QList<IssuePriority> priorityOptions() const;
 
     // Pasteboard and browser; without keys for the targets ---------------------------------------------------------------
     void copy(const QString &text, const QString &label);

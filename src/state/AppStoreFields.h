@@ -39,7 +39,6 @@ class AppStoreFields : public QObject, public Batched
     Q_PROPERTY(IssueScope scope READ scope NOTIFY scopeChanged FINAL)
     Q_PROPERTY(IssueScope sidebarSelection READ sidebarSelection NOTIFY scopeChanged FINAL)
     Q_PROPERTY(IssueList issues READ issues NOTIFY issuesChanged FINAL)
-    Q_PROPERTY(bool hasIssues READ hasIssues NOTIFY issuesChanged FINAL)
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
     Q_PROPERTY(bool hasLoadError READ hasLoadError NOTIFY loadErrorChanged FINAL)
     Q_PROPERTY(QString loadError READ loadErrorOrEmpty NOTIFY loadErrorChanged FINAL)
@@ -68,8 +67,6 @@ class AppStoreFields : public QObject, public Batched
     Q_PROPERTY(
         QString filterText READ filterText WRITE setFilterText NOTIFY filterTextChanged FINAL)
     Q_PROPERTY(IssueFilters filters READ filters NOTIFY filtersChanged FINAL)
-    Q_PROPERTY(bool hasFilters READ hasFilters NOTIFY filtersChanged FINAL)
-    Q_PROPERTY(bool hasPalette READ hasPalette NOTIFY paletteChanged FINAL)
     Q_PROPERTY(bool isCreating READ isCreating WRITE setIsCreating NOTIFY isCreatingChanged FINAL)
 
 public:
@@ -232,11 +229,8 @@ private:
     JiraUser meOrEmpty() const { return m_me->value_or(JiraUser()); }
     bool hasCredentialsIssue() const { return m_credentialsIssue->has_value(); }
     QString credentialsIssueOrEmpty() const { return m_credentialsIssue->value_or(QString()); }
-    bool hasIssues() const { return !m_issues->isEmpty(); }
     bool hasLoadError() const { return m_loadError->has_value(); }
     QString loadErrorOrEmpty() const { return m_loadError->value_or(QString()); }
     QString focusedKeyOrEmpty() const { return m_focusedKey->value_or(QString()); }
     QString inspectorKeyOrEmpty() const { return m_inspectorKey->value_or(QString()); }
-    bool hasFilters() const { return !m_filters->isEmpty(); }
-    bool hasPalette() const { return m_palette->has_value(); }
 };

@@ -17,21 +17,6 @@ QList<OptionItem> AppStore::options(PickerKind kind, const QStringList &keys) co
     return ::options(kind, optionInputs(keys));
 }
 
-QList<IssueStatus> AppStore::statusOptions(const QStringList &keys) const
-{
-    return ::statusOptions(optionInputs(keys));
-}
-
-QList<JiraUser> AppStore::assigneeOptions(const QStringList &keys) const
-{
-    return ::assigneeOptions(optionInputs(keys));
-}
-
-QList<IssuePriority> AppStore::priorityOptions() const
-{
-    return ::priorityOptions(optionInputs({}));
-}
-
 OptionInputs AppStore::optionInputs(const QStringList &keys) const
 {
     const IssueDerivationMenus &menus = derivation().menus();

@@ -178,12 +178,6 @@ QString IssueListModel::keyAt(int row) const
     return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key : QString();
 }
 
-int IssueListModel::positionInGroup(int row) const
-{
-    const int header = headerRowOf(row);
-    return header < 0 ? -1 : row - header;
-}
-
 QVariant IssueListModel::data(const QModelIndex &index, int role) const
 {
     Q_ASSERT(checkIndex(index, CheckIndexOption::IndexIsValid));

@@ -91,9 +91,6 @@ public:
     /// The key of the issue in a row; empty for a header and outside the list.
     Q_INVOKABLE QString keyAt(int row) const;
 
-    /// How many rows an issue stands below its header, from 1; 0 for a header, -1 outside the list.
-    Q_INVOKABLE int positionInGroup(int row) const;
-
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 

@@ -12,12 +12,10 @@ class RowStyle : public IssueStyle
     Q_PROPERTY(DisplayProperties display MEMBER display NOTIFY changed FINAL)
     /// The width of the key column, in logical pixels.
     Q_PROPERTY(int keyWidth MEMBER keyWidth NOTIFY changed FINAL)
-    /// The fonts of the summary, of keys and dates, and of a parent's summary, with the space above and below the text
-    /// within a line.
+    /// The fonts of the summary and of keys and dates, with the space above and below the text within a line.
     Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
     Q_PROPERTY(double titleLeading READ titleLeading CONSTANT FINAL)
     Q_PROPERTY(QFont figuresFont READ figuresFont CONSTANT FINAL)
-    Q_PROPERTY(QFont smallFont READ smallFont CONSTANT FINAL)
     Q_PROPERTY(double smallLeading READ smallLeading CONSTANT FINAL)
 
 public:
@@ -29,7 +27,6 @@ public:
     {
         return TypeScale().font(TypeScale::Small, TypeScale::roleWeight, true);
     }
-    static QFont smallFont() { return TypeScale().font(TypeScale::Small); }
     static double smallLeading() { return TypeScale().halfLeading(TypeScale::Small); }
 
     DisplayProperties display;
