@@ -3,7 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/JiraSessions.h"
 #include "app/Outside.h"
-#include "app/SiteImages.h"
+#include "app/SiteImageFetcher.h"
 #include "shell/Farewell.h"
 #include "state/AppStore.h"
 
@@ -33,7 +33,7 @@ private:
     void end();
 
     Outside m_outside;
-    SiteImages m_images;
+    SiteImageFetcher m_images;
     JiraSessions m_sessions;
     AppStore m_store;
     // Declared after the store, so that the screens are destroyed before the data that they display.

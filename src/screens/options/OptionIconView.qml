@@ -12,7 +12,7 @@ Item {
     id: root
 
     required property optionIcon icon
-    readonly property string meaning: OptionPictures.meaning(icon)
+    readonly property string meaning: OptionIconAddresses.meaning(icon)
 
     function ink(): color {
         if (root.icon.kind === OptionIcons.Status)
@@ -29,8 +29,8 @@ Item {
         anchors.centerIn: parent
         width: sourceSize.width
         height: sourceSize.height
-        sourceSize: OptionPictures.size(root.icon)
-        source: OptionPictures.source(root.icon, root.ink())
+        sourceSize: OptionIconAddresses.size(root.icon)
+        source: OptionIconAddresses.source(root.icon, root.ink())
         Accessible.role: Accessible.Graphic
         Accessible.name: root.meaning
         Accessible.ignored: root.meaning === ""

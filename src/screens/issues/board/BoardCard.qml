@@ -62,7 +62,7 @@ CardBody {
         y: root.priorityCell.y
         height: root.priorityCell.height
         kind: Commands.PickerKind.Priority
-        spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
+        spoken: "Priorité : " + IconAddresses.priorityName(root.issue.priorityLevel)
         onPressed: root.pickRequested(kind, root.priorityCell)
     }
 }

@@ -1,7 +1,7 @@
 #include "screens/issues/board/CardCaptions.h"
 
 #include "screens/issues/face/IssueCaptions.h"
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 #include "screens/issues/list/RowFit.h"
 
 using namespace IssueCaptions;
@@ -12,8 +12,8 @@ namespace {
 Caption onFoot(double x, const CardPlan &plan, const Caption &caption)
 {
     const double top =
-        plan.foot + IssuePictures::centred(CardPlan::footHeight, IssuePictures::chipHeight);
-    return inMiddle({x, top}, IssuePictures::chipHeight, caption);
+        plan.foot + IssueIcons::centred(CardPlan::footHeight, IssueIcons::chipHeight);
+    return inMiddle({x, top}, IssueIcons::chipHeight, caption);
 }
 
 Caption labelOn(const CardLabel &place, const QString &name, const CardCaptionsInput &card)

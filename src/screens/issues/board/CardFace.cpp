@@ -1,11 +1,11 @@
 #include "screens/issues/board/CardFace.h"
 
 #include "screens/issues/board/CardCaptions.h"
+#include "screens/issues/board/CardIcons.h"
 #include "screens/issues/board/CardNode.h"
-#include "screens/issues/board/CardPictures.h"
 #include "screens/theme/Springs.h"
 
-using namespace IssuePictures;
+using namespace IssueIcons;
 
 CardFace::CardFace(QQuickItem *parent) : IssueFace(parent)
 {
@@ -102,11 +102,11 @@ QSGNode *CardFace::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item's node, which the scene graph owns
     auto *node = old ? static_cast<CardNode *>(old) : new CardNode;
     node->showGround(window(), size(), ground(), m_lift);
-    node->showPictures(window(), cardPictures({.issue = issue(),
-                                               .plan = m_plan,
-                                               .style = *m_style,
-                                               .isOverdue = isOverdue(),
-                                               .person = assigneeFace(),
-                                               .hotSpot = hotSpot()}));
+    node->showPictures(window(), cardIcons({.issue = issue(),
+                                            .plan = m_plan,
+                                            .style = *m_style,
+                                            .isOverdue = isOverdue(),
+                                            .person = assigneeFace(),
+                                            .hotSpot = hotSpot()}));
     return node;
 }

@@ -1,11 +1,11 @@
 #include "screens/issues/board/CardPlan.h"
 
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 #include "screens/issues/list/RowFit.h"
 
 #include <algorithm>
 
-using namespace IssuePictures;
+using namespace IssueIcons;
 
 namespace {
 

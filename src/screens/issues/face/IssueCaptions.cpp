@@ -1,6 +1,6 @@
 #include "screens/issues/face/IssueCaptions.h"
 
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 
 namespace IssueCaptions {
 
@@ -21,7 +21,7 @@ constexpr double lineHeight = 14;
 Caption inMiddle(QPointF corner, double height, const Caption &caption)
 {
     Caption placed = caption;
-    placed.place = corner + QPointF(0, IssuePictures::centred(height, lineHeight));
+    placed.place = corner + QPointF(0, IssueIcons::centred(height, lineHeight));
     return placed;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 
 #include <QSGTransformNode>
 

@@ -98,7 +98,7 @@ RowLine {
         x: root.plan.priority
         y: root.cellTop
         kind: Commands.PickerKind.Priority
-        spoken: "Priorité : " + Pictures.priorityName(root.issue.priorityLevel)
+        spoken: "Priorité : " + IconAddresses.priorityName(root.issue.priorityLevel)
         onPressed: root.pickRequested(kind, box)
     }
 

@@ -3,11 +3,11 @@
 #include "commands/ShortcutHints.h"
 #include "screens/issues/face/PictureNode.h"
 #include "screens/issues/list/RowCaptions.h"
-#include "screens/issues/list/RowPictures.h"
+#include "screens/issues/list/RowIcons.h"
 
 namespace {
 
-constexpr double cellSide = IssuePictures::cellSide;
+constexpr double cellSide = IssueIcons::cellSide;
 constexpr double checkOutset = 4;
 constexpr double typeWidth = 14;
 
@@ -37,7 +37,7 @@ void RowLine::makePlan()
 
 HotSpot RowLine::spotAt(double x, double) const
 {
-    const double top = IssuePictures::centred(height(), cellSide);
+    const double top = IssueIcons::centred(height(), cellSide);
     const auto spot = [top](double start, double width, const QString &hint,
                             std::optional<PickerKind> picker = {}) {
         return HotSpot{{start, top, width, cellSide}, hint, picker};
@@ -64,12 +64,12 @@ QSGNode *RowLine::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
         return old;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item's node, which the scene graph owns
     auto *node = old ? static_cast<PictureNode *>(old) : new PictureNode;
-    node->show(window(), rowPictures({.issue = issue(),
-                                      .plan = m_plan,
-                                      .style = *m_style,
-                                      .isOverdue = isOverdue(),
-                                      .person = assigneeFace(),
-                                      .height = height(),
-                                      .hotSpot = hotSpot()}));
+    node->show(window(), rowIcons({.issue = issue(),
+                                   .plan = m_plan,
+                                   .style = *m_style,
+                                   .isOverdue = isOverdue(),
+                                   .person = assigneeFace(),
+                                   .height = height(),
+                                   .hotSpot = hotSpot()}));
     return node;
 }

@@ -6,7 +6,7 @@ Item {
     id: root
 
     property real size: 64
-    readonly property int margin: Pictures.glyphMargin(size)
+    readonly property int margin: IconAddresses.glyphMargin(size)
 
     implicitWidth: size
     implicitHeight: size
@@ -20,6 +20,6 @@ Item {
         height: width
         sourceSize.width: width
         sourceSize.height: height
-        source: Pictures.glyph(root.size)
+        source: IconAddresses.glyph(root.size)
     }
 }

@@ -13,13 +13,13 @@ DrawnIcon {
     readonly property string personName: hasUser ? user.name : "Non assigné"
 
     side: size
-    source: !hasUser ? Pictures.nobody(size) : picture.isLoaded ? picture.roundSource : Pictures.avatar(user, size)
+    source: !hasUser ? IconAddresses.nobody(size) : picture.isLoaded ? picture.roundSource : IconAddresses.avatar(user, size)
     Accessible.name: personName
 
     RemotePicture {
         id: picture
 
-        address: root.hasUser ? Pictures.avatarAddress(root.user) : ""
+        address: root.hasUser ? IconAddresses.avatarAddress(root.user) : ""
     }
 
     HoverHandler {

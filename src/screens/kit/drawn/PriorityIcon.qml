@@ -13,6 +13,6 @@ DrawnIcon {
     property color tint: level === Model.PriorityLevel.None ? Theme.neutral : Theme.text1
 
     side: size
-    source: Pictures.priority(level, size, tint)
-    Accessible.name: Pictures.priorityName(level)
+    source: IconAddresses.priority(level, size, tint)
+    Accessible.name: IconAddresses.priorityName(level)
 }

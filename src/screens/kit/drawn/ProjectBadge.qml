@@ -10,6 +10,6 @@ DrawnIcon {
     property real size: 16
 
     side: size
-    source: Pictures.project(project, size)
+    source: IconAddresses.project(project, size)
     Accessible.name: project.name
 }

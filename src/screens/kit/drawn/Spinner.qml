@@ -14,7 +14,7 @@ Image {
     height: size
     sourceSize.width: Math.ceil(size)
     sourceSize.height: Math.ceil(size)
-    source: Pictures.spinner(size, color)
+    source: IconAddresses.spinner(size, color)
     Accessible.role: Accessible.Animation
     Accessible.name: "Chargement…"
 

@@ -11,6 +11,6 @@ DrawnIcon {
     property real size: 14
 
     side: size
-    source: Pictures.status(status, size, Theme.done)
+    source: IconAddresses.status(status, size, Theme.done)
     Accessible.name: status.displayName
 }

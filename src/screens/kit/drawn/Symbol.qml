@@ -13,8 +13,8 @@ Item {
     property string weight: "regular"
     property color color: Theme.text1
     property string meaning
-    readonly property int side: Pictures.symbolSide(size)
-    readonly property int border: Pictures.symbolBorder(side)
+    readonly property int side: IconAddresses.symbolSide(size)
+    readonly property int border: IconAddresses.symbolBorder(side)
 
     implicitWidth: side
     implicitHeight: side
@@ -29,6 +29,6 @@ Item {
         sourceSize.width: width
         sourceSize.height: height
         source: root.name.length > 0
-                ? Pictures.symbol(root.name, root.size, root.weight, root.color) : ""
+                ? IconAddresses.symbol(root.name, root.size, root.weight, root.color) : ""
     }
 }

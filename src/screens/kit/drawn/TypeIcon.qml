@@ -8,7 +8,7 @@ Item {
 
     required property issueType type
     property real size: 11
-    readonly property int border: Pictures.symbolBorder(Pictures.symbolSide(size))
+    readonly property int border: IconAddresses.symbolBorder(IconAddresses.symbolSide(size))
 
     implicitWidth: size + 2
     implicitHeight: size + 2
@@ -19,7 +19,7 @@ Item {
     DrawnIcon {
         anchors.centerIn: parent
         side: root.size + 2 + 2 * root.border
-        source: Pictures.type(root.type, root.size)
+        source: IconAddresses.type(root.type, root.size)
         Accessible.ignored: true
     }
 

@@ -2,7 +2,7 @@
 
 #include <QQuickImageProvider>
 
-/// Serves the drawn icons: `image://icon/<kind>?<values>`. `Pictures` creates the addresses. Pictures with the same
+/// Serves the drawn icons: `image://icon/<kind>?<values>`. `IconAddresses` creates the addresses. Pictures with the same
 /// address share one texture.
 class IconProvider : public QQuickImageProvider
 {

@@ -1,4 +1,4 @@
-#include "screens/issues/list/RowPictures.h"
+#include "screens/issues/list/RowIcons.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ std::vector<PlacedPicture> picturesOf(const Issue &issue, const RowPlan &plan,
     style.late = Qt::red;
     style.ink = Qt::black;
     style.faint = Qt::lightGray;
-    return rowPictures(
+    return rowIcons(
         {.issue = issue, .plan = plan, .style = style, .isOverdue = isOverdue, .height = 38});
 }
 
@@ -42,7 +42,7 @@ RowPlan statusOnly()
 
 } // namespace
 
-TEST(RowPictures, ARowWithoutItsOptionalColumnsShowsTheStatusAlone)
+TEST(RowIcons, ARowWithoutItsOptionalColumnsShowsTheStatusAlone)
 {
     const auto pictures = picturesOf(labelled(0), statusOnly());
 
@@ -50,7 +50,7 @@ TEST(RowPictures, ARowWithoutItsOptionalColumnsShowsTheStatusAlone)
     EXPECT_EQ(pictures.front().place, QPointF(40, 12)) << "in the middle of its cell";
 }
 
-TEST(RowPictures, AtMostFourDotsStandForLabels)
+TEST(RowIcons, AtMostFourDotsStandForLabels)
 {
     auto plan = statusOnly();
     plan.labels = 500;
@@ -60,7 +60,7 @@ TEST(RowPictures, AtMostFourDotsStandForLabels)
     EXPECT_EQ(countOfSize(picturesOf(labelled(3), plan), {7, 7}), 3);
 }
 
-TEST(RowPictures, TwoLabelsHaveChips)
+TEST(RowIcons, TwoLabelsHaveChips)
 {
     auto plan = statusOnly();
     plan.labels = 500;
@@ -71,7 +71,7 @@ TEST(RowPictures, TwoLabelsHaveChips)
     EXPECT_EQ(pictures[2].place.x(), 500 + pictures[1].key.size.width() + 4);
 }
 
-TEST(RowPictures, AnIssueWithoutATypeLeavesItsColumnEmpty)
+TEST(RowIcons, AnIssueWithoutATypeLeavesItsColumnEmpty)
 {
     auto plan = statusOnly();
     plan.type = 68;
@@ -82,7 +82,7 @@ TEST(RowPictures, AnIssueWithoutATypeLeavesItsColumnEmpty)
     EXPECT_EQ(picturesOf(issue, plan).size(), 2u);
 }
 
-TEST(RowPictures, ALateDueDateIsAnotherPictureThanOneToCome)
+TEST(RowIcons, ALateDueDateIsAnotherPictureThanOneToCome)
 {
     auto plan = statusOnly();
     plan.due = 700;
@@ -94,7 +94,7 @@ TEST(RowPictures, ALateDueDateIsAnotherPictureThanOneToCome)
     EXPECT_FALSE(late == coming);
 }
 
-TEST(RowPictures, NoPriorityIsDrawnFaintly)
+TEST(RowIcons, NoPriorityIsDrawnFaintly)
 {
     auto plan = statusOnly();
     plan.priority = 12;
@@ -102,7 +102,7 @@ TEST(RowPictures, NoPriorityIsDrawnFaintly)
     EXPECT_EQ(picturesOf(labelled(0), plan).front().key.color, QColor(Qt::lightGray));
 }
 
-TEST(RowPictures, TheCellUnderThePointerHasAFillBelowAllElse)
+TEST(RowIcons, TheCellUnderThePointerHasAFillBelowAllElse)
 {
     const RowStyle style;
     const Issue issue = labelled(0);
@@ -111,16 +111,16 @@ TEST(RowPictures, TheCellUnderThePointerHasAFillBelowAllElse)
     const HotSpot noCell{{36, 8, 22, 22}, u"Bug"_s};
 
     const auto over =
-        rowPictures({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = cell});
+        rowIcons({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = cell});
     EXPECT_EQ(over.size(), 2u);
     EXPECT_EQ(over.front().place, QPointF(36, 8));
     EXPECT_EQ(
-        rowPictures({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = noCell})
+        rowIcons({.issue = issue, .plan = plan, .style = style, .height = 38, .hotSpot = noCell})
             .size(),
         1u);
 }
 
-TEST(RowPictures, ThePictureOfAPersonTakesThePlaceOfTheInitials)
+TEST(RowIcons, ThePictureOfAPersonTakesThePlaceOfTheInitials)
 {
     auto plan = statusOnly();
     plan.assignee = 900;
@@ -130,8 +130,8 @@ TEST(RowPictures, ThePictureOfAPersonTakesThePlaceOfTheInitials)
     QImage face(40, 40, QImage::Format_ARGB32_Premultiplied);
     face.fill(Qt::green);
     const auto with =
-        rowPictures({.issue = issue, .plan = plan, .style = style, .person = face, .height = 38});
-    const auto without = rowPictures({.issue = issue, .plan = plan, .style = style, .height = 38});
+        rowIcons({.issue = issue, .plan = plan, .style = style, .person = face, .height = 38});
+    const auto without = rowIcons({.issue = issue, .plan = plan, .style = style, .height = 38});
 
     EXPECT_EQ(with.back().place, without.back().place);
     EXPECT_FALSE(with.back().key == without.back().key);

@@ -1,4 +1,4 @@
-#include "app/SiteImages.h"
+#include "app/SiteImageFetcher.h"
 
 namespace {
 
@@ -11,12 +11,13 @@ QCoro::Task<ImageAnswer> fetched(std::shared_ptr<HttpSession> session, HttpReque
 
 } // namespace
 
-SiteImages::SiteImages(ImageLoader &loader, Clock &clock) : m_loader(loader), m_clock(clock)
+SiteImageFetcher::SiteImageFetcher(ImageLoader &loader, Clock &clock)
+    : m_loader(loader), m_clock(clock)
 {
     m_loader.setFetcher(this);
 }
 
-SiteImages::~SiteImages()
+SiteImageFetcher::~SiteImageFetcher()
 {
     m_loader.setFetcher(nullptr);
     for (const auto &session : {m_site, m_elsewhere}) {
@@ -25,14 +26,14 @@ SiteImages::~SiteImages()
     }
 }
 
-void SiteImages::showCredentials(const JiraCredentials &credentials)
+void SiteImageFetcher::showCredentials(const JiraCredentials &credentials)
 {
     m_identity = {Origin::of(credentials.site), credentials.authorizationHeader()};
     m_site.reset();
     m_loader.setSiteHost(credentials.site.host(QUrl::FullyEncoded));
 }
 
-QCoro::Task<ImageAnswer> SiteImages::fetch(ImageRequest request)
+QCoro::Task<ImageAnswer> SiteImageFetcher::fetch(ImageRequest request)
 {
     auto &session = request.withCredentials ? m_site : m_elsewhere;
     if (!session)

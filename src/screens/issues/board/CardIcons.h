@@ -3,12 +3,12 @@
 #include "screens/issues/board/CardPlan.h"
 #include "screens/issues/board/CardStyle.h"
 #include "screens/issues/face/HotSpot.h"
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 
 #include <vector>
 
 /// The inputs for the pictures of a card.
-struct CardPicturesInput
+struct CardIconsInput
 {
     const Issue &issue;
     const CardPlan &plan;
@@ -21,4 +21,4 @@ struct CardPicturesInput
 };
 
 /// All pictures of a card, which are everything except its background and its texts.
-std::vector<PlacedPicture> cardPictures(const CardPicturesInput &card);
+std::vector<PlacedPicture> cardIcons(const CardIconsInput &card);

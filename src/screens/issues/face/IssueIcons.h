@@ -19,7 +19,7 @@ struct PlacedPicture
 };
 
 /// The pictures of rows and cards, without positions. Sizes are in logical pixels.
-namespace IssuePictures {
+namespace IssueIcons {
 
 /// The side of an editable cell, the side of a person's picture, the height of a due date and of a label's chip, and
 /// the side of a label's dot.
@@ -48,4 +48,4 @@ PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face);
 PlacedPicture cellFill(QSizeF size, const QColor &color);
 PlacedPicture cellEdge(QSizeF size, const QColor &color);
 
-} // namespace IssuePictures
+} // namespace IssueIcons

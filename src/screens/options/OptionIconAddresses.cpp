@@ -1,6 +1,6 @@
-#include "screens/options/OptionPictures.h"
+#include "screens/options/OptionIconAddresses.h"
 
-#include "screens/kit/drawn/Pictures.h"
+#include "screens/kit/drawn/IconAddresses.h"
 
 using namespace Qt::StringLiterals;
 using enum OptionIcons::Kind;
@@ -13,26 +13,26 @@ constexpr int TypeSize = 12;
 constexpr int ProjectSize = 16;
 constexpr int SymbolSize = 13;
 
-int withBorder(const Pictures &pictures, int side, int symbolSide)
+int withBorder(const IconAddresses &addresses, int side, int symbolSide)
 {
-    return side + 2 * pictures.symbolBorder(symbolSide);
+    return side + 2 * addresses.symbolBorder(symbolSide);
 }
 
 int sideOf(OptionIcons::Kind kind)
 {
-    const Pictures pictures;
+    const IconAddresses addresses;
     switch (kind) {
     case Status:
         return StatusSize;
     case Priority:
         return PrioritySize;
     case Type:
-        return withBorder(pictures, TypeSize + 2, pictures.symbolSide(TypeSize));
+        return withBorder(addresses, TypeSize + 2, addresses.symbolSide(TypeSize));
     case Project:
         return ProjectSize;
     case Symbol:
-        return withBorder(pictures, pictures.symbolSide(SymbolSize),
-                          pictures.symbolSide(SymbolSize));
+        return withBorder(addresses, addresses.symbolSide(SymbolSize),
+                          addresses.symbolSide(SymbolSize));
     case None:
     case User:
     case Label:
@@ -43,26 +43,26 @@ int sideOf(OptionIcons::Kind kind)
 
 } // namespace
 
-QSize OptionPictures::size(const OptionIconValue &icon) const
+QSize OptionIconAddresses::size(const OptionIconValue &icon) const
 {
     const int side = sideOf(OptionIcons::Kind(icon.kind()));
     return {side, side};
 }
 
-QUrl OptionPictures::source(const OptionIconValue &icon, const QColor &ink) const
+QUrl OptionIconAddresses::source(const OptionIconValue &icon, const QColor &ink) const
 {
-    const Pictures pictures;
+    const IconAddresses addresses;
     switch (OptionIcons::Kind(icon.kind())) {
     case Status:
-        return pictures.status(icon.status(), StatusSize, ink);
+        return addresses.status(icon.status(), StatusSize, ink);
     case Priority:
-        return pictures.priority(Model::PriorityLevel(icon.level()), PrioritySize, ink);
+        return addresses.priority(Model::PriorityLevel(icon.level()), PrioritySize, ink);
     case Type:
-        return pictures.type(icon.type(), TypeSize);
+        return addresses.type(icon.type(), TypeSize);
     case Project:
-        return pictures.project(icon.project(), ProjectSize);
+        return addresses.project(icon.project(), ProjectSize);
     case Symbol:
-        return pictures.symbol(icon.symbol(), SymbolSize, u"regular"_s, ink);
+        return addresses.symbol(icon.symbol(), SymbolSize, u"regular"_s, ink);
     case None:
     case User:
     case Label:
@@ -71,13 +71,13 @@ QUrl OptionPictures::source(const OptionIconValue &icon, const QColor &ink) cons
     return {};
 }
 
-QString OptionPictures::meaning(const OptionIconValue &icon) const
+QString OptionIconAddresses::meaning(const OptionIconValue &icon) const
 {
     switch (OptionIcons::Kind(icon.kind())) {
     case Status:
         return icon.status().displayName();
     case Priority:
-        return Pictures().priorityName(Model::PriorityLevel(icon.level()));
+        return IconAddresses().priorityName(Model::PriorityLevel(icon.level()));
     case Type:
         return icon.type().name;
     case Project:

@@ -1,4 +1,4 @@
-#include "screens/kit/drawn/Pictures.h"
+#include "screens/kit/drawn/IconAddresses.h"
 
 #include "screens/Pixels.h"
 #include "screens/kit/painters/AvatarPainter.h"
@@ -42,18 +42,18 @@ Project project(const QString &key, const QString &name)
 
 } // namespace
 
-TEST(Pictures, AddressGivesTheDrawingOfTheValues)
+TEST(IconAddresses, AddressGivesTheDrawingOfTheValues)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     const auto expected = Pixels::painted(18, 2, [](QPainter &painter) {
         paintAvatar(painter, QColor(IdentityColors::person(u"noam").rgb()), u"NT"_s, 18);
     });
     EXPECT_EQ(drawn(pictures.avatar(person(u"Noam Talvère"_s), 18), {36, 36}), expected);
 }
 
-TEST(Pictures, SignsInATextDoNotEndIt)
+TEST(IconAddresses, SignsInATextDoNotEndIt)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     for (const auto &name :
          {u"&"_s, u"#"_s, u"%"_s, u"="_s, u"/"_s, u"é"_s, u"?"_s, u"+"_s, u"日"_s}) {
         const auto address = parsedAddress(idOf(pictures.project(project(u"K"_s, name), 16)));
@@ -62,26 +62,26 @@ TEST(Pictures, SignsInATextDoNotEndIt)
     }
 }
 
-TEST(Pictures, ProjectsOfOneKeyShareTheColourAndNotTheLetter)
+TEST(IconAddresses, ProjectsOfOneKeyShareTheColourAndNotTheLetter)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     const auto first = drawn(pictures.project(project(u"MOB"_s, u"app mobile"_s), 64));
     const auto second = drawn(pictures.project(project(u"MOB"_s, u"Mobile"_s), 64));
     EXPECT_EQ(first.pixel(6, 32), second.pixel(6, 32));
     EXPECT_NE(first, second);
 }
 
-TEST(Pictures, FinishedStatusFollowsTheAccent)
+TEST(IconAddresses, FinishedStatusFollowsTheAccent)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     const IssueStatus done(u"1"_s, u"Terminé"_s, u"done"_s);
     EXPECT_NE(pictures.status(done, 14, Qt::blue), pictures.status(done, 14, Qt::red));
     EXPECT_EQ(drawn(pictures.status(done, 50, Qt::red)).pixelColor(25, 6), QColor(Qt::red));
 }
 
-TEST(Pictures, FractionalProgressAndSizeSurviveTheAddress)
+TEST(IconAddresses, FractionalProgressAndSizeSurviveTheAddress)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     const IssueStatus review(u"1"_s, u"En revue"_s, u"indeterminate"_s);
     const auto address = parsedAddress(idOf(pictures.status(review, 12.5, Qt::blue)));
     EXPECT_EQ(address.number(u"s"_s), 12.5);
@@ -89,9 +89,9 @@ TEST(Pictures, FractionalProgressAndSizeSurviveTheAddress)
     EXPECT_GT(review.progress(), 0.5);
 }
 
-TEST(Pictures, PriorityNamesAreTheFrenchOnes)
+TEST(IconAddresses, PriorityNamesAreTheFrenchOnes)
 {
-    const Pictures pictures;
+    const IconAddresses pictures;
     EXPECT_EQ(pictures.priorityName(PriorityLevel::Urgent), u"Urgente"_s);
     EXPECT_EQ(pictures.priorityName(PriorityLevel::High), u"Haute"_s);
     EXPECT_EQ(pictures.priorityName(PriorityLevel::Medium), u"Moyenne"_s);

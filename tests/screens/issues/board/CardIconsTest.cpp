@@ -1,4 +1,4 @@
-#include "screens/issues/board/CardPictures.h"
+#include "screens/issues/board/CardIcons.h"
 
 #include <gtest/gtest.h>
 
@@ -14,14 +14,14 @@ struct Card
     std::vector<PlacedPicture> pictures(const CardContents &contents, HotSpot hotSpot = {}) const
     {
         const auto plan = cardPlan(contents, 280);
-        return cardPictures(
+        return cardIcons(
             {.issue = issue, .plan = plan, .style = style, .hotSpot = std::move(hotSpot)});
     }
 };
 
 } // namespace
 
-TEST(CardPictures, ABareCardShowsAssigneeAndPriority)
+TEST(CardIcons, ABareCardShowsAssigneeAndPriority)
 {
     const Card card;
     const auto pictures = card.pictures({});
@@ -32,7 +32,7 @@ TEST(CardPictures, ABareCardShowsAssigneeAndPriority)
     EXPECT_EQ(pictures[2].place, pictures[1].place + QPointF(5, 4)) << "the priority in it";
 }
 
-TEST(CardPictures, TypeDueDateAndTwoLabelsEachHaveOne)
+TEST(CardIcons, TypeDueDateAndTwoLabelsEachHaveOne)
 {
     Card card;
     card.issue.type = IssueType{u"1"_s, u"Bug"_s};
@@ -44,7 +44,7 @@ TEST(CardPictures, TypeDueDateAndTwoLabelsEachHaveOne)
     EXPECT_EQ(pictures.size(), 3u + 1 + 1 + 2);
 }
 
-TEST(CardPictures, TheCellUnderThePointerHasAFillBelowAllElse)
+TEST(CardIcons, TheCellUnderThePointerHasAFillBelowAllElse)
 {
     const Card card;
     const QRectF cell(12, 46, 22, 20);

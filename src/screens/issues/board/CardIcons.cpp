@@ -1,6 +1,6 @@
-#include "screens/issues/board/CardPictures.h"
+#include "screens/issues/board/CardIcons.h"
 
-using namespace IssuePictures;
+using namespace IssueIcons;
 
 namespace {
 
@@ -29,7 +29,7 @@ PlacedPicture onFoot(const PlacedPicture &picture, double x, const CardPlan &pla
 
 } // namespace
 
-std::vector<PlacedPicture> cardPictures(const CardPicturesInput &card)
+std::vector<PlacedPicture> cardIcons(const CardIconsInput &card)
 {
     const auto &[issue, plan, style, isOverdue, person, hotSpot] = card;
     std::vector<PlacedPicture> pictures;

@@ -1,4 +1,4 @@
-#include "app/SiteImages.h"
+#include "app/SiteImageFetcher.h"
 
 #include "simulator/server/RawServer.h"
 #include "support/ManualClock.h"
@@ -23,10 +23,10 @@ QByteArray redPicture()
     return buffer.data();
 }
 
-class SiteImagesTest : public testing::Test
+class SiteImageFetcherTest : public testing::Test
 {
 protected:
-    SiteImagesTest()
+    SiteImageFetcherTest()
     {
         for (RawServer *server : {&site, &elsewhere})
             server->answer(RawAnswer::http(200, redPicture(), {{"Content-Type", "image/png"}}));
@@ -44,25 +44,25 @@ protected:
     RawServer elsewhere;
     ManualClock clock;
     ImageLoader loader;
-    SiteImages images{loader, clock};
+    SiteImageFetcher images{loader, clock};
 };
 
 } // namespace
 
-TEST_F(SiteImagesTest, PictureOfTheSiteIsFetchedWithItsCredentials)
+TEST_F(SiteImageFetcherTest, PictureOfTheSiteIsFetchedWithItsCredentials)
 {
     EXPECT_EQ(load(site.url().resolved(QUrl(u"/avatar.png"_s))).size(), QSize(4, 4));
     EXPECT_EQ(site.journal().last().header("Authorization"),
               "Basic " + QByteArray("alice@exemple.fr:s3cret").toBase64());
 }
 
-TEST_F(SiteImagesTest, PictureOfAnotherServerOnTheSameHostSeesNoCredentials)
+TEST_F(SiteImageFetcherTest, PictureOfAnotherServerOnTheSameHostSeesNoCredentials)
 {
     EXPECT_EQ(load(elsewhere.url().resolved(QUrl(u"/avatar.png"_s))).size(), QSize(4, 4));
     EXPECT_EQ(elsewhere.journal().last().header("Authorization"), QByteArray());
 }
 
-TEST_F(SiteImagesTest, NextSignInTakesItsOwnCredentials)
+TEST_F(SiteImageFetcherTest, NextSignInTakesItsOwnCredentials)
 {
     load(site.url().resolved(QUrl(u"/a.png"_s)));
     images.showCredentials({site.url(), QString(), u"other"_s});
@@ -70,13 +70,13 @@ TEST_F(SiteImagesTest, NextSignInTakesItsOwnCredentials)
     EXPECT_EQ(site.journal().last().header("Authorization"), "Bearer other");
 }
 
-TEST_F(SiteImagesTest, APictureOfMoreBytesThanAreReadIsGivenUpAtOnce)
+TEST_F(SiteImageFetcherTest, APictureOfMoreBytesThanAreReadIsGivenUpAtOnce)
 {
     elsewhere.answer(RawAnswer::large(ImageLimits().bytes + 1, 1000, "image/png"));
     EXPECT_TRUE(load(elsewhere.url().resolved(QUrl(u"/avatar.png"_s))).isNull());
 }
 
-TEST_F(SiteImagesTest, NoPictureIsHadFromASiteThatIsGone)
+TEST_F(SiteImageFetcherTest, NoPictureIsHadFromASiteThatIsGone)
 {
     site.stopListening();
     EXPECT_TRUE(load(site.url().resolved(QUrl(u"/avatar.png"_s))).isNull());

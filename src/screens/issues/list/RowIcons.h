@@ -1,14 +1,14 @@
 #pragma once
 
 #include "screens/issues/face/HotSpot.h"
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 #include "screens/issues/list/RowPlan.h"
 #include "screens/issues/list/RowStyle.h"
 
 #include <vector>
 
 /// The inputs for the pictures of a row.
-struct RowPicturesInput
+struct RowIconsInput
 {
     const Issue &issue;
     const RowPlan &plan;
@@ -23,4 +23,4 @@ struct RowPicturesInput
 };
 
 /// All pictures of a row, which are everything except its texts.
-std::vector<PlacedPicture> rowPictures(const RowPicturesInput &row);
+std::vector<PlacedPicture> rowIcons(const RowIconsInput &row);

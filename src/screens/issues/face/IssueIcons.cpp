@@ -1,4 +1,4 @@
-#include "screens/issues/face/IssuePictures.h"
+#include "screens/issues/face/IssueIcons.h"
 
 #include "screens/kit/images/PictureProvider.h"
 #include "screens/kit/painters/AvatarPainter.h"
@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace IssuePictures {
+namespace IssueIcons {
 
 namespace {
 
@@ -188,4 +188,4 @@ PlacedPicture cellEdge(QSizeF size, const QColor &color)
             {}};
 }
 
-} // namespace IssuePictures
+} // namespace IssueIcons

@@ -1,4 +1,4 @@
-#include "screens/kit/drawn/Pictures.h"
+#include "screens/kit/drawn/IconAddresses.h"
 
 #include "model/IssuePriority.h"
 #include "screens/kit/painters/BadgePainter.h"
@@ -53,7 +53,7 @@ QString hex(const QColor &color)
 
 } // namespace
 
-QUrl Pictures::status(const IssueStatus &status, qreal size, const QColor &accent) const
+QUrl IconAddresses::status(const IssueStatus &status, qreal size, const QColor &accent) const
 {
     return address(u"icon"_s, u"status"_s,
                    {{u"v"_s, number(status.category())},
@@ -62,18 +62,18 @@ QUrl Pictures::status(const IssueStatus &status, qreal size, const QColor &accen
                     {u"c"_s, hex(accent)}});
 }
 
-QUrl Pictures::priority(Model::PriorityLevel level, qreal size, const QColor &tint) const
+QUrl IconAddresses::priority(Model::PriorityLevel level, qreal size, const QColor &tint) const
 {
     return address(u"icon"_s, u"priority"_s,
                    {{u"v"_s, number(level)}, {u"s"_s, number(size)}, {u"c"_s, hex(tint)}});
 }
 
-QUrl Pictures::type(const IssueType &type, qreal size) const
+QUrl IconAddresses::type(const IssueType &type, qreal size) const
 {
     return address(u"icon"_s, u"type"_s, {{u"v"_s, number(type.kind())}, {u"s"_s, number(size)}});
 }
 
-QUrl Pictures::project(const Project &project, qreal size) const
+QUrl IconAddresses::project(const Project &project, qreal size) const
 {
     return address(u"icon"_s, u"project"_s,
                    {{u"t"_s, badgeLetter(project.name)},
@@ -81,7 +81,7 @@ QUrl Pictures::project(const Project &project, qreal size) const
                     {u"c"_s, hex(IdentityColors::project(project.key))}});
 }
 
-QUrl Pictures::avatar(const JiraUser &user, qreal size) const
+QUrl IconAddresses::avatar(const JiraUser &user, qreal size) const
 {
     return address(u"icon"_s, u"avatar"_s,
                    {{u"t"_s, user.initials()},
@@ -89,49 +89,49 @@ QUrl Pictures::avatar(const JiraUser &user, qreal size) const
                     {u"c"_s, hex(IdentityColors::person(user.id))}});
 }
 
-QUrl Pictures::avatarAddress(const JiraUser &user) const
+QUrl IconAddresses::avatarAddress(const JiraUser &user) const
 {
     return user.avatarURL.value_or(QUrl());
 }
 
-QUrl Pictures::nobody(qreal size) const
+QUrl IconAddresses::nobody(qreal size) const
 {
     return address(u"icon"_s, u"nobody"_s, {{u"s"_s, number(size)}});
 }
 
-QUrl Pictures::spinner(qreal size, const QColor &color) const
+QUrl IconAddresses::spinner(qreal size, const QColor &color) const
 {
     return address(u"icon"_s, u"spinner"_s, {{u"s"_s, number(size)}, {u"c"_s, hex(color)}});
 }
 
-QUrl Pictures::glyph(qreal size) const
+QUrl IconAddresses::glyph(qreal size) const
 {
     return address(u"icon"_s, u"glyph"_s, {{u"s"_s, number(size)}});
 }
 
-int Pictures::glyphMargin(qreal size) const
+int IconAddresses::glyphMargin(qreal size) const
 {
     return static_cast<int>(appGlyphMargin(size));
 }
 
-QUrl Pictures::symbol(const QString &name, qreal fontSize, const QString &weight,
-                      const QColor &color) const
+QUrl IconAddresses::symbol(const QString &name, qreal fontSize, const QString &weight,
+                           const QColor &color) const
 {
     return address(u"symbol"_s, name,
                    {{u"f"_s, number(fontSize)}, {u"w"_s, weight}, {u"c"_s, hex(color)}});
 }
 
-int Pictures::symbolSide(qreal fontSize) const
+int IconAddresses::symbolSide(qreal fontSize) const
 {
     return ::symbolSide(fontSize);
 }
 
-int Pictures::symbolBorder(int side) const
+int IconAddresses::symbolBorder(int side) const
 {
     return ::symbolBorder(side);
 }
 
-QString Pictures::priorityName(Model::PriorityLevel level) const
+QString IconAddresses::priorityName(Model::PriorityLevel level) const
 {
     return displayName(level);
 }

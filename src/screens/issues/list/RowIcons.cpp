@@ -1,8 +1,8 @@
-#include "screens/issues/list/RowPictures.h"
+#include "screens/issues/list/RowIcons.h"
 
 #include "screens/issues/list/RowFit.h"
 
-using namespace IssuePictures;
+using namespace IssueIcons;
 
 namespace {
 
@@ -22,7 +22,7 @@ PlacedPicture atX(const PlacedPicture &picture, double x, double height)
     return picture.at({x, centred(height, picture.key.size.height())});
 }
 
-void addNames(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
+void addNames(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 {
     const auto &labels = row.issue.labels;
     double x = row.plan.labels;
@@ -33,7 +33,7 @@ void addNames(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
     }
 }
 
-void addDots(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
+void addDots(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 {
     const auto &labels = row.issue.labels;
     double x = row.plan.labels;
@@ -45,7 +45,7 @@ void addDots(std::vector<PlacedPicture> &pictures, const RowPicturesInput &row)
 
 } // namespace
 
-std::vector<PlacedPicture> rowPictures(const RowPicturesInput &row)
+std::vector<PlacedPicture> rowIcons(const RowIconsInput &row)
 {
     const auto &[issue, plan, style, isOverdue, person, height, hotSpot] = row;
     std::vector<PlacedPicture> pictures;

@@ -7,7 +7,7 @@
 #include <QUrl>
 
 /// The drawn pictures of option icons, except the icons of people and labels, which are not drawn pictures.
-class OptionPictures : public QObject
+class OptionIconAddresses : public QObject
 {
     Q_OBJECT
     QML_ELEMENT

@@ -13,7 +13,7 @@
 #include <QtQml/qqmlregistration.h>
 
 /// Creates the addresses of the drawn pictures, which the kit's components show. Sizes are in logical pixels.
-class Pictures : public QObject
+class IconAddresses : public QObject
 {
     Q_OBJECT
     QML_ELEMENT

@@ -8,12 +8,12 @@
 
 /// Fetches the users' pictures for an image loader. Uses the credentials of the latest session for pictures of its
 /// site, and no credentials for all other addresses.
-class SiteImages final : public ImageFetcher
+class SiteImageFetcher final : public ImageFetcher
 {
 public:
     /// Both arguments must outlive this object.
-    SiteImages(ImageLoader &loader, Clock &clock);
-    ~SiteImages() override;
+    SiteImageFetcher(ImageLoader &loader, Clock &clock);
+    ~SiteImageFetcher() override;
 
     /// Sets the credentials of the session that has just begun.
     void showCredentials(const JiraCredentials &credentials);
