@@ -19,5 +19,6 @@ struct OptionItem
     bool keepsOpen = false;
     OptionAction run;
 
+    bool isPickedBy(int digit) const { return shortcut == QString::number(digit); }
     bool operator==(const OptionItem &) const = default;
 };

@@ -32,6 +32,12 @@ EmptyScreen nothingToDo()
             CreateScreen::isAvailable()};
 }
 
+FilterState filterState(const AppStore &store)
+{
+    return store.filterText().isEmpty() && store.filters().isEmpty() ? FilterState::Unfiltered
+                                                                     : FilterState::Filtered;
+}
+
 } // namespace
 
 EmptyScreen emptyScreen(const IssueScope &scope, FilterState filter, const QDateTime &now,
@@ -81,12 +87,9 @@ void IssuesContent::update()
 {
     if (!m_store)
         return;
-    const auto filter = m_store->filterText().isEmpty() && m_store->filters().isEmpty()
-                            ? FilterState::Unfiltered
-                            : FilterState::Filtered;
     const Kind kind = presentKind();
     const EmptyScreen empty =
-        emptyScreen(m_store->scope(), filter, m_store->now(), m_store->calendar());
+        emptyScreen(m_store->scope(), filterState(*m_store), m_store->now(), m_store->calendar());
     if (m_kind == kind && m_empty == empty)
         return;
     m_kind = kind;
@@ -96,7 +99,7 @@ void IssuesContent::update()
 
 void IssuesContent::runEmptyAction()
 {
-    if (!m_store->filterText().isEmpty() || !m_store->filters().isEmpty()) {
+    if (filterState(*m_store) == FilterState::Filtered) {
         m_store->setFilterText({});
         m_store->setFilters({});
     } else if (const auto *period = m_store->scope().asActivity()) {

@@ -27,8 +27,8 @@ QList<OptionItem> filteredOptions(const QList<OptionItem> &items, const QString 
 
 std::optional<int> itemWithShortcut(const QList<OptionItem> &items, int digit)
 {
-    const std::optional shortcut = QString::number(digit);
-    const auto item = std::ranges::find(items, shortcut, &OptionItem::shortcut);
+    const auto item = std::ranges::find_if(
+        items, [digit](const OptionItem &each) { return each.isPickedBy(digit); });
     if (item == items.end())
         return std::nullopt;
     return int(item - items.begin());

@@ -1,18 +1,16 @@
 #include "screens/issues/board/BoardDrops.h"
 
+#include "commands/SelectionRules.h"
+
 #include <cmath>
 
 QStringList movedKeys(const QStringList &dropped, const QSet<QString> &checked)
 {
-    QStringList all(checked.begin(), checked.end());
-    all.sort();
+    Selection selection;
+    selection.checked = checked;
     QStringList moved;
-    for (const auto &key : dropped) {
-        if (checked.contains(key))
-            moved += all;
-        else
-            moved += key;
-    }
+    for (const auto &key : dropped)
+        moved += contextKeys(selection, key);
     return moved;
 }
 
