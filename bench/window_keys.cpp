@@ -188,7 +188,7 @@ void measurePalette(FrameTable &table, SiteSize size)
         qFatal("The main window does not open.");
     FrameTimer timer(*velmora.mainWindow());
     timer.settle();
-    velmora.store().togglePalette();
+    velmora.store().run(Command::TogglePalette);
     timer.settle();
     table.add(u"palette: the caret moves"_s, caretMoves(timer, presses()));
     table.add(u"palette: a letter"_s, keystrokes(timer, presses()));

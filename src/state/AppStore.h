@@ -24,6 +24,7 @@
 #include "state/recap/ActivityHeaderData.h"
 #include "state/recap/ActivityNavigation.h"
 
+#include <array>
 #include <map>
 #include <stop_token>
 
@@ -219,17 +220,18 @@ public:
     Q_INVOKABLE void run(Commands::Command command);
     /// The same on these issues; a command on one issue takes the first.
     Q_INVOKABLE void run(Commands::Command command, QStringList keys);
-    Q_INVOKABLE void togglePalette();
     QList<OptionItem> options(PickerKind kind, const QStringList &keys) const;
+    /// The signals of all fields that `options` depends on.
+    static constexpr std::array optionSources{
+        &AppStoreFields::issuesChanged,       &AppStoreFields::detailsChanged,
+        &AppStoreFields::transitionsChanged,  &AppStoreFields::projectStatusesChanged,
+        &AppStoreFields::assignablesChanged,  &AppStoreFields::prioritiesChanged,
+        &AppStoreFields::myOpenIssuesChanged, &AppStoreFields::meChanged};
 
-    // Pasteboard and browser; without keys for the targets ---------------------------------------------------------------
+    // Pasteboard and browser --------------------------------------------------------------------------------------------
     void copy(const QString &text, const QString &label);
-    void copyKeys(const std::optional<QStringList> &keys = {});
-    void copyBranch(const std::optional<QString> &key = {});
-    void copyLink(const std::optional<QString> &key = {});
-    void openInBrowser(const std::optional<QString> &key = {});
     Q_INVOKABLE void openSite();
-    /// The address of an issue at the site.
+    /// The address of an issue at the site; without a key of the first of the issues that are chosen.
     std::optional<QUrl> browseURL(const std::optional<QString> &key = {}) const;
     /// Gives an address that the program itself knows to the browser.
     void openAddress(const QUrl &address);
@@ -350,6 +352,7 @@ private:
     /// False when there was nothing to do.
     bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
     void openPicker(PickerKind kind, const TargetKeys &keys);
+    void togglePalette();
     void assignToMe(const TargetKeys &keys);
     QStringList targetsOrToast(const TargetKeys &keys);
     bool takeSelection(const std::optional<Selection> &next);
@@ -359,6 +362,10 @@ private:
     bool escape();
     // AppStoreClipboard.cpp
     void copy(const CopiedText &copied);
+    void copyKeys(const TargetKeys &keys);
+    void copyBranch(const std::optional<QString> &key);
+    void copyLink(const std::optional<QString> &key);
+    void openInBrowser(const std::optional<QString> &key);
     std::optional<QString> targetOr(const std::optional<QString> &key) const;
     // AppStoreRecap.cpp
     void turnTo(const ActivityPeriod &period);

@@ -13,7 +13,7 @@ void AppStore::copy(const CopiedText &copied)
     toast(copied.toastMessage(), u"doc.on.doc.fill"_s);
 }
 
-void AppStore::copyKeys(const std::optional<QStringList> &keys)
+void AppStore::copyKeys(const TargetKeys &keys)
 {
     if (const auto copied = copiedKeys(keys ? *keys : actionTargets()))
         copy(*copied);

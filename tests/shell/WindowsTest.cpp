@@ -70,7 +70,7 @@ TEST_F(Windows, TheMenusOfAnIssueWindowLeaveThePaletteOfTheMainOne)
     auto *issue = scenes().issueWindow(u"MOB-1"_s);
     issue->requestActivate();
     ASSERT_TRUE(QTest::qWaitForWindowActive(issue));
-    store().togglePalette();
+    store().run(Command::TogglePalette);
     ASSERT_TRUE(store().palette());
     QTest::keyClick(issue, Qt::Key_F10);
     EXPECT_TRUE(QTest::qWaitFor(

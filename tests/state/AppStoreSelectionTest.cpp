@@ -279,13 +279,13 @@ TEST_F(AppStoreSelectionTest, aCommandOnGivenIssuesLeavesTheChosenOnesAlone)
 
 TEST_F(AppStoreSelectionTest, copyKeysGivesASortedListWhateverTheOrder)
 {
-    store->copyKeys();
+    store->run(Command::CopyKeys);
     EXPECT_TRUE(desktop.copied.isEmpty());
     store->setChecked({u"WEB-3"_s, u"WEB-1"_s, u"WEB-2"_s});
     EXPECT_TRUE(commands.runShortcut(letter(u'.', Qt::ControlModifier)));
     EXPECT_EQ(desktop.copied.last(), u"WEB-1, WEB-2, WEB-3"_s);
     EXPECT_EQ(lastToast(), u"Clés copié"_s);
-    store->copyKeys(QStringList{u"WEB-9"_s});
+    store->run(Command::CopyKeys, {u"WEB-9"_s});
     EXPECT_EQ(lastToast(), u"Clé WEB-9 copié"_s);
     EXPECT_EQ(store->toasts().last().symbol, u"doc.on.doc.fill"_s);
 }
@@ -308,7 +308,7 @@ TEST_F(AppStoreSelectionTest, branchAndLinkAreThoseOfTheFirstTarget)
     EXPECT_EQ(desktop.opened.last(), QUrl(u"https://exemple.atlassian.net/browse/WEB-2"_s));
     store->openSite();
     EXPECT_EQ(desktop.opened.last(), QUrl(u"https://exemple.atlassian.net"_s));
-    store->copyBranch(u"ABC-1"_s);
+    store->run(Command::CopyBranch, {u"ABC-1"_s});
     EXPECT_EQ(desktop.copied.size(), 2) << "the branch of an unknown issue is unknown";
 }
 

@@ -37,10 +37,7 @@ void CommandPalette::setStore(AppStore *store)
 void CommandPalette::connectStore()
 {
     connect(m_store, &AppStore::paletteChanged, this, &CommandPalette::followPalette);
-    for (const auto change :
-         {&AppStore::issuesChanged, &AppStore::detailsChanged, &AppStore::transitionsChanged,
-          &AppStore::projectStatusesChanged, &AppStore::assignablesChanged,
-          &AppStore::prioritiesChanged, &AppStore::meChanged, &AppStore::myOpenIssuesChanged})
+    for (const auto change : AppStore::optionSources)
         connect(m_store, change, this, &CommandPalette::refreshOptions);
     for (const auto change : {&AppStore::checkedChanged, &AppStore::focusedKeyChanged,
                               &AppStore::inspectorKeyChanged, &AppStore::projectsChanged})
@@ -240,8 +237,8 @@ void CommandPalette::goBack()
 
 bool CommandPalette::activateDigit(int digit)
 {
-    const auto row = std::ranges::find(m_rows, std::optional(QString::number(digit)),
-                                       [](const PaletteRow &r) { return r.option.shortcut; });
+    const auto row = std::ranges::find_if(
+        m_rows, [digit](const PaletteRow &each) { return each.option.isPickedBy(digit); });
     if (row == m_rows.end())
         return false;
     activate(int(row - m_rows.begin()));

@@ -61,7 +61,7 @@ T.MenuBar {
         PopupMenuItem {
             text: "Réglages…"
             shortcut: "Ctrl+,"
-            onTriggered: root.store.settingsRequested()
+            onTriggered: root.store.run(Commands.Command.OpenSettings)
         }
 
         PopupMenuSeparator {}

@@ -36,7 +36,7 @@ Item {
     // The conventional key for settings on desktops that define none of their own.
     Shortcut {
         sequences: ["Ctrl+,"]
-        onActivated: root.store.settingsRequested()
+        onActivated: root.store.run(Commands.Command.OpenSettings)
     }
 
     LatePart {

@@ -50,7 +50,7 @@ Item {
             name: "Rechercher"
             hint: Hints.search
             symbol: "magnifyingglass"
-            onClicked: root.store.togglePalette()
+            onClicked: root.store.run(Commands.Command.TogglePalette)
         }
 
         IconButton {
@@ -93,7 +93,7 @@ Item {
         PopupMenuItem {
             text: "Réglages…"
             symbol: "gear"
-            onTriggered: root.store.settingsRequested()
+            onTriggered: root.store.run(Commands.Command.OpenSettings)
         }
 
         PopupMenuItem {
