@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/UserCalendar.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QObject>
 
