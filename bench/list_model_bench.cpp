@@ -45,26 +45,6 @@ void oneStatusChange(benchmark::State &state)
     alternate(state, before, groupsOf(inputs));
 }
 
-/// The same change, reported to the model as a step: the row moves to the other end of the list and back.
-void oneStatusStep(benchmark::State &state)
-{
-    const auto groups = groupsOf(samples(int(state.range(0))));
-    IssueListModel model({samples(0).locale, QTimeZone::utc()},
-                         QDateTime::fromMSecsSinceEpoch(0, Qt::UTC));
-    model.setGroups(groups, {});
-    const IssuePlace start;
-    const IssuePlace end{int(groups.size()) - 1, int(groups.last().issues.size())};
-    const auto &issue = groups.first().issues.first();
-    bool isThere = false;
-    for (auto _ : state) {
-        isThere = !isThere;
-        const auto step = isThere ? GroupStep::IssueMoved{start, end, issue}
-                                  : GroupStep::IssueMoved{end, start, issue};
-        model.takeSteps({step}, {});
-        benchmark::DoNotOptimize(model.rowOfKey(QStringLiteral("WEB-7")));
-    }
-}
-
 void search(benchmark::State &state)
 {
     auto inputs = samples(int(state.range(0)));
@@ -97,7 +77,6 @@ void moveFocus(benchmark::State &state)
 
 BENCHMARK(sameRows)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(oneStatusChange)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(oneStatusStep)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(search)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(otherOrder)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(moveFocus)->Arg(10000)->Unit(benchmark::kNanosecond);

@@ -43,33 +43,6 @@ QStringList keysOf(const QList<IssueGroup> &groups, IsShown isShown)
 
 } // namespace
 
-template <typename T, typename Compute>
-const IssueDerivation::Memo<T> &IssueDerivation::refreshed(Memo<T> &memo, const Sources &sources,
-                                                           Compute compute)
-{
-    if (memo.sources == sources)
-        return memo;
-    memo.sources = sources;
-    ++memo.computations;
-    T value = compute();
-    const bool isNews = memo.version == 0 || !(value == memo.value);
-    // Also where readers see no difference: what they do not see may be another.
-    memo.value = std::move(value);
-    memo.version += isNews;
-    return memo;
-}
-
-template <typename Compute>
-const IssueDerivation::Memo<IssueSections> &
-IssueDerivation::refreshed(Grouped &grouped, const Sources &sources, Compute compute)
-{
-    const auto before = grouped.memo.version;
-    refreshed(grouped.memo, sources, compute);
-    if (grouped.memo.version != before)
-        grouped.followed = {grouped.memo.version, {}, {}};
-    return grouped.memo;
-}
-
 void IssueDerivation::noteChange(Input input, bool hasChanged)
 {
     m_versions[input] += hasChanged;
@@ -106,77 +79,41 @@ IssueDerivationContext IssueDerivation::context() const
     return {m_inputs, m_index, m_ranks, m_names};
 }
 
-IssueDerivation::Sources IssueDerivation::indexSources() const
+const Memo<quint64> &IssueDerivation::index() const
 {
-    return {version(Issues)};
-}
-
-IssueDerivation::Sources IssueDerivation::orderSources() const
-{
-    return {version(Issues), version(Recap), version(OrderingInput)};
-}
-
-IssueDerivation::Sources IssueDerivation::filterSources() const
-{
-    return {m_indexMemo.version, version(Filters), version(Closed)};
-}
-
-IssueDerivation::Sources IssueDerivation::searchSources() const
-{
-    return {m_indexMemo.version, version(Text)};
-}
-
-IssueDerivation::Sources IssueDerivation::visibleSources() const
-{
-    return {m_order.version, m_filter.version, m_search.version};
-}
-
-IssueDerivation::Sources IssueDerivation::visibleIssuesSources() const
-{
-    return {version(Issues), m_visible.version};
-}
-
-IssueDerivation::Sources IssueDerivation::listSources() const
-{
-    return {version(Issues), m_visible.version, version(GroupingInput), version(Recap),
-            version(Me),     version(Projects), version(Statuses),      version(Locale)};
-}
-
-IssueDerivation::Sources IssueDerivation::boardSources() const
-{
-    return {version(Issues), m_visible.version, version(Project),
-            version(Closed), version(Statuses), version(Locale)};
-}
-
-const IssueDerivation::Memo<quint64> &IssueDerivation::index() const
-{
-    return refreshed(m_indexMemo, indexSources(), [this] {
+    return m_indexMemo.refreshed({version(Issues)}, [this] {
         m_index.update(m_inputs.issues);
         return version(Issues);
     });
 }
 
-const IssueDerivation::Memo<IssueOrder> &IssueDerivation::order() const
+std::optional<int> IssueDerivation::rowOf(QStringView key) const
 {
-    return refreshed(m_order, orderSources(), [this] {
+    index();
+    return m_index.keys().find(key);
+}
+
+const Memo<IssueRows> &IssueDerivation::order() const
+{
+    return m_order.refreshed({version(Issues), version(Recap), version(OrderingInput)}, [this] {
         return m_inputs.isRecap() ? recapOrder(m_inputs.issues)
                                   : issueOrder(m_inputs.issues, m_inputs.ordering);
     });
 }
 
-const IssueDerivation::Memo<std::vector<quint8>> &IssueDerivation::filter() const
+const Memo<std::vector<quint8>> &IssueDerivation::filter() const
 {
-    index();
-    return refreshed(m_filter, filterSources(), [this] { return filterPasses(m_index, m_inputs); });
+    return m_filter.refreshed({index().version, version(Filters), version(Closed)},
+                              [this] { return filterPasses(m_index, m_inputs); });
 }
 
-const IssueDerivation::Memo<IssueDerivation::Search> &IssueDerivation::search() const
+const Memo<IssueDerivation::Search> &IssueDerivation::search() const
 {
     index();
     // Before its sources are noted as the present ones.
     const bool isSameIndex = m_search.sources.front() == m_indexMemo.version;
-    return refreshed(m_search, searchSources(),
-                     [this, isSameIndex] { return searched(isSameIndex); });
+    return m_search.refreshed({m_indexMemo.version, version(Text)},
+                              [this, isSameIndex] { return searched(isSameIndex); });
 }
 
 IssueDerivation::Search IssueDerivation::searched(bool isSameIndex) const
@@ -187,81 +124,68 @@ IssueDerivation::Search IssueDerivation::searched(bool isSameIndex) const
                                : m_index.texts().containing(needle)};
 }
 
-const IssueDerivation::Memo<IssueRows> &IssueDerivation::visible() const
+const Memo<IssueRows> &IssueDerivation::visible() const
 {
-    order();
-    filter();
-    search();
-    return refreshed(m_visible, visibleSources(), [this] {
-        return rowsThatPass(m_order.value.rows, m_filter.value, m_search.value.hits);
+    return m_visible.refreshed({order().version, filter().version, search().version}, [this] {
+        return rowsThatPass(m_order.value, m_filter.value, m_search.value.hits);
     });
 }
 
-const IssueList &IssueDerivation::visibleIssues() const
+const Memo<IssueList> &IssueDerivation::visibleMemo() const
 {
     visible();
-    return refreshed(m_visibleIssues, visibleIssuesSources(),
-                     [this] { return issuesAt(m_visible.value, m_inputs.issues); })
-        .value;
+    return m_visibleIssues.refreshed(visibleSources(),
+                                     [this] { return issuesAt(m_visible.value, m_inputs.issues); });
 }
 
-const IssueDerivation::Memo<IssueSections> &IssueDerivation::listMemo() const
+const Memo<QList<IssueGroup>> &IssueDerivation::listMemo() const
 {
     visible();
-    return refreshed(m_groups, listSources(), [this] {
-        return IssueSections(m_visible.value, m_index, m_order.value.keys, listRules(context()));
-    });
+    return m_groups.refreshed(
+        {version(Issues), m_visible.version, version(GroupingInput), version(Recap), version(Me),
+         version(Projects), version(Statuses), version(Locale)},
+        [this] { return dividedIssues(m_visible.value, m_index, listRules(context())); });
 }
 
-const IssueDerivation::Memo<IssueSections> &IssueDerivation::boardMemo() const
+const Memo<QList<IssueGroup>> &IssueDerivation::boardMemo() const
 {
     visible();
-    return refreshed(m_board, boardSources(), [this] {
-        return IssueSections(m_visible.value, m_index, m_order.value.keys, boardRules(context()));
-    });
+    return m_board.refreshed(
+        {version(Issues), m_visible.version, version(Project), version(Closed), version(Statuses),
+         version(Locale)},
+        [this] { return dividedIssues(m_visible.value, m_index, boardRules(context())); });
 }
 
-const QList<IssueGroup> &IssueDerivation::groups() const
-{
-    return listMemo().value.groups();
-}
-
-const QList<IssueGroup> &IssueDerivation::boardColumns() const
-{
-    return boardMemo().value.groups();
-}
-
-const QStringList &IssueDerivation::flatVisibleKeys() const
+const VisiblePath &IssueDerivation::visiblePath() const
 {
     if (m_inputs.layout == LayoutMode::Board) {
-        return refreshed(m_keys, {version(Layout), boardMemo().version},
-                         [this] {
-                             return keysOf(boardColumns(), [](const IssueGroup &) { return true; });
-                         })
+        return m_path
+            .refreshed(
+                {version(Layout), boardVersion()},
+                [this] { return keysOf(boardColumns(), [](const IssueGroup &) { return true; }); })
             .value;
     }
-    return refreshed(m_keys, {version(Layout), listMemo().version, version(Collapsed)},
-                     [this] {
-                         return keysOf(groups(), [this](const IssueGroup &group) {
-                             return !m_inputs.collapsedGroups.contains(group.id);
-                         });
-                     })
+    return m_path
+        .refreshed({version(Layout), groupsVersion(), version(Collapsed)},
+                   [this] {
+                       return keysOf(groups(), [this](const IssueGroup &group) {
+                           return !m_inputs.collapsedGroups.contains(group.id);
+                       });
+                   })
         .value;
 }
 
 const KeyShapes &IssueDerivation::keyShapes() const
 {
     visible();
-    return refreshed(m_shapes, visibleIssuesSources(),
-                     [this] { return KeyShapes(visibleIssues()); })
+    return m_shapes.refreshed(visibleSources(), [this] { return KeyShapes(visibleIssues()); })
         .value;
 }
 
-const IssueDerivationMenus &IssueDerivation::menus() const
+const Memo<IssueDerivationMenus> &IssueDerivation::menusMemo() const
 {
-    return refreshed(m_menus, {version(Issues), version(Statuses), version(Locale)},
-                     [this] { return filterMenus(m_inputs.issues, m_ranks, m_names); })
-        .value;
+    return m_menus.refreshed({version(Issues), version(Statuses), version(Locale)},
+                             [this] { return filterMenus(m_inputs.issues, m_ranks, m_names); });
 }
 
 const SearchTexts &IssueDerivation::searchTexts() const
@@ -286,11 +210,11 @@ int IssueDerivation::timesComputed(Step step) const
     case Step::VisibleIssues:
         return m_visibleIssues.computations;
     case Step::Groups:
-        return m_groups.memo.computations;
+        return m_groups.computations;
     case Step::Board:
-        return m_board.memo.computations;
+        return m_board.computations;
     case Step::Keys:
-        return m_keys.computations;
+        return m_path.computations;
     case Step::Menus:
         return m_menus.computations;
     case Step::Count:

@@ -33,14 +33,7 @@ private:
     QHash<QString, qsizetype> m_rows;
 };
 
-} // namespace
-
-quint32 Ordinals::of(const QString &text)
-{
-    const auto known = m_numbers.constFind(text);
-    return known != m_numbers.constEnd() ? *known : *m_numbers.insert(text, count());
-}
-
+/// Points into the records.
 KeyIndex keyIndexOf(const IssueList &issues)
 {
     std::vector<QStringView> keys;
@@ -48,6 +41,14 @@ KeyIndex keyIndexOf(const IssueList &issues)
     for (const auto &issue : issues)
         keys.emplace_back(issue->key);
     return KeyIndex(std::move(keys));
+}
+
+} // namespace
+
+quint32 Ordinals::of(const QString &text)
+{
+    const auto known = m_numbers.constFind(text);
+    return known != m_numbers.constEnd() ? *known : *m_numbers.insert(text, count());
 }
 
 IssueList reusingRecords(IssueList fresh, const IssueList &known)
@@ -66,7 +67,6 @@ void IssueIndex::update(const IssueList &issues)
 {
     if (issues.isEmpty())
         forgetNames();
-    m_keys.reset();
     EarlierRecords earlier(m_issues);
     SearchTexts texts;
     texts.reserve(issues.size(), m_texts.bytes());
@@ -84,23 +84,7 @@ void IssueIndex::update(const IssueList &issues)
     m_issues = issues;
     m_rows = std::move(rows);
     m_texts = std::move(texts);
-}
-
-void IssueIndex::replace(quint32 row)
-{
-    const Issue &issue = *m_issues.at(row);
-    m_rows[row] = indexed(issue);
-    m_texts.replace(row, issue);
-    ++m_foldedIssues;
-    if (m_keys)
-        m_keys->relocate(int(row), issue.key);
-}
-
-std::optional<int> IssueIndex::rowOf(QStringView key) const
-{
-    if (!m_keys)
-        m_keys = keyIndexOf(m_issues);
-    return m_keys->find(key);
+    m_keys = keyIndexOf(m_issues);
 }
 
 IndexedIssue IssueIndex::indexed(const Issue &issue)

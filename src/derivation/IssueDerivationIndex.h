@@ -34,27 +34,18 @@ struct IndexedIssue
 /// finds the same objects and looks no further.
 IssueList reusingRecords(IssueList fresh, const IssueList &known);
 
-/// Finds issues by their keys, for as long as their records live.
-KeyIndex keyIndexOf(const IssueList &issues);
-
 /// A list of issues prepared for filtering and grouping. A new list costs work only for what is new in it.
 class IssueIndex
 {
 public:
     /// Takes over the list; keeps what it knows of records that did not change.
     void update(const IssueList &issues);
-    /// Lets go of the list, so that whoever holds it alone then can change records in place. Until `takeBack` nothing
-    /// may be asked for issues.
-    void letGo() { m_issues = {}; }
-    /// Takes the list back. Of a record that has become another, with the same key, `replace` must follow.
-    void takeBack(const IssueList &issues) { m_issues = issues; }
-    void replace(quint32 row);
-    /// Where the first issue with the key stands. The first question after an update makes an index.
-    std::optional<int> rowOf(QStringView key) const;
 
     const IssueList &issues() const { return m_issues; }
     const std::vector<IndexedIssue> &rows() const { return m_rows; }
     const SearchTexts &texts() const { return m_texts; }
+    /// Where each key stands in the list.
+    const KeyIndex &keys() const { return m_keys; }
 
     /// The number of a status group, whether or not an issue is in it.
     quint32 statusNumber(const QString &groupKey) { return m_statuses.of(groupKey); }
@@ -73,5 +64,5 @@ private:
     Ordinals m_projects;
     qsizetype m_foldedIssues = 0;
     /// Points into the records.
-    mutable std::optional<KeyIndex> m_keys;
+    KeyIndex m_keys;
 };

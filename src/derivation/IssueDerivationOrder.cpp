@@ -4,22 +4,31 @@
 
 namespace {
 
-template <typename MakeKey>
-IssueOrder sortedBy(const IssueList &issues, MakeKey makeKey)
+/// What an issue is sorted by. The position in the service's list, which comes last, makes every key a different one.
+struct SortKey
 {
-    IssueOrder order;
-    order.keys.reserve(issues.size());
+    qint64 major = 0;
+    qint64 minor = 0;
+    quint32 row = 0;
+
+    auto operator<=>(const SortKey &) const = default;
+};
+
+template <typename MakeKey>
+IssueRows sortedBy(const IssueList &issues, MakeKey makeKey)
+{
+    std::vector<SortKey> keys;
+    keys.reserve(issues.size());
     for (const auto &issue : issues) {
         SortKey key = makeKey(*issue);
-        key.row = quint32(order.keys.size());
-        order.keys.push_back(key);
+        key.row = quint32(keys.size());
+        keys.push_back(key);
     }
-    auto sorted = order.keys;
-    std::sort(sorted.begin(), sorted.end());
-    order.rows.resize(sorted.size());
-    std::transform(sorted.begin(), sorted.end(), order.rows.begin(),
+    std::sort(keys.begin(), keys.end());
+    IssueRows rows(keys.size());
+    std::transform(keys.begin(), keys.end(), rows.begin(),
                    [](const SortKey &key) { return key.row; });
-    return order;
+    return rows;
 }
 
 /// Sorts later instants before earlier ones.
@@ -47,7 +56,7 @@ QHash<QString, qint64> projectPlaces(const IssueList &issues)
     return places;
 }
 
-IssueOrder keyOrder(const IssueList &issues)
+IssueRows keyOrder(const IssueList &issues)
 {
     const auto places = projectPlaces(issues);
     return sortedBy(issues, [&places](const Issue &issue) {
@@ -60,7 +69,7 @@ SortKey recapKey(const Issue &issue)
     return {latestFirst(lastActivityDate(issue))};
 }
 
-/// All but the place by key, which hangs on the projects of the whole list.
+/// For every ordering but the one by key, which depends on the projects of the whole list.
 SortKey keyIn(Ordering ordering, const Issue &issue)
 {
     switch (ordering) {
@@ -141,36 +150,14 @@ StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, cons
             names.key(status.name())};
 }
 
-IssueOrder recapOrder(const IssueList &issues)
+IssueRows recapOrder(const IssueList &issues)
 {
     return sortedBy(issues, recapKey);
 }
 
-IssueOrder issueOrder(const IssueList &issues, Ordering ordering)
+IssueRows issueOrder(const IssueList &issues, Ordering ordering)
 {
     if (ordering == Ordering::Key)
         return keyOrder(issues);
     return sortedBy(issues, [ordering](const Issue &issue) { return keyIn(ordering, issue); });
-}
-
-SortKey changedRecapKey(const SortKey &before, const Issue &issue)
-{
-    SortKey key = recapKey(issue);
-    key.row = before.row;
-    return key;
-}
-
-SortKey changedKey(const SortKey &before, const Issue &issue, Ordering ordering)
-{
-    if (ordering == Ordering::Key)
-        return before;
-    SortKey key = keyIn(ordering, issue);
-    key.row = before.row;
-    return key;
-}
-
-qsizetype placeOf(const SortKey &key, const IssueRows &rows, const SortKeys &keys)
-{
-    const auto isBefore = [&keys](quint32 row, const SortKey &other) { return keys[row] < other; };
-    return std::lower_bound(rows.begin(), rows.end(), key, isBefore) - rows.begin();
 }

@@ -62,39 +62,8 @@ StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, cons
 /// Positions in a list of issues.
 using IssueRows = std::vector<quint32>;
 
-/// What an issue is sorted by. The position in the service's list, which comes last, makes every key a different one.
-struct SortKey
-{
-    qint64 major = 0;
-    qint64 minor = 0;
-    quint32 row = 0;
-
-    auto operator<=>(const SortKey &) const = default;
-};
-
-/// By position in the service's list.
-using SortKeys = std::vector<SortKey>;
-
-/// A list of issues in order.
-struct IssueOrder
-{
-    SortKeys keys;
-    /// Sorted by their keys.
-    IssueRows rows;
-
-    /// Who reads an order sees the rows alone.
-    friend bool operator==(const IssueOrder &a, const IssueOrder &b) { return a.rows == b.rows; }
-};
-
 /// The issues in the order of their last activity, latest first; an issue without events counts as active when it was
 /// last updated. Stable.
-IssueOrder recapOrder(const IssueList &issues);
+IssueRows recapOrder(const IssueList &issues);
 /// The issues in the given order. Stable.
-IssueOrder issueOrder(const IssueList &issues, Ordering ordering);
-
-/// The key of an issue of a recap, or of another list, that has become another but for its own key and its project.
-SortKey changedRecapKey(const SortKey &before, const Issue &issue);
-SortKey changedKey(const SortKey &before, const Issue &issue, Ordering ordering);
-
-/// Where the key stands, or would stand, among rows that are sorted by their keys.
-qsizetype placeOf(const SortKey &key, const IssueRows &rows, const SortKeys &keys);
+IssueRows issueOrder(const IssueList &issues, Ordering ordering);

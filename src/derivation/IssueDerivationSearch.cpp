@@ -21,15 +21,6 @@ void appendText(QByteArray &texts, const QString &text)
     texts += endOfText;
 }
 
-void appendTexts(QByteArray &texts, const Issue &issue)
-{
-    appendText(texts, issue.key);
-    appendText(texts, issue.summary);
-    for (const auto &label : issue.labels)
-        appendText(texts, label);
-    appendText(texts, assigneeName(issue));
-}
-
 } // namespace
 
 QByteArray SearchTexts::needle(const QString &filterText)
@@ -51,7 +42,11 @@ void SearchTexts::reserve(qsizetype issues, qsizetype bytes)
 
 void SearchTexts::append(const Issue &issue)
 {
-    appendTexts(m_texts, issue);
+    appendText(m_texts, issue.key);
+    appendText(m_texts, issue.summary);
+    for (const auto &label : issue.labels)
+        appendText(m_texts, label);
+    appendText(m_texts, assigneeName(issue));
     m_ends.push_back(m_texts.size());
 }
 
@@ -59,13 +54,6 @@ void SearchTexts::append(const SearchTexts &other, qsizetype row)
 {
     m_texts.append(other.textsOf(row));
     m_ends.push_back(m_texts.size());
-}
-
-void SearchTexts::replace(qsizetype row, const Issue &issue)
-{
-    QByteArray texts;
-    appendTexts(texts, issue);
-    m_replaced.insert(row, texts);
 }
 
 std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
@@ -84,8 +72,6 @@ std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
         hits[row] = 1;
         at = begin + m_ends[row];
     }
-    for (auto texts = m_replaced.cbegin(); texts != m_replaced.cend(); ++texts)
-        hits[texts.key()] = texts.value().contains(needle);
     return hits;
 }
 
@@ -97,20 +83,12 @@ std::vector<quint8> SearchTexts::containing(const QByteArray &needle,
     if (std::ranges::count(hits, 1) * few > std::ssize(hits))
         return containing(needle);
     for (std::size_t row = 0; row < hits.size(); ++row)
-        hits[row] = hits[row] != 0 && contains(qsizetype(row), needle);
+        hits[row] = hits[row] != 0 && textsOf(qsizetype(row)).contains(needle);
     return hits;
-}
-
-bool SearchTexts::contains(qsizetype row, const QByteArray &needle) const
-{
-    return needle.isEmpty() || textsOf(row).contains(needle);
 }
 
 QByteArrayView SearchTexts::textsOf(qsizetype row) const
 {
-    const auto replaced = m_replaced.constFind(row);
-    if (replaced != m_replaced.constEnd())
-        return *replaced;
     const auto start = row == 0 ? 0 : m_ends[row - 1];
     return QByteArrayView(m_texts).sliced(start, m_ends[row] - start);
 }

@@ -3,7 +3,6 @@
 #include "model/Issue.h"
 
 #include <QByteArray>
-#include <QHash>
 
 #include <vector>
 
@@ -20,8 +19,6 @@ public:
     void reserve(qsizetype issues, qsizetype bytes);
     /// Adds the texts of the next issue.
     void append(const Issue &issue);
-    /// The texts of issue `row` become those of `issue`.
-    void replace(qsizetype row, const Issue &issue);
     /// Adds the texts that `other` holds for its issue `row`; nothing is folded anew.
     void append(const SearchTexts &other, qsizetype row);
 
@@ -30,8 +27,6 @@ public:
     std::vector<quint8> containing(const QByteArray &needle) const;
     /// The same for a needle that contains another one, whose hits these are.
     std::vector<quint8> containing(const QByteArray &needle, std::vector<quint8> hits) const;
-    /// The same for one issue.
-    bool contains(qsizetype row, const QByteArray &needle) const;
 
 private:
     QByteArrayView textsOf(qsizetype row) const;
@@ -39,6 +34,4 @@ private:
     QByteArray m_texts;
     /// Where the texts of each issue end.
     std::vector<qsizetype> m_ends;
-    /// The texts of issues that have become others since; what stands between the rest is left where it is.
-    QHash<qsizetype, QByteArray> m_replaced;
 };

@@ -4,8 +4,7 @@
 
 #include <vector>
 
-/// What the keys of a list look like: how wide the widest one is can be told from one key of each shape. Issues come and
-/// go one by one.
+/// What the keys of a list look like: how wide the widest one is can be told from one key of each shape.
 class KeyShapes
 {
 public:
@@ -16,7 +15,6 @@ public:
         qsizetype length = 0;
         /// Such a key.
         QString example;
-        qsizetype count = 0;
 
         bool operator==(const Shape &) const = default;
     };
@@ -24,16 +22,11 @@ public:
     KeyShapes() = default;
     explicit KeyShapes(const IssueList &issues);
 
-    void add(const Issue &issue);
-    /// Takes back what `add` did for an issue with the same key and project.
-    void remove(const Issue &issue);
     /// Those that occur.
     const std::vector<Shape> &shapes() const { return m_shapes; }
 
     bool operator==(const KeyShapes &) const = default;
 
 private:
-    std::vector<Shape>::iterator shapeOf(const Issue &issue);
-
     std::vector<Shape> m_shapes;
 };

@@ -1,33 +1,39 @@
 #pragma once
 
+#include "derivation/KeyIndex.h"
+
 #include <QStringList>
 
-#include <functional>
+#include <optional>
 
-/// The keys of what a layout shows, in reading order: the path of the arrow keys. A look at it costs no pass over it.
+/// The keys of what a layout shows, in reading order: the path of the arrow keys. No key stands on it twice.
 class VisiblePath
 {
 public:
-    struct Access
-    {
-        qsizetype size = 0;
-        std::function<QString(qsizetype)> keyAt;
-        /// -1 for a key that is not shown.
-        std::function<qsizetype(const QString &)> indexOf;
-    };
+    VisiblePath() = default;
+    VisiblePath(QStringList keys) : m_keys(std::move(keys)) {}
 
-    explicit VisiblePath(Access access) : m_access(std::move(access)) {}
-    /// The path along a list of keys.
-    VisiblePath(const QStringList &keys);
-
-    qsizetype size() const { return m_access.size; }
-    bool isEmpty() const { return size() == 0; }
+    const QStringList &keys() const { return m_keys; }
+    qsizetype size() const { return m_keys.size(); }
+    bool isEmpty() const { return m_keys.isEmpty(); }
     /// The key at a place, which must be on the path.
-    QString operator[](qsizetype place) const { return m_access.keyAt(place); }
-    QString front() const { return m_access.keyAt(0); }
-    /// -1 for a key that is not shown.
-    qsizetype indexOf(const QString &key) const { return m_access.indexOf(key); }
+    const QString &operator[](qsizetype place) const { return m_keys[place]; }
+    const QString &front() const { return m_keys.front(); }
+    /// -1 for a key that is not shown. The first question makes an index, each one after it costs a look-up.
+    qsizetype indexOf(const QString &key) const
+    {
+        if (!m_index)
+            m_index = KeyIndex(std::vector<QStringView>(m_keys.begin(), m_keys.end()));
+        return m_index->find(key).value_or(-1);
+    }
+
+    friend bool operator==(const VisiblePath &a, const VisiblePath &b)
+    {
+        return a.m_keys == b.m_keys;
+    }
 
 private:
-    Access m_access;
+    QStringList m_keys;
+    /// Points into the keys.
+    mutable std::optional<KeyIndex> m_index;
 };

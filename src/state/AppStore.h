@@ -14,7 +14,6 @@
 #include "state/PendingWrites.h"
 #include "state/edits/CommentAudience.h"
 #include "state/edits/IssueCopies.h"
-#include "state/edits/ListedIssues.h"
 #include "state/edits/OptimisticEdit.h"
 #include "state/models/BoardModel.h"
 #include "state/models/IssueListModel.h"
@@ -110,8 +109,8 @@ public:
     /// The best known record of the issue.
     std::optional<SharedIssue> issue(const QString &key) const;
     std::optional<Project> project(const QString &key) const;
-    /// The last known list of each scope met in this session. Made for the caller.
-    QHash<IssueScope, IssueList> scopeCache() const;
+    /// The last known list of each scope met in this session.
+    const QHash<IssueScope, IssueList> &scopeCache() const { return m_scopeCache; }
     /// Every user met so far, by id; outlives sessions.
     const QHash<QString, JiraUser> &knownUsers() const { return m_knownUsers; }
 
@@ -121,8 +120,8 @@ public:
     const QList<IssueGroup> &boardColumns() const { return derivation().boardColumns(); }
     /// The keys in display order: the path of the arrow keys.
     const QStringList &flatVisibleKeys() const { return derivation().flatVisibleKeys(); }
-    /// The same path without a pass over it; valid until a field changes.
-    VisiblePath visiblePath() const { return derivation().visiblePath(); }
+    /// The same path, on which keys are found.
+    const VisiblePath &visiblePath() const { return derivation().visiblePath(); }
     /// All of the above and what the filter menus offer.
     const IssueDerivation &derivation() const;
     const QString &scopeTitle() const { return *m_scopeTitle; }
@@ -328,13 +327,6 @@ private:
     QCoro::Task<std::optional<QString>> createIssue(IssueDraft draft);
     QCoro::Task<QList<JiraUser>> foundUsers(QString query, std::stop_token stop);
     void mutate(const IssueChanges &changes);
-    /// Records that take their rows' places in the list, with the same key and project each.
-    using ListedRecords = std::map<quint32, SharedIssue>;
-    enum class InCache { Stay, Follow };
-    void replaceListed(const ListedRecords &records, InCache inCache);
-    void mutateMine(const IssueChanges &changes);
-    void setMyOpenIssues(const IssueList &issues);
-    std::optional<int> myOpenRowOf(const QString &key) const;
     // AppStoreOptions.cpp
     OptionInputs optionInputs(const QStringList &keys) const;
     // AppStoreAttachments.cpp
@@ -392,9 +384,7 @@ private:
     /// Attempts to open a session: the newest one counts, until a session begins or ends.
     Newest m_openings;
     PendingWrites m_writes;
-    QHash<IssueScope, ListedIssues> m_scopeCache;
-    /// Of the user's open issues.
-    mutable std::optional<KeyIndex> m_myOpenKeys;
+    QHash<IssueScope, IssueList> m_scopeCache;
     QHash<QString, JiraUser> m_knownUsers;
     Clock::TimerHandle m_refreshTimer;
     Clock::TimerHandle m_minuteTimer;

@@ -79,25 +79,14 @@ void AppStore::feedLists()
 void AppStore::feedBoard()
 {
     const quint64 version = m_derivation.boardVersion();
-    const quint64 before = std::exchange(m_fedBoard, version);
-    if (before == version)
-        return;
-    if (const auto steps = m_derivation.boardSteps(before))
-        m_board.takeSteps(*steps);
-    else
+    if (std::exchange(m_fedBoard, version) != version)
         m_board.setColumns(boardColumns());
 }
 
 void AppStore::feedGroups()
 {
     const std::pair shown(m_derivation.groupsVersion(), *m_collapsedGroups);
-    const auto before = std::exchange(m_fedGroups, shown);
-    if (before == shown)
-        return;
-    const bool isCollapsedAlike = before.second == shown.second;
-    if (const auto steps = isCollapsedAlike ? m_derivation.groupSteps(before.first) : std::nullopt)
-        m_issueList.takeSteps(*steps, shown.second);
-    else
+    if (std::exchange(m_fedGroups, shown) != shown)
         m_issueList.setGroups(groups(), shown.second);
 }
 

@@ -67,8 +67,6 @@ void AppStore::takeFullRecord(const Issue &issue)
     const SharedIssue full = withActivityOf(issue, *listed);
     if (full == listed)
         return;
-    if (full->projectKey == listed->projectKey)
-        return replaceListed({{quint32(*row), full}}, InCache::Stay);
     IssueList issues = *m_issues;
     issues[*row] = full;
     m_issues.set(issues);

@@ -148,69 +148,16 @@ void AppStore::showConfirmed(const std::optional<OptimisticEdit> &confirmed)
 void AppStore::mutate(const IssueChanges &changes)
 {
     const Batch batch(*this);
-    ListedRecords records;
-    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        const auto row = derivation().rowOf(change.key());
-        if (auto record = row ? changed((*m_issues)[*row], *change) : std::nullopt)
-            records.emplace(quint32(*row), *std::move(record));
-    }
-    const auto untouched = m_scopeCache.constFind(*m_scope);
-    const bool isOneList =
-        untouched != m_scopeCache.constEnd() && untouched->isSharedWith(*m_issues);
-    replaceListed(records, isOneList ? InCache::Follow : InCache::Stay);
+    if (auto issues = changedInList(*m_issues, changes))
+        m_issues.set(*std::move(issues));
     if (auto details = changedInDetails(*m_details, changes))
         m_details.set(*std::move(details));
-    mutateMine(changes);
-    for (auto list = m_scopeCache.begin(); list != m_scopeCache.end(); ++list) {
-        if (!isOneList || list.key() != *m_scope)
-            list->change(changes);
+    if (auto mine = changedInList(*m_myOpenIssues, changes))
+        m_myOpenIssues.set(*std::move(mine));
+    for (IssueList &list : m_scopeCache) {
+        if (auto cached = changedInList(list, changes))
+            list = *std::move(cached);
     }
-}
-
-/// A list that several hold is changed while only one of them holds it; so nothing is copied but the records.
-void AppStore::replaceListed(const ListedRecords &records, InCache inCache)
-{
-    if (records.empty())
-        return;
-    IssueRows rows;
-    for (const auto &[row, record] : records)
-        rows.push_back(row);
-    auto *const cached = inCache == InCache::Follow ? &m_scopeCache[*m_scope] : nullptr;
-    m_derivation.letGo();
-    if (cached)
-        cached->letGo();
-    m_issues.edit([&](IssueList &issues) {
-        for (const auto &[row, record] : records)
-            issues[row] = record;
-        if (cached)
-            cached->follow(issues, rows);
-        m_derivation.takeBack(issues, rows);
-    });
-}
-
-void AppStore::mutateMine(const IssueChanges &changes)
-{
-    ListedRecords records;
-    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
-        const auto row = myOpenRowOf(change.key());
-        if (auto record = row ? changed((*m_myOpenIssues)[*row], *change) : std::nullopt)
-            records.emplace(quint32(*row), *std::move(record));
-    }
-    if (records.empty())
-        return;
-    m_myOpenIssues.edit([&](IssueList &issues) {
-        for (const auto &[row, record] : records) {
-            issues[row] = record;
-            m_myOpenKeys->relocate(int(row), record->key);
-        }
-    });
-}
-
-std::optional<int> AppStore::myOpenRowOf(const QString &key) const
-{
-    if (!m_myOpenKeys)
-        m_myOpenKeys = keyIndexOf(*m_myOpenIssues);
-    return m_myOpenKeys->find(key);
 }
 
 IssueList AppStore::knownIssues(const QStringList &keys) const

@@ -34,7 +34,7 @@ void AppStore::select(const IssueScope &scope)
         return;
     const Batch batch(*this);
     m_scope.set(scope);
-    m_issues.set(m_scopeCache.value(scope).issues());
+    m_issues.set(m_scopeCache.value(scope));
     m_focusedKey.set(std::nullopt);
     m_checked.set({});
     m_loadError.set(std::nullopt);
@@ -192,21 +192,7 @@ QCoro::Task<> AppStore::reloadMyIssues()
     session->fetchedAt.insert(scope, m_context.clock.now());
     const IssueList mine = withJustCreated(current(*answer, reading), scope, reading);
     m_scopeCache.insert(scope, mine);
-    setMyOpenIssues(openIssues(mine));
-}
-
-void AppStore::setMyOpenIssues(const IssueList &issues)
-{
-    m_myOpenKeys.reset();
-    m_myOpenIssues.set(issues);
-}
-
-QHash<IssueScope, IssueList> AppStore::scopeCache() const
-{
-    QHash<IssueScope, IssueList> lists;
-    for (auto list = m_scopeCache.cbegin(); list != m_scopeCache.cend(); ++list)
-        lists.insert(list.key(), list->issues());
-    return lists;
+    m_myOpenIssues.set(openIssues(mine));
 }
 
 QCoro::Task<IssueList> AppStore::searchRemote(QString text, std::stop_token stop)
@@ -232,8 +218,9 @@ std::optional<SharedIssue> AppStore::issue(const QString &key) const
         return *opened;
     if (const auto row = derivation().rowOf(key))
         return (*m_issues)[*row];
-    const auto row = myOpenRowOf(key);
-    return row ? std::optional((*m_myOpenIssues)[*row]) : std::nullopt;
+    const auto mine = std::ranges::find_if(
+        *m_myOpenIssues, [&key](const SharedIssue &issue) { return issue->key == key; });
+    return mine == m_myOpenIssues->end() ? std::nullopt : std::optional(*mine);
 }
 
 std::optional<Project> AppStore::project(const QString &key) const

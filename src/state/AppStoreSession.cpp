@@ -143,7 +143,7 @@ void AppStore::resetData()
     m_projectStatuses.set({});
     m_assignables.set({});
     m_projectDetails.set({});
-    setMyOpenIssues({});
+    m_myOpenIssues.set({});
     m_scopeCache.clear();
     m_focusedKey.set(std::nullopt);
     m_checked.set({});

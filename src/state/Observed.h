@@ -35,16 +35,6 @@ public:
         (m_owner->*m_notify)();
         return true;
     }
-    /// For what is too large to copy: `change` brings the value where it stands to another one, and makes known to the
-    /// owner what it must know before the others.
-    template <typename Change>
-    void edit(Change change)
-    {
-        const Batched::Batch batch(*m_owner);
-        change(m_value);
-        m_owner->markStale(m_stale);
-        (m_owner->*m_notify)();
-    }
     /// For maps: the entry of the key becomes `entry`.
     template <typename Key, typename Entry>
     bool insert(const Key &key, Entry &&entry)

@@ -229,7 +229,11 @@ IssueList visibleIssues(const IssueDerivationInputs &inputs)
 {
     const auto text = inputs.filterText.trimmed();
     IssueList visible;
+    QSet<QString> met;
     for (const auto &issue : inputs.issues) {
+        if (met.contains(issue->key))
+            continue;
+        met.insert(issue->key);
         if (isClosed(issue->status.category()) && !inputs.showCompleted &&
             !inputs.scope.asActivity())
             continue;

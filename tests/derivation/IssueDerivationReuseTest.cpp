@@ -103,51 +103,36 @@ TEST_F(IssueDerivationReuse, AReloadFoldsOnlyWhatReadsDifferently)
     EXPECT_EQ(derivation.foldedIssues(), 201);
 }
 
-TEST_F(IssueDerivationReuse, AnEditedIssueIsFollowedWithoutAnyStepComputedAnewOrAListCopied)
+TEST_F(IssueDerivationReuse, AnEditComputesEachStepOnceAndFoldsOnlyItsOwnTexts)
 {
-    auto before = counts();
-    const auto folded = derivation.foldedIssues();
-    const SharedIssue *const place = inputs.issues.constData();
-    derivation.letGo();
-    Issue moved = *inputs.issues.at(7);
-    moved.status = moved.status == done() ? todo() : done();
-    moved.updated = minute(999);
-    inputs.issues[7] = moved;
-    derivation.takeBack(inputs.issues, {7});
-    derivation.visibleIssues();
-    derivation.groups();
-    EXPECT_EQ(counts(), before);
-    EXPECT_EQ(derivation.foldedIssues(), folded + 1);
-    EXPECT_EQ(inputs.issues.constData(), place) << "changed in place";
-    EXPECT_EQ(derivation.inputs().issues.constData(), place);
+    Issue renamed = *inputs.issues.at(7);
+    renamed.summary = u"Nouveau résumé"_s;
+    renamed.updated = minute(999);
+    inputs.issues[7] = renamed;
+    apply();
+    apply();
+    for (const auto step : {Step::Index, Step::Order, Step::Filter, Step::Groups, Step::Keys})
+        EXPECT_EQ(derivation.timesComputed(step), 2) << int(step);
+    EXPECT_EQ(derivation.foldedIssues(), 201);
 }
 
-TEST_F(IssueDerivationReuse, StepsAreToldFromTheVersionThatIsShownUntilThereAreTooMany)
+TEST_F(IssueDerivationReuse, AVersionGrowsOnlyWithWhatItIsNamedFor)
 {
-    const auto shown = derivation.groupsVersion();
-    const auto edit = [this](quint32 row, int minutes) {
-        derivation.letGo();
-        Issue issue = *inputs.issues.at(row);
-        issue.updated = minute(minutes);
-        inputs.issues[row] = issue;
-        derivation.takeBack(inputs.issues, {row});
-    };
-    edit(3, 900);
-    const auto between = derivation.groupsVersion();
-    edit(4, 901);
-    EXPECT_EQ(derivation.groupSteps(shown)->size(), 2);
-    EXPECT_EQ(derivation.groupSteps(between)->size(), 1);
-    EXPECT_EQ(derivation.groupSteps(derivation.groupsVersion())->size(), 0);
-    for (int turn = 0; turn < 100; ++turn) {
-        const auto last = derivation.groupsVersion();
-        edit(5, 1000 + turn);
-        EXPECT_TRUE(derivation.groupSteps(last)) << "whoever keeps up is told every time";
-    }
-    EXPECT_FALSE(derivation.groupSteps(shown));
-
+    const auto visible = derivation.visibleVersion();
+    const auto groups = derivation.groupsVersion();
+    const auto board = derivation.boardVersion();
+    const auto menus = derivation.menusVersion();
     inputs.grouping = Grouping::Priority;
     apply();
-    EXPECT_FALSE(derivation.groupSteps(between));
+    EXPECT_EQ(derivation.visibleVersion(), visible);
+    EXPECT_GT(derivation.groupsVersion(), groups);
+    EXPECT_EQ(derivation.boardVersion(), board);
+
+    inputs.filterText = u"WEB-1"_s;
+    apply();
+    EXPECT_GT(derivation.visibleVersion(), visible);
+    EXPECT_GT(derivation.boardVersion(), board);
+    EXPECT_EQ(derivation.menusVersion(), menus);
 }
 
 TEST_F(IssueDerivationReuse, ANarrowerSearchFindsWhatAWholeOneFinds)

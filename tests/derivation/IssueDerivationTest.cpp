@@ -321,3 +321,42 @@ TEST(FlatVisibleKeys, ACollapsedGroupIsLeftOutOfTheListButNotOfTheBoard)
     inputs.layout = LayoutMode::Board;
     EXPECT_EQ(derived(inputs).flatVisibleKeys(), (QStringList{u"WEB-1"_s, u"WEB-2"_s}));
 }
+
+TEST(Groups, OfTwoPeopleWithOneNameTheOneOfTheFirstIssueLeadsInEveryOrdering)
+{
+    Issue first = sampleIssue(u"A-1"_s);
+    first.assignee = user(u"x"_s, u"Noam"_s);
+    first.updated = minute(1);
+    Issue second = sampleIssue(u"A-2"_s);
+    second.assignee = user(u"y"_s, u"Noam"_s);
+    second.updated = minute(2);
+    auto inputs = inputsOf({first, second});
+    inputs.grouping = Grouping::Assignee;
+    inputs.ordering = Ordering::Key;
+    IssueDerivation derivation;
+    const auto ids = [&] {
+        derivation.setInputs(inputs);
+        QStringList result;
+        for (const auto &group : derivation.groups())
+            result.append(group.id);
+        return result;
+    };
+    EXPECT_EQ(ids(), (QStringList{u"a:x"_s, u"a:y"_s}));
+    inputs.ordering = Ordering::Updated;
+    EXPECT_EQ(ids(), (QStringList{u"a:y"_s, u"a:x"_s}));
+    first.updated = minute(3);
+    inputs.issues[0] = first;
+    EXPECT_EQ(ids(), (QStringList{u"a:x"_s, u"a:y"_s}));
+}
+
+TEST(RepeatedKeys, OnlyTheFirstIssueOfAKeyIsShown)
+{
+    auto inputs = inputsOf({issueOf(u"A-1"_s, todo()), issueOf(u"A-2"_s, todo()),
+                            issueOf(u"A-1"_s, inProgress()), issueOf(u"A-3"_s, inProgress())});
+    inputs.ordering = Ordering::Key;
+    const auto derivation = derived(inputs);
+    EXPECT_EQ(keysOf(derivation.visibleIssues()), (QStringList{u"A-1"_s, u"A-2"_s, u"A-3"_s}));
+    EXPECT_EQ(derivation.flatVisibleKeys(), (QStringList{u"A-3"_s, u"A-1"_s, u"A-2"_s}));
+    EXPECT_EQ(derivation.visiblePath().indexOf(u"A-1"_s), 1);
+    EXPECT_EQ(derivation.rowOf(u"A-1"_s), 0);
+}

@@ -65,6 +65,41 @@ TEST_F(AppStoreSelectionTest, downAtTheLastRowStaysThere)
     EXPECT_EQ(store->focusedKey(), store->flatVisibleKeys().last());
 }
 
+TEST_F(AppStoreSelectionTest, jAndKPassAKeyThatTheListHoldsTwice)
+{
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s), sampleIssue(u"WEB-1"_s),
+                sampleIssue(u"WEB-3"_s), sampleIssue(u"WEB-2"_s, u"En cours"_s)});
+    for (const LayoutMode layout : {LayoutMode::List, LayoutMode::Board}) {
+        store->setLayout(layout);
+        store->setFocusedKey(std::nullopt);
+        QStringList walked;
+        for (int press = 0; press < 4; ++press) {
+            store->handleKey(letter(u'j'));
+            walked.append(store->focusedKey().value_or(QString()));
+        }
+        EXPECT_EQ(walked, (QStringList{u"WEB-1"_s, u"WEB-2"_s, u"WEB-3"_s, u"WEB-3"_s}));
+        store->handleKey(letter(u'k'));
+        store->handleKey(letter(u'k'));
+        EXPECT_EQ(store->focusedKey(), u"WEB-1"_s);
+    }
+}
+
+TEST_F(AppStoreSelectionTest, ofAKeyThatTheListHoldsTwiceOneRowHasTheFocusAndShowsAnEdit)
+{
+    store->setShowCompleted(true);
+    reloadWith({sampleIssue(u"WEB-1"_s), sampleIssue(u"WEB-2"_s), sampleIssue(u"WEB-1"_s)});
+    store->setFocusedKey(u"WEB-1"_s);
+    store->rename(u"WEB-1"_s, u"Autre titre"_s);
+    const auto *rows = store->issueList();
+    QStringList focused;
+    for (int row = 0; row < rows->rowCount(); ++row) {
+        if (rows->index(row).data(IssueListModel::IsFocusedRole).toBool())
+            focused.append(rows->index(row).data(Qt::DisplayRole).toString());
+    }
+    EXPECT_EQ(focused, QStringList(u"Autre titre"_s));
+    EXPECT_EQ(rows->rowCount(), 3) << "a header and two issues";
+}
+
 TEST_F(AppStoreSelectionTest, shiftAndDownFromNoFocusChecksOnlyTheRowReached)
 {
     EXPECT_TRUE(store->handleKey(key(Qt::Key_Down, Qt::ShiftModifier)));

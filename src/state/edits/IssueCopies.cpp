@@ -9,6 +9,21 @@ std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &
     return SharedIssue(std::move(copy));
 }
 
+std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes)
+{
+    std::optional<IssueList> result;
+    for (qsizetype row = 0; row < issues.size(); ++row) {
+        const auto change = changes.constFind(issues[row]->key);
+        auto replacement = change == changes.cend() ? std::nullopt : changed(issues[row], *change);
+        if (!replacement)
+            continue;
+        if (!result)
+            result = issues;
+        (*result)[row] = *std::move(replacement);
+    }
+    return result;
+}
+
 std::optional<QHash<QString, SharedIssue>>
 changedInDetails(const QHash<QString, SharedIssue> &details, const IssueChanges &changes)
 {

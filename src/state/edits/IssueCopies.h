@@ -14,6 +14,9 @@ using IssueChanges = QHash<QString, IssueChange>;
 
 /// The issue with the change; nothing when it stays deeply equal, so that nobody needs to be told.
 std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &change);
+/// The list with the changes; nothing when none of its issues is among them or all stay deeply equal. All others stay the
+/// same objects.
+std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes);
 /// Issues by their keys with the changes; nothing when none of them is there or all stay deeply equal. All others stay
 /// the same objects.
 std::optional<QHash<QString, SharedIssue>>

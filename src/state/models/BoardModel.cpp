@@ -4,78 +4,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-BoardColumnRow columnRow(const IssueGroup &column)
-{
-    return {column.id, column.title, int(column.issues.size()),
-            column.kind.asStatus().value_or(IssueStatus())};
-}
-
 QList<BoardColumnRow> columnRows(const QList<IssueGroup> &columns)
 {
     QList<BoardColumnRow> rows;
     rows.reserve(columns.size());
     for (const auto &column : columns)
-        rows.append(columnRow(column));
+        rows.append({column.id, column.title, int(column.issues.size()),
+                     column.kind.asStatus().value_or(IssueStatus())});
     return rows;
 }
 
 } // namespace
-
-/// Takes the steps of groups in the columns and their cards.
-class BoardModel::Steps
-{
-public:
-    explicit Steps(BoardModel &model) : m_model(model) {}
-
-    void operator()(const GroupStep::GroupInserted &step)
-    {
-        // Cards first: a column is never seen without its own.
-        m_model.cardsOfColumn(step.header.id)->setIssues({});
-        m_model.insertAt(step.group, columnRow(step.header));
-    }
-    void operator()(const GroupStep::GroupRemoved &step) { m_model.removeAt(step.group); }
-    void operator()(const GroupStep::GroupMoved &step) { m_model.shift({step.from, 1, step.to}); }
-    void operator()(const GroupStep::GroupChanged &step)
-    {
-        auto row = columnRow(step.header);
-        row.count = m_model.rows()[step.group].count;
-        m_model.replaceAt(step.group, std::move(row));
-    }
-    void operator()(const GroupStep::IssueInserted &step)
-    {
-        m_model.cards(step.at.group)->insertCard(step.at.position, step.issue);
-        count(step.at.group, 1);
-    }
-    void operator()(const GroupStep::IssueRemoved &step)
-    {
-        m_model.cards(step.at.group)->removeCard(step.at.position);
-        count(step.at.group, -1);
-    }
-    void operator()(const GroupStep::IssueMoved &step)
-    {
-        if (step.from.group == step.to.group) {
-            change(step.from, step.to, step.issue);
-            return;
-        }
-        (*this)(GroupStep::IssueRemoved{step.from});
-        (*this)(GroupStep::IssueInserted{step.to, step.issue});
-    }
-    void operator()(const GroupStep::IssueChanged &step) { change(step.at, step.at, step.issue); }
-
-private:
-    void change(const IssuePlace &from, const IssuePlace &to, const SharedIssue &issue)
-    {
-        m_model.cards(from.group)->changeCard(from.position, to.position, issue);
-    }
-    void count(int column, int change)
-    {
-        auto row = m_model.rows()[column];
-        row.count += change;
-        m_model.replaceAt(column, std::move(row));
-    }
-
-    BoardModel &m_model;
-};
 
 QString BoardColumnRow::accessibleName() const
 {
@@ -94,16 +33,6 @@ void BoardModel::setColumns(const QList<IssueGroup> &columns)
     for (const auto &column : columns)
         cardsOfColumn(column.id)->setIssues(column.issues);
     update(columnRows(columns));
-    forgetCardsWithoutColumn();
-    Q_EMIT updated();
-}
-
-void BoardModel::takeSteps(const IssueGroupSteps &steps)
-{
-    Q_EMIT aboutToUpdate();
-    Steps taker(*this);
-    for (const auto &step : steps)
-        std::visit(taker, step);
     forgetCardsWithoutColumn();
     Q_EMIT updated();
 }

@@ -49,8 +49,6 @@ public:
     BoardModel(UserCalendar calendar, QDateTime now, QObject *parent = nullptr);
 
     void setColumns(const QList<IssueGroup> &columns);
-    /// Takes the steps from the columns that are shown to others. Costs what the steps cost, whatever the number of cards.
-    void takeSteps(const IssueGroupSteps &steps);
     /// An empty key focuses nothing.
     void setFocusedKey(const QString &key);
     void setCheckedKeys(const QSet<QString> &keys);
@@ -75,8 +73,6 @@ Q_SIGNALS:
     void updated();
 
 private:
-    class Steps;
-
     IssueListModel *cardsOfColumn(const QString &id);
     void mark(IssueListModel &cards) const;
     void forgetCardsWithoutColumn();

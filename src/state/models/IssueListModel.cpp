@@ -1,23 +1,10 @@
 #include "state/models/IssueListModel.h"
 
 #include "model/dates/DateLabels.h"
-#include "state/models/IssueListSteps.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-std::vector<int> headerRows(const QList<IssueListRow> &rows)
-{
-    std::vector<int> headers;
-    for (int row = 0; row < int(rows.size()); ++row) {
-        if (rows[row].header())
-            headers.push_back(row);
-    }
-    return headers;
-}
-
-} // namespace
 
 IssueListModel::IssueListModel(UserCalendar calendar, QDateTime now, QObject *parent)
     : KeyedListModel(parent), m_calendar(std::move(calendar)), m_now(std::move(now))
@@ -40,51 +27,15 @@ void IssueListModel::setIssues(const IssueList &issues)
 
 void IssueListModel::setRows(QList<IssueListRow> rows)
 {
+    if (rows == this->rows())
+        return;
     Q_EMIT aboutToUpdate();
-    m_headerRows = headerRows(rows);
     update(std::move(rows));
-    endUpdate();
-}
-
-void IssueListModel::endUpdate()
-{
     // Their places among the others.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {AccessibleNameRole});
     ++m_revision;
     Q_EMIT updated();
-}
-
-void IssueListModel::takeSteps(const IssueGroupSteps &steps, const QSet<QString> &collapsed)
-{
-    Q_EMIT aboutToUpdate();
-    Steps taker(*this, collapsed);
-    for (const auto &step : steps)
-        std::visit(taker, step);
-    endUpdate();
-}
-
-void IssueListModel::insertCard(int at, const SharedIssue &issue)
-{
-    Q_EMIT aboutToUpdate();
-    insertAt(at, issueRow(issue));
-    endUpdate();
-}
-
-void IssueListModel::removeCard(int at)
-{
-    Q_EMIT aboutToUpdate();
-    removeAt(at);
-    endUpdate();
-}
-
-void IssueListModel::changeCard(int from, int to, const SharedIssue &issue)
-{
-    Q_EMIT aboutToUpdate();
-    if (from != to)
-        shift({from, 1, to});
-    replaceAt(to, issueRow(issue));
-    endUpdate();
 }
 
 void IssueListModel::setFocusedKey(const QString &key)
@@ -151,14 +102,29 @@ void IssueListModel::refreshBadges()
 
 int IssueListModel::headerRowOf(int row) const
 {
-    const auto after = std::upper_bound(m_headerRows.begin(), m_headerRows.end(), row);
-    return row >= rowCount() || after == m_headerRows.begin() ? -1 : *std::prev(after);
+    const auto &headers = headerRows();
+    const auto after = std::ranges::upper_bound(headers, row);
+    return row >= rowCount() || after == headers.begin() ? -1 : *std::prev(after);
 }
 
 int IssueListModel::headerRowAfter(int row) const
 {
-    const auto after = std::upper_bound(m_headerRows.begin(), m_headerRows.end(), row);
-    return after == m_headerRows.end() ? -1 : *after;
+    const auto &headers = headerRows();
+    const auto after = std::ranges::upper_bound(headers, row);
+    return after == headers.end() ? -1 : *after;
+}
+
+const std::vector<int> &IssueListModel::headerRows() const
+{
+    const auto compute = [this] {
+        std::vector<int> headers;
+        for (int row = 0; row < rowCount(); ++row) {
+            if (rows()[row].header())
+                headers.push_back(row);
+        }
+        return headers;
+    };
+    return m_headerRows.refreshed({structure()}, compute).value;
 }
 
 IssueListHeader IssueListModel::headerAt(int row) const

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "derivation/IssueGroupStep.h"
+#include "derivation/IssueGroup.h"
+#include "derivation/Memo.h"
 #include "model/dates/UserCalendar.h"
 #include "state/models/IssueListBadge.h"
 #include "state/models/IssueListRow.h"
@@ -55,15 +56,8 @@ public:
 
     int revision() const { return m_revision; }
     void setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
-    /// Takes the steps from the groups that are shown to others. `collapsed` is what it was. Costs what the steps cost,
-    /// whatever the length of the list; each is signalled as it is taken.
-    void takeSteps(const IssueGroupSteps &steps, const QSet<QString> &collapsed);
     /// Only issues, without any header: the cards of a column.
     void setIssues(const IssueList &issues);
-    /// Of cards: one comes, goes, or becomes another and stands at `to`.
-    void insertCard(int at, const SharedIssue &issue);
-    void removeCard(int at);
-    void changeCard(int from, int to, const SharedIssue &issue);
     /// An empty key focuses nothing. Touches the row that loses and the row that takes the focus.
     void setFocusedKey(const QString &key);
     void setCheckedKeys(const QSet<QString> &keys);
@@ -100,10 +94,9 @@ Q_SIGNALS:
     void updated();
 
 private:
-    class Steps;
-
     void setRows(QList<IssueListRow> rows);
-    void endUpdate();
+    /// The rows that are headers at this moment, also in the midst of an update; ascending.
+    const std::vector<int> &headerRows() const;
     QVariant issueRoleData(const Issue &issue, int role) const;
     QVariant groupData(const IssueListHeader &header, int role) const;
     /// The issue's place among those of its group or column: ", 2 sur 5".
@@ -118,7 +111,6 @@ private:
     QSet<QString> m_checkedKeys;
     QString m_openKey;
     BadgeMaker m_badges = [](const Issue &) { return std::nullopt; };
-    /// Ascending.
-    std::vector<int> m_headerRows;
+    mutable Memo<std::vector<int>> m_headerRows;
     int m_revision = 0;
 };

@@ -21,9 +21,6 @@ concept KeyedRow = std::equality_comparable<T> && requires(const T &row) {
 /// moves, insertions, changes; at each structural one the model holds exactly the rows signalled so far, with the values
 /// from before; new values come all at once, just before they are signalled. An update sends at most `maxRowDiffSteps`
 /// structural signals and as many changes. A key that occurs twice costs a needless insertion, no more.
-///
-/// A model that is told what single rows do makes no comparison at all: each such step costs a shift of the rows behind
-/// it, and is signalled at once.
 template <KeyedRow Row>
 class KeyedListModel : public QAbstractListModel
 {
@@ -42,8 +39,6 @@ public:
         const auto diff =
             rowDiff(keysOf(m_rows, middle.first, int(m_rows.size()) - trimmedCount(rows, middle)),
                     keysOf(rows, middle.first, middle.count));
-        // Many steps are not worth following one by one.
-        m_isIndexed = m_isIndexed && diff == RowDiff();
         for (const auto &range : diff.removals)
             remove({range.first + middle.first, range.count});
         for (const auto &step : diff.moves)
@@ -55,16 +50,18 @@ public:
 
     const QList<Row> &rows() const { return m_rows; }
 
-    /// Where the row with the key stands. Costs one look-up; the first call after an update that changed rows costs O(n).
+    /// Where the row with the key stands. Costs one look-up; the first call after a change of the rows costs O(n).
     std::optional<int> rowOf(QStringView key) const
     {
-        if (!m_isIndexed)
+        if (!m_index)
             m_index = KeyIndex(keysOf(m_rows, 0, int(m_rows.size())));
-        m_isIndexed = true;
-        return m_index.find(key);
+        return m_index->find(key);
     }
 
 protected:
+    /// Grows with each step by which rows come, go or move, from 0.
+    quint64 structure() const { return m_structure; }
+
     /// Tells views that roles of single rows changed though the rows did not; neighbours share a signal. Rows ascend.
     void notifyChanged(const std::vector<int> &rows, const QList<int> &roles = {})
     {
@@ -82,33 +79,7 @@ protected:
             Q_EMIT dataChanged(index(range.first), index(range.first + range.count - 1), roles);
     }
 
-    void insertAt(int at, Row row)
-    {
-        beginInsertRows({}, at, at);
-        m_rows.insert(at, std::move(row));
-        follow([&] { return m_index.insert(at, m_rows[at].key); });
-        endInsertRows();
-    }
-    void removeAt(int at) { remove({at, 1}); }
-    /// `to` is where the first of them stands afterwards; not where it stands already.
-    void shift(const RowMove &step) { move(step); }
-    /// The row becomes another with the same key.
-    void replaceAt(int at, Row row, const QList<int> &roles = {})
-    {
-        m_rows[at] = std::move(row);
-        if (m_isIndexed)
-            m_index.relocate(at, m_rows[at].key);
-        notifyChanged({at}, roles);
-    }
-
 private:
-    /// Has the index follow a step, as far as there is one and it can.
-    template <typename Step>
-    void follow(Step step)
-    {
-        m_isIndexed = m_isIndexed && step() == KeyIndex::Outcome::Followed;
-    }
-
     /// The rows of the new list that are left when what both lists begin and end with is taken away.
     RowRange trimmed(const QList<Row> &rows) const
     {
@@ -141,7 +112,7 @@ private:
     {
         beginRemoveRows({}, range.first, range.first + range.count - 1);
         m_rows.remove(range.first, range.count);
-        follow([&] { return m_index.remove(range.first, range.count); });
+        noteStep();
         endRemoveRows();
     }
 
@@ -156,7 +127,7 @@ private:
                         begin + step.to + step.count);
         else
             std::rotate(begin + step.to, begin + step.first, begin + step.first + step.count);
-        follow([&] { return m_index.move(step.first, step.count, step.to); });
+        noteStep();
         endMoveRows();
     }
 
@@ -171,8 +142,14 @@ private:
             m_rows.append(source.sliced(range.first, range.count));
             m_rows.append(tail);
         }
-        m_isIndexed = false;
+        noteStep();
         endInsertRows();
+    }
+
+    void noteStep()
+    {
+        ++m_structure;
+        m_index.reset();
     }
 
     /// All rows stand where they belong; takes over the values that differ.
@@ -187,11 +164,12 @@ private:
         if (changed.empty())
             return;
         m_rows = rows;
-        m_isIndexed = false;
+        m_index.reset();
         notifyChanged(changed);
     }
 
     QList<Row> m_rows;
-    mutable KeyIndex m_index;
-    mutable bool m_isIndexed = false;
+    quint64 m_structure = 0;
+    /// Points into the rows.
+    mutable std::optional<KeyIndex> m_index;
 };

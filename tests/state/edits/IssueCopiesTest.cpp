@@ -1,6 +1,5 @@
 #include "state/edits/IssueCopies.h"
 
-#include "state/edits/ListedIssues.h"
 #include "state/recap/ActivitySamples.h"
 
 #include <gtest/gtest.h>
@@ -23,71 +22,51 @@ IssueList threeIssues()
 
 } // namespace
 
-TEST(ListedIssues, ChangesTheEntryAndSharesTheOthers)
+TEST(IssueCopies, AListSharesAllRecordsButTheChangedOne)
 {
     const IssueList before = threeIssues();
-    ListedIssues list(before);
-    EXPECT_TRUE(list.change({{u"A-2"_s, retitle}}));
-    ASSERT_EQ(list.issues().size(), 3);
-    EXPECT_EQ(list.issues()[1]->summary, u"Autre");
-    EXPECT_TRUE(list.issues()[0].isSameObject(before[0]));
-    EXPECT_TRUE(list.issues()[2].isSameObject(before[2]));
+    const auto after = changedInList(before, {{u"A-2"_s, retitle}});
+    ASSERT_TRUE(after);
+    ASSERT_EQ(after->size(), 3);
+    EXPECT_EQ(after->at(1)->summary, u"Autre");
+    EXPECT_TRUE(after->at(0).isSameObject(before[0]));
+    EXPECT_TRUE(after->at(2).isSameObject(before[2]));
     EXPECT_EQ(before[1]->summary, u"Titre 2");
 }
 
-TEST(ListedIssues, ChangesOnlyTheFirstEntryWithTheKey)
+TEST(IssueCopies, EveryCopyOfAnIssueThatAListHoldsTwiceIsChanged)
 {
     IssueList before = threeIssues();
     before.append(before[1]);
-    ListedIssues list(before);
-    list.change({{u"A-2"_s, retitle}});
-    EXPECT_EQ(list.issues()[1]->summary, u"Autre");
-    EXPECT_TRUE(list.issues()[3].isSameObject(before[3]));
+    const auto after = changedInList(before, {{u"A-2"_s, retitle}});
+    ASSERT_TRUE(after);
+    EXPECT_EQ(after->at(1)->summary, u"Autre");
+    EXPECT_EQ(after->at(3)->summary, u"Autre");
 }
 
-TEST(ListedIssues, AKeyThatIsNowhereIsNoError)
+TEST(IssueCopies, AKeyThatIsNowhereIsNoError)
 {
-    ListedIssues list(threeIssues());
-    EXPECT_FALSE(list.change({{u"B-1"_s, retitle}}));
-    EXPECT_FALSE(ListedIssues().change({{u"B-1"_s, retitle}}));
+    EXPECT_EQ(changedInList(threeIssues(), {{u"B-1"_s, retitle}}), std::nullopt);
+    EXPECT_EQ(changedInList({}, {{u"B-1"_s, retitle}}), std::nullopt);
     EXPECT_EQ(changedInDetails({}, {{u"B-1"_s, retitle}}), std::nullopt);
 }
 
-TEST(ListedIssues, AChangeThatChangesNothingGivesNothingToNotify)
+TEST(IssueCopies, AChangeThatChangesNothingGivesNothingToNotify)
 {
-    ListedIssues list(threeIssues());
-    EXPECT_FALSE(list.change({{u"A-2"_s, leave}}));
+    EXPECT_EQ(changedInList(threeIssues(), {{u"A-2"_s, leave}}), std::nullopt);
     EXPECT_EQ(changedInDetails({{u"A-2"_s, Sample::issue(u"A-2"_s)}}, {{u"A-2"_s, leave}}),
               std::nullopt);
 }
 
-TEST(ListedIssues, ChangesSeveralIssuesAndFindsThemStill)
+TEST(IssueCopies, ChangesSeveralIssuesOfAList)
 {
-    const IssueChanges changes{{u"A-1"_s, retitle}, {u"A-2"_s, leave}, {u"A-3"_s, retitle}};
     const IssueList before = threeIssues();
-    ListedIssues list(before);
-    EXPECT_TRUE(list.change(changes));
-    EXPECT_EQ(list.issues()[0]->summary, u"Autre");
-    EXPECT_TRUE(list.issues()[1].isSameObject(before[1]));
-    EXPECT_EQ(list.issues()[2]->summary, u"Autre");
-    EXPECT_EQ(list.rowOf(u"A-3"_s), 2);
-    EXPECT_EQ(list.rowOf(u"A-4"_s), std::nullopt);
-}
-
-TEST(ListedIssues, FollowsWhatAnotherHolderOfTheListHasChanged)
-{
-    IssueList issues = threeIssues();
-    ListedIssues list(issues);
-    EXPECT_EQ(list.rowOf(u"A-2"_s), 1);
-    EXPECT_TRUE(list.isSharedWith(issues));
-    const SharedIssue *const place = issues.constData();
-    list.letGo();
-    // The key lies elsewhere in memory than before.
-    issues[1] = Sample::issue(u"A-%1"_s.arg(2));
-    list.follow(issues, {1});
-    EXPECT_EQ(issues.constData(), place) << "changed in place, not copied";
-    EXPECT_TRUE(list.isSharedWith(issues));
-    EXPECT_EQ(list.rowOf(u"A-2"_s), 1);
+    const auto after =
+        changedInList(before, {{u"A-1"_s, retitle}, {u"A-2"_s, leave}, {u"A-3"_s, retitle}});
+    ASSERT_TRUE(after);
+    EXPECT_EQ(after->at(0)->summary, u"Autre");
+    EXPECT_TRUE(after->at(1).isSameObject(before[1]));
+    EXPECT_EQ(after->at(2)->summary, u"Autre");
 }
 
 TEST(IssueCopies, ChangesTheDetails)

@@ -220,6 +220,39 @@ TEST_F(IssueListModelTest, AnIssueDueYesterdayIsOverdueUnlessItIsClosed)
     EXPECT_EQ(at(model.rowOfKey(u"W-3"_s), IssueListModel::IsOverdueRole), false);
 }
 
+TEST_F(IssueListModelTest, InTheMidstOfAnUpdateEveryRowKnowsItsHeader)
+{
+    model.setGroups(twoGroups(), {});
+    int asked = 0;
+    const auto ask = [&] {
+        ++asked;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const int header = model.headerRowOf(row);
+            ASSERT_GE(header, 0);
+            EXPECT_NE(model.rows()[header].header(), nullptr) << row;
+            EXPECT_FALSE(at(row, IssueListModel::AccessibleNameRole).toString().isEmpty());
+        }
+    };
+    const QObject context;
+    QObject::connect(&model, &QAbstractItemModel::rowsRemoved, &context, ask);
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, &context, ask);
+    QObject::connect(&model, &QAbstractItemModel::rowsMoved, &context, ask);
+    model.setGroups(groupsOf({issueOf(u"W-0"_s, done()), issueOf(u"W-4"_s, inProgress()),
+                              issueOf(u"W-2"_s, todo()), issueOf(u"W-3"_s, done())}),
+                    {});
+    EXPECT_GE(asked, 3);
+}
+
+TEST_F(IssueListModelTest, EqualRowsSayNothing)
+{
+    model.setGroups(twoGroups(), {});
+    const int revision = model.revision();
+    const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    model.setGroups(twoGroups(), {});
+    EXPECT_EQ(changed.count(), 0);
+    EXPECT_EQ(model.revision(), revision);
+}
+
 TEST_F(IssueListModelTest, RandomListsReplayExactlyAndNeverReset)
 {
     ShadowList shadow(model, IssueListModel::KeyRole);
