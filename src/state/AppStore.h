@@ -12,6 +12,7 @@
 #include "state/AppStoreContext.h"
 #include "state/AppStorePreferences.h"
 #include "state/PendingWrites.h"
+#include "state/RecapMemos.h"
 #include "state/edits/CommentAudience.h"
 #include "state/edits/IssueCopies.h"
 #include "state/edits/OptimisticEdit.h"
@@ -236,7 +237,9 @@ public:
     void openAddress(const QUrl &address);
 
     // Recap; outside of one nothing of it does anything ------------------------------------------------------------------
-    ActivitySummary activitySummary() const;
+    const ActivitySummary &activitySummary() const;
+    /// How often each part was computed tells whether a read did any work.
+    const RecapMemos &recapMemos() const { return m_recap; }
     /// Empty outside a recap.
     const ActivityHeaderData &activityHeader() const { return *m_activityHeader; }
     /// Copies a report in Markdown.
@@ -362,7 +365,9 @@ private:
     // AppStoreRecap.cpp
     void turnTo(const ActivityPeriod &period);
     void refreshActivityHeader();
+    void refreshBadges();
     const StatusLookup &statusLookup() const;
+    const QHash<QString, JiraUser> &badgeUsers() const;
     // AppStoreToasts.cpp
     void report(const TaskFailure &failure);
     void reportRefusal(const TaskFailure &failure);
@@ -399,13 +404,11 @@ private:
     Observed<AppStore, QString> m_countHint{this, &AppStore::countHintChanged};
     Observed<AppStore, QDateTime> m_now{this, &AppStore::nowChanged, Time, m_context.clock.now()};
     Observed<AppStore, ActivityHeaderData> m_activityHeader{this, &AppStore::activityHeaderChanged};
-    /// Made when they are asked for.
-    mutable StatusSources m_statusSources;
-    mutable StatusLookup m_statusLookup{m_statusSources};
-    mutable std::optional<QHash<QString, JiraUser>> m_badgeUsers;
-    /// What the models show; nothing yet at 0.
+    mutable RecapMemos m_recap;
+    /// What the models show; nothing yet at 0. Badges: the statuses and the users that they were told from.
     std::pair<quint64, QSet<QString>> m_fedGroups;
     quint64 m_fedBoard = 0;
+    std::pair<quint64, quint64> m_fedBadges;
     IssueListModel m_issueList{m_context.calendar, *m_now};
     BoardModel m_board{m_context.calendar, *m_now};
     SidebarModel m_sidebar;

@@ -42,8 +42,6 @@ IssueDerivationInputs AppStore::derivationInputs() const
 
 void AppStore::flush(unsigned what)
 {
-    if (what & (List | Sidebar | People))
-        m_badgeUsers.reset();
     if (what & List)
         feedLists();
     if (what & Marks)
@@ -61,7 +59,7 @@ void AppStore::flush(unsigned what)
     if (what & (List | Sidebar | Time))
         refreshActivityHeader();
     if (!isBoardInSight && (what & (List | Sidebar | People)))
-        m_issueList.refreshBadges();
+        refreshBadges();
 }
 
 void AppStore::feedLists()

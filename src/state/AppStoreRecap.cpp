@@ -10,17 +10,21 @@ IssueStatus AppStore::statusNamed(const QString &name, const QString &projectKey
 
 const StatusLookup &AppStore::statusLookup() const
 {
-    const StatusSources sources{*m_projectStatuses, *m_issues, *m_myOpenIssues};
-    if (sources != m_statusSources) {
-        m_statusLookup = StatusLookup(sources);
-        m_statusSources = sources;
-    }
-    return m_statusLookup;
+    const Memo<StatusLookup>::Sources sources{m_projectStatuses.version(), m_issues.version(),
+                                              m_myOpenIssues.version()};
+    const auto compute = [this] {
+        return StatusLookup({*m_projectStatuses, *m_issues, *m_myOpenIssues});
+    };
+    return m_recap.statuses.refreshed(sources, compute).value;
 }
 
-ActivitySummary AppStore::activitySummary() const
+const ActivitySummary &AppStore::activitySummary() const
 {
-    return ::activitySummary(visibleIssues(), statusLookup());
+    const StatusLookup &statuses = statusLookup();
+    const auto compute = [&] { return ::activitySummary(visibleIssues(), statuses); };
+    return m_recap.summary
+        .refreshed({derivation().visibleVersion(), m_recap.statuses.version}, compute)
+        .value;
 }
 
 void AppStore::copyActivityRecap()
@@ -74,7 +78,28 @@ std::optional<ActivityBadge> AppStore::badgeOf(const Issue &issue) const
 {
     if (!m_scope->asActivity())
         return std::nullopt;
-    if (!m_badgeUsers)
-        m_badgeUsers = usersByName(mentionCandidates());
-    return activityBadge(issue, statusLookup(), *m_badgeUsers, m_context.calendar);
+    return activityBadge(issue, statusLookup(), badgeUsers(), m_context.calendar);
+}
+
+const QHash<QString, JiraUser> &AppStore::badgeUsers() const
+{
+    // People become known when a project's assignable users arrive, or when a search finds new ones.
+    const Memo<QHash<QString, JiraUser>>::Sources sources{derivation().menusVersion(),
+                                                          m_me.version(), m_assignables.version(),
+                                                          quint64(m_knownUsers.size())};
+    const auto compute = [this] { return usersByName(mentionCandidates()); };
+    return m_recap.users.refreshed(sources, compute).value;
+}
+
+/// Has the rows tell their badges anew where what badges are told from has changed.
+void AppStore::refreshBadges()
+{
+    std::pair<quint64, quint64> shown;
+    if (m_scope->asActivity()) {
+        statusLookup();
+        badgeUsers();
+        shown = {m_recap.statuses.version, m_recap.users.version};
+    }
+    if (std::exchange(m_fedBadges, shown) != shown)
+        m_issueList.refreshBadges();
 }

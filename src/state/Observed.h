@@ -2,6 +2,8 @@
 
 #include "state/Batched.h"
 
+#include <QtGlobal>
+
 #include <type_traits>
 #include <utility>
 
@@ -21,6 +23,9 @@ public:
     Observed(const Observed &) = delete;
     Observed &operator=(const Observed &) = delete;
 
+    /// Grows with each change, from 1.
+    quint64 version() const { return m_version; }
+
     const T &operator*() const { return m_value; }
     const T *operator->() const { return &m_value; }
 
@@ -30,6 +35,7 @@ public:
         if (m_value == value)
             return false;
         m_value = std::move(value);
+        ++m_version;
         const Batched::Batch batch(*m_owner);
         m_owner->markStale(m_stale);
         (m_owner->*m_notify)();
@@ -56,5 +62,6 @@ private:
     Owner *m_owner;
     Notify m_notify;
     unsigned m_stale;
+    quint64 m_version = 1;
     T m_value;
 };

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -46,6 +47,13 @@ protected:
             .value<IssueListBadge>();
     }
 
+    /// Of the statuses, the summary and the users.
+    QList<int> computations() const
+    {
+        const RecapMemos &memos = store->recapMemos();
+        return {memos.statuses.computations, memos.summary.computations, memos.users.computations};
+    }
+
     const JiraUser Maud = Sample::user(u"u2"_s, u"Maud Kervella"_s);
     const IssueList Issues = {
         Sample::issue(u"WEB-1"_s, {Sample::createdEvent(26, Maud),
@@ -80,6 +88,53 @@ TEST_F(AppStoreRecapTest, aPeriodWithNoEventsGivesItsTitleAndASentence)
     EXPECT_EQ(lines[1], QString());
     EXPECT_EQ(lines[2], u"_Aucune activité sur la période._"_s);
     EXPECT_EQ(store->toasts().last().message, u"Récap copié"_s);
+}
+
+TEST_F(AppStoreRecapTest, readsWithoutAChangeComputeNothing)
+{
+    const auto counts = computations();
+    store->activitySummary();
+    badge(u"WEB-3"_s);
+    badge(u"WEB-4"_s);
+    store->copyActivityRecap();
+    clock.advance(60s);
+    EXPECT_EQ(computations(), counts);
+}
+
+TEST_F(AppStoreRecapTest, anEditCostsOnePassOverTheEventsAtMost)
+{
+    const QSignalSpy badges(store->issueList(), &QAbstractItemModel::dataChanged);
+    const auto counts = computations();
+    store->rename(u"WEB-3"_s, u"Autre titre"_s);
+    badge(u"WEB-3"_s);
+    store->activitySummary();
+    EXPECT_EQ(store->recapMemos().summary.computations, counts[1] + 1);
+    EXPECT_EQ(store->recapMemos().statuses.computations, counts[0] + 1);
+    for (const auto &change : badges)
+        EXPECT_NE(change.at(2).value<QList<int>>(), QList<int>{IssueListModel::BadgeRole})
+            << "the badges of all rows are what they were";
+}
+
+TEST_F(AppStoreRecapTest, theSummaryIsThatOfTheVisibleIssuesAfterEveryChange)
+{
+    const auto plain = [this] {
+        return activitySummary(
+            store->visibleIssues(),
+            StatusLookup({store->projectStatuses(), store->issues(), store->myOpenIssues()}));
+    };
+    const IssueStatus odd(u"42"_s, u"Terminé"_s, u"indeterminate"_s);
+    EXPECT_EQ(store->activitySummary(), plain());
+    store->setStatus(odd, {u"WEB-2"_s});
+    EXPECT_EQ(store->activitySummary(), plain());
+    store->setFilterText(u"WEB-1"_s);
+    EXPECT_EQ(store->activitySummary(), plain());
+    store->setFilterText({});
+    answerEverything();
+    service->statusesCalls.answerWith({odd});
+    const TaskResult<void> met(store->loadProjectMeta(u"WEB"_s));
+    EXPECT_EQ(store->activitySummary(), plain());
+    show(IssueScope::activity(week(-1)), {Issues[2], Issues[0]});
+    EXPECT_EQ(store->activitySummary(), plain());
 }
 
 TEST_F(AppStoreRecapTest, aFilterNarrowsTheCountersAndTheReport)

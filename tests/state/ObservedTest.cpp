@@ -34,6 +34,15 @@ TEST(ObservedTest, aFieldSetTwiceNotifiesOnce)
     EXPECT_EQ(owner.log, "nf");
 }
 
+TEST(ObservedTest, theVersionGrowsWithEachChangeAndOnlyThen)
+{
+    Owner owner;
+    const auto before = owner.number.version();
+    owner.number.set(3);
+    owner.number.set(3);
+    EXPECT_EQ(owner.number.version(), before + 1);
+}
+
 TEST(ObservedTest, aWriteOutsideABatchIsFlushedAtOnceWithItsFlag)
 {
     Owner owner;

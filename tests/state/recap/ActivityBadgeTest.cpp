@@ -10,7 +10,7 @@ using namespace Sample;
 
 namespace {
 
-const StatusLookup noStatuses({});
+const StatusLookup noStatuses;
 const JiraUser nora = user(u"u1"_s, u"Nora Valmy"_s);
 
 std::optional<ActivityBadge> badge(const QList<ActivityEvent> &events,

@@ -9,7 +9,7 @@ using namespace Sample;
 
 namespace {
 
-const StatusLookup noStatuses({});
+const StatusLookup noStatuses;
 
 Issue assigned(Issue issue, const QString &name)
 {

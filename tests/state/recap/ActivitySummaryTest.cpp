@@ -9,7 +9,7 @@ using namespace Sample;
 
 namespace {
 
-const StatusLookup noStatuses({});
+const StatusLookup noStatuses;
 
 QStringList keys(const IssueList &issues)
 {

@@ -57,7 +57,7 @@ TEST(StatusLookup, ThenAnIssuesStatusTheListBeforeMyOpenIssues)
 
 TEST(StatusLookup, ANameThatNoProjectKnowsGivesAGuessedStatus)
 {
-    const IssueStatus status = StatusLookup({}).named(u"Staging"_s, u"AAA"_s);
+    const IssueStatus status = StatusLookup().named(u"Staging"_s, u"AAA"_s);
     EXPECT_EQ(status.id(), u"name:staging");
     EXPECT_EQ(status.name(), u"Staging");
 }
