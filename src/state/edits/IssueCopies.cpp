@@ -9,11 +9,23 @@ std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &
     return SharedIssue(std::move(copy));
 }
 
+namespace {
+
+/// Comparing with the key of a single change costs less than hashing the key of every issue.
+IssueChanges::const_iterator changeOf(const QString &key, const IssueChanges &changes)
+{
+    if (changes.size() == 1)
+        return changes.cbegin().key() == key ? changes.cbegin() : changes.cend();
+    return changes.constFind(key);
+}
+
+} // namespace
+
 std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes)
 {
     std::optional<IssueList> result;
     for (qsizetype row = 0; row < issues.size(); ++row) {
-        const auto change = changes.constFind(issues[row]->key);
+        const auto change = changeOf(issues[row]->key, changes);
         auto replacement = change == changes.cend() ? std::nullopt : changed(issues[row], *change);
         if (!replacement)
             continue;
