@@ -89,15 +89,17 @@ std::vector<RowRange> removedRanges(int countBefore, const std::vector<int> &ear
 }
 
 /// The kept rows in new order, each as its position among the kept rows in old order.
-std::vector<int> permutation(const std::vector<int> &earlier)
+std::vector<int> permutation(int countBefore, const std::vector<int> &earlier)
 {
     std::vector<int> kept;
     std::copy_if(earlier.begin(), earlier.end(), std::back_inserter(kept),
                  [](int row) { return row != absent; });
-    auto sorted = kept;
-    std::sort(sorted.begin(), sorted.end());
+    std::vector<int> positions(countBefore, 0);
+    for (const int row : kept)
+        positions[row] = 1;
+    std::exclusive_scan(positions.begin(), positions.end(), positions.begin(), 0);
     for (auto &row : kept)
-        row = int(std::lower_bound(sorted.begin(), sorted.end(), row) - sorted.begin());
+        row = positions[row];
     return kept;
 }
 
@@ -213,7 +215,7 @@ RowDiff rowDiff(const std::vector<QStringView> &before, const std::vector<QStrin
     diff.removals = removedRanges(int(before.size()), earlier);
     diff.insertions =
         rangesWhere(int(after.size()), [&earlier](int row) { return earlier[row] == absent; });
-    const auto order = permutation(earlier);
+    const auto order = permutation(int(before.size()), earlier);
     const auto moving = movingRanges(order);
     if (diff.removals.size() + diff.insertions.size() + moving.size() >
         std::size_t(maxRowDiffSteps))
