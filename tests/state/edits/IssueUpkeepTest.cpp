@@ -37,6 +37,20 @@ TEST(IssueUpkeepTest, openIssuesComeByStatusThenPriorityThenAsGiven)
     EXPECT_EQ(keysOf(openIssues(issues)), QStringList({u"G"_s, u"C"_s, u"A"_s, u"D"_s, u"B"_s}));
 }
 
+TEST(IssueUpkeepTest, ofIssuesWithOneKeyTheFirstIsKept)
+{
+    const IssueList issues = {issueWith(u"A"_s, u"À faire"_s), issueWith(u"B"_s, u"À faire"_s),
+                              issueWith(u"A"_s, u"Terminé"_s), issueWith(u"C"_s, u"À faire"_s),
+                              issueWith(u"B"_s, u"Terminé"_s), issueWith(u"A"_s, u"En cours"_s)};
+
+    const IssueList once = withoutRepeatedKeys(issues);
+
+    ASSERT_EQ(keysOf(once), QStringList({u"A"_s, u"B"_s, u"C"_s}));
+    EXPECT_TRUE(once[0].isSameObject(issues[0]));
+    EXPECT_TRUE(once[1].isSameObject(issues[1]));
+    EXPECT_TRUE(withoutRepeatedKeys({}).isEmpty());
+}
+
 TEST(IssueUpkeepTest, noIssuesAreNoOpenIssues)
 {
     EXPECT_TRUE(openIssues({}).isEmpty());
