@@ -4,6 +4,7 @@
 #include "demo/DemoSources.h"
 #include "model/IssueService.h"
 #include "platform/Clock.h"
+#include "platform/SystemCalendar.h"
 
 #include <QObject>
 

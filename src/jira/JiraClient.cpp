@@ -33,7 +33,7 @@ QString JiraClient::siteName() const
 
 std::optional<qsizetype> JiraClient::listLimit(const IssueScope &scope) const
 {
-    return searchFor(scope, m_clock.now(), m_calendar).search.limit;
+    return searchFor(scope, m_clock.now(), m_calendar.current()).search.limit;
 }
 
 std::optional<QUrl> JiraClient::browseURL(const QString &key) const

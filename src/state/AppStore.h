@@ -46,11 +46,6 @@ class AppStore : public AppStorePreferences
     Q_PROPERTY(bool showInspector READ showInspector WRITE setShowInspector NOTIFY
                    inspectorKeyChanged FINAL)
     // What is made from the fields
-    Q_PROPERTY(QString scopeTitle READ scopeTitle NOTIFY scopeTitleChanged FINAL)
-    Q_PROPERTY(int visibleCount READ visibleCount NOTIFY visibleCountChanged FINAL)
-    Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged FINAL)
-    Q_PROPERTY(QString listAge READ listAge NOTIFY listAgeChanged FINAL)
-    Q_PROPERTY(QString countHint READ countHint NOTIFY countHintChanged FINAL)
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged FINAL)
     Q_PROPERTY(
         ActivityHeaderData activityHeader READ activityHeader NOTIFY activityHeaderChanged FINAL)
@@ -125,15 +120,6 @@ public:
     const VisiblePath &visiblePath() const { return derivation().visiblePath(); }
     /// All of the above and what the filter menus offer.
     const IssueDerivation &derivation() const;
-    const QString &scopeTitle() const { return *m_scopeTitle; }
-    int visibleCount() const { return *m_visibleCount; }
-    /// "13 tickets", and whether a refresh is under way.
-    const QString &subtitle() const { return *m_subtitle; }
-    /// "il y a 12 min": when the list on the screen was fetched, while refreshing it fails; empty otherwise. The reason is
-    /// `loadError`.
-    const QString &listAge() const { return *m_listAge; }
-    /// Says that the site gave only a part of a long list; empty otherwise.
-    const QString &countHint() const { return *m_countHint; }
     /// The present to the minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
@@ -260,14 +246,9 @@ public:
     Q_INVOKABLE void cycleAppearance();
 
 Q_SIGNALS:
-    void scopeTitleChanged();
-    void visibleCountChanged();
-    void subtitleChanged();
     void nowChanged();
     void calendarChanged();
     void activityHeaderChanged();
-    void listAgeChanged();
-    void countHintChanged();
     /// The site did not take a change; `reason` is the text of the toast.
     void writeRefused(const QString &reason);
     /// Asks for the window of an issue of its own.
@@ -346,6 +327,8 @@ private:
     using TargetKeys = std::optional<QStringList>;
     /// False when there was nothing to do.
     bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
+    bool carryOutOnIssues(Command command, const TargetKeys &keys);
+    void carryOutInWindow(Command command);
     void openPicker(PickerKind kind, const TargetKeys &keys);
     void togglePalette();
     void assignToMe(const TargetKeys &keys);
@@ -397,11 +380,6 @@ private:
 
     /// Follows the fields when it is read and when a batch ends.
     mutable IssueDerivation m_derivation;
-    Observed<AppStore, QString> m_scopeTitle{this, &AppStore::scopeTitleChanged};
-    Observed<AppStore, int> m_visibleCount{this, &AppStore::visibleCountChanged};
-    Observed<AppStore, QString> m_subtitle{this, &AppStore::subtitleChanged};
-    Observed<AppStore, QString> m_listAge{this, &AppStore::listAgeChanged};
-    Observed<AppStore, QString> m_countHint{this, &AppStore::countHintChanged};
     Observed<AppStore, QDateTime> m_now{this, &AppStore::nowChanged, Time, m_context.clock.now()};
     Observed<AppStore, ActivityHeaderData> m_activityHeader{this, &AppStore::activityHeaderChanged};
     mutable RecapMemos m_recap;

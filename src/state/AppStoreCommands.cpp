@@ -46,60 +46,73 @@ bool AppStore::carryOut(Command command, const TargetKeys &keys, FocusMove move)
         return toggleFocusedCheck();
     case Command::MoveDown:
         moveFocus(1, move);
-        break;
+        return true;
     case Command::MoveUp:
         moveFocus(-1, move);
-        break;
-    case Command::NewIssue:
-        newIssue();
-        break;
-    case Command::ToggleInspector:
-        togglePeek();
-        break;
+        return true;
+    default:
+        if (!carryOutOnIssues(command, keys))
+            carryOutInWindow(command);
+        return true;
+    }
+}
+
+/// The commands that take issues. False for the others.
+bool AppStore::carryOutOnIssues(Command command, const TargetKeys &keys)
+{
+    switch (command) {
     case Command::PickStatus:
     case Command::PickPriority:
     case Command::PickAssignee:
     case Command::PickLabels:
         openPicker(*pickerOf(command), keys);
-        break;
+        return true;
     case Command::AssignToMe:
         assignToMe(keys);
-        break;
+        return true;
     case Command::CopyKeys:
         copyKeys(keys);
-        break;
+        return true;
     case Command::CopyBranch:
         copyBranch(firstOf(keys));
-        break;
+        return true;
     case Command::CopyLink:
         copyLink(firstOf(keys));
-        break;
+        return true;
     case Command::OpenInBrowser:
         openInBrowser(firstOf(keys));
-        break;
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The commands that concern the window as a whole.
+void AppStore::carryOutInWindow(Command command)
+{
+    switch (command) {
+    case Command::NewIssue:
+        return newIssue();
+    case Command::ToggleInspector:
+        return togglePeek();
     case Command::ShowList:
-        setLayout(LayoutMode::List);
-        break;
+        return setLayout(LayoutMode::List);
     case Command::ShowBoard:
-        setLayout(LayoutMode::Board);
-        break;
+        return setLayout(LayoutMode::Board);
     case Command::ToggleCompleted:
-        setShowCompleted(!*m_showCompleted);
-        break;
+        return setShowCompleted(!*m_showCompleted);
     case Command::TogglePalette:
-        togglePalette();
-        break;
+        return togglePalette();
     case Command::CycleAppearance:
-        cycleAppearance();
-        break;
+        return cycleAppearance();
     case Command::Reload:
-        refresh();
-        break;
+        return refresh();
     case Command::OpenSettings:
         Q_EMIT settingsRequested();
-        break;
+        return;
+    default:
+        return;
     }
-    return true;
 }
 
 void AppStore::openPicker(PickerKind kind, const TargetKeys &keys)

@@ -68,6 +68,12 @@ class AppStoreFields : public QObject, public Batched
         QString filterText READ filterText WRITE setFilterText NOTIFY filterTextChanged FINAL)
     Q_PROPERTY(IssueFilters filters READ filters NOTIFY filtersChanged FINAL)
     Q_PROPERTY(bool isCreating READ isCreating WRITE setIsCreating NOTIFY isCreatingChanged FINAL)
+    // Captions of the list, made from other fields
+    Q_PROPERTY(QString scopeTitle READ scopeTitle NOTIFY scopeTitleChanged FINAL)
+    Q_PROPERTY(int visibleCount READ visibleCount NOTIFY visibleCountChanged FINAL)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged FINAL)
+    Q_PROPERTY(QString listAge READ listAge NOTIFY listAgeChanged FINAL)
+    Q_PROPERTY(QString countHint READ countHint NOTIFY countHintChanged FINAL)
 
 public:
     enum class Phase { Launching, SignedOut, Ready };
@@ -142,6 +148,16 @@ public:
     /// The project that the create screen was asked for.
     const std::optional<QString> &createProjectKey() const { return *m_createProjectKey; }
 
+    const QString &scopeTitle() const { return *m_scopeTitle; }
+    int visibleCount() const { return *m_visibleCount; }
+    /// "13 tickets", and whether a refresh is under way.
+    const QString &subtitle() const { return *m_subtitle; }
+    /// "il y a 12 min": when the list on the screen was fetched, while refreshing it fails; empty otherwise. The reason is
+    /// `loadError`.
+    const QString &listAge() const { return *m_listAge; }
+    /// Says that the site gave only a part of a long list; empty otherwise.
+    const QString &countHint() const { return *m_countHint; }
+
     /// Those now shown, oldest first.
     const QList<Toast> &toasts() const { return *m_toasts; }
 
@@ -175,6 +191,11 @@ Q_SIGNALS:
     void isCreatingChanged();
     void createProjectKeyChanged();
     void toastsChanged();
+    void scopeTitleChanged();
+    void visibleCountChanged();
+    void subtitleChanged();
+    void listAgeChanged();
+    void countHintChanged();
 
 protected:
     template <typename T>
@@ -223,6 +244,11 @@ protected:
     Field<bool> m_isCreating{this, &This::isCreatingChanged};
     Field<std::optional<QString>> m_createProjectKey{this, &This::createProjectKeyChanged};
     Field<QList<Toast>> m_toasts{this, &This::toastsChanged, ToastRows};
+    Field<QString> m_scopeTitle{this, &This::scopeTitleChanged};
+    Field<int> m_visibleCount{this, &This::visibleCountChanged};
+    Field<QString> m_subtitle{this, &This::subtitleChanged};
+    Field<QString> m_listAge{this, &This::listAgeChanged};
+    Field<QString> m_countHint{this, &This::countHintChanged};
 
 private:
     bool hasMe() const { return m_me->has_value(); }

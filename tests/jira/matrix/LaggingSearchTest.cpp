@@ -5,6 +5,7 @@
 #include "state/AppStore.h"
 #include "state/ScriptedSessions.h"
 #include "support/FakeDesktop.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
@@ -67,13 +68,13 @@ protected:
     Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
     FakeDesktop desktop;
     ScriptedSessions sessions;
-    UserCalendar calendar{QLocale(QLocale::French, QLocale::France), QTimeZone("Europe/Paris")};
+    ManualCalendar calendar;
     std::optional<AppStore> store{std::in_place,
                                   AppStoreContext{.clock = clock,
                                                   .preferences = preferences,
                                                   .desktop = desktop,
                                                   .sessions = sessions,
-                                                  .calendar = calendar,
+                                                  .calendar = calendar.current(),
                                                   .makeDemo = [this] { return newSession(); }}};
     QString key;
 };
