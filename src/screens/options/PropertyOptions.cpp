@@ -11,9 +11,7 @@ void PropertyOptions::setStore(AppStore *store)
         m_store->disconnect(this);
     m_store = store;
     if (m_store) {
-        for (const auto change : {&AppStore::issuesChanged, &AppStore::detailsChanged,
-                                  &AppStore::transitionsChanged, &AppStore::projectStatusesChanged,
-                                  &AppStore::assignablesChanged, &AppStore::prioritiesChanged})
+        for (const auto change : AppStore::optionSources)
             connect(m_store, change, this, &OptionSource::itemsChanged);
     }
     Q_EMIT storeChanged();

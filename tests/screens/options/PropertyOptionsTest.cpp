@@ -58,6 +58,15 @@ TEST_F(PropertyOptionsTest, AnItemIsCarriedOutByTheStore)
     EXPECT_GE(changed.count(), 1);
 }
 
+TEST_F(PropertyOptionsTest, TheItemsFollowTheUsersOwnOpenIssuesToo)
+{
+    QSignalSpy changed(&options, &OptionSource::itemsChanged);
+    service->issuesCalls.answerWith({sampleIssue(u"WEB-9"_s, u"En revue"_s)});
+    const TaskResult<void> refreshed(store->refreshMyIssues());
+    EXPECT_GE(changed.count(), 1);
+    EXPECT_TRUE(titles().contains(u"En revue"_s));
+}
+
 TEST_F(PropertyOptionsTest, TheCreateRowNamesTheLabelBetweenGuillemets)
 {
     EXPECT_EQ(options.createLabel(u"dette-tech"_s), u"Créer l'étiquette « dette-tech »"_s);
