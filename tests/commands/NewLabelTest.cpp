@@ -49,6 +49,12 @@ TEST(NewLabel, AccentsTellTwoLabelsApart)
         EXPECT_EQ(newLabel(u"été"_s, labels({u"ete"_s}), comparison), u"été"_s);
 }
 
+TEST(NewLabel, ALigatureTellsTwoLabelsApartThoughEachIsFoundByTheOther)
+{
+    for (const auto comparison : comparisons)
+        EXPECT_EQ(newLabel(u"oeuvre"_s, labels({u"œuvre"_s}), comparison), u"oeuvre"_s);
+}
+
 TEST(NewLabel, WhatIsComparedIsTheLabelOrTheTypedWords)
 {
     EXPECT_EQ(newLabel(u"bug fix"_s, labels({u"BUG-FIX"_s}), AsMade), std::nullopt);
