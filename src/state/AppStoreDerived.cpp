@@ -139,6 +139,8 @@ void AppStore::setCalendar(const UserCalendar &calendar)
     m_context.calendar = calendar;
     m_issueList.setCalendar(calendar);
     m_board.setCalendar(calendar);
+    // Badges name times, too.
+    m_fedBadges = {};
     markStale(List);
     Q_EMIT calendarChanged();
 }

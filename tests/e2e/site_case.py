@@ -18,7 +18,15 @@ class Simulator:
         self.email = re.search(r"E-mail\s+(\S+)", said).group(1)
         self.token = re.search(r"Token\s+(\S+)", said).group(1)
 
+    def pause(self):
+        """Answers nothing from now on."""
+        self._app.suspend()
+
+    def go_on(self):
+        self._app.resume()
+
     def cut(self):
+        self._app.resume()
         self._app.stop()
 
 

@@ -1,6 +1,7 @@
 """A program started in a session."""
 import os
 import re
+import signal
 import subprocess
 import time
 
@@ -51,6 +52,14 @@ class App:
                 self.proc.wait()
         self._log.close()
         return self.proc.returncode
+
+    def suspend(self):
+        """Stops the process without ending it; its connections stay open."""
+        self.proc.send_signal(signal.SIGSTOP)
+
+    def resume(self):
+        if self.running:
+            self.proc.send_signal(signal.SIGCONT)
 
     # windows
     def windows(self):

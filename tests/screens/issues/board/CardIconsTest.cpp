@@ -49,7 +49,7 @@ TEST(CardIcons, TheCellUnderThePointerHasAFillBelowAllElse)
     const Card card;
     const QRectF cell(12, 46, 22, 20);
 
-    const auto pictures = card.pictures({}, {cell, {}, 1});
+    const auto pictures = card.pictures({}, {cell, {}, PickerKind::Priority});
 
     ASSERT_EQ(pictures.size(), 4u);
     EXPECT_EQ(pictures.front().place, cell.topLeft());
