@@ -22,7 +22,7 @@ protected:
         settle();
     }
 
-    /// From the issues over the search field to the toolbar.
+    /// Moves the focus from the issues through the search field to the toolbar.
     void backToAButton()
     {
         press(Qt::Key_Backtab);
@@ -187,7 +187,7 @@ TEST_F(Accessibility, AReaderThatStartsLaterHearsWhichLayoutIsChosen)
 
 TEST_F(Accessibility, TheFocusGoesFromLeftToRightAndFromTopToBottom)
 {
-    // From the sidebar's list through the toolbar to the issues: each stop lies right of the one before, or lower.
+    // The order is the sidebar, the toolbar, the issues. Each stop is to the right of the previous one or below it.
     QList<QRectF> stops;
     for (int i = 0; i < 12; ++i) {
         press(Qt::Key_Tab);

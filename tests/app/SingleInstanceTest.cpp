@@ -69,7 +69,7 @@ TEST_F(SingleInstanceTest, AfterTheFirstHasEndedTheNextOneIsTheFirst)
 
 TEST_F(SingleInstanceTest, AFirstThatDoesNotAnswerCountsAsGone)
 {
-    // It holds the profile, but nothing turns its event loop here.
+    // It has locked the profile, but its event loop does not run here.
     SingleInstance one(profile, clock);
     one.start();
     SingleInstance two(profile, clock);

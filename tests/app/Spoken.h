@@ -6,7 +6,7 @@
 
 class QQuickWindow;
 
-/// One thing that a screen reader finds in a window.
+/// One element that a screen reader finds in a window.
 struct Spoken
 {
     QAccessible::Role role = QAccessible::NoRole;
@@ -14,12 +14,12 @@ struct Spoken
     QString description;
     QString value;
     QAccessible::State state;
-    /// In the window's coordinates, logical pixels.
+    /// In window coordinates, in logical pixels.
     QRect box;
 };
 
-/// Everything visible that a screen reader finds in a window, in the order of the tree.
+/// All visible elements that a screen reader finds in a window, in the order of the accessibility tree.
 QList<Spoken> spokenIn(QQuickWindow &window);
-/// The things of a role whose name contains a text.
+/// The elements of a role whose name contains a text.
 QList<Spoken> spokenIn(QQuickWindow &window, QAccessible::Role role,
                        const QString &nameContains = {});

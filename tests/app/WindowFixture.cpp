@@ -15,8 +15,8 @@ QStringList &warnings()
     return list;
 }
 
-/// What Qt says of its own platform without a screen, which has no status items, no order of windows and no window
-/// manager to tell of the smallest size.
+/// Warnings of Qt's offscreen platform, which supports neither status items nor raising a window, and has no window
+/// manager that could be told the minimum size.
 bool isAboutThePlatform(const QString &message)
 {
     return message.contains(u"systemTrayWindowChanged"_s) ||

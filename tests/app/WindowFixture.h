@@ -14,22 +14,23 @@
 
 #include <gtest/gtest.h>
 
-/// An issue as a list has it: updated on 28 October 2026, without priority, assignee, labels and due date.
+/// An issue as a list contains it: updated on 28 October 2026, without priority, assignee, labels and due date.
 Issue issueWithKey(const QString &key, const QString &statusName = QStringLiteral("À faire"));
 
-/// The whole program but its entry, in a real window, on a world that the test sets. Fails on any warning of QML.
+/// The whole program except its `main`, in a real window, with fake services that the test controls. The test fails on
+/// any QML warning.
 class WindowFixture : public testing::Test
 {
 protected:
     WindowFixture();
     ~WindowFixture() override;
 
-    /// Opens the window; with `demoMode` stored, straight on a session whose service answers at once.
+    /// Opens the window with `demoMode` stored, so that a session begins immediately. Its service responds at once.
     void openOnDemo();
     void openSignedOut();
-    /// What an earlier start left behind; without a token as after a sign-out. To be called before opening.
+    /// Stores the credentials of an earlier run. An empty token is the state after a sign-out. Call it before opening.
     void saveCredentials(const QString &site, const QString &email, const QString &token);
-    /// The list that the service gives from now on; shown after the next reload.
+    /// Sets the list that the service returns from now on. It is shown after the next reload.
     void serve(const QStringList &keys, const QString &statusName = QStringLiteral("À faire"));
     void serveIssues(const IssueList &issues);
     void reload();
@@ -38,15 +39,15 @@ protected:
     void type(const QString &text);
     void click(const Spoken &thing, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void rightClick(const Spoken &thing);
-    /// Waits until two frames were shown: what is new stands at its place only then.
+    /// Waits until two frames were shown, because new items have their final position only then.
     void settle();
-    /// Waits for the only thing of this role and name; the test fails when it does not come.
+    /// Waits for the only element of this role and name. The test fails if it does not appear.
     Spoken await(QAccessible::Role role, const QString &nameContains);
-    /// Waits until nothing of this role and name is left.
+    /// Waits until no element of this role and name is left.
     bool isGone(QAccessible::Role role, const QString &nameContains);
-    /// The only thing of this role and name; the test fails when there is none, or more than one.
+    /// The only element of this role and name. The test fails if there is none or more than one.
     Spoken find(QAccessible::Role role, const QString &nameContains);
-    /// The keys of the issues whose rows are in the window, from top to bottom.
+    /// The keys of the issues with rows in the window, from top to bottom.
     QStringList rowsShown();
 
     QString lastCopied() const { return desktop->copied.value(desktop->copied.size() - 1); }
@@ -61,10 +62,10 @@ protected:
     FakeDesktop *desktop = nullptr;
     FakeStatusHost *statusHost = nullptr;
     FakeKeychain *keychain = nullptr;
-    /// Scripts the world that the window is about to open on.
+    /// Configures the fake services just before the window opens.
     std::function<void()> beforeOpening;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();
-    /// The credentials that sessions on sites were opened with, in order.
+    /// The credentials with which sessions on sites were opened, in order.
     QList<JiraCredentials> clientsMade;
     std::unique_ptr<VelmoraApp> app;
 
