@@ -77,7 +77,7 @@ TEST_F(FarewellTest, transitionsThatWaitForTheirTurnAreWaitedForToo)
     const int before = service->transitionsCalls.count();
     store->setStatus(done, keys);
     farewell->begin(Farewell::Reason::User);
-    // Of each transition first the moves that are offered, and at its end again.
+    // Each change of status requests the available transitions twice: before the change and after it.
     for (int i = before; i < before + 19; ++i)
         service->transitionsCalls[i].finish({{u"t"_s, u"Terminer"_s, done}});
     EXPECT_EQ(ended->count(), 0);

@@ -21,7 +21,7 @@ void collect(const QQuickItem *item, QStringList &hints)
         collect(child, hints);
 }
 
-/// What stands in brackets: keys, as no other hint has brackets.
+/// The texts in brackets. They are keys, because hints use brackets for nothing else.
 QStringList keysIn(const QString &hint)
 {
     static const QRegularExpression brackets(u"\\(([^)]+)\\)"_s);
@@ -31,7 +31,7 @@ QStringList keysIn(const QString &hint)
     return keys;
 }
 
-/// Every way in which the tables write a key, in this system's words.
+/// The text of every key in the tables, with the key names of this platform.
 QStringList keysOfTheTables()
 {
     QStringList keys;

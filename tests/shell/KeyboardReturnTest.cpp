@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// What has the keyboard goes away under it: then the issues have it.
+/// When the item with the keyboard focus disappears, the list of issues gets the focus.
 class KeyboardReturn : public WindowFixture
 {
 protected:
@@ -17,7 +17,7 @@ protected:
         settle();
     }
 
-    /// Walks by Tab to the button whose name begins so.
+    /// Presses Tab until a button whose name begins with `name` has the focus.
     void tabTo(const QString &name)
     {
         for (int steps = 0; steps < 60 && !nameOfFocus().startsWith(name); ++steps)
@@ -30,7 +30,7 @@ protected:
         auto *spoken = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
         return spoken ? spoken->text(QAccessible::Name) : QString();
     }
-    /// The key of context menus is the list's own, unlike those that the window takes for it.
+    /// The list itself handles the context-menu key. Other keys are handled by the window on behalf of the list.
     void expectTheListAnswers()
     {
         press(Qt::Key_Menu);

@@ -256,6 +256,6 @@ TEST_F(MainWindow, WithIssuesCheckedTheToastsStandOverTheMiddleOfTheIssues)
     store().cycleAppearance();
     const auto toast = await(QAccessible::Button, u"Apparence"_s);
 
-    // Halfway from the sidebar, which ends at 240, to the inspector, which begins at 820.
+    // Halfway between the sidebar, which ends at 240, and the inspector, which begins at 820.
     EXPECT_NEAR(toast.box.center().x(), 530, 1);
 }

@@ -21,7 +21,7 @@ bool isShown(const QImage &picture, const QColor &color)
     return false;
 }
 
-/// What the window's screens take their durations from.
+/// The QML singleton that defines the durations of the window's animations.
 QObject *motionTokens(const QQuickWindow &window)
 {
     QQmlComponent component(qmlEngine(&window));

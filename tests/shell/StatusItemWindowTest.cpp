@@ -61,7 +61,7 @@ TEST_F(StatusItemInTheProcess, WhereItCanBeSeenTheProcessLivesOnAndTheWindowCome
     EXPECT_EQ(&window(), before);
 }
 
-// The entry is offered once there is a screen in which issues are made; what it does is ready.
+// The menu contains this entry only while creating issues is offered, so the test emits the signal itself.
 TEST_F(StatusItemInTheProcess, NewIssueWithTheMainWindowClosedFirstOpensThatWindow)
 {
     statusHost->setIsPresent(true);

@@ -15,7 +15,7 @@ protected:
     }
 
     QList<Spoken> shown() { return spokenIn(window(), QAccessible::Button, u"Apparence"_s); }
-    /// How far the lowest toast ends above the window's lower edge.
+    /// The distance from the lower edge of the lowest toast to that of the window.
     int gap()
     {
         return shown().isEmpty() ? -1 : window().height() - shown().constLast().box.bottom() - 1;

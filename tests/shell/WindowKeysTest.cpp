@@ -16,7 +16,7 @@ struct Press
     Qt::KeyboardModifiers modifiers;
 };
 
-/// "Ctrl+Maj+O" as fingers press it.
+/// The key press that a text such as "Ctrl+Maj+O" describes.
 Press pressOf(const QString &text)
 {
     static const QHash<QString, Qt::Key> named{
@@ -34,7 +34,7 @@ Press pressOf(const QString &text)
     return press;
 }
 
-/// With Shift a sign's key types another sign, and its place tells which key it is.
+/// With Shift a punctuation key types another character, so that only its scan code identifies the key.
 void pressPlace(QQuickWindow &window, quint32 scanCode, Qt::KeyboardModifiers modifiers)
 {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, modifiers, scanCode, 0, 0, u"§"_s);
@@ -67,7 +67,7 @@ void collectFrom(const QQuickItem *item, QStringList &keys)
 
 } // namespace
 
-/// Every key that a window names does something there.
+/// Every key that a window mentions has an effect in that window.
 class WindowKeys : public WindowFixture
 {
 protected:
@@ -81,7 +81,7 @@ protected:
         quits = std::make_unique<QSignalSpy>(qmlEngine(&window()), &QQmlEngine::quit);
     }
 
-    /// What the buttons in sight and the menus name.
+    /// The keys that the visible buttons and the menus mention.
     static QStringList keysNamedIn(QQuickWindow &named)
     {
         QStringList keys;
@@ -102,7 +102,7 @@ protected:
         return keys;
     }
 
-    /// All that a key can change or ask for.
+    /// A summary of all state that a key can change, and of all requests that it can send.
     QString world()
     {
         const auto text = [](const std::optional<QString> &key) { return key.value_or(u"-"_s); };

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The greatest difference of a channel.
+/// The greatest difference in any colour channel.
 int difference(QRgb a, QRgb b)
 {
     return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),

@@ -45,7 +45,7 @@ protected:
         }
         return nullptr;
     }
-    /// What has the keyboard's focus, by its name.
+    /// The accessible name of the item with the keyboard focus.
     QString focused()
     {
         for (const auto &thing : spokenIn(window())) {
@@ -305,7 +305,7 @@ TEST_F(Onboarding, TheFieldOfColoursMovesAtMostThirtyTimesASecond)
     ASSERT_TRUE(mesh() && mesh()->isMoving());
     int frames = 0;
     QObject::connect(&window(), &QQuickWindow::frameSwapped, &window(), [&] { ++frames; });
-    // The caret of the first field blinks; without focus nothing but the field draws.
+    // The caret of the first field blinks. Without the focus, only the gradient causes frames.
     window().contentItem()->forceActiveFocus();
     frames = 0;
     QElapsedTimer timer;

@@ -16,7 +16,7 @@ protected:
         openOnDemo();
     }
 
-    /// The focus is on a list that walks its own rows, or on one of them.
+    /// The focus is on a list that handles the arrow keys itself, or on one of its rows.
     bool isWalking()
     {
         for (QQuickItem *item = window().activeFocusItem(); item; item = item->parentItem()) {
