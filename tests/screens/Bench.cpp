@@ -24,7 +24,7 @@ void listen(QtMsgType type, const QMessageLogContext &, const QString &message)
 
 Bench::Bench()
 {
-    // As with a screen reader: templates write what they say only then.
+    // Enables accessibility as a screen reader does. Qt Quick Controls set their accessible texts only then.
     QAccessible::setActive(true);
     listening = &m_warnings;
     qInstallMessageHandler(listen);

@@ -16,17 +16,17 @@ public:
     Bench(const Bench &) = delete;
     Bench &operator=(const Bench &) = delete;
 
-    /// Makes the only item of the window from QML text; the imports of the kit stand before it. Null on an error,
-    /// which is then among the warnings.
+    /// Creates the only item of the window from QML text, to which the imports of the kit are prepended. Returns null
+    /// after an error, which is then one of the warnings.
     QQuickItem *show(const QString &qml);
 
     QQuickView &window() { return m_window; }
-    /// Messages of the engine and of the whole program since the bench was made, a line each.
+    /// Messages of the engine and of the whole program since the bench was created, one per line.
     std::string warnings() const { return m_warnings.join(u'\n').toStdString(); }
-    /// Writes a property of the singleton `Theme` or `Motion`.
+    /// Sets a property of the singleton `Theme` or `Motion`.
     void setToken(const char *singleton, const char *property, const QVariant &value);
     QVariant token(const char *singleton, const char *property);
-    /// What screen readers know of an item.
+    /// The accessibility interface of an item.
     static QAccessibleInterface *accessible(QQuickItem *item)
     {
         return QAccessible::queryAccessibleInterface(item);

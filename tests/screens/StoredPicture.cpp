@@ -18,7 +18,7 @@ bool isWriting()
     return QGuiApplication::arguments().contains(u"--write"_s);
 }
 
-/// With fewer shades than the comparison tells apart: half the size on the disk.
+/// Reduces the shades to fewer than the comparison distinguishes, which halves the size on disk.
 QImage coarse(QImage picture)
 {
     constexpr int step = 4;

@@ -3,16 +3,16 @@
 #include <QImage>
 #include <QString>
 
-/// A picture on the disk that a test compares what is drawn with, at the scale of the running program.
+/// A reference picture on disk with which a test compares its rendering, at the scale of the running program.
 class StoredPicture
 {
 public:
     StoredPicture(const QString &name, bool dark);
 
-    /// Nothing for a picture that looks like the stored one; otherwise where it differs, and where it was left to be
-    /// looked at. With the argument "--write" it stores the picture instead.
+    /// Empty if the picture looks like the stored one. Otherwise it describes where the pictures differ and where the
+    /// drawn one was saved for inspection. With the argument "--write" it stores the picture instead.
     std::string differenceTo(const QImage &drawn) const;
-    /// As it is stored; null if it is not.
+    /// The stored picture, or null if there is none.
     QImage image() const { return QImage(m_file); }
 
 private:

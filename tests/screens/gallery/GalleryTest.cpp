@@ -29,7 +29,7 @@ int scale()
     return qRound(qGuiApp->devicePixelRatio());
 }
 
-/// Nothing that floats is on its way any more.
+/// All popups and overlays have finished their animations.
 bool isSettled(QQuickWindow &window)
 {
     for (const auto *object : window.findChildren<QObject *>()) {
@@ -64,7 +64,7 @@ QImage drawn(const Page &page, bool dark)
     return picture.convertToFormat(QImage::Format_RGB32);
 }
 
-/// What is drawn in a part of a picture, without the ground.
+/// The bounding box of what is drawn in a part of a picture, without the background.
 QRect inkWithin(const QImage &picture, const QRect &part)
 {
     const QRgb ground = picture.pixel(0, 0);
@@ -78,7 +78,7 @@ QRect inkWithin(const QImage &picture, const QRect &part)
     return ink;
 }
 
-/// The picture with one part of it somewhere else; where it stood is the ground.
+/// The picture with one part moved. The original position of the part is filled with the background.
 QImage moved(const QImage &picture, const QRect &part, QPoint by)
 {
     QImage result = picture;
@@ -94,8 +94,8 @@ QImage moved(const QImage &picture, const QRect &part, QPoint by)
     return result;
 }
 
-/// A shift of the ink in a part of a picture by one pixel is told, unless the ink goes through the part from end to end:
-/// a bar that moves along itself stays as it is.
+/// The comparison detects that the drawing in a part of a picture is shifted by one pixel. Directions in which the
+/// drawing fills the whole part are not checked, because shifting a bar along its length changes nothing.
 bool isShiftSeen(const QImage &picture, const QRect &part, const QRect &ink)
 {
     const QRect room = part.adjusted(-1, -1, 1, 1);
@@ -114,7 +114,7 @@ std::string nameOf(const std::tuple<int, bool> &param)
     return (page + (std::get<1>(param) ? u"Dark"_s : u"Light"_s)).toStdString();
 }
 
-/// What can be pressed or typed into, below an item.
+/// The item and its descendants that can be pressed or typed into.
 QList<QQuickItem *> controlsBelow(QQuickItem *item)
 {
     QList<QQuickItem *> controls;
@@ -126,7 +126,7 @@ QList<QQuickItem *> controlsBelow(QQuickItem *item)
     return controls;
 }
 
-/// A part that speaks for this item, itself or one round it: a secret field's inner one is silent on purpose.
+/// The item or an enclosing one has an accessible name. The inner field of a secret field has none on purpose.
 bool isSpokenFor(QQuickItem *item)
 {
     for (auto *at = item; at; at = at->parentItem()) {
@@ -188,7 +188,7 @@ class ReachableControls : public testing::TestWithParam<QString>
 {
 };
 
-// Not the pages of what floats: what is open there keeps the keyboard to itself.
+// The pages with popups are left out, because an open popup keeps the keyboard focus.
 INSTANTIATE_TEST_SUITE_P(Pages, ReachableControls,
                          testing::Values(u"states"_s, u"fields"_s, u"panels"_s, u"controls"_s),
                          [](const auto &info) { return info.param.toStdString(); });
@@ -250,7 +250,7 @@ TEST(PictureDifference, SmallestIconThatMovesByOnePixelIsSeen)
     QImage picture(40, 40, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QImage other = picture;
-    // Three pixels on a line: the smallest thing that the sheets show.
+    // Three pixels in a line are the smallest element of the gallery pages.
     for (int i = 0; i < 3; ++i) {
         picture.setPixel(10, 10 + i, qRgb(140, 140, 140));
         other.setPixel(11, 10 + i, qRgb(140, 140, 140));
@@ -269,7 +269,7 @@ TEST(PictureDifference, TheFaintestFillIsSeen)
     QImage picture(40, 40, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QImage other = picture;
-    // The primary colour at four hundredths, over white.
+    // The primary colour at an opacity of 0.04 over white.
     other.fill(qRgb(246, 246, 246));
     EXPECT_FALSE(pictureDifference(picture, other).isForgiven());
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Of 255, in any channel; the faintest fill makes 9.
+/// The largest difference that counts as equal, of 255, in any channel. The faintest fill differs by 9 from white.
 constexpr int forgiven = 6;
 
 bool differ(QRgb first, QRgb second)

@@ -3,15 +3,15 @@
 #include <QImage>
 #include <QRect>
 
-/// In how many pixels two pictures differ by more than the eye would forgive, and where.
+/// The number of pixels in which two pictures differ visibly, and their bounding box.
 struct PictureDifference
 {
     int pixels = 0;
     QRect where;
 
-    /// So few that no edge has moved: fonts may round a pixel otherwise.
+    /// True if the pixels are too few for a moved edge. Font rendering may round single pixels differently.
     bool isForgiven() const { return pixels <= 4; }
 };
 
-/// Pictures of two sizes differ in all pixels.
+/// Pictures of different sizes differ in all pixels.
 PictureDifference pictureDifference(const QImage &first, const QImage &second);

@@ -17,9 +17,9 @@ struct Pair
     State second;
 };
 
-/// Rows of the gallery whose control has no such difference, and why.
+/// Gallery rows whose control looks the same in both states of a pair, each with the reason.
 const std::map<QString, QList<Pair>> reasoned{
-    // A press puts the caret, and shows as the focus.
+    // A press places the caret and is shown as the focus.
     {u"champ"_s, {{Hovered, Pressed}}},
     {u"champ vide"_s, {{Hovered, Pressed}}},
     {u"champ, erreur"_s, {{Hovered, Pressed}}},
@@ -29,13 +29,13 @@ const std::map<QString, QList<Pair>> reasoned{
     {u"zone de texte"_s, {{Hovered, Pressed}}},
     {u"zone vide"_s, {{Hovered, Pressed}}},
     {u"zone, erreur"_s, {{Hovered, Pressed}}},
-    // What is chosen already is not offered again.
+    // A row that is already chosen does not react to hovering.
     {u"ligne latérale, choisie"_s, {{Rest, Hovered}}},
     // A toast is never disabled.
     {u"notification"_s, {{Rest, Disabled}}},
-    // It follows the pointer; its own colour is that of being under it.
+    // The handle follows the pointer, and has a colour of its own only while the pointer is over it.
     {u"poignée"_s, {{Hovered, Pressed}, {Rest, Disabled}}},
-    // The keyboard scrolls what it belongs to.
+    // A scroll bar never has the focus, because the keyboard scrolls the view that it belongs to.
     {u"défilement"_s, {{Rest, Focused}, {Rest, Disabled}}},
 };
 
@@ -59,7 +59,7 @@ QList<QQuickItem *> tableRows(QQuickItem *page)
     return rows;
 }
 
-/// The five states of a row's control, cut out of the window's picture.
+/// The five states of a row's control, cut out of the screenshot of the window.
 QList<QImage> statesOf(const QQuickItem *row, const QImage &window)
 {
     const qreal scale = row->window()->effectiveDevicePixelRatio();
@@ -68,7 +68,7 @@ QList<QImage> statesOf(const QQuickItem *row, const QImage &window)
         if (!cell->property("sample").isValid())
             continue;
         const QRectF box = cell->mapRectToScene(cell->boundingRect());
-        // A ring begins before its cell, and the shadow of a neighbour ends in it.
+        // A focus ring begins to the left of its cell, and the shadow of the next cell's control ends inside this cell.
         const QRectF seen = box.adjusted(-6, 0, -40, 0);
         states += window.copy(QRectF(seen.topLeft() * scale, seen.size() * scale).toAlignedRect());
     }

@@ -6,7 +6,7 @@
 
 int main(int argc, char **argv)
 {
-    // Widths of texts need fonts.
+    // Text widths can only be measured with fonts.
     const QGuiApplication application(argc, argv);
     if (!Fonts::load())
         return 2;

@@ -2,7 +2,7 @@
 
 #include "screens/options/OptionSource.h"
 
-/// Items as a test lists them, and what was done with them.
+/// An option source with the items that a test sets. It records which items were run and created.
 class ListedOptions : public OptionSource
 {
 public:

@@ -52,7 +52,7 @@ QImage pictureOf(Bench &bench, QQuickItem *item, const OptionIcon &icon)
     return bench.window().grabWindow().copy(0, 0, 20, 20);
 }
 
-/// The same icon in an item that never had another one.
+/// The icon as drawn by a new item that has never shown another one.
 QImage freshPictureOf(const OptionIcon &icon)
 {
     Bench bench;

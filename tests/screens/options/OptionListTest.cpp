@@ -158,7 +158,7 @@ TEST_F(OptionListTest, ADigitPicksTheRowThatHasIt)
 
 TEST_F(OptionListTest, ADigitIsTakenByTheKeysPlaceWhereTheLayoutTypesAnotherSign)
 {
-    // The key of the 2 on a French keyboard types "é".
+    // On a French keyboard the key for 2 types "é".
     EXPECT_TRUE(list.handle(KeyPress::make(Qt::Key_Eacute, 11, u"é"_s, Qt::NoModifier, u"é"_s)));
     EXPECT_EQ(source.ran, QStringList{u"Deux"_s});
 }

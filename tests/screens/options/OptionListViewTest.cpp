@@ -53,7 +53,7 @@ QQuickItem *rowCalled(QQuickItem *item, const QString &title)
     return nullptr;
 }
 
-// Rows come and go before a frame.
+// Renders a frame first, because the list creates and removes its rows just before a frame.
 QQuickItem *row(Bench &bench, QQuickItem *list, const QString &title)
 {
     bench.window().grabWindow();

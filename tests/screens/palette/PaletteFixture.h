@@ -3,7 +3,7 @@
 #include "screens/palette/CommandPalette.h"
 #include "state/AppStoreFixture.h"
 
-/// A palette on a store in a session, without a window.
+/// A palette with a store that has a session, without a window.
 class PaletteFixture : public AppStoreFixture
 {
 protected:

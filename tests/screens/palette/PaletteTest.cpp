@@ -40,7 +40,7 @@ protected:
     }
     Issue issue(const QString &key) { return *store().issue(key).value_or(SharedIssue()); }
 
-    /// MOB-1 in "À faire", which keeps the focus, and MOB-2 in "En cours".
+    /// Serves MOB-1 in "À faire", which keeps the focus, and MOB-2 in "En cours".
     void serveTwoStatuses()
     {
         Issue todo = issue(u"MOB-1"_s);
@@ -240,7 +240,7 @@ TEST_F(Palette, TheHighlightedRowStaysInSight)
     press(Qt::Key_K, Qt::ControlModifier);
     for (int i = 0; i < 30; ++i)
         press(Qt::Key_Down);
-    // Inside the rows, above the footer.
+    // The area of the rows, which excludes the footer.
     const QRect rows(340, 112 + 34 + 52, 640, 420);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         const auto last = find(QAccessible::ListItem, u"Activité · Ce mois-ci"_s);
@@ -288,7 +288,7 @@ TEST_F(Palette, ARestingPointerHighlightsNothingAndAMovedOneItsRow)
     EXPECT_TRUE(QTest::qWaitFor([&] { return highlighted().box.contains(602, 402); }))
         << highlighted().name.toStdString();
 
-    // The rows scroll below the pointer, which stays where it is.
+    // The rows scroll under the pointer, which does not move.
     for (int i = 0; i < 30; ++i)
         press(Qt::Key_Down);
     EXPECT_TRUE(QTest::qWaitFor([&] { return highlighted().name == options().last(); }));

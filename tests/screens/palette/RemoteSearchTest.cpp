@@ -9,7 +9,7 @@ class RemoteSearchTest : public PaletteFixture
 protected:
     RemoteSearchTest() { reloadWith({sampleIssue(u"MOB-1"_s)}); }
 
-    /// Types a text and lets the pause go by.
+    /// Types a text and advances the clock past the delay of the search.
     void search(const QString &text)
     {
         palette.setQuery(text);

@@ -23,7 +23,7 @@ protected:
         places.setPalette(&palette);
     }
 
-    /// A site with so many projects, each of which is two destinations.
+    /// Sets up a site with `count` projects, each of which adds two destinations.
     void knowProjects(int count)
     {
         answerEverything();
@@ -35,7 +35,7 @@ protected:
     }
 
     QVariant at(int place, RowPlaces::Role role) const { return places.index(place).data(role); }
-    /// The rows that the places show, with their titles, in the order of the rows.
+    /// The visible rows and their titles, sorted by row.
     QMap<int, QString> shown() const
     {
         QMap<int, QString> titles;

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A spring of mass 1 that is let go at 0 and pulls towards 1, `time` later. Times are in units of its response.
+/// The motion of a spring of mass 1 that is released at 0 and pulls towards 1. Times are in units of its response.
 struct Spring
 {
     double damping = 1;
@@ -28,7 +28,7 @@ struct Case
     const char *name;
     QEasingCurve curve;
     Spring spring;
-    /// How long the curve takes, in responses of the spring.
+    /// The duration of the curve, in responses of the spring.
     double length;
 };
 

@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Drags that reach the window as the desktop sends them.
+/// Drags that the window receives as events of the desktop.
 class BoardDrag : public WindowFixture
 {
 protected:
@@ -248,7 +248,7 @@ TEST_F(BoardDrag, ADropGoesToTheColumnThatTheBoardHasScrolledUnderTheRestingDrag
 TEST_F(BoardDrag, ADropBetweenTwoColumnsGoesToTheNearerOne)
 {
     content.setText(u"MOB-1"_s);
-    // Where the cards of a column begin, less its padding: its own edge.
+    // The left edge of the column: that of its cards minus the padding.
     const int edge = await(QAccessible::List, u"En cours"_s).box.left() - 8;
     const QPoint nearTheLeftOne(edge - 9, 400);
     dragOver(nearTheLeftOne);

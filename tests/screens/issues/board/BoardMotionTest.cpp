@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// Cards that go from column to column, with the motion that the desktop allows.
+/// Cards that move between columns, animated unless the desktop asks for reduced motion.
 class BoardMotion : public WindowFixture
 {
 protected:
@@ -46,9 +46,9 @@ protected:
         }
         return found;
     }
-    /// The card itself, which stands in its column.
+    /// The card itself, which is a child of its column.
     CardFace *card(const QString &key) { return faceWith(key, true); }
-    /// What is seen of a card on its way.
+    /// The copy of a card that is visible while the card moves.
     CardFace *ghost(const QString &key) { return faceWith(key, false); }
     bool isAtRest(const QString &key)
     {
@@ -82,7 +82,7 @@ TEST_F(BoardMotion, ACardOnItsWayBetweenColumnsIsSeenAboveThem)
     EXPECT_LT(card(u"MOB-1"_s)->opacity(), 1 / 255.0) << "seen once";
     EXPECT_EQ(seen->size(), card(u"MOB-1"_s)->size());
     EXPECT_EQ(seen->mapToScene({}), card(u"MOB-1"_s)->mapToScene({}));
-    // Only the board itself cuts it off.
+    // Only the board itself clips it.
     for (auto *around = seen->parentItem(); around; around = around->parentItem())
         EXPECT_TRUE(!around->clip() || around->width() > 900);
     EXPECT_FALSE(ghost(u"MOB-2"_s)) << "it stays in its column";

@@ -27,7 +27,7 @@ protected:
             count += thing.state.focused;
         return count;
     }
-    /// Statuses that are columns side by side, one issue each.
+    /// Serves `count` issues, each with a status and thus a column of its own.
     void serveManyColumns(int count)
     {
         IssueList issues;
@@ -42,13 +42,13 @@ protected:
         service->issuesCalls.answerWith(issues);
         reload();
     }
-    /// The outline of a card, at the middle of its left side.
+    /// The colour of a card's outline, in the middle of its left edge.
     QColor outline(const QString &key)
     {
         const auto box = await(QAccessible::ListItem, key + u',').box;
         return window().grabWindow().pixelColor(box.left(), box.center().y());
     }
-    /// Where the only visible text of these words stands.
+    /// The box of the only visible text with these words.
     QRectF textBox(const QString &words)
     {
         QList<QRectF> found;
@@ -259,7 +259,7 @@ TEST_F(Board, WithoutADueDateThereIsNoBadgeAndTheLabelsStandInItsPlace)
     const auto badge = textBox(u"24 déc."_s);
     const auto with = textBox(u"avec"_s);
     const auto without = textBox(u"sans"_s);
-    // A date stands behind its symbol, a name behind its dot.
+    // The text of a date follows its symbol, and that of a label follows its dot.
     EXPECT_EQ(without.left() - 19, badge.left() - 23);
     EXPECT_GT(with.left() - 19, badge.right());
 }

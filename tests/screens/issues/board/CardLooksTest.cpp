@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Cards at the width that a column of the board gives them.
+/// Cards at the width that a board column gives them.
 constexpr auto page = R"(
 import Velmora.Issues
 Item {
@@ -64,7 +64,7 @@ Issue fullCard(int number, const QStringList &labels)
     return issue;
 }
 
-/// What can be on a card: nothing, all of it, and what does not fit.
+/// Cards with every kind of content: without any, with all of it, and with more than fits.
 IssueList cards()
 {
     IssueList cards = plainCards();
@@ -107,7 +107,7 @@ protected:
         auto *shown = bench.show(QString::fromLatin1(page));
         return shown && shown->setProperty("cards", QVariant::fromValue(&model));
     }
-    /// The window once nothing changes any more.
+    /// The contents of the window after a first frame has applied all changes.
     QImage picture()
     {
         bench.window().grabWindow();
@@ -136,7 +136,7 @@ TEST_P(CardLooks, UnderThePointerAreAsTheyAreStored)
     ASSERT_TRUE(open()) << bench.warnings();
     model.setCheckedKeys({u"WEB-2"_s, u"WEB-3"_s});
     picture();
-    // The priority of a card in the first row.
+    // Hovers over the priority of a card in the first row.
     QTest::mouseMove(&bench.window(), {10 + 12 + 8, 10 + 12 + 18 + 8 + 18 + 8 + 10});
 
     EXPECT_EQ(StoredPicture(u"cards-hovered"_s, GetParam()).differenceTo(picture()), "");

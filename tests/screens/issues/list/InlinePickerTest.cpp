@@ -22,7 +22,7 @@ protected:
         desktop->setPrefersReducedMotion(true);
     }
 
-    /// The cell of a row whose name begins so, by the row's key.
+    /// The cell with this name in the row of the issue.
     Spoken cell(const QString &key, const QString &name)
     {
         const auto row = await(QAccessible::ListItem, key + u',');

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A row with two label chips of 130 in all, whose dots take 27, and a due badge of 79, whose icon takes 36.
+/// A row with two label chips of width 130 in total (27 as dots) and a due badge of width 79 (36 as an icon).
 RowFit fitIn(double room)
 {
     return RowFitting::fit(room, 130, 27, 79, 36);

@@ -25,7 +25,7 @@ protected:
     }
     QRect row(const QString &key) { return await(QAccessible::ListItem, key + u',').box; }
     QImage picture(const QRect &box) { return window().grabWindow().copy(box); }
-    /// The fill of a row: a pixel between its columns.
+    /// The fill colour of a row, taken from a pixel between its columns.
     QColor fill(const QString &key)
     {
         const auto box = row(key);
@@ -48,7 +48,7 @@ protected:
         }
         return found;
     }
-    /// The row whose due date reads like that.
+    /// The row that shows this text as its due date.
     RowLine *rowDue(const QString &text)
     {
         auto *seen = itemIn(window().contentItem(), [&](QQuickItem *item) {
@@ -163,7 +163,7 @@ TEST_F(Rows, AnIssueDueTodayIsNotLate)
 
 TEST_F(Rows, ADueDateFollowsTheTimeZoneThatTheSystemHasChangedTo)
 {
-    // One day apart at every instant.
+    // Two time zones whose dates differ by one day at every instant.
     const QLocale french(QLocale::French, QLocale::France);
     const UserCalendar west{french, QTimeZone("Pacific/Pago_Pago")};
     const UserCalendar east{french, QTimeZone("Pacific/Tongatapu")};
@@ -269,7 +269,7 @@ protected:
     {
         store().setStatus(IssueStatus::guessed(status), {key});
     }
-    /// How far a row is drawn from its place.
+    /// The distance between the drawn position of a row and its final position.
     double offset(const QString &key)
     {
         auto *item = itemIn(window().contentItem(), [&](QQuickItem *candidate) {

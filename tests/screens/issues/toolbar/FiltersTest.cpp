@@ -24,7 +24,7 @@ protected:
         openMenu();
         click(await(QAccessible::MenuItem, title));
     }
-    /// From the menu down to the choice, as a pointer goes.
+    /// Opens the submenu and clicks the choice in it.
     void choose(const QString &submenu, const QString &choice)
     {
         openSubmenu(submenu);

@@ -91,7 +91,7 @@ TEST_P(EveryPressable, RingShowsAfterAKeyAndNotAfterAClick)
     control->setFocus(false);
     QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, middle(control));
     EXPECT_FALSE(showsRing(control));
-    // What a press has opened.
+    // Closes whatever the click has opened.
     QTest::keyClick(&bench.window(), Qt::Key_Escape);
     QTest::keyClick(&bench.window(), Qt::Key_Tab);
     EXPECT_TRUE(control->hasActiveFocus());

@@ -116,7 +116,7 @@ TEST(DatePicker, AClickPicksADay)
     Bench bench;
     auto *picker = bench.show(u"DatePicker { day: '2026-10-31'; today: '2026-10-29' }"_s);
     ASSERT_NE(picker, nullptr) << bench.warnings();
-    // The 1st: the fourth place of the first line.
+    // The 1st is in the fourth column of the first row.
     QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, {14 + int(3.5 * 262 / 7), 74});
     EXPECT_EQ(picker->property("day").toString(), u"2026-10-01"_s);
     EXPECT_EQ(Bench::accessible(picker)->text(QAccessible::Name), u"Calendrier, octobre 2026"_s);

@@ -47,7 +47,7 @@ QColor edgeOf(Bench &bench, const QQuickItem *item)
 class InputAreaTest : public testing::Test
 {
 protected:
-    // Between two other fields, as in a form.
+    // Shows the area between two other fields, as in a form.
     void show(const QString &properties = {})
     {
         m_form = m_bench.show(
@@ -130,7 +130,7 @@ TEST_F(InputAreaTest, ADragSelectsAndScrollsNothing)
 class ScrolledPage : public testing::Test
 {
 protected:
-    // A page that is higher than the window, with an area at its top.
+    // Shows a page that is higher than the window, with an input area at its top.
     void show(int lineCount)
     {
         m_page = m_bench.show(u"Flickable { property alias area: a; width: 600; height: 400; "
@@ -143,7 +143,7 @@ protected:
     }
     void TearDown() override { EXPECT_EQ(m_bench.warnings(), ""); }
 
-    /// A stroke over the area on a touchpad, in four steps.
+    /// Scrolls over the area with a touchpad, in four steps.
     void scroll(int pixels)
     {
         send(0, Qt::ScrollBegin);

@@ -98,7 +98,7 @@ TEST(Frame, UnknownShadowIsNone)
 
 TEST(Frame, MiddleIsTheSameWhicheverWayTheSizeGrows)
 {
-    // What the stretching relies on: beyond the corners nothing changes along an edge.
+    // Stretching the image relies on this: between the corners, nothing changes along an edge.
     auto frame = capsule(u"pane"_s);
     const int corner = frameCorner(frame.shadows, frame.radius);
     frame.size = {2.0 * corner + 41, 2.0 * corner + 1};
@@ -126,7 +126,7 @@ TEST(SoftShadow, BlurKeepsTheInkAndFollowsTheGaussian)
             sum += blurred.constScanLine(y)[x];
     }
     EXPECT_NEAR(sum / (19.0 * 19 * 255), 1, 0.03);
-    // The Gaussian integral over ±9.5 at sigma 6, squared for two directions.
+    // The Gaussian integral over ±9.5 at sigma 6, squared for the two directions.
     EXPECT_NEAR(blurred.constScanLine(50)[50] / 255.0,
                 std::pow(std::erf(9.5 / 6 / std::sqrt(2.0)), 2), 0.03);
 }
@@ -154,7 +154,7 @@ TEST(Frame, StaysRoundItsPanelWhenThatShrinks)
     EXPECT_EQ(shown().pixelColor(60, 60), QColor(Qt::white));
     root->findChild<QQuickItem *>(u"panel"_s)->setHeight(60);
     const QImage after = shown();
-    // Drawn without its place, it would lie at the window's corner.
+    // If its position were ignored, it would be drawn in the corner of the window.
     for (int x = 2; x < 150; x += 4)
         EXPECT_EQ(after.pixelColor(x, 2), QColor(Qt::white)) << x;
 }

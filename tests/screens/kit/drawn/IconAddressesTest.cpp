@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What Qt Quick gives a provider for an address.
+// The id that Qt Quick passes to an image provider for a URL.
 QString idOf(const QUrl &url)
 {
     return url.toString(QUrl::RemoveScheme | QUrl::RemoveAuthority).mid(1);

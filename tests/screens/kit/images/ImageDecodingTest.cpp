@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The most memory that the process has held so far, in MB.
+/// The peak memory use of the process so far, in MB.
 long peakMegabytes()
 {
     rusage usage{};

@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize enormous(60000, 60000);
 
-/// The checksum of PNG's chunks.
+/// The checksum of a PNG chunk.
 quint32 crcOf(const QByteArray &bytes)
 {
     quint32 crc = 0xffffffffU;
@@ -102,7 +102,7 @@ QByteArray SamplePictures::bmpClaiming(QSize size)
     return bytes;
 }
 
-// Qt reads GIF and does not write it: the smallest one by hand.
+// Qt can read GIF but not write it, so the bytes are those of a minimal GIF.
 QByteArray SamplePictures::gifClaiming(QSize size)
 {
     auto bytes = QByteArray::fromHex(

@@ -5,18 +5,18 @@
 #include <QList>
 #include <QSize>
 
-/// Pictures as bytes, good and bad ones.
+/// Encoded pictures, both valid and invalid.
 namespace SamplePictures {
 
 QByteArray picture(const char *format, QSize size = {40, 30}, const QColor &color = Qt::red);
-/// A PNG, BMP, GIF or ICO that claims another size than it has, all its checksums right.
+/// A PNG, BMP or GIF whose header states a wrong size, with correct checksums.
 QByteArray pngClaiming(QSize size);
 QByteArray bmpClaiming(QSize size);
 QByteArray gifClaiming(QSize size);
-/// An icon that holds a PNG.
+/// An ICO file that contains a PNG.
 QByteArray iconHolding(const QByteArray &png);
-/// A thousand pictures as nobody should make them, the same on each run: cut short, damaged, of enormous claims, one
-/// inside another, of another type than they say, and no pictures at all.
+/// A thousand invalid pictures, the same in each run: truncated, damaged, with huge stated sizes, nested in each other,
+/// of another type than stated, or not pictures at all.
 QList<QByteArray> hostile();
 
 } // namespace SamplePictures

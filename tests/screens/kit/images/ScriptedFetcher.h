@@ -3,7 +3,7 @@
 #include "screens/kit/images/ImageFetcher.h"
 #include "support/ScriptedCall.h"
 
-/// A road to pictures on which a test answers.
+/// An image fetcher whose responses the test provides.
 class ScriptedFetcher final : public ImageFetcher
 {
 public:

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the title of a row of the menu begins.
+/// The x coordinate at which the title of a menu row begins.
 qreal titleOf(const QQuickItem *menuHolder, const char *row, const QString &text)
 {
     auto *item = menuHolder->property(row).value<QQuickItem *>();

@@ -23,7 +23,7 @@ QImage priorityImage(PriorityLevel level, const QColor &tint, qreal size, qreal 
         size, scale, [&](QPainter &painter) { paintPriorityIcon(painter, level, tint, size); });
 }
 
-// The covered height in the middle of a bar, whatever its opacity.
+// The covered height in the middle of a bar, independent of its opacity.
 qreal barHeight(const QImage &image, int bar, qreal size, qreal scale, qreal opacity)
 {
     const qreal centre = (0.07 + 0.32 * bar + 0.11) * size * scale;

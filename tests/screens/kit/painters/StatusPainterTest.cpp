@@ -125,7 +125,7 @@ TEST(StatusPainter, PieGrowsClockwiseFromTwelve)
 TEST(StatusPainter, PieOfNothingHasTwoStepsAndNoArea)
 {
     const auto slice = pieSlice(QRectF(0, 0, 10, 10), 0);
-    // The centre, three points of the arc, the centre again.
+    // The centre, three points of the arc, and the centre again.
     ASSERT_EQ(slice.size(), 5);
     EXPECT_EQ(slice[1], slice[3]);
     EXPECT_DOUBLE_EQ(slice.boundingRect().width(), 0);

@@ -33,7 +33,7 @@ QStringList tableLines()
                : QStringList();
 }
 
-// What the behaviour of the screens names; the table must have each of them.
+// The symbols that the screens use. The table must contain each of them.
 const QStringList named =
     u"archivebox arrow.clockwise arrow.down.circle arrow.down.circle.fill "
     u"arrow.forward.circle.fill "
