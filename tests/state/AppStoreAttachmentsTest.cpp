@@ -29,7 +29,7 @@ protected:
         result.filename = id + u".png"_s;
         return result;
     }
-    /// A session whose issue has these attachments, in all copies.
+    /// A session in which all copies of the issue have these attachments.
     void startWith(const QList<Attachment> &attachments)
     {
         startSession();

@@ -42,7 +42,7 @@ protected:
         return pending;
     }
 
-    /// Runs one step of the UI thread; keeps the longest time and the most work that any took.
+    /// Runs one step of the UI thread and updates the maximum duration and the maximum amount of work of a step.
     void step(const std::function<void()> &run)
     {
         using Step = IssueDerivation::Step;
@@ -59,7 +59,7 @@ protected:
 
     static bool isRefused(const QString &key) { return key.endsWith(u'7'); }
 
-    /// Answers the first call that is pending; false when none is.
+    /// Answers the first pending call. Returns false if there is none.
     bool answerNext()
     {
         for (; nextTransitions < service->transitionsCalls.count(); ++nextTransitions) {

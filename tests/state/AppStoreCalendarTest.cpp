@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QLocale French(QLocale::French, QLocale::France);
-// One day apart at every instant.
+// Two time zones whose dates differ by one day at every instant.
 const UserCalendar West{French, QTimeZone("Pacific/Pago_Pago")};
 const UserCalendar East{French, QTimeZone("Pacific/Tongatapu")};
 
@@ -26,7 +26,7 @@ protected:
         return rows->data(rows->index(rows->rowOfKey(key)), IssueListModel::DueTextRole).toString();
     }
 
-    /// An issue that is due on the current day of the calendar.
+    /// An issue that is due on the calendar's current day.
     Issue dueToday(const QString &key, const UserCalendar &calendar) const
     {
         Issue issue = sampleIssue(key);

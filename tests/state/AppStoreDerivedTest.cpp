@@ -217,7 +217,7 @@ TEST_F(AppStoreDerivedTest, timeGoesOnByTheMinuteWhileASessionIsOpen)
     EXPECT_EQ(ticks.count(), 3);
 }
 
-// The focus ---------------------------------------------------------------------------------------------------------------
+// The focus -----------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreDerivedTest, theLayoutOutOfSightLearnsTheTimeWhenItComesBack)
 {

@@ -196,7 +196,7 @@ TEST_F(AppStoreDetailsTest, aResultAfterTheSignOutIsDropped)
     EXPECT_EQ(store->phase(), AppStore::Phase::SignedOut);
 }
 
-// Metadata ----------------------------------------------------------------------------------------------------------------
+// Metadata ------------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreDetailsTest, metadataIsFetchedOncePerSessionAndTheCallersShareIt)
 {
@@ -261,7 +261,7 @@ TEST_F(AppStoreDetailsTest, aProjectWhoseMetadataFailedStaysWithoutUntilTheNextS
     EXPECT_EQ(store->projectStatuses().value(u"WEB"_s).size(), 1);
 }
 
-// Lookups -----------------------------------------------------------------------------------------------------------------
+// Lookups -------------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreDetailsTest, anIssueIsLookedUpInDetailsThenInTheListThenAmongMyIssues)
 {

@@ -13,7 +13,7 @@ const auto ErrorSymbol = u"exclamationmark.triangle.fill"_s;
 class AppStoreEditsTest : public AppStoreFixture
 {
 protected:
-    /// Three issues in the list, among the user's own, in the cache of another scope, and one of them opened.
+    /// Three issues in the list, in the user's open issues and in the cache of another scope. One of them is opened.
     void SetUp() override
     {
         startSession();
@@ -58,7 +58,7 @@ protected:
         return issues;
     }
 
-    /// The copies of the issue that the store holds and shows.
+    /// All copies of the issue in the store.
     IssueList copies(const QString &key)
     {
         IssueList result = withKey(store->issues(), key);

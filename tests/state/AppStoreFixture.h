@@ -12,22 +12,23 @@
 
 #include <gtest/gtest.h>
 
-/// A store between a scripted back end, a clock that stands still and a preference file of its own.
+/// A store with a scripted service, a manual clock and its own preference file.
 class AppStoreFixture : public testing::Test
 {
 protected:
     AppStoreFixture();
-    /// Ends what a test left pending, the store being gone.
+    /// Destroys the store, then cancels the calls that the test left pending.
     ~AppStoreFixture() override;
 
-    /// A new store, as the next start of the program makes it. Sessions it opens are on `service`.
+    /// Creates a new store, as the next start of the program does. The sessions that it opens use `service`.
     void makeStore();
-    /// A store in phase `ready` with empty lists, nothing pending, and every operation of the service on hold.
+    /// Brings the store to phase `ready`, with empty lists and no pending calls. From then on, every operation of the
+    /// service stays pending until the test answers it.
     void startSession();
-    /// Makes the service answer everything at once, with empty results where nothing else was set.
+    /// Makes the service respond to every request immediately, with empty results unless the test has set others.
     void answerEverything();
     void holdEverything();
-    /// Reloads with this list, to the end.
+    /// Reloads with this list and completes the reload.
     void reloadWith(const IssueList &issues);
 
     static Issue sampleIssue(const QString &key,
@@ -36,7 +37,7 @@ protected:
     static Project sampleProject(const QString &key);
     static QStringList keys(const IssueList &issues);
 
-    /// In memory where there is such a folder: each session writes preferences, and disks are slow.
+    /// A folder in memory if one is available, because each session writes preferences and disks are slow.
     static QString folderTemplate();
 
     QTemporaryDir folder{folderTemplate()};
@@ -44,7 +45,7 @@ protected:
     Preferences preferences{preferencesPath};
     ManualClock clock;
     FakeDesktop desktop;
-    /// Real sessions, which are on `service` too.
+    /// The sessions on sites (not the demo), which use `service` too.
     ScriptedSessions sessions;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();
     int demosMade = 0;

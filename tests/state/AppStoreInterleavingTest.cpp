@@ -1,15 +1,15 @@
-// Random interleavings of edits, reloads, changes of scope, sign-ins and sign-outs, on sites that delay, reorder, refuse
-// and cancel, and whose search lags behind what was written. Checked after every step:
+// Random interleavings of edits, reloads, changes of scope, sign-ins and sign-outs, with sites that delay, reorder,
+// refuse and cancel responses, and whose search index is updated late. The following is checked after every step:
 //
-// - A field of an issue without an open edit shows in every copy what the site holds. No late, early or lagging answer
-//   takes back what was confirmed, and a refused edit goes back to what the site holds.
-// - A field with open edits shows the same value in every copy.
-// - Nothing of a session reaches another one: every copy comes from the site of the present session, and the answers of
-//   a session that is over change nothing and raise no toast.
-// - A refused write raises exactly one toast; an answer that is no refusal raises none.
+// - A field without an open edit has the site's value in every copy of the issue. No late, early or outdated response
+//   reverts a confirmed edit, and a refused edit is reverted to the site's value.
+// - A field with open edits has the same value in every copy.
+// - Sessions are independent: every copy comes from the site of the current session, and responses to an ended session
+//   change nothing and show no toast.
+// - A refused write shows exactly one toast, and a response that is not a refusal shows none.
 //
-// One issue is also changed by others. Its copies may differ until the answers that tell of it have arrived; at the end,
-// when all answers are in and each list was fetched once more, every copy of every issue is what the site holds.
+// One issue is also changed by other users. Its copies may differ until the responses with the change have arrived. At
+// the end, after all responses and another fetch of each list, every copy of every issue equals the site's issue.
 #include "state/AppStoreFixture.h"
 #include "state/RandomSite.h"
 
@@ -70,7 +70,7 @@ private:
     void settleAll();
     void noteRequests();
     QStringList someKeys();
-    /// Every copy of every issue that the store holds.
+    /// Every copy of every issue in the store.
     QList<SharedIssue> copies() const;
     void checkCopies();
     bool isOpen(const QString &key, Field field) const;
@@ -152,7 +152,7 @@ void AppStoreInterleavingTest::answer(RandomSite &answering)
     counts.refusals += said.isRefused;
     counts.cancellations += said.isCancelled;
     const auto raised = store->toasts().size() - toasts.size();
-    // A refused list is told to whoever asked for it, and offered transitions to nobody who only looks.
+    // A refused list is reported only to its caller, and refused transitions only if they were requested for an edit.
     EXPECT_LE(raised, said.isRefused ? 1 : 0);
     if (said.written && *said.written != Field::Status)
         EXPECT_EQ(raised, said.isRefused ? 1 : 0);
@@ -219,7 +219,7 @@ QList<SharedIssue> AppStoreInterleavingTest::copies() const
     return result;
 }
 
-/// Which edits are open follows from the requests that the site has not answered.
+/// The edit of a field is open while the site has not responded to a request for it.
 bool AppStoreInterleavingTest::isOpen(const QString &key, Field field) const
 {
     const RandomSite &present = *m_sites.back();
@@ -241,7 +241,7 @@ void AppStoreInterleavingTest::checkCopies()
             first.insert(copy->key, copy);
         for (int number = 0; number < Field::FieldCount; ++number) {
             const auto field = Field(number);
-            // Lists bring no description.
+            // Lists contain no descriptions.
             const auto opened = details.constFind(copy->key);
             const bool isOpened = opened != details.cend() && opened->isSameObject(copy);
             if (field == Field::Description && !isOpened)
@@ -267,7 +267,7 @@ void AppStoreInterleavingTest::settleAll()
     }
 }
 
-/// All answers come, and each list and each opened issue is fetched once more.
+/// Answers all requests, then fetches each list and each opened issue once more.
 void AppStoreInterleavingTest::settle()
 {
     settleAll();
@@ -322,7 +322,7 @@ TEST_F(AppStoreInterleavingTest, everyCopyIsTrueWhateverTheOrder)
         }
         ASSERT_FALSE(HasFailure()) << "seed " << seed;
     }
-    // So that the run cannot pass by doing nothing.
+    // Ensures that the run has exercised every case often enough.
     EXPECT_GT(counts.edits, 10 * int(Seeds));
     EXPECT_GT(counts.refusals, int(Seeds));
     EXPECT_GT(counts.cancellations, int(Seeds) / 2);

@@ -9,8 +9,9 @@ namespace {
 
 const JiraError Refused(JiraError::Http{500, u"Panne."_s});
 
-/// The store goes away while its calls are in flight; what arrives later must find nobody and touch nothing. The address
-/// sanitizer is the judge; the checks here see that the calls were in flight and that each task has ended.
+/// The store is destroyed while its requests are pending, and responses that arrive later must not access it. The
+/// address sanitizer detects such an access. The checks here ensure that the requests were pending and that each task
+/// has ended.
 class AppStoreLifetimeTest : public AppStoreFixture
 {
 protected:

@@ -8,8 +8,8 @@ namespace {
 
 const JiraError Refused(JiraError::Http{500, u"Panne."_s});
 
-/// One session after another, each on a service of its own: nothing that belongs to the first reaches the second, and
-/// nothing that was waiting is sent once its session is over.
+/// Two consecutive sessions, each with its own service. No data of the first session appears in the second, and queued
+/// requests are not sent after the end of their session.
 class AppStoreNextSessionTest : public AppStoreFixture
 {
 protected:
@@ -24,7 +24,7 @@ protected:
         first->cancelPending();
     }
 
-    /// Signs out and begins a session on another service, which has answered everything with the same keys.
+    /// Signs out and begins a session with another service, which has returned issues with the same keys.
     void beginNext()
     {
         store->signOut();
@@ -39,7 +39,7 @@ protected:
     std::shared_ptr<ScriptedService> first = service;
 };
 
-// Attempts to open a session ----------------------------------------------------------------------------------------------
+// Attempts to open a session ------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreNextSessionTest, aSignInThatIsAnsweredAfterTheDemoWasOpenedChangesNothing)
 {
@@ -89,7 +89,7 @@ TEST_F(AppStoreNextSessionTest, theCredentialsOfThePicturesFollowTheSessionThatB
     site->cancelPending();
 }
 
-// Late answers ------------------------------------------------------------------------------------------------------------
+// Late answers --------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreNextSessionTest, anEditThatIsRefusedLateChangesNothingInTheNext)
 {
@@ -252,7 +252,7 @@ TEST_F(AppStoreNextSessionTest, theTimerOfTheFirstRefreshesNothing)
     EXPECT_EQ(first->issuesCalls.count(), before);
 }
 
-// What the next session begins with ---------------------------------------------------------------------------------------
+// The initial state of the next session -------------------------------------------------------------------------------
 
 TEST_F(AppStoreNextSessionTest, theNextSessionBeginsWithNothingOfTheFirst)
 {
@@ -296,7 +296,7 @@ TEST_F(AppStoreNextSessionTest, thePrioritiesOfTheFirstAreNotOfferedInTheNext)
     EXPECT_TRUE(store->priorities().isEmpty());
 }
 
-// The start of a session --------------------------------------------------------------------------------------------------
+// The start of a session ----------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreNextSessionTest, whateverTheStartCouldNotFetchComesWithTheNextRefresh)
 {

@@ -47,7 +47,7 @@ protected:
             .value<IssueListBadge>();
     }
 
-    /// Of the statuses, the summary and the users.
+    /// The numbers of computations of the statuses, the summary and the users.
     QList<int> computations() const
     {
         const RecapMemos &memos = store->recapMemos();

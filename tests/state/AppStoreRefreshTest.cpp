@@ -8,17 +8,17 @@ namespace {
 
 const JiraError Refused(JiraError::Http{500, u"Panne."_s});
 
-/// What refreshes behind the list on screen: the user's open issues, the timer, searches.
+/// Requests other than for the visible list: the user's open issues, the timer and searches.
 class AppStoreRefreshTest : public AppStoreFixture
 {
 protected:
     void SetUp() override { startSession(); }
 
-    /// The pending call of the list, last asked for.
+    /// The most recent request for a list.
     auto &listCall() { return service->issuesCalls.last(); }
 };
 
-// The user's open issues --------------------------------------------------------------------------------------------------
+// The user's open issues ----------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreRefreshTest, theUsersOpenIssuesLeaveOutClosedOnesAndComeByUrgency)
 {
@@ -67,7 +67,7 @@ TEST_F(AppStoreRefreshTest, refreshingMyIssuesWithoutAServiceEndsAtOnce)
     EXPECT_TRUE(done.isDone());
 }
 
-// The timer ---------------------------------------------------------------------------------------------------------------
+// The timer -----------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreRefreshTest, theTimerReloadsEveryTwoMinutesAndThenTheUsersIssues)
 {
@@ -117,7 +117,7 @@ TEST_F(AppStoreRefreshTest, aSecondSessionHasOneTimer)
     EXPECT_EQ(service->issuesCalls.count(), calls + 1);
 }
 
-// Searching ---------------------------------------------------------------------------------------------------------------
+// Searching -----------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreRefreshTest, aSearchGivesWhatTheServiceFindsAndWritesNothing)
 {
@@ -147,7 +147,7 @@ TEST_F(AppStoreRefreshTest, aFailedCancelledOrServicelessSearchFindsNothing)
     EXPECT_EQ(service->searchCalls.count(), 2);
 }
 
-// What the window says of a list that could not be refreshed ----------------------------------------------------------------
+// What the window shows about a list that could not be refreshed ------------------------------------------------------
 
 TEST_F(AppStoreRefreshTest, aRefreshThatTheUserAskedForTellsItsFailureByAToast)
 {
@@ -226,7 +226,7 @@ TEST_F(AppStoreRefreshTest, anIssueThatAnAnswerRepeatsIsListedOnce)
     EXPECT_EQ(keys(store->issues()), QStringList({u"WEB-1"_s, u"WEB-2"_s}));
 }
 
-// A search that lags behind what was written ---------------------------------------------------------------------------------
+// Searches whose index is outdated ------------------------------------------------------------------------------------
 
 TEST_F(AppStoreRefreshTest, anIssueJustCreatedStaysInItsListWhenASearchLacksIt)
 {

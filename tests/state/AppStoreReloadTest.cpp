@@ -22,11 +22,11 @@ class AppStoreReloadTest : public AppStoreFixture
 protected:
     void SetUp() override { startSession(); }
 
-    /// The pending call of the list, last asked for.
+    /// The most recent request for the list.
     auto &listCall() { return service->issuesCalls.last(); }
 };
 
-// Selecting ---------------------------------------------------------------------------------------------------------------
+// Selecting -----------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreReloadTest, selectingThePresentScopeChangesNothing)
 {
@@ -131,7 +131,7 @@ TEST_F(AppStoreReloadTest, anotherSidebarRowIsSelectedAsItStands)
     EXPECT_EQ(store->sidebarSelection(), store->scope());
 }
 
-// Reloading ---------------------------------------------------------------------------------------------------------------
+// Reloading -----------------------------------------------------------------------------------------------------------
 
 TEST_F(AppStoreReloadTest, reloadingWithoutAServiceEndsAtOnce)
 {
@@ -259,7 +259,7 @@ TEST_F(AppStoreReloadTest, theButtonReloadsWithoutWaiting)
     EXPECT_EQ(service->issuesCalls.count(), calls + 1);
 }
 
-// Details and metadata on the way of a reload -----------------------------------------------------------------------------
+// Details and metadata during a reload --------------------------------------------------------------------------------
 
 TEST_F(AppStoreReloadTest, anOpenedIssueTakesWhatTheListBringsAndKeepsWhatOnlyADetailFetchKnows)
 {

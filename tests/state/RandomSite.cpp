@@ -182,7 +182,7 @@ RandomSite::Answer RandomSite::answerList(int number)
         if (!project || project->key == issue.projectKey)
             list += issue;
     }
-    // Pages overlap now and then.
+    // Pages of a list sometimes overlap, so that an issue occurs twice.
     if (random(4) == 0 && !list.isEmpty())
         list += list.first();
     call.finish(list);
@@ -215,7 +215,7 @@ RandomSite::Answer RandomSite::answerTransitions(int number)
     }
     const int performs = m_service->performCalls.count();
     call.finish(offered);
-    // The workflow may not offer the status, which ends the edit as a refusal does.
+    // If the workflow does not offer the status, the edit ends as after a refusal.
     answer.isRefused = m_service->performCalls.count() == performs;
     return answer;
 }

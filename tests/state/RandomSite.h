@@ -6,25 +6,25 @@
 #include <memory>
 #include <random>
 
-/// A site behind a scripted service that answers in any order, refuses, cancels, and whose search lags behind what was
-/// written. It keeps every state that it ever had, with its date.
+/// A simulated site with a scripted service that answers in random order, refuses and cancels, and whose search index
+/// is updated late. It records each of its states with the time.
 class RandomSite
 {
 public:
-    /// Which fields of an issue two records may differ in.
+    /// The fields in which two copies of an issue may differ.
     enum Field { Status, Priority, Assignee, Labels, Summary, Description, DueDate, FieldCount };
-    /// What became of a request.
+    /// The outcome of a request.
     struct Answer
     {
-        /// Of a write: its issue and its field.
+        /// The issue and the field of a write request.
         QString key;
         std::optional<Field> written;
-        /// A write that the site refused with words for the user.
+        /// The site refused the write with a message for the user.
         bool isRefused = false;
         bool isCancelled = false;
     };
 
-    /// Its issues have ids that begin with the name.
+    /// The ids of its issues begin with the name.
     RandomSite(const QString &name, const ManualClock &clock, std::mt19937 &random);
 
     const std::shared_ptr<ScriptedService> &service() const { return m_service; }
@@ -32,19 +32,19 @@ public:
     const QStringList &keys() const { return m_keys; }
     const QList<IssueStatus> &statuses() const { return m_statuses; }
     const Issue &issue(const QString &key) const;
-    /// Somebody else writes to the last of the issues.
+    /// Changes the last issue, as another user would.
     void changeByOthers();
     QString keyOfOthers() const { return m_keys.last(); }
 
-    /// Whether a write of the field may be under way. A status may also wait for its turn.
+    /// Whether a write of the field may be pending. A change of status may also be queued.
     bool hasOpenWrite(const QString &key, Field field) const;
 
-    /// Notes when the requests came that are new since the last call.
+    /// Records the time of the requests that arrived since the last call.
     void noteRequests();
     int waiting() const { return int(pending().size()); }
-    /// Answers a request that waits, any of them.
+    /// Answers a random pending request.
     Answer answerAny();
-    /// From now on nothing is refused, and every answer is that of this moment.
+    /// From now on no request is refused, and every response contains the current state.
     void becomeReliable() { m_isReliable = true; }
 
     static bool areEqual(const Issue &a, const Issue &b, Field field);
@@ -64,7 +64,7 @@ private:
 
     int random(int count) { return int(m_random() % unsigned(count)); }
     QList<Waiting> pending() const;
-    /// A state between the time and the present.
+    /// A random state between the given time and the present.
     const State &stateSince(const QDateTime &time);
     void write(const QString &key, const std::function<void(Issue &)> &change);
     template <typename Call>
@@ -83,7 +83,7 @@ private:
     QStringList m_keys;
     QList<IssueStatus> m_statuses;
     std::vector<Dated> m_history;
-    /// By number of the call.
+    /// The times of the requests, by the number of the call.
     QList<QDateTime> m_listsAsked;
     QList<QDateTime> m_issuesAsked;
     bool m_isReliable = false;

@@ -4,18 +4,18 @@
 #include "state/SiteSessions.h"
 #include "support/ScriptedCall.h"
 
-/// Sessions on sites in the hands of a test. Nothing is saved, and everything is kept, until a test says otherwise.
+/// Sessions on sites that a test controls. By default no sign-in is saved, and saving and deleting one succeed.
 class ScriptedSessions final : public SiteSessions
 {
 public:
-    /// The back end of every session opened.
+    /// The service of every opened session.
     Service service;
-    /// What each session opened calls when it begins.
+    /// Called by each opened session when it begins.
     std::function<void()> onBegin = [] {};
     SignIn last;
-    /// Whether `open` takes what was typed for the address of a site.
+    /// Whether `open` accepts the entered site address.
     bool isSiteValid = true;
-    /// What was typed at each `open`, in order.
+    /// What was entered for each `open`, in order.
     mutable QList<SignIn> opened;
     ScriptedCalls<Saved> restoreCalls;
     ScriptedCalls<void, SignIn> keepCalls;
@@ -28,7 +28,7 @@ public:
         forgetCalls.answerWith();
     }
 
-    /// How often the store of secrets would have been asked.
+    /// The number of requests that the keyring would have received.
     int asked() const { return restoreCalls.count() + keepCalls.count() + forgetCalls.count(); }
     void cancelPending()
     {

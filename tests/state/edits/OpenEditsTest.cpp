@@ -27,7 +27,7 @@ OptimisticEdit renaming(const QString &before, const QString &after)
     return {u"WEB-1"_s, FieldEdit<&Issue::summary>{before, after}};
 }
 
-/// What a user sees after the answers of a site: one issue whose title is edited.
+/// What the user sees after the responses of a site, tested with one issue whose title is edited.
 class OpenEditsTest : public testing::Test
 {
 protected:
@@ -102,7 +102,7 @@ TEST_F(OpenEditsTest, whatSomebodyElseWroteAfterwardsIsShown)
 {
     const auto id = edits.open(renaming(u"A"_s, u"B"_s), Start);
     edits.confirm(id, now);
-    // The search has caught up, and then brings a later change.
+    // The search index is up to date, and a later search returns a later change.
     EXPECT_EQ(shown(titled(u"B"_s, Start.addSecs(1)), edits.beginReading(now), Source::Search),
               u"B"_s);
     EXPECT_EQ(shown(titled(u"C"_s, Start.addSecs(9)), edits.beginReading(now), Source::Search),

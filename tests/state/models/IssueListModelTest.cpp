@@ -76,7 +76,7 @@ TEST_F(IssueListModelTest, ACollapsedGroupKeepsItsHeaderAndCount)
     model.setGroups(twoGroups(), {u"s:inprogress"_s});
     EXPECT_EQ(rowKeys(), (QStringList{u"h:s:inprogress"_s, u"h:s:todo"_s, u"W-3"_s}));
     EXPECT_EQ(shadow.structural, 1);
-    // The header, and then the places of all rows.
+    // First the header changes, then the positions of all rows.
     EXPECT_EQ(shadow.changedRows, (QList{0, 0, 1, 2}));
     const auto header = model.headerAt(0);
     EXPECT_TRUE(header.isCollapsed);

@@ -31,7 +31,7 @@ public:
     }
 };
 
-/// Each character is a key of value 0.
+/// A list of rows, one for each character, which is the key. All values are 0.
 QList<Word> words(const QString &text)
 {
     QList<Word> words;
@@ -48,7 +48,7 @@ QList<Word> numbered(int first, int count)
     return words;
 }
 
-/// A list made of the old one: some rows dropped, some changed, some new, some moved, or everything shuffled.
+/// A random variation of a list: some rows are removed, changed, inserted or moved, and sometimes all are shuffled.
 QList<Word> mutated(QList<Word> rows, QRandomGenerator &dice, int &nextKey)
 {
     const auto below = [&dice](int bound) { return bound == 0 ? 0 : int(dice.bounded(bound)); };

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each character is a key.
+/// A list of keys, one for each character.
 std::vector<QStringView> keys(const QString &text)
 {
     std::vector<QStringView> keys;

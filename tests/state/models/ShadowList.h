@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-/// Follows a model by its signals alone and checks at each of them that it holds what the model holds; fails when the
-/// model resets. Counts signals.
+/// A copy of a model that is updated only through the model's signals. After each signal that inserts, removes or moves
+/// rows it is compared with the model. It counts signals, and the test fails if the model resets.
 class ShadowList : public QObject
 {
 public:

@@ -22,7 +22,7 @@ IssueList numbered(const QString &project, int count, const QString &summary)
     return issues;
 }
 
-/// A list with its texts.
+/// A list of issues and the texts in which a search looks.
 struct Prepared
 {
     explicit Prepared(IssueList list) : issues(std::move(list))

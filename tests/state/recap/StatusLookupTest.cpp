@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A status whose group key is its folded name, for no synonym is known.
+/// A status whose group key is its folded name, because its name has no known synonym.
 IssueStatus staging(const QString &id)
 {
     return {id, u"Staging"_s, u"indeterminate"_s};
