@@ -14,7 +14,7 @@ Issue issueOf(const QString &key, const IssueStatus &status)
     return issue;
 }
 
-/// "id=keys" for each column.
+/// One text per column, in the form "id=keys".
 QStringList columns(const IssueDerivationInputs &inputs)
 {
     IssueDerivation derivation;
@@ -116,7 +116,7 @@ TEST(BoardColumns, OfTwoWorkflowsThatRankAStatusTheOneOfTheListsOwnProjectCounts
         {u"API"_s, {inProgress(u"Banc"_s), inProgress(u"Palier"_s), inProgress(u"Staging"_s)}},
         {u"WEB"_s, {todo(), inProgress(u"Staging"_s), inProgress(u"Palier"_s)}}};
     inputs.scope = IssueScope::project(u"WEB"_s, ProjectView::Active);
-    // "Banc" is unknown to the project and keeps the place that another one gives it.
+    // The project does not have "Banc", which therefore keeps its position in the workflow of the other project.
     EXPECT_EQ(columns(inputs), (QStringList{u"s:todo="_s, u"s:banc=WEB-3"_s, u"s:staging=WEB-2"_s,
                                             u"s:palier=WEB-1"_s}));
     inputs.scope = IssueScope::myIssues();

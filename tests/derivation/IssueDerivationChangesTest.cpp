@@ -18,7 +18,7 @@ namespace {
 
 constexpr int Issues = 60;
 
-/// A list of issues that is edited over and over, with its settings.
+/// Inputs whose issues and settings are changed repeatedly.
 class EditedInputs
 {
 public:
@@ -29,7 +29,7 @@ public:
 
     const IssueDerivationInputs &inputs() const { return m_inputs; }
 
-    /// Up to four records become others; now and then an issue goes, or comes a second time under the same key.
+    /// Changes up to four records. Sometimes it also removes an issue, or inserts a second record with the same key.
     void edit()
     {
         auto &issues = m_inputs.issues;
@@ -83,7 +83,7 @@ private:
     IssueDerivationInputs m_inputs;
 };
 
-/// Everything that is read is what the naive derivation gives.
+/// All results of the derivation are equal to those of the reference implementation.
 void expectAsOracle(const IssueDerivation &derivation)
 {
     const auto &inputs = derivation.inputs();
@@ -104,7 +104,7 @@ UserCalendar french()
     return {QLocale(u"fr_FR"_s), QTimeZone("Europe/Paris")};
 }
 
-/// The models of both layouts beside lists that are replayed from their signals alone.
+/// The models of both layouts, with copies that are updated only through the signals of the models.
 class ShadowedModels
 {
 public:
@@ -144,7 +144,7 @@ public:
             expectColumn(column, columns[column]);
     }
 
-    /// The rows of the list that show issues, for later comparison.
+    /// The list rows that show issues, for a later comparison.
     QList<QPersistentModelIndex> issueRows() const
     {
         QList<QPersistentModelIndex> rows;

@@ -50,7 +50,7 @@ bool goesBefore(const Issue &a, const Issue &b, const IssueDerivationInputs &inp
 int statusRank(const IssueStatus &status, const IssueDerivationInputs &inputs)
 {
     std::map<QString, QList<IssueStatus>> sorted;
-    // The empty text stands before all keys.
+    // The empty text sorts before all project keys, so the list's own project comes first.
     if (const auto *project = inputs.scope.asProject())
         sorted[QString()] = inputs.projectStatuses.value(project->key);
     for (auto entry = inputs.projectStatuses.begin(); entry != inputs.projectStatuses.end();
@@ -198,7 +198,7 @@ QList<IssueList> partitioned(const IssueList &issues, Grouping grouping)
     return lists;
 }
 
-/// Puts each value behind all that do not go after it.
+/// A stable insertion sort: each value is inserted after all values that it does not precede.
 template <typename T, typename Before>
 void sort(QList<T> &values, Before isBefore)
 {

@@ -4,7 +4,7 @@
 #include "derivation/IssueDerivationMenus.h"
 #include "derivation/IssueGroup.h"
 
-/// The derivation told step by step, with no thought of cost: what the real one is compared with.
+/// A simple reference implementation of the derivation, without optimisations. Tests compare the real one with it.
 namespace Oracle {
 
 IssueList visibleIssues(const IssueDerivationInputs &inputs);

@@ -20,7 +20,7 @@ void expectAsOracle(const IssueDerivation &derivation, quint32 seed)
     EXPECT_TRUE(derivation.menus() == Oracle::menus(inputs)) << "seed " << seed;
 }
 
-/// Changes one record, adds one, drops one or turns the order round.
+/// Changes, adds or removes one record, or reverses the order.
 IssueList edited(IssueList issues, quint32 seed)
 {
     const auto row = qsizetype(seed % quint32(issues.size()));

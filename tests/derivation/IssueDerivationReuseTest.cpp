@@ -17,7 +17,7 @@ protected:
         apply();
     }
 
-    /// Hands the inputs over and reads everything that a list shows.
+    /// Sets the inputs and reads all results that a list shows.
     void apply()
     {
         derivation.setInputs(inputs);

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Picks at random; repeatable.
+/// A random generator that repeats the same numbers for the same seed.
 class Dice
 {
 public:
