@@ -1,4 +1,4 @@
-// The whole key map under real keyboard layouts, with the scan codes and symbols of the window system.
+// Tests the complete key map with real keyboard layouts, using the scan codes and symbols of the window system.
 #include "commands/KeyRouting.h"
 #include "commands/KeyboardLayout.h"
 #include "commands/ShortcutKey.h"
@@ -16,9 +16,9 @@ constexpr quint32 firstKeypadKey = 79;
 struct Layout
 {
     const char *name;
-    /// Where the layout's keys of the letters of the map are, in the order "jkcspalix".
+    /// The scan codes of the keys for the letters of the key map, in the order "jkcspalix".
     std::array<quint32, 9> letters;
-    /// All presses of the copy shortcuts, written as the scan code, and with Shift as its negative.
+    /// All key presses of the copy shortcuts, given as scan codes. A negative scan code means the key with Shift.
     std::set<int> copyKey;
     std::set<int> copyBranch;
     std::set<int> copyLink;
@@ -36,13 +36,13 @@ const std::array layouts{
     Layout{"ch-de", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
     Layout{"ch-fr", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
     Layout{"ca", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
-    // The full stop needs Shift here: the key with it, and the key at its place.
+    // The full stop needs Shift here. Both the key that types it with Shift and the key at its QWERTY position work.
     Layout{"fr", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
     Layout{"fr-oss", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
     Layout{"be", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {-59, 60}, {-60}, {-58}},
     Layout{"fr-afnor", {44, 45, 54, 39, 33, 24, 46, 31, 53}, {58, 60}, {-58, -60}, {-59}},
     Layout{"fr-bepo", {33, 56, 43, 45, 26, 38, 32, 40, 54}, {55}, {-55}, {-42}},
-    // Letters of another script: those at the places of the map's.
+    // The layout has another script. The keys at the QWERTY positions of the letters are used.
     Layout{"ru", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60, 61}, {-60, -61}, {-59}},
     Layout{"gr", {44, 45, 54, 39, 33, 38, 46, 31, 53}, {60}, {-60}, {-59}},
 };
@@ -56,13 +56,13 @@ constexpr std::array letterCommands{
 class KeyMapUnderLayout : public testing::TestWithParam<Layout>
 {
 protected:
-    /// All presses with the modifiers that lead to the command, Shift written as a negative scan code.
+    /// All presses with the modifiers that result in the command. A negative scan code means the key with Shift.
     std::set<int> pressesOf(Command command, Qt::KeyboardModifiers modifiers,
                             Own own = Own::Known) const
     {
         std::set<int> presses;
         for (const quint32 code : layout.scanCodes()) {
-            // The keypad has signs of its own under every layout.
+            // The keypad types its own characters in every layout.
             if (code >= firstKeypadKey)
                 continue;
             if (shortcutCommand(layout.press(code, modifiers, own)) == command)
@@ -172,8 +172,8 @@ INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapUnderLayout, testing::ValuesIn(layouts),
                              return name;
                          });
 
-// Where the platform has no keyboard map, the characters typed and the places must do; the two copy commands stay apart
-// on every layout on which the full stop is at its place.
+// Without a keyboard map, only the typed characters and the scan codes are known. The two copy commands must remain
+// distinct on every layout that has the full stop at its QWERTY position.
 class KeyMapWithoutOwnCharacters : public testing::TestWithParam<const char *>
 {
 };

@@ -136,7 +136,7 @@ TEST(KeyPress, DigitsOfOtherScriptsGoByTheirPlace)
 
 TEST(KeyPress, ALatinLayoutNeverGoesByTheLettersPlace)
 {
-    // The key of "j" on QWERTY types "s" on BÉPO and "h" on Dvorak.
+    // The key that types "j" on QWERTY types "s" on BÉPO and "h" on Dvorak.
     EXPECT_FALSE(KeyPress::make(Qt::Key_S, 44, u"s"_s, Qt::NoModifier).isLetter(u'j'));
     EXPECT_TRUE(KeyPress::make(Qt::Key(0x41e), 44, u"о"_s, Qt::NoModifier).isLetter(u'j'));
 }

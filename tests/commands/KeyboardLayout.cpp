@@ -19,7 +19,7 @@ QString decoded(const QString &cell)
     return QString::fromUcs4(&point, 1);
 }
 
-/// The names that Qt gives to the keys that type nothing, or nothing that is to be read.
+/// Qt's names for keys that type no text or no printable text.
 Qt::Key namedKey(const QString &symbol)
 {
     static const QHash<QString, Qt::Key> names{
@@ -46,7 +46,7 @@ Qt::Key keyName(const QString &symbol, const QString &text)
     return Qt::Key(text.toUpper().toUcs4().front());
 }
 
-/// Control makes a control character of the letters and of the signs beside them in ASCII.
+/// With Control, letters and the ASCII characters adjacent to them are reported as control characters.
 QString reportedText(const QString &text, Qt::KeyboardModifiers modifiers)
 {
     if (!modifiers.testFlag(Qt::ControlModifier) || text.isEmpty())

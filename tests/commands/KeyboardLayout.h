@@ -5,22 +5,22 @@
 #include <QHash>
 #include <QString>
 
-/// A keyboard layout as the window system describes it, read from `layouts/<name>.tsv`, and what Qt reports for presses
-/// under it.
+/// A keyboard layout as the window system describes it, read from `layouts/<name>.tsv`. It creates the key presses that
+/// Qt reports with this layout.
 class KeyboardLayout
 {
 public:
-    /// What the platform tells of a key's own character: all, or nothing, as where no keyboard map is at hand.
+    /// Whether the platform reports the character of a key without modifiers. Without a keyboard map it does not.
     enum class OwnCharacters { Known, Unknown };
 
     static KeyboardLayout load(const QString &name);
 
     /// The scan codes of all keys of the table.
     QList<quint32> scanCodes() const { return m_keys.keys(); }
-    /// The press of a key; Shift selects its second level.
+    /// The press of a key. Shift selects the key's second level.
     KeyPress press(quint32 scanCode, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                    OwnCharacters own = OwnCharacters::Known) const;
-    /// The key that types the text alone; 0 when there is none.
+    /// The scan code of the key that types the text without modifiers, or 0 if there is none.
     quint32 keyOf(const QString &text) const;
 
 private:
