@@ -99,9 +99,10 @@ void Farewell::setStage(Stage stage)
         m_endTimer = m_clock.after(ReadingTime, [this] { leave(); });
     else
         m_endTimer.reset();
-    Q_EMIT changed();
+    // The sheet opens in a window that is there already.
     if (isShown())
         Q_EMIT windowWanted();
+    Q_EMIT changed();
 }
 
 void Farewell::endIfNothingIsLeft()

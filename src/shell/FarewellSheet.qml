@@ -6,65 +6,69 @@ import Velmora.Shell
 import Velmora.Theme
 
 // Tells that changes are still being sent while the program ends, and lets the user decide.
-Sheet {
+Item {
     id: root
 
     required property Farewell farewell
 
-    name: farewell.title
-    implicitWidth: 400
-    visible: farewell.isShown
-    onClosed: {
-        if (root.farewell.isShown)
-            root.farewell.stay();
-    }
+    Sheet {
+        id: sheet
 
-    Item {
-        width: root.width
-        implicitHeight: column.implicitHeight + 2 * Metrics.gapLarge
+        name: root.farewell.title
+        implicitWidth: 400
+        visible: true
+        onClosed: {
+            if (root.farewell.isShown)
+                root.farewell.stay();
+        }
 
-        Column {
-            id: column
+        Item {
+            width: sheet.width
+            implicitHeight: column.implicitHeight + 2 * Metrics.gapLarge
 
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.top: parent.top
-            anchors.margins: Metrics.gapLarge
-            spacing: Metrics.gapMedium
+            Column {
+                id: column
 
-            AppText {
-                width: parent.width
-                role: TypeScale.Headline
-                text: root.farewell.title
-                wrapMode: Text.Wrap
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
-            }
-
-            AppText {
-                width: parent.width
-                color: Theme.text2
-                text: root.farewell.text
-                wrapMode: Text.Wrap
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-
-            Row {
+                anchors.left: parent.left
                 anchors.right: parent.right
-                topPadding: Metrics.gap
-                spacing: Metrics.gap
+                anchors.top: parent.top
+                anchors.margins: Metrics.gapLarge
+                spacing: Metrics.gapMedium
 
-                PushButton {
-                    text: "Quitter quand même"
-                    onClicked: root.farewell.leave()
+                AppText {
+                    width: parent.width
+                    role: TypeScale.Headline
+                    text: root.farewell.title
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
                 }
 
-                PushButton {
-                    look: PushButton.Prominent
-                    text: "Rester"
-                    focus: true
-                    onClicked: root.farewell.stay()
+                AppText {
+                    width: parent.width
+                    color: Theme.text2
+                    text: root.farewell.text
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+
+                Row {
+                    anchors.right: parent.right
+                    topPadding: Metrics.gap
+                    spacing: Metrics.gap
+
+                    PushButton {
+                        text: "Quitter quand même"
+                        onClicked: root.farewell.leave()
+                    }
+
+                    PushButton {
+                        look: PushButton.Prominent
+                        text: "Rester"
+                        focus: true
+                        onClicked: root.farewell.stay()
+                    }
                 }
             }
         }

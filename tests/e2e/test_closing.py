@@ -11,10 +11,10 @@ class Closing(SiteCase):
         self.wait_issues(self.velmora)
 
     def change_a_priority(self):
-        """Picks the first priority for the first issue, by keyboard."""
+        """Picks a low priority for the first issue, which has a high one, by keyboard."""
         self.session.key("j", "p")
         self.velmora.app.find(role="list item", name="^Urgente")
-        self.session.key("1")
+        self.session.key("4")
         self.velmora.app.gone(role="list item", name="^Basse$")
 
     def test_the_program_waits_for_a_change_and_then_ends(self):
