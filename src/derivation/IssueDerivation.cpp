@@ -110,7 +110,7 @@ const Memo<std::vector<quint8>> &IssueDerivation::filter() const
 const Memo<IssueDerivation::Search> &IssueDerivation::search() const
 {
     index();
-    // Before its sources are noted as the present ones.
+    // Must be read before `refreshed`, which replaces the stored sources.
     const bool isSameIndex = m_search.sources.front() == m_indexMemo.version;
     return m_search.refreshed({m_indexMemo.version, version(Text)},
                               [this, isSameIndex] { return searched(isSameIndex); });

@@ -9,12 +9,12 @@
 
 #include <array>
 
-/// From the issues, the filters and the display settings to what a list or a board shows. Every step is computed when it
-/// is first asked for and again only when something it depends on has changed: a key typed into the search field costs a
-/// search, a pass of the filters over numbers, and a grouping; what gives the same result as before goes no further. An
-/// issue that has become another costs one computation of all steps, about 0.1 ms for 300 issues and 3 ms for 10,000.
+/// Computes what a list or a board shows from the issues, the filters and the display settings. Each step is computed
+/// when it is first read, and again only when one of its dependencies has changed. If a step gives the same result as
+/// before, the steps that depend on it are not computed again. For example, a change of the search text costs a search
+/// and a grouping. A changed issue costs one computation of all steps, about 0.1 ms for 300 issues and 3 ms for 10,000.
 ///
-/// Of issues that have the same key only the first is ever shown.
+/// When several issues have the same key, only the first is shown.
 class IssueDerivation
 {
 public:
@@ -32,26 +32,27 @@ public:
         Count
     };
 
-    /// Compares with the inputs before; takes effect at the next read.
+    /// Compares the inputs with the previous ones. The change takes effect at the next read.
     void setInputs(const IssueDerivationInputs &inputs);
     const IssueDerivationInputs &inputs() const { return m_inputs; }
 
-    /// Where the first issue with the key stands in the issues of the inputs.
+    /// The position of the first issue with the key in the issues of the inputs; nothing if there is none.
     std::optional<int> rowOf(QStringView key) const;
 
     /// Filtered and sorted.
     const IssueList &visibleIssues() const { return visibleMemo().value; }
-    /// The sections of the list layout, without regard to what is collapsed.
+    /// The sections of the list layout, whether or not they are collapsed.
     const QList<IssueGroup> &groups() const { return listMemo().value; }
     /// The columns of the board layout.
     const QList<IssueGroup> &boardColumns() const { return boardMemo().value; }
-    /// The keys of what the present layout shows, in the order in which it is read; without collapsed groups in a list.
+    /// The keys of the issues that the current layout shows, in reading order. In a list, collapsed groups are left
+    /// out.
     const VisiblePath &visiblePath() const;
     const QStringList &flatVisibleKeys() const { return visiblePath().keys(); }
-    /// What the keys of the visible issues look like.
+    /// The shapes of the keys of the visible issues.
     const KeyShapes &keyShapes() const;
     const IssueDerivationMenus &menus() const { return menusMemo().value; }
-    /// Each grows, from 1, whenever what it is named for has become another.
+    /// Version numbers, from 1: each grows whenever the value in its name changes.
     quint64 visibleVersion() const { return visibleMemo().version; }
     quint64 groupsVersion() const { return listMemo().version; }
     quint64 boardVersion() const { return boardMemo().version; }
@@ -61,11 +62,11 @@ public:
 
     /// How often the step was computed.
     int timesComputed(Step step) const;
-    /// How many issues had their texts folded.
+    /// How many times the texts of an issue have been folded since this object was created.
     qsizetype foldedIssues() const { return m_index.foldedIssues(); }
 
 private:
-    /// The inputs that steps depend on, each with a number that grows when it changes.
+    /// The inputs that steps depend on. `m_versions` has a number for each, which grows when the input changes.
     enum Input {
         Issues,
         Recap,
@@ -84,7 +85,7 @@ private:
         InputCount
     };
     using Sources = Memo<int>::Sources;
-    /// What was asked for and which issues contain it.
+    /// The search text and which issues contain it.
     struct Search
     {
         QByteArray needle;
@@ -106,7 +107,7 @@ private:
     const Memo<QList<IssueGroup>> &boardMemo() const;
     const Memo<IssueDerivationMenus> &menusMemo() const;
     Search searched(bool isSameIndex) const;
-    /// What the visible issues depend on, whatever is made of them.
+    /// The sources of values that are computed from the visible issues.
     Sources visibleSources() const { return {version(Issues), m_visible.version}; }
 
     IssueDerivationInputs m_inputs;

@@ -6,7 +6,8 @@
 
 namespace {
 
-/// The statuses of the workflow that the list is about; of those that share a group the first.
+/// The statuses of the project's workflow; if several share a group, only the first. Empty if the scope is not a
+/// project.
 QList<IssueStatus> workflow(const IssueDerivationInputs &inputs)
 {
     const auto *project = inputs.scope.asProject();

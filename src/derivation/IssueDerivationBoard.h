@@ -2,10 +2,11 @@
 
 #include "derivation/IssueDerivationGroups.h"
 
-/// The statuses from left to right.
+/// The statuses in the order of the board's columns, from left to right.
 QList<IssueStatus> inBoardOrder(const QList<IssueStatus> &statuses, const StatusRanks &ranks,
                                 const NameOrder &names);
 
-/// How the board divides issues. In a project's list every status of its workflow has a column, also without issues;
-/// closed columns stand only where closed work is shown. Lives no longer than what the context names.
+/// The rules by which the board divides issues. In a project's list, every status of its workflow has a column, even
+/// without issues. Columns of closed statuses exist only if closed work is shown. The context's references must outlive
+/// the rules.
 SectionRules boardRules(const IssueDerivationContext &context);

@@ -21,7 +21,7 @@ SectionHead ofStatus(const IssueStatus &status, const IssueDerivationContext &co
             sectionPlace(listPlace(status, context.ranks, context.names, doneFirst))};
 }
 
-/// My own issues lead, nobody's come last, people stand in alphabetical order between them.
+/// The user's own issues come first, unassigned issues come last. Between them, the others are in alphabetical order.
 SectionHead ofAssignee(const std::optional<JiraUser> &user, const IssueDerivationContext &context)
 {
     enum Part { Mine, Somebodys, Nobodys };

@@ -5,7 +5,8 @@
 #include "derivation/IssueDerivationOrder.h"
 #include "derivation/IssueSections.h"
 
-/// What all steps of the derivation read. The index also gives numbers to statuses that no issue has.
+/// The data that all steps of the derivation read. `index` is not const because it also assigns numbers to statuses
+/// that no issue has.
 struct IssueDerivationContext
 {
     const IssueDerivationInputs &inputs;
@@ -18,5 +19,5 @@ struct IssueDerivationContext
 IssueGroup statusGroup(const IssueStatus &status);
 SectionPlace sectionPlace(const StatusPlace &place);
 
-/// How the list layout divides issues. Lives no longer than what the context names.
+/// The rules by which the list layout divides issues. The context's references must outlive the rules.
 SectionRules listRules(const IssueDerivationContext &context);

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Finds the earlier record of an issue: mostly in its old place, else by its key.
+/// Finds the previous record of an issue: first at the same row, which is the usual case, else by its key.
 class EarlierRecords
 {
 public:
@@ -33,7 +33,7 @@ private:
     QHash<QString, qsizetype> m_rows;
 };
 
-/// Points into the records.
+/// The index refers to the memory of the records.
 KeyIndex keyIndexOf(const IssueList &issues)
 {
     std::vector<QStringView> keys;
@@ -97,7 +97,8 @@ IndexedIssue IssueIndex::indexed(const Issue &issue)
             ::isClosed(issue.status.category())};
 }
 
-/// An empty list, which stands between any two sessions and most scopes, is the moment to let old names go.
+/// Called for an empty list, which occurs between two sessions and between most scopes, so that old names do not
+/// accumulate.
 void IssueIndex::forgetNames()
 {
     m_statuses = {};

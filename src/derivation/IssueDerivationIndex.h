@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Numbers the distinct texts it is given, from 0. Numbers stay what they are.
+/// Assigns a number to each distinct text, from 0. The number of a text never changes.
 class Ordinals
 {
 public:
@@ -18,38 +18,39 @@ private:
     QHash<QString, quint32> m_numbers;
 };
 
-/// What grouping and filtering ask of an issue, as numbers, so that they need not visit the record.
+/// The properties of an issue that grouping and filtering read, as numbers, so that they do not need to read the
+/// record.
 struct IndexedIssue
 {
     quint32 status = 0;
     quint32 assignee = 0;
     quint32 project = 0;
     quint32 level = 0;
-    /// The same for all.
+    /// The same number for all issues.
     quint32 everything = 0;
     bool isClosed = false;
 };
 
-/// The fresh list with the records of `known` in place of equal ones of its own, so that whoever compares the lists later
-/// finds the same objects and looks no further.
+/// Returns the `fresh` list, with each record that equals one in `known` replaced by the record in `known`. A later
+/// comparison of the lists finds identical objects and does not need to compare their fields.
 IssueList reusingRecords(IssueList fresh, const IssueList &known);
 
-/// A list of issues prepared for filtering and grouping. A new list costs work only for what is new in it.
+/// A list of issues prepared for filtering and grouping. An update prepares only the records that have changed.
 class IssueIndex
 {
 public:
-    /// Takes over the list; keeps what it knows of records that did not change.
+    /// Replaces the list. The prepared data of unchanged records is reused.
     void update(const IssueList &issues);
 
     const IssueList &issues() const { return m_issues; }
     const std::vector<IndexedIssue> &rows() const { return m_rows; }
     const SearchTexts &texts() const { return m_texts; }
-    /// Where each key stands in the list.
+    /// The position of each key in the list.
     const KeyIndex &keys() const { return m_keys; }
 
     /// The number of a status group, whether or not an issue is in it.
     quint32 statusNumber(const QString &groupKey) { return m_statuses.of(groupKey); }
-    /// How many issues had their texts folded, ever.
+    /// How many times the texts of an issue have been folded since this object was created.
     qsizetype foldedIssues() const { return m_foldedIssues; }
 
 private:
@@ -63,6 +64,6 @@ private:
     Ordinals m_assignees;
     Ordinals m_projects;
     qsizetype m_foldedIssues = 0;
-    /// Points into the records.
+    /// Refers to the memory of the records in `m_issues`.
     KeyIndex m_keys;
 };

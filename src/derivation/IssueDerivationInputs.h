@@ -8,10 +8,10 @@
 #include <QHash>
 #include <QLocale>
 
-/// All that the shown lists depend on.
+/// Everything that the shown lists depend on.
 struct IssueDerivationInputs
 {
-    /// As the service gave them.
+    /// In the order in which the service returned them.
     IssueList issues;
     IssueScope scope;
     IssueFilters filters;
@@ -24,19 +24,19 @@ struct IssueDerivationInputs
     QSet<QString> collapsedGroups;
     std::optional<JiraUser> me;
     QList<Project> projects;
-    /// By project key; better known than the entry of `projects`.
+    /// By project key. These records have more details than the entries of `projects`.
     QHash<QString, Project> projectDetails;
     /// The statuses of each loaded project in the order of its workflow, by project key.
     QHash<QString, QList<IssueStatus>> projectStatuses;
-    /// Whose alphabet names are sorted by.
+    /// The locale by whose rules names are sorted.
     QLocale locale;
 
-    /// A recap shows what was finished, whatever the settings say.
+    /// A recap shows closed issues regardless of the settings.
     bool isRecap() const { return scope.asActivity() != nullptr; }
     bool showsClosed() const { return showCompleted || isRecap(); }
-    /// The key of the project that the scope is about; empty for all other scopes.
+    /// The key of the scope's project; empty if the scope is not a project.
     QString scopeProject() const;
-    /// The project's details, else its entry in the list of projects.
+    /// The project's details, else its entry in the list of projects; nothing if the project is unknown.
     std::optional<Project> project(const QString &key) const;
 };
 

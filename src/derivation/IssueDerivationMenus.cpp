@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Values without repetition, in the order of first entry.
+/// Values without duplicates, in the order in which they were first entered.
 template <typename T>
 class Distinct
 {

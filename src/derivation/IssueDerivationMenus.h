@@ -2,17 +2,17 @@
 
 #include "derivation/IssueDerivationOrder.h"
 
-/// What the filter menus offer: taken from all issues, shown or not, so that a menu keeps its entries while filters are
-/// set. Entries that repeat stand once, with the value met first.
+/// The entries of the filter menus. They are taken from all issues, shown or not, so that a menu keeps its entries
+/// while filters are set. Each entry occurs once; of repeated entries, the first is kept.
 struct IssueDerivationMenus
 {
     /// One for each group key, in board order.
     QList<IssueStatus> statuses;
-    /// By name.
+    /// Sorted by name.
     QList<JiraUser> assignees;
-    /// By the alphabet.
+    /// Sorted alphabetically.
     QStringList labels;
-    /// One for each name, by name.
+    /// One for each name, sorted by name.
     QList<IssueType> types;
 
     bool operator==(const IssueDerivationMenus &) const = default;

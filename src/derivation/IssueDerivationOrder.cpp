@@ -4,7 +4,8 @@
 
 namespace {
 
-/// What an issue is sorted by. The position in the service's list, which comes last, makes every key a different one.
+/// The sort key of an issue. The last element is the row in the service's list, which makes every sort key unique and
+/// the order stable.
 struct SortKey
 {
     qint64 major = 0;
@@ -43,7 +44,7 @@ QDateTime lastActivityDate(const Issue &issue)
     return event ? event->date : issue.updated;
 }
 
-/// The place of each project key in plain text order.
+/// The position of each project key in plain text order.
 QHash<QString, qint64> projectPlaces(const IssueList &issues)
 {
     QHash<QString, qint64> places;
@@ -69,7 +70,7 @@ SortKey recapKey(const Issue &issue)
     return {latestFirst(lastActivityDate(issue))};
 }
 
-/// For every ordering but the one by key, which depends on the projects of the whole list.
+/// The sort key for every ordering except the one by issue key, which depends on the projects of the whole list.
 SortKey keyIn(Ordering ordering, const Issue &issue)
 {
     switch (ordering) {

@@ -9,7 +9,7 @@
 #include <tuple>
 #include <vector>
 
-/// The localised order of names. Remembers each name it was asked for, so that a list is sorted by comparing bytes.
+/// The localised order of names. Caches the sort key of each name, so that a list is sorted by comparing bytes.
 class NameOrder
 {
 public:
@@ -26,12 +26,13 @@ private:
 class StatusRanks
 {
 public:
-    /// The position of a status that no workflow has: behind all others.
+    /// The position of a status that is in no workflow: after all others.
     static constexpr int unknown = 999;
 
     StatusRanks() = default;
-    /// Of projects that share a status, `ownProject` counts before all others, and among those the one with the first
-    /// key, in plain text order. No project has an empty key.
+    /// If several projects share a status, its position is taken from `ownProject` if that has the status, else from
+    /// the project whose key comes first in plain text order. No project has an empty key, so an empty `ownProject`
+    /// means none.
     explicit StatusRanks(const QHash<QString, QList<IssueStatus>> &projectStatuses,
                          const QString &ownProject = {});
 
@@ -43,27 +44,28 @@ private:
     QHash<QString, int> m_ranks;
 };
 
-/// The position of a category in lists, which begin with the work in progress: 0 for `InProgress`, then `Todo`,
-/// `Backlog`, `Done`, and 4 for `Cancelled`.
+/// The position of a category in lists, where work in progress comes first: 0 for `InProgress`, then `Todo`, `Backlog`,
+/// `Done`, and 4 for `Cancelled`.
 int workRank(StatusCategory category);
 
-/// Where a status stands among others: smaller is earlier.
+/// The sort key of a status: smaller comes first.
 using StatusPlace = std::tuple<int, double, int, LocalizedKey>;
 
-/// Whether closed work leads a list, as in a recap.
+/// Whether completed work comes first in a list, as in a recap.
 enum class DoneFirst { No, Yes };
 
-/// The place of a status group in a list: work under way leads, further progress first.
+/// The sort key of a status group in a list: work in progress comes first, and within a category the statuses with the
+/// most progress.
 StatusPlace listPlace(const IssueStatus &status, const StatusRanks &ranks, const NameOrder &names,
                       DoneFirst doneFirst);
-/// The place of a column on a board: along the workflow from left to right.
+/// The sort key of a column on a board: in the order of the workflow from left to right.
 StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, const NameOrder &names);
 
 /// Positions in a list of issues.
 using IssueRows = std::vector<quint32>;
 
-/// The issues in the order of their last activity, latest first; an issue without events counts as active when it was
-/// last updated. Stable.
+/// The issues in the order of their last activity, latest first. An issue without events is sorted by its last update.
+/// The sort is stable.
 IssueRows recapOrder(const IssueList &issues);
-/// The issues in the given order. Stable.
+/// The issues in the given order. The sort is stable.
 IssueRows issueOrder(const IssueList &issues, Ordering ordering);

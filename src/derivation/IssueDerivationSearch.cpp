@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Stands behind each text. Never part of UTF-8, so no needle can reach over the end of a text.
+/// The terminator after each text. This byte never occurs in UTF-8, so no needle can match across two texts.
 constexpr char endOfText = '\xff';
 
 QString assigneeName(const Issue &issue)
@@ -78,7 +78,8 @@ std::vector<quint8> SearchTexts::containing(const QByteArray &needle) const
 std::vector<quint8> SearchTexts::containing(const QByteArray &needle,
                                             std::vector<quint8> hits) const
 {
-    // One pass over all texts costs less than many looks into single ones.
+    // If more than one in `few` issues is an earlier hit, one scan of all texts is faster than a search in each of
+    // those issues.
     constexpr std::ptrdiff_t few = 8;
     if (std::ranges::count(hits, 1) * few > std::ssize(hits))
         return containing(needle);

@@ -7,7 +7,8 @@
 #include <utility>
 #include <vector>
 
-/// The values in the order of the keys that `keyOf` makes of them, each key made once; equal keys keep their order.
+/// The values, sorted by the keys that `keyOf` returns for them. `keyOf` is called once for each value. The sort is
+/// stable.
 template <typename T, typename KeyOf>
 QList<T> sortedByKey(const QList<T> &values, KeyOf keyOf)
 {

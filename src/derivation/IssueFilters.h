@@ -6,10 +6,10 @@
 #include <QSet>
 #include <QString>
 
-/// What the filter menus have picked. An empty set sets no condition.
+/// The values chosen in the filter menus. An empty set means no condition.
 struct IssueFilters
 {
-    /// What stands in `assignees` for the issues of nobody.
+    /// The value in `assignees` that means unassigned issues.
     static constexpr QLatin1StringView unassigned{"__unassigned__"};
 
     /// `groupKey`s of statuses.
@@ -22,7 +22,7 @@ struct IssueFilters
     QSet<QString> types;
 
     bool isEmpty() const;
-    /// True if the issue meets all conditions; of several labels one is enough.
+    /// True if the issue meets all conditions; if several labels are chosen, the issue needs only one of them.
     bool matches(const Issue &issue) const;
 
     bool operator==(const IssueFilters &) const = default;

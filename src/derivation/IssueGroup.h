@@ -9,7 +9,7 @@
 #include <optional>
 #include <variant>
 
-/// What a group of issues stands for; decides its icon and what a drop on it means.
+/// What the issues of a group have in common. This determines the group's icon and the effect of a drop on it.
 class IssueGroupKind
 {
 public:
@@ -23,7 +23,7 @@ public:
     {
         return IssueGroupKind(OfStatus{std::move(status)});
     }
-    /// A person's issues, or nobody's.
+    /// The issues of a person, or the unassigned issues.
     static IssueGroupKind assignee(std::optional<JiraUser> user)
     {
         return IssueGroupKind(OfAssignee{std::move(user)});
@@ -32,7 +32,7 @@ public:
     {
         return IssueGroupKind(OfPriority{level});
     }
-    /// A project's issues; the project may not be known.
+    /// The issues of a project; nothing for a project that is not known.
     static IssueGroupKind project(std::optional<Project> project)
     {
         return IssueGroupKind(OfProject{std::move(project)});
@@ -88,9 +88,9 @@ struct IssueGroup
 {
     using Kind = IssueGroupKind;
 
-    /// Stable; what the set of collapsed groups holds: "s:", "a:", "p:" or "j:" and a key, or "all".
+    /// Stable; the set of collapsed groups consists of these ids: "s:", "a:", "p:" or "j:" and a key, or "all".
     QString id;
-    /// What the header says.
+    /// The text of the header.
     QString title;
     Kind kind;
     /// In the order of the visible issues.

@@ -7,7 +7,7 @@ namespace {
 constexpr int nowhere = -1;
 constexpr int hidden = -2;
 
-/// How many rows have each number.
+/// The number of rows for each section number.
 std::vector<qsizetype> countsOf(const IssueRows &rows, const IssueIndex &index,
                                 quint32 IndexedIssue::*number)
 {
@@ -21,7 +21,8 @@ std::vector<qsizetype> countsOf(const IssueRows &rows, const IssueIndex &index,
     return counts;
 }
 
-/// By number, below `numbers`: the position of the fixed section, `hidden`, or `nowhere`.
+/// For each section number below `numbers`: the position of its fixed section, `hidden`, or `nowhere` if it has no
+/// section yet.
 std::vector<int> knownSections(std::size_t numbers, const SectionRules &rules)
 {
     std::vector<int> sections(numbers, nowhere);

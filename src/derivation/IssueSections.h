@@ -6,10 +6,10 @@
 
 #include <functional>
 
-/// Where a section stands among others: smaller is earlier.
+/// The sort key of a section: smaller comes first.
 using SectionPlace = std::tuple<int, double, int, LocalizedKey, QString>;
 
-/// A section and its place.
+/// A section without its issues, and its sort key.
 struct SectionHead
 {
     IssueGroup group;
@@ -19,7 +19,7 @@ struct SectionHead
 /// How issues are divided into sections.
 struct SectionRules
 {
-    /// A section that stands whether or not it has issues.
+    /// A section that exists whether or not it has issues.
     struct Fixed
     {
         quint32 number = 0;
@@ -27,18 +27,18 @@ struct SectionRules
         SectionHead head;
     };
 
-    /// Issues that share this number share a section.
+    /// The property that determines an issue's section: issues with the same number are in the same section.
     quint32 IndexedIssue::*number = nullptr;
-    /// What the first issue of a section makes of it, without any issues.
+    /// Creates a section from its first issue. The result contains no issues.
     std::function<SectionHead(const Issue &)> headOf;
-    /// With a number each.
+    /// Each has its own number.
     std::vector<Fixed> fixed;
-    /// The issues with these numbers are in no section.
+    /// Issues with these numbers are left out.
     std::vector<quint32> hidden;
 };
 
 /// The issues in the rows `visible` of the index, divided into the sections of a list or the columns of a board; within
-/// each in the order of `visible`. Of sections in one place the fixed ones stand first, in their order, then the others
-/// in the order of their first issues.
+/// each section, they have the order of `visible`. Among sections with equal sort keys, the fixed ones come first, in
+/// their order, then the others in the order of their first issues.
 QList<IssueGroup> dividedIssues(const IssueRows &visible, const IssueIndex &index,
                                 const SectionRules &rules);

@@ -24,7 +24,7 @@ std::optional<int> KeyIndex::find(QStringView key) const
     return slot == 0 ? std::nullopt : std::optional(int(slot - 1));
 }
 
-/// The slot that holds the key, or the free one where it would stand.
+/// The slot that contains the key, or the free slot where it would be inserted.
 std::size_t KeyIndex::slotOf(QStringView key) const
 {
     const auto mask = m_slots.size() - 1;

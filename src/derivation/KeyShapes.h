@@ -4,16 +4,17 @@
 
 #include <vector>
 
-/// What the keys of a list look like: how wide the widest one is can be told from one key of each shape.
+/// The different shapes of the keys in a list. To find the width of the widest key, it is enough to measure one key of
+/// each shape.
 class KeyShapes
 {
 public:
-    /// Keys of one project and one length.
+    /// The keys of one project that have the same length.
     struct Shape
     {
         QString project;
         qsizetype length = 0;
-        /// Such a key.
+        /// One key of this shape.
         QString example;
 
         bool operator==(const Shape &) const = default;
@@ -22,7 +23,7 @@ public:
     KeyShapes() = default;
     explicit KeyShapes(const IssueList &issues);
 
-    /// Those that occur.
+    /// The shapes that occur in the list.
     const std::vector<Shape> &shapes() const { return m_shapes; }
 
     bool operator==(const KeyShapes &) const = default;

@@ -5,21 +5,21 @@
 #include <array>
 #include <utility>
 
-/// A value that is computed when it is first read and again only when one of its sources has changed.
+/// A cached value. It is computed when it is first read, and again only when one of its sources has changed.
 template <typename T>
 struct Memo
 {
-    /// One number for each source, which grows when the source changes; unused places are 0.
+    /// The version number of each source, which grows when the source changes; unused elements are 0.
     using Sources = std::array<quint64, 8>;
 
     T value{};
-    /// Grows when the value becomes another one; 0 before the first computation. A source of other memos.
+    /// Grows when the value changes; 0 before the first computation. Other memos can use it as a source.
     quint64 version = 0;
     Sources sources{};
     /// How often the value was computed.
     int computations = 0;
 
-    /// This memo with the value that belongs to these states of its sources.
+    /// This memo, with its value computed again if the sources have changed to `present`.
     template <typename Compute>
     const Memo &refreshed(const Sources &present, Compute compute)
     {
@@ -29,7 +29,7 @@ struct Memo
         ++computations;
         sources = present;
         version += version == 0 || !(fresh == value);
-        // Also where both are equal: parts that the comparison leaves out may differ.
+        // Assigned even if both are equal, because the comparison may ignore some parts of the value.
         value = std::move(fresh);
         return *this;
     }

@@ -6,7 +6,8 @@
 
 #include <optional>
 
-/// The keys of what a layout shows, in reading order: the path of the arrow keys. No key stands on it twice.
+/// The keys of the issues that a layout shows, in reading order. The arrow keys move the focus in this order. Each key
+/// occurs once.
 class VisiblePath
 {
 public:
@@ -16,10 +17,11 @@ public:
     const QStringList &keys() const { return m_keys; }
     qsizetype size() const { return m_keys.size(); }
     bool isEmpty() const { return m_keys.isEmpty(); }
-    /// The key at a place, which must be on the path.
+    /// The key at a position, which must be in range.
     const QString &operator[](qsizetype place) const { return m_keys[place]; }
     const QString &front() const { return m_keys.front(); }
-    /// -1 for a key that is not shown. The first question makes an index, each one after it costs a look-up.
+    /// The position of the key; -1 if it is not shown. The first call builds an index, each later call is a look-up in
+    /// it.
     qsizetype indexOf(const QString &key) const
     {
         if (!m_index)
@@ -34,6 +36,6 @@ public:
 
 private:
     QStringList m_keys;
-    /// Points into the keys.
+    /// Refers to the memory of the strings in `m_keys`.
     mutable std::optional<KeyIndex> m_index;
 };
