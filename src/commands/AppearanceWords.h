@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What the user reads for an appearance: "Système", "Clair", "Sombre".
+/// The name of an appearance in the user interface: "Système", "Clair", "Sombre".
 QString appearanceLabel(AppearanceMode mode);
-/// The name of its symbol.
+/// The name of the appearance's symbol.
 QString appearanceSymbol(AppearanceMode mode);

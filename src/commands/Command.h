@@ -2,30 +2,30 @@
 
 #include <QObject>
 
-/// The one vocabulary of what a person can ask for. Keys, menus, rows of the palette and toolbars map to these values,
-/// and the store carries them out.
+/// All commands of the user interface. Keys, menus, rows of the palette and toolbars map to these values, and the store
+/// carries them out.
 namespace Commands {
 Q_NAMESPACE
-// QML gets only the scoped names, because a picker and a command may share one.
+// QML sees only the scoped names, because a picker and a command may have the same name.
 Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
-/// What can be asked for. A command on issues takes its issues beside it; without any it means those that are chosen in
-/// the main window.
+/// The commands. The issues that a command applies to are passed separately; if none are passed, it applies to those
+/// that are chosen in the main window.
 enum class Command {
     NewIssue,
-    /// Take the focus to the issue and show it in the inspector.
+    /// Focus the issue and show it in the inspector.
     OpenIssue,
     /// Open the issue in a window of its own.
     OpenWindow,
-    /// Show the focused issue in the inspector, or close the inspector on it.
+    /// Show the focused issue in the inspector, or close the inspector if it shows this issue.
     Peek,
     /// Show or hide the inspector, whatever it shows.
     ToggleInspector,
-    /// Leave the innermost thing: the selection, the inspector, the filter.
+    /// Cancel the first of these that is present: the multi-selection, the inspector, the filter text.
     Escape,
     MoveDown,
     MoveUp,
-    /// Add the focused issue to the multi-selection, or take it out.
+    /// Add the focused issue to the multi-selection, or remove it.
     ToggleCheck,
     PickStatus,
     PickPriority,

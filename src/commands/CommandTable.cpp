@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Stands for a command that is not in the menu "Tickets".
+/// The group of a command that is not in the menu "Tickets".
 constexpr std::nullopt_t elsewhere = std::nullopt;
 
 struct Entry

@@ -8,24 +8,24 @@
 
 #include <optional>
 
-/// The one table of the commands' words: menus, the palette, hints and the reference of shortcuts take theirs from it.
-/// Texts are the Mac's; `Wording` turns them into this system's.
+/// The texts of the commands. Menus, the palette, hints and the list of shortcuts take their texts from this table. The
+/// texts use macOS terms and symbols; `Wording` converts them to those of the current system.
 
-/// The groups of the menu "Tickets", between which a line stands.
+/// The groups of the menu "Tickets", which are divided by separators.
 enum class CommandGroup { General, Editing, Sharing, Display };
 
 /// The commands of a group in their order.
 QList<Command> commandsIn(CommandGroup group);
 
 enum class InspectorState { Closed, Open };
-/// What menus and the palette call the command; empty for one that only keys ask for.
+/// The command's title in menus and the palette; empty for a command that only has keys.
 QString commandTitle(Command command, InspectorState inspector = InspectorState::Closed);
-/// "⌘⇧O"; empty for a command without a shortcut.
+/// The shortcut as text, such as "⌘⇧O"; empty for a command without a shortcut.
 QString commandShortcut(Command command);
-/// "⌘⌥1" for a key of the table of shortcuts.
+/// A key of the table of shortcuts as text, such as "⌘⌥1".
 QString shortcutText(const ShortcutKey &key);
 
-/// Whether the program has the command at all: no new issue while issues cannot be made.
+/// Whether the program offers the command. `NewIssue` is not offered while `issueCreation` is withheld.
 bool isOffered(Command command);
 
 /// The picker that the command opens; nothing for other commands.

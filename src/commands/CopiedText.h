@@ -5,17 +5,17 @@
 
 #include <optional>
 
-/// A text for the pasteboard and what the toast calls it.
+/// A text for the clipboard, and its name in the toast.
 struct CopiedText
 {
     QString text;
     QString label;
 
-    /// "Lien copié".
+    /// The text of the toast, such as "Lien copié".
     QString toastMessage() const;
 
     bool operator==(const CopiedText &) const = default;
 };
 
-/// The keys of issues, in plain text order and separated by commas, whatever order they come in; nothing without a key.
+/// The keys of issues, sorted in plain text order and separated by commas; nothing if there are no keys.
 std::optional<CopiedText> copiedKeys(QStringList keys);

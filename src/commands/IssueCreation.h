@@ -1,7 +1,8 @@
 #pragma once
 
-/// Whether issues can be made, because there is a screen to make them on.
+/// Whether issues can be created, which requires a create screen.
 enum class IssueCreation { Offered, Withheld };
 
-/// As it is in this program. While it is withheld, nothing offers it: asking for it would only take the keyboard away.
+/// The value for this program. While creation is withheld, no control offers it, because opening a missing screen would
+/// only remove the keyboard focus.
 inline constexpr IssueCreation issueCreation = IssueCreation::Withheld;

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Above it Qt's keys are those that type nothing.
+/// From this value on, Qt's key codes are those of keys that type no character.
 constexpr int firstKeyWithoutCharacter = 0x01000000;
 
 bool isPrintable(const QString &text)
@@ -12,7 +12,7 @@ bool isPrintable(const QString &text)
     return !text.isEmpty() && text.front().isPrint();
 }
 
-/// The character in a key's name, in the case that Shift asks for.
+/// The character of Qt's key code: in upper case if Shift is held, else in lower case.
 QString characterOf(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     if (key < Qt::Key_Space || key >= firstKeyWithoutCharacter)
@@ -61,7 +61,7 @@ std::optional<int> KeyPress::digit() const
 {
     if (const auto typed = typedDigit(characters))
         return typed;
-    // With AltGr the key types neither its own character nor the digit: then it is not meant as one.
+    // With AltGr, the key types a different character, so the press does not mean the digit.
     const bool isAlone = !isShiftHeld() && characters.toLower() == ownCharacter();
     return isAlone ? digitAtPlace(scanCode) : std::nullopt;
 }

@@ -7,44 +7,45 @@
 
 class QKeyEvent;
 
-/// One press of a key: which key it was, and what the user's keyboard layout makes of it.
+/// A key press: the key, and the characters that it types in the user's keyboard layout.
 struct KeyPress
 {
-    /// The key as Qt names it, after the layout.
+    /// Qt's code of the key in the user's keyboard layout.
     Qt::Key key = Qt::Key_unknown;
-    /// The key's place on the keyboard: evdev's code plus 8, whatever the layout; 0 when the system does not tell.
+    /// The key's physical position: evdev's code plus 8, independent of the layout; 0 if the system does not report it.
     quint32 scanCode = 0;
-    /// What the key types with the Shift and AltGr that are held, as if Control, Alt and Meta were not; empty for keys
-    /// that type nothing.
+    /// The text that the key types with the held Shift and AltGr, ignoring Control, Alt and Meta; empty for keys that
+    /// type nothing.
     QString characters;
-    /// What the key types when it is pressed alone; empty when that is not known.
+    /// The text that the key types without modifiers; empty if it is not known.
     QString ownCharacters;
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
 
-    /// A press as Qt reports it. Control turns the `text` of a letter into a control character; its key then tells the
-    /// letter.
+    /// Creates a press from the values that Qt reports. With Control, the `text` of a letter is a control character;
+    /// the letter is then taken from `key`.
     static KeyPress make(Qt::Key key, quint32 scanCode, const QString &text,
                          Qt::KeyboardModifiers modifiers, const QString &ownCharacters = {});
-    /// The press of an event, with the layout's own characters as the platform knows them. Needs a QGuiApplication for
-    /// these; without one they are unknown.
+    /// Creates a press from an event, with `ownCharacters` from the platform. These require a QGuiApplication; without
+    /// one they are unknown.
     static KeyPress from(const QKeyEvent &event);
 
     bool isShiftHeld() const { return modifiers.testFlag(Qt::ShiftModifier); }
-    /// The held modifiers that make a command of a key: Control, Alt and Meta. Shift and the keypad's do not count.
+    /// The held modifiers among Control, Alt and Meta, which distinguish shortcuts from typing. Shift and the keypad
+    /// modifier are left out.
     Qt::KeyboardModifiers flags() const;
-    /// What the key types alone, in lower case: as told, or else as typed when Shift is not held. Empty when neither
-    /// tells.
+    /// The text that the key types without modifiers, in lower case: `ownCharacters`, or, if they are unknown and Shift
+    /// is not held, `characters`. Empty if neither is available.
     QString ownCharacter() const;
 
-    /// True for the key that types this lower-case letter, with or without Shift; under a layout of another script,
-    /// which has no key for it, for the key at its place on a QWERTY keyboard.
+    /// True for the key that types this lower-case letter, with or without Shift. In a layout of another script, which
+    /// has no such key, true for the key at the letter's position on a QWERTY keyboard.
     bool isLetter(QChar letter) const;
-    /// The digit 1 to 9 that the press means: the one typed, on whichever key and level; or, without Shift, the one
-    /// whose key of the top row it is when the layout types something else there.
+    /// The digit 1 to 9 of the press: the digit that it types, with any key and modifiers. If it types something else
+    /// and Shift is not held, the digit of this key in the top row of a QWERTY keyboard.
     std::optional<int> digit() const;
 
     bool operator==(const KeyPress &) const = default;
 };
 
-/// Whether a text begins with a letter that the Latin alphabet does not have.
+/// Whether a text begins with a letter that is not in the Latin alphabet.
 bool isOtherScript(const QString &text);

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// What the key types alone. Only the platform knows: it lists the shortcuts that a press can stand for, and the first
-/// of them is the key without its modifiers. Qt's own matching of shortcuts asks in the same way.
+/// The text that the key types without modifiers. Only the platform knows it: it lists the shortcuts that a press can
+/// match, and the first of them is the key without its modifiers. Qt's own shortcut matching uses the same list.
 QString ownCharactersOf(const QKeyEvent &event)
 {
     const QPlatformIntegration *platform = QGuiApplicationPrivate::platformIntegration();

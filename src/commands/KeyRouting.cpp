@@ -47,7 +47,7 @@ constexpr std::array bindings{
     onDigit(u'2', Command::ShowBoard),
 };
 
-/// With Shift some layouts type a wider or an unbreakable blank, which Qt gives another name.
+/// With Shift, some layouts type a wider or a non-breaking space, for which Qt reports another key code.
 bool isSpaceBar(const KeyPress &press)
 {
     const bool isBlank = press.characters.isEmpty() || press.characters.front().isSpace();

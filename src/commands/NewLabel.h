@@ -6,19 +6,20 @@
 
 #include <optional>
 
-/// What of a query counts when it is compared with the labels that there are.
+/// How a query is compared with the existing labels.
 enum class LabelComparison {
-    /// The words as they are typed: the palette offers "bug-fix" for "bug fix" even where there is a "bug-fix".
+    /// The words are compared as typed. The palette uses this, and offers "bug-fix" for "bug fix" even if the label
+    /// "bug-fix" exists.
     AsTyped,
-    /// The label that would be made of them: the list of a chip offers nothing then.
+    /// The label that would be created is compared. The list of a chip uses this, and offers nothing in that case.
     AsMade
 };
 
-/// The label that a query would make: its words joined by hyphens, because labels contain no blanks. White space round
-/// the query does not count. Nothing without a word, and where one of the labels on offer, found by the query or not, is
-/// the same whatever the case.
+/// The label that a query would create: its words joined by hyphens, because labels contain no spaces. White space
+/// around the query is ignored. Nothing if the query has no words, or if one of `labels`, whether or not the query
+/// finds it, is equal without regard to case.
 std::optional<QString> newLabel(const QString &query, const QList<OptionItem> &labels,
                                 LabelComparison comparison);
 
-/// What the row that makes the label says.
+/// The title of the row that creates the label.
 QString newLabelTitle(const QString &label);

@@ -11,8 +11,8 @@
 #include <optional>
 #include <variant>
 
-/// What picking a row does, as a value: the store carries it out. It is a command, or the choice of a value that no
-/// command names. `keys` are the issues it applies to.
+/// The action of a picker row, as a value that the store carries out. It is a command, or the choice of a value for
+/// which there is no command. `keys` are the issues that it applies to.
 struct OptionAction
 {
     struct None
@@ -31,7 +31,7 @@ struct OptionAction
         QStringList keys;
         bool operator==(const SetPriority &) const = default;
     };
-    /// Nobody unassigns.
+    /// An absent user unassigns the issues.
     struct Assign
     {
         std::optional<JiraUser> user;
@@ -44,14 +44,14 @@ struct OptionAction
         QStringList keys;
         bool operator==(const ToggleLabel &) const = default;
     };
-    /// Adds the label, behind their own, to the issues that have it not.
+    /// Appends the label to the labels of the issues that do not have it.
     struct AddLabel
     {
         QString label;
         QStringList keys;
         bool operator==(const AddLabel &) const = default;
     };
-    /// A command. Without keys it means what is chosen in the main window.
+    /// Runs a command. Without keys, it applies to the issues that are chosen in the main window.
     struct RunCommand
     {
         Command command;

@@ -6,15 +6,15 @@
 #include <QHash>
 #include <QLocale>
 
-/// All that the rows of pickers depend on.
+/// Everything that the rows of pickers depend on.
 struct OptionInputs
 {
-    /// What is edited.
+    /// The keys of the issues that are edited.
     QStringList keys;
-    /// The issues of these keys that are known.
+    /// The known issues among `keys`.
     IssueList targets;
 
-    /// The list being looked at.
+    /// The current list.
     IssueList issues;
     IssueList myOpenIssues;
     /// By issue key.
@@ -22,24 +22,25 @@ struct OptionInputs
     /// By project key.
     QHash<QString, QList<IssueStatus>> projectStatuses;
     QHash<QString, QList<JiraUser>> assignables;
-    /// The site's, in its order.
+    /// The site's priorities, in the site's order.
     QList<IssuePriority> priorities;
-    /// What the filter menus offer, in their order.
+    /// The entries of the filter menus, in their order.
     QList<JiraUser> availableAssignees;
     QStringList availableLabels;
     std::optional<JiraUser> me;
-    /// Whose alphabet names are sorted by.
+    /// The locale by whose rules names are sorted.
     QLocale locale;
 };
 
-/// The statuses on offer, one for each group key, in board order: for a single issue with known transitions just what
-/// its workflow allows, and its own; otherwise those of the issues' projects; otherwise those of all known issues.
+/// The offered statuses, one for each group key, in board order. For a single issue with known transitions: its own
+/// status and those that its workflow allows. Otherwise the statuses of the issues' projects, or, if these are unknown,
+/// those of all known issues.
 QList<IssueStatus> statusOptions(const OptionInputs &inputs);
-/// The users on offer, each once: the user first, the others by name.
+/// The offered assignees, each once: the current user first, the others sorted by name.
 QList<JiraUser> assigneeOptions(const OptionInputs &inputs);
-/// The site's priorities, or, while these are unknown, those of the issues, the most pressing first.
+/// The site's priorities, or, while these are unknown, those of the issues, the highest first.
 QList<IssuePriority> priorityOptions(const OptionInputs &inputs);
 
-/// The rows of a picker. A row is selected when it says what all issues have; with no known issue none is. The first
-/// nine statuses and priorities have their position as shortcut.
+/// The rows of a picker. A row is selected if all issues have its value; no row is selected if no issue is known. The
+/// first nine statuses and priorities have their position as shortcut.
 QList<OptionItem> options(PickerKind kind, const OptionInputs &inputs);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A list without repeats; the first value of a kind stays.
+/// A list without duplicates; of values with the same key, the first is kept.
 template <typename T, typename KeyOf>
 class Distinct
 {
@@ -42,7 +42,7 @@ Distinct<T, KeyOf> distinctBy(KeyOf keyOf)
     return Distinct<T, KeyOf>(keyOf);
 }
 
-/// In ascending order of a key; values of one key stay in their order.
+/// The values in ascending order of their keys. The sort is stable.
 template <typename T, typename KeyOf>
 QList<T> sortedBy(const QList<T> &values, KeyOf keyOf)
 {
@@ -58,7 +58,7 @@ QList<T> sortedBy(const QList<T> &values, KeyOf keyOf)
     return result;
 }
 
-/// In the order of the issues.
+/// The keys of the issues' projects, each once, in the order of the issues.
 QStringList projectKeys(const IssueList &issues)
 {
     QStringList keys;
@@ -68,7 +68,7 @@ QStringList projectKeys(const IssueList &issues)
     return keys;
 }
 
-/// What the workflow of a single issue allows; empty when that is unknown.
+/// The status of a single issue and those that its workflow allows; empty if the transitions are unknown.
 QList<IssueStatus> allowedStatuses(const OptionInputs &inputs)
 {
     if (inputs.targets.size() != 1)

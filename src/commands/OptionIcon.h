@@ -6,14 +6,14 @@
 #include <optional>
 #include <variant>
 
-/// What a row of a picker draws at its start.
+/// The icon at the start of a picker row.
 struct OptionIcon
 {
     struct None
     {
         bool operator==(const None &) const = default;
     };
-    /// Absent for nobody.
+    /// The user is absent for the row that unassigns.
     struct User
     {
         std::optional<JiraUser> user;

@@ -6,7 +6,7 @@
 /// One row of a picker.
 struct OptionItem
 {
-    /// Stable, and unique in its list.
+    /// Stable and unique within the list.
     QString id;
     QString title;
     std::optional<QString> subtitle;
@@ -15,7 +15,7 @@ struct OptionItem
     bool isSelected = false;
     /// The digit key that picks the row.
     std::optional<QString> shortcut;
-    /// Picking the row leaves the list open.
+    /// The list stays open when the row is picked.
     bool keepsOpen = false;
     OptionAction run;
 

@@ -16,7 +16,7 @@ struct PaletteMode
     struct Picker
     {
         PickerKind kind = PickerKind::Status;
-        /// Of the issues that it picks for.
+        /// The keys of the issues that the picker edits.
         QStringList keys;
 
         bool operator==(const Picker &) const = default;

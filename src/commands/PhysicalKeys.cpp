@@ -8,7 +8,7 @@ namespace {
 
 constexpr quint32 firstDigitScanCode = 10;
 
-/// Neighbouring keys, from left to right.
+/// Adjacent keys, from left to right.
 struct KeyRow
 {
     quint32 firstScanCode;

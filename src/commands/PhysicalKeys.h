@@ -4,11 +4,11 @@
 
 #include <optional>
 
-/// What a QWERTY keyboard of the United States has at a key's place: a lower-case letter, a digit, a comma or a full
-/// stop. Nothing for the places of other signs. Scan codes are those of the window system: evdev's plus 8.
+/// The character at a key's position on a US QWERTY keyboard: a lower-case letter, a digit, a comma or a full stop.
+/// Nothing for the positions of other characters. Scan codes are those of the window system: evdev's plus 8.
 std::optional<QChar> characterAtPlace(quint32 scanCode);
 
-/// The digit 1 to 9 whose key of the top row this is; nothing for all other keys, those of the keypad among them.
+/// The digit 1 to 9 of a key in the top row; nothing for all other keys, including those of the keypad.
 std::optional<int> digitAtPlace(quint32 scanCode);
 
 /// The scan code of the space bar.

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 QString pickerActionTitle(PickerKind kind)
 {
-    // The palette names the issues beside it, so that nothing is missing behind the verb.
+    // The palette shows the issues beside the title, so the verb does not need an object.
     return kind == PickerKind::Assignee ? u"Assigner…"_s : commandTitle(pickCommand(kind));
 }
 

@@ -4,9 +4,9 @@
 
 #include <QString>
 
-/// What the action that opens the picker is called in the palette, with its ellipsis.
+/// The palette's title for the action that opens the picker, with an ellipsis.
 QString pickerActionTitle(PickerKind kind);
-/// What the picker does, as its head says it: the same without the ellipsis.
+/// The title of the picker itself: the same text without the ellipsis.
 QString pickerTitle(PickerKind kind);
-/// What the search field of the picker says while it is empty.
+/// The placeholder of the picker's search field.
 QString pickerPlaceholder(PickerKind kind);

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/// Where the user is, for all layouts at once. Issues are meant by their keys.
+/// The user's selection, which all layouts share. Issues are identified by their keys.
 struct Selection
 {
     /// The issue with the keyboard's focus.

@@ -11,7 +11,7 @@ QStringList sorted(const QSet<QString> &keys)
     return result;
 }
 
-/// The row to move to, not yet kept within the list.
+/// The row to move to, which may be outside the list.
 qsizetype targetRow(const std::optional<QString> &focusedKey, int delta,
                     const VisiblePath &visibleKeys)
 {

@@ -3,43 +3,46 @@
 #include "commands/Selection.h"
 #include "derivation/VisiblePath.h"
 
-/// How clicks and keys move a selection. `visibleKeys` are the keys of what the layout shows, in reading order.
+/// How clicks and keys change a selection. `visibleKeys` are the keys of what the layout shows, in reading order.
 
-/// What the modifiers make of a click.
+/// The kind of a click, which depends on the modifiers.
 enum class ClickKind { Plain, Toggle, Range };
 
-/// Of Control and Shift, Control counts first.
+/// If both Control and Shift are held, Control takes precedence.
 ClickKind clickKind(Qt::KeyboardModifiers modifiers);
 
-/// A toggling click checks or unchecks; a range click checks everything between the focus and the key, or is a plain
-/// click when nothing has the focus; a plain click drops the multi-selection and opens the issue in the inspector. All
-/// of them take the focus along.
+/// A toggling click checks or unchecks the issue. A range click checks all issues from the focus to the key, or is a
+/// plain click if nothing has the focus. A plain click clears the multi-selection and opens the issue in the inspector.
+/// All of them move the focus to the issue.
 Selection afterClick(Selection selection, const QString &key, ClickKind kind,
                      const VisiblePath &visibleKeys);
-/// Adds the key to the multi-selection, or takes it out.
+/// Adds the key to the multi-selection, or removes it.
 Selection afterToggleCheck(Selection selection, const QString &key);
-/// Adds all keys from one to the other, whichever stands first; nothing when one of them is not visible.
+/// Adds all keys between the two, inclusive, in either order; adds nothing if one of them is not visible.
 Selection afterCheckRange(Selection selection, const QString &from, const QString &to,
                           const VisiblePath &visibleKeys);
 
-/// Whether a move of the focus checks what it leaves and what it reaches.
+/// Whether a move of the focus checks the issue that it leaves and the issue that it reaches.
 enum class FocusMove { Plain, Extending };
 
-/// Moves the focus by `delta` rows, not beyond the ends. A focus that is not visible counts as just outside the list, on
-/// the side it comes from. An open inspector follows.
+/// Moves the focus by `delta` rows, but not beyond the ends. If the focused issue is not visible or there is none, a
+/// move down starts before the first row and a move up after the last. An open inspector shows the newly focused issue.
 Selection afterMove(Selection selection, int delta, FocusMove move, const VisiblePath &visibleKeys);
 
-/// Return: focuses the target and shows it in the inspector. Nothing without a target.
+/// The Return key: focuses the target and shows it in the inspector. Nothing if there is no target.
 std::optional<Selection> afterOpen(Selection selection);
-/// The space bar: shows the focused issue in the inspector, or closes the inspector on it. Nothing without a focus.
+/// The space bar: shows the focused issue in the inspector, or closes the inspector if it shows this issue. Nothing if
+/// no issue has the focus.
 std::optional<Selection> afterPeek(Selection selection);
-/// The command to show or hide the inspector: closes it, or opens it on the focused issue, else on the first visible.
+/// The command to show or hide the inspector: closes it, or opens it with the focused issue, else with the first
+/// visible one.
 Selection afterTogglePeek(Selection selection, const VisiblePath &visibleKeys);
-/// The inspector's own switch: on, it shows the focused issue if it shows none yet; off, it closes.
+/// The switch for the inspector. Switched on, it shows the focused issue unless it already shows one; switched off, it
+/// closes.
 Selection withInspectorShown(Selection selection);
 Selection withInspectorHidden(Selection selection);
 
-/// What Escape leaves: the first of these that there is.
+/// The effect of Escape: the first of these steps that is applicable.
 enum class EscapeStep { ClearChecked, CloseInspector, ClearFilterText };
 
 std::optional<EscapeStep> escapeStep(const Selection &selection, const QString &filterText);

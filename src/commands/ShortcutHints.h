@@ -4,19 +4,19 @@
 
 #include <QStringList>
 
-/// What controls say of the keys that do the same as they. The keys are those of the key map and of the table of
-/// shortcuts, so that a hint cannot tell of a key that does something else. Texts are the Mac's; `Wording` turns them into
-/// this system's.
+/// Hints of controls about the keys that have the same effect. The keys are taken from the key map and the table of
+/// shortcuts, so that the hints are always correct. The texts use macOS terms and symbols; `Wording` converts them to
+/// those of the current system.
 
-/// How the keys of a command are written, in the order of the key map: "↓" and "J"; the keypad's are not told.
+/// The keys of a command as texts, in the order of the key map, such as "↓" and "J". Keys of the keypad are left out.
 QStringList keyTexts(Command command);
 
-/// "Rechercher (⌘K)"; the words alone for a command without a shortcut.
+/// The words and the command's shortcut, such as "Rechercher (⌘K)"; only the words for a command without a shortcut.
 QString withShortcut(const QString &words, Command command);
-/// "Sélectionner (X)", with the last of the command's keys.
+/// The words and the last of the command's keys, such as "Sélectionner (X)".
 QString withKey(const QString &words, Command command);
 
-/// What the menus call a command, with its shortcut.
+/// The command's menu title with its shortcut.
 QString commandHint(Command command);
 QString searchHint();
 QString newIssueHint();

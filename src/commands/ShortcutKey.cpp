@@ -31,7 +31,7 @@ constexpr std::array shortcuts{
     shortcut(u'i', controlAlt, Shift::NotHeld, Command::ToggleInspector),
 };
 
-/// One way to read a press.
+/// One interpretation of a press.
 struct Reading
 {
     QString character;
@@ -47,7 +47,8 @@ Reading byOwnCharacter(const KeyPress &press)
 {
     const QString typed = press.characters.toLower();
     const bool isLetter = !typed.isEmpty() && typed.front().isLetter();
-    // A letter is the same with Shift; of other keys Shift hides what they type alone.
+    // A letter is the same with and without Shift. For other keys, the character without Shift may be unknown while
+    // Shift is held.
     const QString own = press.ownCharacter();
     return {own.isEmpty() && isLetter ? typed : own, heldShift(press)};
 }
@@ -64,8 +65,9 @@ bool isLatinLetter(const QString &text)
     return !text.isEmpty() && text.front().isLetter() && !isOtherScript(text);
 }
 
-/// What the place says. Among signs it counts for signs, and in a layout of another script for letters too; the top
-/// row's letters with accents stand where the digits are.
+/// The interpretation by physical position. The position of a digit always counts, because some layouts have accented
+/// letters there. The position of another sign counts unless the layout types a Latin letter there. The position of a
+/// letter counts only in a layout of another script.
 Reading byPlace(const KeyPress &press)
 {
     const QString own = press.ownCharacter().isEmpty() ? press.characters : press.ownCharacter();

@@ -13,7 +13,7 @@ struct ShortcutKey
 
     /// A lower-case letter, a digit, a comma or a full stop.
     char16_t character = 0;
-    /// Of Control, Alt and Meta, exactly these.
+    /// Exactly these of Control, Alt and Meta must be held.
     Qt::KeyboardModifiers flags;
     Shift shift = Shift::NotHeld;
     Command command;
@@ -22,13 +22,15 @@ struct ShortcutKey
 /// The shortcuts of the menu commands that have one. No two rows have the same key, flags and Shift.
 std::span<const ShortcutKey> shortcutKeys();
 
-/// The menu command of a press; nothing when it is no shortcut.
+/// The menu command of a press; nothing if the press is not a shortcut.
 ///
-/// The key is told in three ways, the first that leads to a command counting, so that Shift always keeps apart what it
-/// should, and every shortcut has a press under any layout:
+/// The key is identified in three ways, of which the first that gives a command is used. This way, every shortcut can
+/// be typed in any layout, and Shift always distinguishes the shortcuts that differ only in Shift:
 ///
-/// 1. by what it types alone, with Shift as it is held: the key "." of QWERTY, QWERTZ and BÉPO;
-/// 2. by what it types with Shift, as a press without Shift: the "." that AZERTY has only with Shift;
-/// 3. by its place on a QWERTY keyboard, with Shift as it is held, unless the layout has a Latin letter there: the key
-///    ":" of AZERTY for ".", the digits of AZERTY and BÉPO, and all letters under other scripts.
+/// 1. by the character that it types without modifiers, with Shift as it is held: the key "." of QWERTY, QWERTZ and
+///    BÉPO;
+/// 2. by the character that it types with Shift, as if Shift was not held: the "." of AZERTY, which requires Shift;
+/// 3. by its position on a QWERTY keyboard, with Shift as it is held, unless the layout has a Latin letter there (at
+///    the positions of digits, even then): the key ":" of AZERTY for ".", the digits of AZERTY and BÉPO, and all
+///    letters in layouts of other scripts.
 std::optional<Command> shortcutCommand(const KeyPress &press);

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QString>
 
-/// What some keys do.
+/// Some keys and their effect.
 struct ShortcutMeaning
 {
     Q_GADGET
@@ -18,7 +18,7 @@ public:
     bool operator==(const ShortcutMeaning &) const = default;
 };
 
-/// Keys for things of one kind.
+/// A group of related keys.
 struct ShortcutGroup
 {
     Q_GADGET
@@ -32,5 +32,6 @@ public:
     bool operator==(const ShortcutGroup &) const = default;
 };
 
-/// All that keys do, in groups. The texts are the Mac's; those of commands come from the table of commands.
+/// The list of all keys, in groups. The texts use macOS terms and symbols; those of commands come from the table of
+/// commands.
 QList<ShortcutGroup> shortcutReference();
