@@ -9,15 +9,14 @@
 
 /// A change of an issue in place.
 using IssueChange = std::function<void(Issue &)>;
-/// Of several issues, by their keys.
+/// Changes of several issues, by issue key.
 using IssueChanges = QHash<QString, IssueChange>;
 
-/// The issue with the change; nothing when it stays deeply equal, so that nobody needs to be told.
+/// The changed issue; nothing if it is deeply equal to the given one, so that no observer needs to be notified.
 std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &change);
-/// The list with the changes; nothing when none of its issues is among them or all stay deeply equal. All others stay the
-/// same objects.
+/// The list with the changes applied; nothing if `changes` has none of its issues or all remain deeply equal. Unchanged
+/// issues remain the same objects.
 std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes);
-/// Issues by their keys with the changes; nothing when none of them is there or all stay deeply equal. All others stay
-/// the same objects.
+/// The same for records by issue key.
 std::optional<QHash<QString, SharedIssue>>
 changedInDetails(const QHash<QString, SharedIssue> &details, const IssueChanges &changes);

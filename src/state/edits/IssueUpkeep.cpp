@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What open issues are sorted by; the position keeps equals in their order.
+/// The sort key of open issues. The position makes the sort stable.
 using Urgency = std::tuple<int, PriorityLevel, qsizetype>;
 
 } // namespace

@@ -12,7 +12,7 @@ void append(QList<JiraUser> &users, const std::optional<JiraUser> &user)
         users.append(*user);
 }
 
-/// Users of one name by their ids, so that the order is the same on every run.
+/// The users sorted by name; users with the same name are sorted by id, so that the order is the same in every run.
 QList<JiraUser> byName(const QHash<QString, JiraUser> &users)
 {
     QList<JiraUser> result = users.values();

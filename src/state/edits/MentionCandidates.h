@@ -7,22 +7,22 @@
 
 #include <optional>
 
-/// Whom a text about an issue can mention.
+/// The users whom a text about an issue can mention.
 struct MentionSources
 {
-    /// Absent for an issue that is not known, or not made yet.
+    /// Absent for an issue that is unknown or not created yet.
     std::optional<SharedIssue> issue;
-    /// The issue's.
+    /// The issue's comments.
     QList<Comment> comments;
-    /// Who can take an issue of the project.
+    /// The users to whom issues of the project can be assigned.
     QList<JiraUser> assignables;
-    /// What the filter menus offer.
+    /// The entries of the filter menu of assignees.
     QList<JiraUser> availableAssignees;
-    /// Every user met so far, by id.
+    /// Every user received so far, by id.
     QHash<QString, JiraUser> knownUsers;
     std::optional<JiraUser> me;
 };
 
-/// The users for the suggestions after an "@", the nearest first and each once: assignee, reporter, commenters, the
-/// project's people, the list's, everybody known by name in Unicode order, the user.
+/// The suggestions after an "@", each user once, in this order: assignee, reporter, authors of comments, assignable
+/// users of the project, assignees of the list, all known users sorted by name in Unicode order, the current user.
 QList<JiraUser> mentionCandidates(const MentionSources &sources);

@@ -185,7 +185,7 @@ void OpenEdits::noteConfirmation(Field &field, const QDateTime &now)
     field.confirmedAt = now;
 }
 
-/// Of several values that the site told, the one of the record that was written last counts.
+/// If the site returned several values, the one from the record with the latest date is kept.
 void OpenEdits::learn(Field &field, const Issue &issue, const Reading &reading, Source source)
 {
     const bool isOutdated = reading.isOlderThan(field.confirmation) ||
@@ -193,7 +193,7 @@ void OpenEdits::learn(Field &field, const Issue &issue, const Reading &reading, 
     if (isOutdated)
         return;
     if (!field.pending.empty()) {
-        // A search may still lack the confirmed edit on which the open ones stand.
+        // The answer of a search may still lack the confirmed edit that precedes the open ones.
         if (source == Source::Search && field.confirmation != 0)
             return;
         field.toldAt = issue.updated;
@@ -202,7 +202,7 @@ void OpenEdits::learn(Field &field, const Issue &issue, const Reading &reading, 
         field.toldAt = issue.updated;
     } else if (source == Source::Issue ||
                (field.toldAt.isValid() && issue.updated > field.toldAt)) {
-        // Somebody else has changed the field since.
+        // Another user has changed the field since.
         field.toldAt = issue.updated;
         field.shown.setAfter(issue);
     }
@@ -215,7 +215,7 @@ bool OpenEdits::isLacking(const Field &field, const Reading &reading, Source sou
     return source == Source::Search && mayLack(field.confirmedAt, reading.beganAt());
 }
 
-/// Forgets what no request that is under way or begins from now on can lack.
+/// Deletes the entries that no pending or future request can lack.
 void OpenEdits::forgetOld(const QDateTime &now)
 {
     std::erase_if(m_readings, [](const auto &reading) { return reading.expired(); });

@@ -13,9 +13,9 @@
 /// The edits of a session that answers of the site may not show yet.
 ///
 /// A request that began before an edit was confirmed may bring the old value. A search may do so for some time after
-/// that, because the search index of a site lags behind what is written. Records of such answers are laid over with the
-/// edits that they may lack, so that no edit seems to be undone. A refused edit goes back to the newest value that the
-/// site told. Nothing is stored on disk, and nothing is sent again.
+/// that, because the search index of a site lags behind what is written. The edits that such an answer may lack are
+/// applied to its records, so that no edit seems to be undone. A refused edit is reverted to the newest value that the
+/// site returned. Nothing is stored on disk, and nothing is sent again.
 class OpenEdits
 {
 public:
@@ -27,7 +27,7 @@ public:
     enum class Source { Search, Issue };
     using Id = quint64;
 
-    /// A request that reads issues. Lives until its answer has been laid over.
+    /// A request that reads issues. Must exist until its answer has been passed to `laidOver`.
     class Reading
     {
     public:
@@ -57,17 +57,18 @@ public:
     /// The site has taken the edit. Gives what all copies of the issue are to show: nothing while a later edit of the
     /// same field is open.
     std::optional<OptimisticEdit> confirm(Id id, const QDateTime &now);
-    /// The same for a status, of which the workflow decides.
+    /// The same for a status, where the workflow determines the `reached` status.
     std::optional<OptimisticEdit> confirm(Id id, const IssueStatus &reached, const QDateTime &now);
-    /// The site has refused the edit. Gives what all copies of the issue are to show: the value of the edit before it
-    /// that is still open, else the newest value that the site told.
+    /// The site has refused the edit. Gives what all copies of the issue are to show: the value of the previous edit
+    /// that is still open, else the newest value that the site returned.
     OptimisticEdit refuse(Id id);
     /// Notes what the site has stored before it was shown.
     void noteStored(const OptimisticEdit &edit, const QDateTime &now);
     void noteComment(const QString &key, const Comment &comment);
     void noteCreated(const QString &key, const QDateTime &now);
 
-    /// The record of an answer, with the edits that it may lack. Tells the open edits what the site holds.
+    /// The record of an answer, with the edits applied that it may lack. Also notes the site's values for the fields
+    /// with open edits.
     SharedIssue laidOver(const SharedIssue &issue, const Reading &reading, Source source);
     IssueList laidOver(IssueList issues, const Reading &reading, Source source);
     /// The comments of an issue, with those that were posted after the request began.
@@ -87,11 +88,12 @@ private:
     /// A field of an issue with edits.
     struct Field
     {
-        /// In the order in which they were made. The value before the first is the newest that the site told.
+        /// In the order in which they were made. The `before` value of the first is the newest value that the site
+        /// returned.
         std::vector<Pending> pending;
-        /// Its value after is what the copies of the issue show.
+        /// Its `after` value is the one that the copies of the issue show.
         OptimisticEdit shown;
-        /// When the newest of the told values was written; invalid when none was.
+        /// When the newest value that the site returned was written; invalid if there is none.
         QDateTime toldAt;
         /// The number of the newest confirmation, from 1; 0 while there is none.
         quint64 confirmation = 0;

@@ -22,7 +22,7 @@ bool hasAttachment(const Issue &issue, const Attachment &attachment)
                                [&](const Attachment &other) { return other.id == attachment.id; });
 }
 
-/// Of a change of an attachment.
+/// The attachment's id; nothing if the change does not concern an attachment.
 std::optional<QString> attachmentId(const OptimisticEdit::Change &change)
 {
     if (const auto *removal = std::get_if<AttachmentRemoval>(&change))

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <variant>
 
-/// The change of one field of an issue: what it was and what it becomes.
+/// The change of one field of an issue: its values before and after.
 template <auto Field>
 struct FieldEdit
 {
@@ -17,7 +17,7 @@ struct FieldEdit
     Value after;
 
     void apply(Issue &issue) const { issue.*Field = after; }
-    /// The same over a record from the site.
+    /// Applies the edit to a record from the site.
     void layOver(Issue &issue) const { apply(issue); }
     bool isShownBy(const Issue &issue) const { return issue.*Field == after; }
     void setBefore(const Issue &issue) { before = issue.*Field; }
@@ -27,14 +27,14 @@ struct FieldEdit
     bool operator==(const FieldEdit &) const = default;
 };
 
-/// A change of status, which is also the only edit that dates the issue.
+/// A change of status. It is the only edit that also changes the date of the last update.
 struct StatusEdit
 {
     FieldEdit<&Issue::status> status;
     FieldEdit<&Issue::updated> updated;
 
     void apply(Issue &issue) const;
-    /// A date that the site tells counts when it is later.
+    /// Applies the edit to a record from the site. The record's date is kept if it is later.
     void layOver(Issue &issue) const;
     bool isShownBy(const Issue &issue) const { return status.isShownBy(issue); }
     void setBefore(const Issue &issue);
@@ -46,7 +46,7 @@ struct StatusEdit
 
 struct AttachmentAddition;
 
-/// An attachment that goes.
+/// The removal of an attachment.
 struct AttachmentRemoval
 {
     Attachment attachment;
@@ -61,7 +61,8 @@ struct AttachmentRemoval
     bool operator==(const AttachmentRemoval &) const = default;
 };
 
-/// An attachment that comes: a new one, or one whose removal was refused. It stands at the end, once.
+/// The addition of an attachment: a new one, or one whose removal was refused. It is appended unless it is already
+/// there.
 struct AttachmentAddition
 {
     Attachment attachment;
@@ -76,8 +77,8 @@ struct AttachmentAddition
     bool operator==(const AttachmentAddition &) const = default;
 };
 
-/// An edit that shows before the service has taken it: it can be applied to every copy of the issue, and undone there
-/// without touching any other field.
+/// An edit that is shown before the service has accepted it. It can be applied to every copy of the issue, and reversed
+/// without changing any other field.
 struct OptimisticEdit
 {
     using Change = std::variant<StatusEdit, FieldEdit<&Issue::priority>,
@@ -92,35 +93,36 @@ struct OptimisticEdit
     void apply(Issue &issue) const;
     /// Applies the edit to a record that the site sent without it.
     void layOver(Issue &issue) const;
-    /// Whether the record has the edit's value already.
+    /// Whether the record already has the edit's value.
     bool isShownBy(const Issue &issue) const;
-    /// Takes the record's value for the one before the edit, or for the one after it.
+    /// Replaces the edit's value before, or after, with the record's value.
     void setBefore(const Issue &issue);
     void setAfter(const Issue &issue);
-    /// The edit that puts the field back to what it was before.
+    /// The edit that restores the field's previous value.
     OptimisticEdit reversed() const;
     /// Whether both change the same field of the same issue, or the same attachment.
     bool hasSameTarget(const OptimisticEdit &other) const;
-    /// What the service is told; nothing for a status, an assignee or an attachment, which have operations of their own.
+    /// The update to send to the service; nothing for a status, an assignee or an attachment, which have separate
+    /// operations.
     std::optional<IssueFieldUpdate> fieldUpdate() const;
 
     bool operator==(const OptimisticEdit &) const = default;
 };
 
-/// Edits of an issue as it is. Nothing where the edit would change nothing: the same status group, the same priority or
-/// assignee by its id, the same title.
+/// These functions create edits of an issue's current record. They return nothing if the edit would have no effect: the
+/// same status group, the same id of the priority or assignee, the same title.
 
 /// `now` becomes the date of the last change.
 std::optional<OptimisticEdit> statusEdit(const Issue &issue, const IssueStatus &status,
                                          const QDateTime &now);
 std::optional<OptimisticEdit> priorityEdit(const Issue &issue, const IssuePriority &priority);
-/// Nobody unassigns.
+/// An absent user unassigns the issue.
 std::optional<OptimisticEdit> assigneeEdit(const Issue &issue, const std::optional<JiraUser> &user);
 std::optional<OptimisticEdit> summaryEdit(const Issue &issue, const QString &title);
 OptimisticEdit labelsEdit(const Issue &issue, const QStringList &labels);
 OptimisticEdit descriptionEdit(const Issue &issue, const std::optional<ADFNode> &document);
 OptimisticEdit dueDateEdit(const Issue &issue, const std::optional<QDate> &day);
 
-/// The edits that toggle a label on all issues together: off when every one of them has it, else on. Issues that have
-/// the wanted state already need no edit. Removing takes every occurrence; adding appends.
+/// The edits that toggle a label on several issues together: it is removed if all of them have it, else added. Issues
+/// that already have the wanted state get no edit. Removing a label removes every occurrence; adding appends it.
 QList<OptimisticEdit> labelToggleEdits(const IssueList &issues, const QString &label);

@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// The transition that leads to a wished status: the first whose target is that very status, else the first whose target
-/// means the same, so that a status of another project's workflow finds its counterpart. Nothing when the workflow
+/// The transition that leads to a status: the first whose target is the same status, else the first whose target is in
+/// the same status group, so that a status of another project's workflow can be reached too. Nothing if the workflow
 /// offers neither.
 std::optional<WorkflowTransition> transitionTo(const IssueStatus &status,
                                                const QList<WorkflowTransition> &offered);

@@ -15,7 +15,7 @@ OptionItem actionItem(const QString &id, const QString &title, const QString &sy
         .id = id, .title = title, .icon = {OptionIcon::Symbol{symbol}}, .run = {std::move(run)}};
 }
 
-/// The command under the words that the menus have for it.
+/// The row of a command, with the command's title in the menus.
 OptionItem commandItem(const QString &id, Command command, const QString &symbol,
                        const std::optional<QStringList> &targets = {})
 {

@@ -4,7 +4,7 @@
 #include "commands/OptionItem.h"
 #include "model/Enums.h"
 
-/// What the actions of the palette depend on.
+/// Everything that the actions of the palette depend on.
 struct PaletteActionInputs
 {
     /// The keys of the issues that an action applies to.
@@ -17,6 +17,6 @@ struct PaletteActionInputs
     bool operator==(const PaletteActionInputs &) const = default;
 };
 
-/// The actions in their order: those that need an issue only with a target, those that need a single one only with
-/// exactly one.
+/// The actions in their order. Actions on issues are included only if there is a target; actions on a single issue only
+/// if there is exactly one.
 QList<OptionItem> paletteActions(const PaletteActionInputs &inputs);

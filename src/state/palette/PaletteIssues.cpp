@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first issues of a kind, each key once.
+/// Collects the first issues, each key once.
 class FirstIssues
 {
 public:
@@ -43,7 +43,7 @@ IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lis
     FirstIssues found;
     if (query.trimmed().isEmpty())
         return {};
-    // A query of nothing but diacritics folds to nothing, and is contained nowhere.
+    // A query that consists only of diacritics is empty when folded. It matches nothing.
     const QByteArray needle = SearchTexts::needle(query);
     for (const auto &list : lists) {
         if (!needle.isEmpty())

@@ -3,24 +3,24 @@
 #include "commands/OptionItem.h"
 #include "derivation/IssueDerivationSearch.h"
 
-/// The most issues that the palette shows.
+/// The maximum number of issues that the palette shows.
 constexpr qsizetype mostPaletteIssues = 12;
 
-/// Issues in memory, with the texts of each prepared for searching.
+/// Issues in memory, with the folded texts of each.
 struct SearchableIssues
 {
     const IssueList &issues;
     const SearchTexts &texts;
 };
 
-/// The issues whose key, summary, labels or assignee contain the query, in the order of the lists, and behind them those
-/// that the server found, which are not tested again. Each key once, as first met; the first twelve. None for a query
-/// without a word.
+/// The issues whose key, summary, labels or assignee contain the query, in the order of the lists, followed by those
+/// that the server found, which are not tested again. Each key occurs once, with the first record found; at most
+/// `mostPaletteIssues` issues. None for a query without words.
 IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lists,
                         const IssueList &remote);
 
-/// The issues of a list that a search of `searched` cannot find for it: those whose key is not there, or with other texts.
-/// For the same queries they are found once, and half the texts are kept.
+/// The issues of a list that are not covered by a search in `searched`: those whose key is not in it, or is in it with
+/// different texts. The other issues need not be searched again, nor their texts stored twice.
 IssueList notYetSearched(const IssueList &issues, const IssueList &searched);
 
 /// The row that opens an issue.

@@ -4,7 +4,7 @@ namespace {
 
 using Kind = PaletteKey::Kind;
 
-/// The keypad's own modifier is no modifier that somebody holds.
+/// The held modifiers, without the keypad modifier, which Qt sets for keys of the keypad.
 Qt::KeyboardModifiers held(const KeyPress &press)
 {
     return press.modifiers & ~Qt::KeyboardModifiers(Qt::KeypadModifier | Qt::GroupSwitchModifier);

@@ -2,19 +2,19 @@
 
 #include "commands/KeyPress.h"
 
-/// What the palette takes from a press before the search field sees it.
+/// A key press that the palette handles before the search field receives it.
 struct PaletteKey
 {
     enum class Kind {
         /// Run the highlighted row.
         Run,
-        /// The same, but an issue opens in a window of its own.
+        /// The same, but open an issue in a separate window.
         RunInWindow,
-        /// Clear the query, or leave the innermost thing.
+        /// Clear the query, or go back one level.
         Back,
         Down,
         Up,
-        /// Run the row that bears the digit; passed on where none does.
+        /// Run the row with the digit; if there is none, the press is passed on.
         Digit
     };
 
@@ -25,8 +25,8 @@ struct PaletteKey
     bool operator==(const PaletteKey &) const = default;
 };
 
-/// Whether digits pick rows: in a picker while nothing is searched for.
+/// Whether digits pick rows. They do so in a picker while the query is empty.
 enum class PaletteDigits { PickRows, AreTyped };
 
-/// Nothing for a press that is left to the search field.
+/// The palette's key for a press; nothing for a press that the search field handles.
 std::optional<PaletteKey> paletteKey(const KeyPress &press, PaletteDigits digits);

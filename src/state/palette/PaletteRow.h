@@ -5,14 +5,14 @@
 /// One row of the palette on screen.
 struct PaletteRow
 {
-    /// Tells the row from all others: its section and its option.
+    /// The unique key of the row, from the ids of its section and its option.
     QString key;
-    /// What stands above the row; empty unless it is the first of a section with a title.
+    /// The title above the row; empty unless the row is the first of a section with a title.
     QString sectionTitle;
     OptionItem option;
 
     bool operator==(const PaletteRow &) const = default;
 };
 
-/// All rows in order. The position of a row is what the highlight counts.
+/// All rows in order. The highlight refers to a row by its position in this list.
 QList<PaletteRow> paletteRows(const QList<PaletteSection> &sections);

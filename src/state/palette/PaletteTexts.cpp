@@ -34,6 +34,6 @@ QString spokenPaletteState(const QList<PaletteRow> &rows, int highlighted)
         return count;
     const OptionItem &item = rows[highlighted].option;
     const QString name = item.subtitle ? item.title + u", "_s + *item.subtitle : item.title;
-    // Put together, not with arg(): a title may hold a "%1" of its own.
+    // Concatenated instead of using arg(), because a title may contain "%1".
     return count + u". "_s + name + u", %1 sur %2"_s.arg(highlighted + 1).arg(rows.size());
 }

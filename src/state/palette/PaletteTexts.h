@@ -3,16 +3,16 @@
 #include "commands/PaletteMode.h"
 #include "state/palette/PaletteRow.h"
 
-/// The first three keys, and "+" and how many more there are.
+/// The first three keys, and "+" with the number of further keys.
 QStringList keyCapsules(const QStringList &keys);
 
-/// What the search field says while it is empty.
+/// The placeholder of the search field.
 QString palettePlaceholder(const PaletteMode &mode);
 
 enum class PaletteSearch { UnderWay, Done };
-/// What stands in place of rows.
+/// The text that is shown if there are no rows.
 QString emptyPaletteText(PaletteSearch search);
 
-/// How many rows there are, and the highlighted one with its place among them: "12 résultats. Créer, 3 sur 12". A
-/// highlight behind the last row is not spoken of.
+/// The text for screen readers: the number of rows, and the highlighted one with its position, such as "12 résultats.
+/// Créer, 3 sur 12". A highlight after the last row is left out.
 QString spokenPaletteState(const QList<PaletteRow> &rows, int highlighted);

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Stands between two texts of an item; no folded text holds it, so no query can reach over it.
+/// The separator between two texts of an item. No folded text contains it, so no query can match across two texts.
 constexpr QChar betweenTexts(0xFFFF);
 
 QString foldedTexts(const OptionItem &item, SearchableItems::Texts texts)

@@ -2,7 +2,7 @@
 
 #include "commands/OptionItem.h"
 
-/// Rows with their searchable texts folded once, so that each key typed costs one pass over texts and nothing else.
+/// Rows with their folded texts cached, so that a search only has to scan the texts.
 class SearchableItems
 {
 public:
@@ -13,11 +13,11 @@ public:
 
     const QList<OptionItem> &items() const { return m_items; }
     /// The items that contain the trimmed query, without regard to case and diacritics, in their order; all of them for
-    /// a query without a word.
+    /// a query without words.
     QList<OptionItem> matching(const QString &query) const;
 
 private:
     QList<OptionItem> m_items;
-    /// One for each item.
+    /// The folded text of each item.
     QStringList m_folded;
 };

@@ -20,21 +20,21 @@ struct ActivityBadge
     using Icon = std::variant<IssueStatus, JiraUser, Symbol>;
 
     Icon icon;
-    /// What the status reached is called; empty for other events.
+    /// The name of the new status; empty for other events.
     QString label;
     /// The event's day and short month.
     QString dateText;
-    /// What happened, by whom and when, and how many other events there are.
+    /// A description of the event with its author and time, and the number of other events.
     QString tooltip;
 
     bool operator==(const ActivityBadge &) const = default;
 };
 
-/// The badge of an issue; nothing when it has no events. `usersByName` finds the pictures of new assignees, whom the
-/// history knows by their display names only.
+/// The badge of an issue; nothing when it has no events. `usersByName` is used to find the pictures of new assignees,
+/// because the history contains only their display names.
 std::optional<ActivityBadge> activityBadge(const Issue &issue, const StatusLookup &statuses,
                                            const QHash<QString, JiraUser> &usersByName,
                                            const UserCalendar &calendar);
 
-/// The users by their display names; of users with one name the first.
+/// The users by display name; if several users have the same name, the first.
 QHash<QString, JiraUser> usersByName(const QList<JiraUser> &users);

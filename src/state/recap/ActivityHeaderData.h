@@ -14,16 +14,16 @@ struct StatPill
     Q_PROPERTY(QString label MEMBER label CONSTANT FINAL)
 
 public:
-    /// The name of a symbol; which colour it takes is the theme's affair.
+    /// The name of a symbol. Its colour is determined by the theme.
     QString symbol;
     int value = 0;
-    /// Plural whatever the value.
+    /// Always plural, whatever the value.
     QString label;
 
     bool operator==(const StatPill &) const = default;
 };
 
-/// What the header of a recap says.
+/// The contents of a recap's header.
 struct ActivityHeaderData
 {
     Q_GADGET
@@ -40,7 +40,7 @@ public:
     QString title;
     /// The period's first and last day.
     QString rangeLabel;
-    /// The help texts of the buttons that turn to the period before and after.
+    /// The tooltips of the buttons for the previous and the next period.
     QString previousHelp;
     QString nextHelp;
     /// False for the current period, which is the last.
@@ -49,11 +49,11 @@ public:
     bool isWeek = true;
     /// The recap covers the whole team.
     bool teamWide = false;
-    /// Completed, progressed and created; for a team also the people.
+    /// The counters of completed, progressed and created issues; for a team also of contributors.
     QList<StatPill> pills;
 
     int pillCount() const { return int(pills.size()); }
-    /// An empty one where there is none.
+    /// The counter at this position; an empty one if there is none.
     Q_INVOKABLE StatPill pill(int index) const { return pills.value(index); }
 
     bool operator==(const ActivityHeaderData &) const = default;

@@ -6,22 +6,22 @@
 namespace Recap {
 Q_NAMESPACE
 
-/// Whose activity a recap tells.
+/// Whose activity a recap shows.
 enum class People { Me, Team };
 Q_ENUM_NS(People)
 
 } // namespace Recap
 
-/// Where the controls of a recap lead. The future is never reached.
+/// The periods that the controls of a recap select. They are never in the future.
 
-/// The period before.
+/// The previous period.
 ActivityPeriod previousPeriod(ActivityPeriod period);
-/// The period after; the current one is the last.
+/// The next period; for the current period, the current period itself.
 ActivityPeriod nextPeriod(ActivityPeriod period);
-/// As many months back as it was weeks, and the reverse.
+/// The period with another range and the same offset: three weeks ago becomes three months ago, and the reverse.
 ActivityPeriod withRange(ActivityPeriod period, ActivityRange range);
 
 ActivityPeriod withPeople(ActivityPeriod period, Recap::People people);
 
-/// Whether there is a period after this one that is not in the future.
+/// Whether there is a next period that is not in the future.
 bool hasNextPeriod(const ActivityPeriod &period);

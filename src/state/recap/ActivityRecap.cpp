@@ -14,7 +14,7 @@ QString headline(const ActivityPeriod &period, const QDateTime &now, const UserC
            u" — "_s + period.rangeLabel(now, calendar);
 }
 
-/// A section with its lines and the empty line behind it; nothing without issues.
+/// A section with its lines, followed by an empty line; nothing if there are no issues.
 QStringList section(const QString &title, const IssueList &issues, ReportNames names,
                     const Detail &detail)
 {

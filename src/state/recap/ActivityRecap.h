@@ -10,8 +10,8 @@ enum class ReportNames { Hidden, Shown };
 /// the assignee where names are shown.
 QString reportLine(const Issue &issue, const std::optional<QString> &detail, ReportNames names);
 
-/// From where to where an issue went in the period, such as "À faire → En revue", without the steps between; nothing
-/// when its status did not change. An unknown start shows as "?".
+/// The first and the last status of an issue in the period, such as "À faire → En revue"; nothing if its status did not
+/// change. An unknown first status is shown as "?".
 std::optional<QString> movement(const Issue &issue, const StatusLookup &statuses);
 
 /// The recap of a period as Markdown, ready to be pasted.

@@ -7,17 +7,17 @@
 /// What happened to the issues of a recap.
 struct ActivitySummary
 {
-    /// Reached a status that is done.
+    /// The issues that reached a status of the category done.
     IssueList completed;
-    /// Changed their status, but never to one that is done.
+    /// The issues that changed their status, but never to one of the category done.
     IssueList progressed;
-    /// Were created; such an issue can stand in one of the other lists as well.
+    /// The issues that were created. They can also be in one of the other lists.
     IssueList created;
-    /// The display names of all who did something.
+    /// The display names of all authors of events.
     QSet<QString> contributors;
 
     bool operator==(const ActivitySummary &) const = default;
 };
 
-/// The summary of the issues shown, each list in their order.
+/// The summary of the visible issues. Each list keeps their order.
 ActivitySummary activitySummary(const IssueList &visibleIssues, const StatusLookup &statuses);

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What happened, up to the name of the doer.
+/// The description of the event, up to the name of its author.
 QString deed(const ActivityEvent &event, const QString &projectKey, const StatusLookup &statuses)
 {
     const auto label = [&](const QString &name) {

@@ -14,7 +14,8 @@ void addFirst(QHash<QString, IssueStatus> &statuses, const IssueStatus &status)
 
 StatusLookup::StatusLookup(const StatusSources &sources)
 {
-    // Of several projects the one with the first key counts, so that the answer is the same on every run.
+    // If several projects have the status, the project whose key sorts first is used, so that the result is the same in
+    // every run.
     QStringList projectKeys = sources.projectStatuses.keys();
     projectKeys.sort();
     for (const QString &projectKey : std::as_const(projectKeys)) {
