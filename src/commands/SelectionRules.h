@@ -49,7 +49,7 @@ std::optional<EscapeStep> escapeStep(const Selection &selection, const QString &
 
 /// The issue that Return opens: the focused one, else the one in the inspector.
 std::optional<QString> openTarget(const Selection &selection);
-/// The issues that a key or a menu acts on: the checked ones, in plain text order, else the focused one, else the one in
+/// The issues that a key or a menu acts on: the checked ones in plain text order, else the focused one, else the one in
 /// the inspector.
 QStringList actionTargets(const Selection &selection);
 /// The issues that a context menu or a drag of one row acts on: the checked ones, in plain text order, when the row is

@@ -8,7 +8,7 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// A command as a menu shows it.
+/// A command as an entry of a menu.
 class CommandEntry
 {
     Q_GADGET
@@ -22,16 +22,17 @@ public:
     /// A `Commands.Command`.
     int command = 0;
     QString title;
-    /// As this system's user reads it: "Ctrl+Maj+O"; empty without one.
+    /// The shortcut in the terms of the current system, such as "Ctrl+Maj+O"; empty if there is none.
     QString shortcut;
     bool isEnabled = true;
 
     bool operator==(const CommandEntry &) const = default;
 };
 
-/// The commands of one window's menus, as they are now: what each is called, its shortcut in this system's words, whether
-/// it can be chosen, and how to carry it out. The main window has them all, and they act on what is chosen there. The
-/// window of an issue has those that need nothing of the main window; those that take an issue elsewhere take its own.
+/// The commands of one window's menus in their current state: title, shortcut in the terms of the current system,
+/// whether it is enabled, and the operation that carries it out. The main window has all commands, which act on the
+/// issues chosen there. The window of an issue has those that do not need the main window. Commands on issues act on
+/// the window's own issue there.
 class AppCommands : public QObject
 {
     Q_OBJECT
@@ -61,9 +62,10 @@ public:
     QList<CommandEntry> sharing() const { return entries(CommandGroup::Sharing); }
     QList<CommandEntry> display() const { return entries(CommandGroup::Display); }
 
-    /// Carries out a `Commands.Command`, unless it cannot be chosen now.
+    /// Carries out a `Commands.Command`, unless it is disabled.
     Q_INVOKABLE void run(int command);
-    /// Carries out the command whose shortcut was pressed. False when there is none, or not in this window, or not now.
+    /// Carries out the command whose shortcut was pressed. False if there is none, or if it is not available in this
+    /// window or disabled.
     bool runShortcut(const KeyPress &press);
 
 Q_SIGNALS:
@@ -80,7 +82,7 @@ private:
     QString m_issueKey;
 };
 
-/// Whether a command can be chosen. All of the menu "Tickets" can at all times: one without an issue answers with a toast.
+/// Whether a command is enabled. All commands of the menu "Tickets" always are; without an issue they show a toast.
 bool isCommandEnabled(Command command, AppStore::Phase phase);
-/// Whether the window of an issue has a command: the others show themselves in the main window alone.
+/// Whether the window of an issue has the command. The other commands only have an effect in the main window.
 bool isOfIssueWindows(Command command);

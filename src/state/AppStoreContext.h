@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-/// The outside world, as the store needs it. All references outlive the store.
+/// The external services that the store needs. All references must outlive the store.
 struct AppStoreContext
 {
     Clock &clock;

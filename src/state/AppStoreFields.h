@@ -14,9 +14,9 @@
 
 #include <memory>
 
-/// The fields of the store that live as long as a session or the process: how screens read them and learn of changes.
-/// `AppStore` is the only writer. A field that may be absent is an optional in C++; in QML it reads as empty, and where
-/// empty has a meaning of its own a `has…` property stands beside it.
+/// The fields of the store whose lifetime is a session or the process, with the properties and signals by which screens
+/// observe them. Only `AppStore` writes them. A field that may be absent is an optional in C++. In QML it reads as
+/// empty; if an empty value has another meaning, there is also a `has…` property.
 class AppStoreFields : public QObject, public Batched
 {
     Q_OBJECT
@@ -104,12 +104,12 @@ public:
     QString siteShortName() const;
 
     const IssueScope &scope() const { return *m_scope; }
-    /// The scope as rows of the sidebar bear it: a recap without the switch for the team.
+    /// The scope as the rows of the sidebar have it: a recap is compared without its switch for the team.
     IssueScope sidebarSelection() const;
     const IssueList &issues() const { return *m_issues; }
     bool isLoading() const { return *m_isLoading; }
     const std::optional<QString> &loadError() const { return *m_loadError; }
-    /// The records of opened issues, and why one could not be fetched.
+    /// The records of opened issues, and the errors of those that could not be fetched.
     const IssueMap &details() const { return *m_details; }
     const TextMap &detailErrors() const { return *m_detailErrors; }
     const CommentMap &comments() const { return *m_comments; }
@@ -121,7 +121,7 @@ public:
     const IssueList &myOpenIssues() const { return *m_myOpenIssues; }
     int myOpenCount() const { return int(m_myOpenIssues->size()); }
 
-    /// How many files are on their way up, by issue; 0 once they have arrived.
+    /// The number of files that are being uploaded, by issue; 0 once they are uploaded.
     const CountMap &uploading() const { return *m_uploading; }
 
     const std::optional<QString> &focusedKey() const { return *m_focusedKey; }
@@ -145,20 +145,20 @@ public:
     /// The create screen is open.
     bool isCreating() const { return *m_isCreating; }
     void setIsCreating(bool creating) { m_isCreating.set(creating); }
-    /// The project that the create screen was asked for.
+    /// The project for which the create screen was requested.
     const std::optional<QString> &createProjectKey() const { return *m_createProjectKey; }
 
     const QString &scopeTitle() const { return *m_scopeTitle; }
     int visibleCount() const { return *m_visibleCount; }
-    /// "13 tickets", and whether a refresh is under way.
+    /// "13 tickets", and whether a refresh is running.
     const QString &subtitle() const { return *m_subtitle; }
     /// "il y a 12 min": when the list on the screen was fetched, while refreshing it fails; empty otherwise. The reason is
     /// `loadError`.
     const QString &listAge() const { return *m_listAge; }
-    /// Says that the site gave only a part of a long list; empty otherwise.
+    /// A hint that the site returned only a part of a long list; empty otherwise.
     const QString &countHint() const { return *m_countHint; }
 
-    /// Those now shown, oldest first.
+    /// The toasts that are shown, oldest first.
     const QList<Toast> &toasts() const { return *m_toasts; }
 
 Q_SIGNALS:
@@ -201,7 +201,7 @@ protected:
     template <typename T>
     using Field = Observed<AppStoreFields, T>;
     using This = AppStoreFields;
-    /// What is made from the fields; flags.
+    /// The values that are computed from the fields; flags. Each field names the ones that depend on it.
     enum Shown : unsigned {
         List = 1,
         Marks = 2,
@@ -215,7 +215,7 @@ protected:
     using QObject::QObject;
 
     Field<Phase> m_phase{this, &This::phaseChanged};
-    /// The present session. Only the store holds it, so that it ends when it is replaced.
+    /// The current session. The store is its only owner, so that it ends when it is replaced.
     Field<std::shared_ptr<Session>> m_session{this, &This::sessionChanged};
     Field<std::optional<JiraUser>> m_me{this, &This::meChanged, List};
     Field<QList<Project>> m_projects{this, &This::projectsChanged, List | Sidebar};

@@ -5,8 +5,8 @@
 #include "platform/Preferences.h"
 #include "state/AppStoreFields.h"
 
-/// The user's choices, which outlive sessions and the process. Each is read once, when the store is made, and stored
-/// at its change; an unknown stored value reads as the default and stays until then.
+/// The user's choices, which outlive sessions and the process. Each is read once, when the store is created, and stored
+/// when it changes. An unknown stored value is read as the default; it remains stored until the preference changes.
 class AppStorePreferences : public AppStoreFields
 {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
     const DisplayProperties &display() const { return *m_display; }
     void setDisplay(const DisplayProperties &display);
     const QStringList &favoriteProjects() const { return *m_favoriteProjects; }
-    /// Takes the project out, or puts it behind the others.
+    /// Removes the project from the favorites, or appends it.
     Q_INVOKABLE void toggleFavorite(const QString &projectKey);
     AppearanceMode appearance() const { return *m_appearance; }
     void setAppearance(AppearanceMode mode);
@@ -55,7 +55,8 @@ public:
     void setDensity(RowDensity density);
     bool activityTeamWide() const { return *m_activityTeamWide; }
     void setActivityTeamWide(bool teamWide);
-    /// The appearance in force: the user's choice, or the desktop's where the user follows it.
+    /// Whether the current appearance is dark: the user's choice, or the desktop's setting if the user follows the
+    /// desktop.
     bool isDark() const { return *m_isDark; }
     bool prefersReducedMotion() const { return *m_prefersReducedMotion; }
 
@@ -74,10 +75,10 @@ Q_SIGNALS:
     void prefersReducedMotionChanged();
 
 protected:
-    /// Both references outlive the store.
+    /// Both references must outlive the store.
     AppStorePreferences(Preferences &preferences, Desktop &desktop, QObject *parent);
 
-    /// Takes over what is stored. While a batch is open.
+    /// Reads the stored values into the fields. Must be called while a batch is open.
     void readPreferences();
 
 private:

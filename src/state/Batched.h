@@ -2,8 +2,8 @@
 
 #include <utility>
 
-/// An object with fields from which other things are made. What is made is brought up to date when the operation that
-/// writes the fields is through, once however many fields changed; a write outside any batch is an operation of its own.
+/// An object with fields from which other values are derived. The derived values are updated once, at the end of the
+/// operation that writes the fields, however many fields changed. A write outside any batch is an operation by itself.
 class Batched
 {
 public:
@@ -11,14 +11,14 @@ public:
     Batched(const Batched &) = delete;
     Batched &operator=(const Batched &) = delete;
 
-    /// Lives on the stack of a synchronous operation, never across a wait.
+    /// A batch of writes. It is a local variable of a synchronous operation, and must not exist across a `co_await`.
     class Batch
     {
     public:
         explicit Batch(Batched &object) : m_object(object) { ++m_object.m_openBatches; }
         ~Batch()
         {
-            // Closed only after the flush: what its listeners write is flushed here too.
+            // The batch is closed only after the flush, so that writes by observers are flushed here too.
             while (m_object.m_openBatches == 1 && m_object.m_stale != 0)
                 m_object.flush(std::exchange(m_object.m_stale, 0));
             --m_object.m_openBatches;
@@ -30,15 +30,15 @@ public:
         Batched &m_object;
     };
 
-    /// Says what is out of date; flags of the object's own. Only while a batch is open.
+    /// Marks derived values as out of date. The object defines the flags. Must be called while a batch is open.
     void markStale(unsigned what) { m_stale |= what; }
 
 protected:
     ~Batched() = default;
 
-    /// What is out of date at this moment.
+    /// The values that are out of date.
     unsigned stale() const { return m_stale; }
-    /// Brings up to date what the flags name.
+    /// Updates the values that the flags name.
     virtual void flush(unsigned what) = 0;
 
 private:

@@ -5,7 +5,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Names in QML of commands and of what the reference of shortcuts is made of.
+/// The QML names of commands and of the types in the list of shortcuts.
 namespace CommandTypes {
 
 struct ShortcutMeaningValue

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// The hints of controls that a key can do too, in this system's words, for QML.
+/// For QML: the hints of controls that have a keyboard shortcut, in the terms of the current system.
 class Hints : public QObject
 {
     Q_OBJECT

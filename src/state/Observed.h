@@ -7,15 +7,15 @@
 #include <type_traits>
 #include <utility>
 
-/// A field whose changes an object tells of. There is one way to write it: compare, store, mark what is made from it,
-/// notify, in that order, and nothing at all when the values are equal.
+/// A field with change notification. Every write compares the values, stores the new one, marks the derived values as
+/// out of date and emits the signal, in that order. It does nothing if the values are equal.
 template <typename Owner, typename T>
 class Observed
 {
 public:
     using Notify = void (Owner::*)();
 
-    /// `stale` names what the owner, a `Batched`, makes from this field.
+    /// `stale` are the flags of the values that the owner, a `Batched`, derives from this field.
     Observed(Owner *owner, Notify notify, unsigned stale = 0, T value = {})
         : m_owner(owner), m_notify(notify), m_stale(stale), m_value(std::move(value))
     {
@@ -29,7 +29,7 @@ public:
     const T &operator*() const { return m_value; }
     const T *operator->() const { return &m_value; }
 
-    /// Gives whether the field changed.
+    /// Returns whether the field changed.
     bool set(T value)
     {
         if (m_value == value)
@@ -41,7 +41,7 @@ public:
         (m_owner->*m_notify)();
         return true;
     }
-    /// For maps: the entry of the key becomes `entry`.
+    /// For maps: sets the key's entry to `entry`. Returns whether the field changed.
     template <typename Key, typename Entry>
     bool insert(const Key &key, Entry &&entry)
     {
@@ -49,7 +49,7 @@ public:
         changed.insert(key, std::forward<Entry>(entry));
         return set(std::move(changed));
     }
-    /// For maps and sets: takes the key's entry out.
+    /// For maps and sets: removes the key's entry. Returns whether the field changed.
     template <typename Key>
     bool remove(const Key &key)
     {

@@ -4,14 +4,14 @@
 #include "state/recap/ActivityBadge.h"
 #include "state/recap/ActivitySummary.h"
 
-/// What the store keeps of a recap: each part is computed when it is read and again only when its sources have changed,
-/// so that a read without a change costs no pass over issues or events.
+/// The cached values of a recap. Each is computed when it is first read, and again only when its sources have changed,
+/// so that other reads do not iterate over issues or events.
 struct RecapMemos
 {
     /// From the statuses of the projects and of the issues.
     Memo<StatusLookup> statuses;
-    /// From the visible issues and the statuses: a pass over all events.
+    /// From the visible issues and the statuses. Computing it iterates over all events.
     Memo<ActivitySummary> summary;
-    /// From the people met: who is found for the badge of a new assignee.
+    /// From the known users: the users by name, for the badges of new assignees.
     Memo<QHash<QString, JiraUser>> users;
 };

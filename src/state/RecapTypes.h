@@ -5,7 +5,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Names in QML of what recaps are made of.
+/// The QML names of the types of a recap.
 namespace RecapTypes {
 
 struct ActivityHeaderDataValue

@@ -46,7 +46,7 @@ public:
     QHash<IssueScope, QDateTime> fetchedAt;
     /// The projects whose statuses, users and types have been asked for.
     QSet<QString> loadedMeta;
-    /// Of overlapping reloads of the list only the newest writes.
+    /// If reloads of the list overlap, only the newest one writes its result.
     Newest reloads;
     /// How many transitions run at once, so that a change of many issues does not flood the site.
     Turns transitionTurns{8};

@@ -9,18 +9,18 @@
 #include <memory>
 #include <variant>
 
-/// What someone types to sign in.
+/// The input of the sign-in form.
 struct SignIn
 {
     QString site;
-    /// Empty for a personal access token of a site of one's own.
+    /// Empty for a personal access token of a self-hosted site.
     QString email;
     QString token;
 
     bool operator==(const SignIn &) const = default;
 };
 
-/// The way to sessions on real sites, and where credentials are kept, as the store needs it. UI thread only.
+/// The interface through which the store opens sessions on real sites and keeps credentials. UI thread only.
 class SiteSessions
 {
 public:
@@ -32,10 +32,10 @@ public:
         /// To be called when the session begins.
         std::function<void()> onBegin = [] {};
     };
-    /// There may be a saved session, but the system refused to hand it over.
+    /// There may be a saved session, but the system refused access to it.
     struct Blocked
     {
-        /// What the user reads.
+        /// The message for the user.
         QString text;
     };
     /// No session is saved.
@@ -51,11 +51,12 @@ public:
 
     /// The site and the e-mail of the last sign-in, also after a sign-out; no token.
     virtual SignIn lastSignIn() const = 0;
-    /// A session with the saved credentials, which are not tried.
+    /// Opens a session with the saved credentials, which are not verified.
     virtual QCoro::Task<Saved> restore() = 0;
-    /// A session with these credentials, which are neither tried nor kept. Fails with `JiraError::InvalidSite`.
+    /// Opens a session with these credentials, which are neither verified nor saved. Fails with
+    /// `JiraError::InvalidSite`.
     virtual Opened open(const SignIn &signIn) const = 0;
-    /// Keeps the credentials for the next start. Fails with the words of the system's store of secrets.
+    /// Saves the credentials for the next start. Fails with the message of the system's secret store.
     virtual QCoro::Task<> keep(SignIn signIn) = 0;
     /// Deletes the token of the last sign-in; never fails.
     virtual QCoro::Task<> forget() = 0;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QUuid>
 
-/// What a toast says: how a thing went, or that it failed. Errors stay longer.
+/// The kind of a toast: a notice, or an error. Errors are shown longer.
 enum class ToastKind { Notice, Error };
 
 /// A small message that disappears by itself.

@@ -29,7 +29,7 @@ BoardModel::BoardModel(UserCalendar calendar, QDateTime now, QObject *parent)
 void BoardModel::setColumns(const QList<IssueGroup> &columns)
 {
     Q_EMIT aboutToUpdate();
-    // Cards first: a column is never seen without its own.
+    // The cards are set first, so that no column is shown without its cards.
     for (const auto &column : columns)
         cardsOfColumn(column.id)->setIssues(column.issues);
     update(columnRows(columns));
@@ -58,7 +58,7 @@ void BoardModel::mark(IssueListModel &cards) const
 void BoardModel::forgetCardsWithoutColumn()
 {
     for (const auto &id : m_cards.keys()) {
-        // Later: the column's view may be on its way out still.
+        // Deleted later, because the column's view may still exist.
         if (!rowOf(id))
             m_cards.take(id)->deleteLater();
     }

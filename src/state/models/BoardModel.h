@@ -15,7 +15,7 @@ struct BoardColumnRow
     QString title;
     /// How many issues it has.
     int count = 0;
-    /// An empty one for a group that is not of a status.
+    /// An empty status for a group that is not a status group.
     IssueStatus status;
 
     /// "En cours, 3 tickets".
@@ -24,8 +24,8 @@ struct BoardColumnRow
     bool operator==(const BoardColumnRow &) const = default;
 };
 
-/// The columns of the board, each with a model of its cards. A column that stays keeps its model, so that its view lives
-/// on while cards come and go.
+/// The columns of the board, each with a model of its cards. A column that remains keeps its model, so that its view is
+/// kept while cards change.
 class BoardModel : public KeyedListModel<BoardColumnRow>
 {
     Q_OBJECT
@@ -45,30 +45,30 @@ public:
     };
     Q_ENUM(Role)
 
-    /// `now` is the time that relative dates are told from until `setNow`.
+    /// `now` is the reference time of relative dates until `setNow` is called.
     BoardModel(UserCalendar calendar, QDateTime now, QObject *parent = nullptr);
 
     void setColumns(const QList<IssueGroup> &columns);
-    /// An empty key focuses nothing.
+    /// An empty key means that no issue has the focus.
     void setFocusedKey(const QString &key);
     void setCheckedKeys(const QSet<QString> &keys);
-    /// An empty key opens nothing.
+    /// An empty key means that no issue is open.
     void setOpenKey(const QString &key);
-    /// Tells relative dates anew.
+    /// Updates relative dates.
     void setNow(const QDateTime &now);
     /// Updates everything that shows dates.
     void setCalendar(const UserCalendar &calendar);
 
     /// The position of the column that shows the issue; -1 if none does.
     Q_INVOKABLE int columnOfKey(const QString &key) const;
-    /// The cards of the column in a position, which must exist.
+    /// The cards of the column at a position, which must be valid.
     IssueListModel *cards(int column) const;
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
-    /// The columns and their cards are about to become others; and they have.
+    /// Emitted before and after the columns and their cards change.
     void aboutToUpdate();
     void updated();
 
@@ -82,6 +82,6 @@ private:
     QString m_focusedKey;
     QSet<QString> m_checkedKeys;
     QString m_openKey;
-    /// By column; children of this object, so that QML leaves them alone.
+    /// By column id. They are children of this object, so that QML does not take ownership.
     QHash<QString, IssueListModel *> m_cards;
 };

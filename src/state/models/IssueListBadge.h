@@ -24,7 +24,7 @@ public:
     explicit IssueListBadge(std::optional<ActivityBadge> badge) : m_badge(std::move(badge)) {}
 
     bool isShown() const { return m_badge.has_value(); }
-    /// What the status reached is called; empty for other events.
+    /// The name of the new status; empty for other events.
     QString label() const { return m_badge ? m_badge->label : QString(); }
     QString dateText() const { return m_badge ? m_badge->dateText : QString(); }
     QString tooltip() const { return m_badge ? m_badge->tooltip : QString(); }

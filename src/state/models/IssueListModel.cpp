@@ -31,7 +31,7 @@ void IssueListModel::setRows(QList<IssueListRow> rows)
         return;
     Q_EMIT aboutToUpdate();
     update(std::move(rows));
-    // Their places among the others.
+    // The positions in the accessible names may have changed.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {AccessibleNameRole});
     ++m_revision;

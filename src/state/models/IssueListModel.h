@@ -12,8 +12,8 @@
 
 #include <functional>
 
-/// The list layout as one flat list: each group's header, then its issues unless the group is collapsed. What depends on
-/// the view alone (focus, check marks, the open issue, the time) changes without touching the rows.
+/// The list layout as one flat list: each group's header, then its issues unless the group is collapsed. Data that
+/// depends only on the view (focus, check marks, the open issue, the time) changes without changing the rows.
 class IssueListModel : public KeyedListModel<IssueListRow>
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
         HeaderRole,
         IsFocusedRole,
         IsCheckedRole,
-        /// The issue stands open in the inspector.
+        /// The issue is open in the inspector.
         IsOpenRole,
         /// How long ago the issue was updated.
         UpdatedTextRole,
@@ -51,27 +51,27 @@ public:
     };
     Q_ENUM(Role)
 
-    /// `now` is the time that relative dates are told from until `setNow`.
+    /// `now` is the reference time of relative dates until `setNow` is called.
     IssueListModel(UserCalendar calendar, QDateTime now, QObject *parent = nullptr);
 
     int revision() const { return m_revision; }
     void setGroups(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
     /// Only issues, without any header: the cards of a column.
     void setIssues(const IssueList &issues);
-    /// An empty key focuses nothing. Touches the row that loses and the row that takes the focus.
+    /// An empty key means that no issue has the focus. Notifies only the rows that lose and gain the focus.
     void setFocusedKey(const QString &key);
     void setCheckedKeys(const QSet<QString> &keys);
-    /// An empty key opens nothing.
+    /// An empty key means that no issue is open.
     void setOpenKey(const QString &key);
-    /// Tells relative dates anew.
+    /// Updates relative dates.
     void setNow(const QDateTime &now);
     /// Updates everything that shows dates.
     void setCalendar(const UserCalendar &calendar);
 
-    /// Makes the badge of an issue, when a view asks for it.
+    /// Creates the badge of an issue when a view requests it.
     using BadgeMaker = std::function<std::optional<ActivityBadge>(const Issue &)>;
     void setBadges(BadgeMaker maker) { m_badges = std::move(maker); }
-    /// Says that the badges may have become others.
+    /// Notifies views that the badges may have changed.
     void refreshBadges();
 
     /// The row of the header that the row belongs to, which is the row itself for a header; -1 outside the list.
@@ -89,17 +89,17 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 Q_SIGNALS:
-    /// The rows are about to become others; and they have.
+    /// Emitted before and after the rows change.
     void aboutToUpdate();
     void updated();
 
 private:
     void setRows(QList<IssueListRow> rows);
-    /// The rows that are headers at this moment, also in the midst of an update; ascending.
+    /// The rows that are currently headers, also during an update; ascending.
     const std::vector<int> &headerRows() const;
     QVariant issueRoleData(const Issue &issue, int role) const;
     QVariant groupData(const IssueListHeader &header, int role) const;
-    /// The issue's place among those of its group or column: ", 2 sur 5".
+    /// The issue's position in its group or column, such as ", 2 sur 5".
     QString placeWords(int row) const;
     QString dueTooltip(const QDate &day) const;
     bool isOverdue(const Issue &issue) const;

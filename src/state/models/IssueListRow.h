@@ -15,7 +15,7 @@ QML_ELEMENT
 enum class RowKind { Header, Issue };
 Q_ENUM_NS(RowKind)
 
-/// What a header's icon is: a status, a person or nobody, a level, a project or an unknown one, or everything.
+/// The kind of a header's icon. The person and the project may be absent.
 enum class GroupKind { Status, Assignee, Priority, Project, All };
 Q_ENUM_NS(GroupKind)
 
@@ -40,7 +40,7 @@ class IssueListHeader
     Q_PROPERTY(QString accessibleName READ accessibleName CONSTANT FINAL)
 
 public:
-    /// The group's id, by which it is collapsed.
+    /// The group's id, as in the set of collapsed groups.
     QString groupId;
     QString title;
     /// The issues of the group, shown or not.
@@ -84,6 +84,6 @@ IssueListRow headerRow(const IssueGroup &group, bool isCollapsed);
 /// Each group's header and, unless it is collapsed, its issues.
 QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
 
-/// What a row says to those who hear it: "WEB-203, La recherche globale ignore les accents, À faire, priorité Haute,
+/// The text of a row for screen readers: "WEB-203, La recherche globale ignore les accents, À faire, priorité Haute,
 /// assigné à Noam Talvère".
 QString accessibleSentence(const Issue &issue);

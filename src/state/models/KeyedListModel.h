@@ -10,17 +10,18 @@
 #include <optional>
 #include <vector>
 
-/// A row of a `KeyedListModel`: a value with a text that tells it from all others of its list.
+/// A row of a `KeyedListModel`: a value with a key that is unique in its list.
 template <typename T>
 concept KeyedRow = std::equality_comparable<T> && requires(const T &row) {
     { row.key } -> std::convertible_to<QString>;
 };
 
-/// A list model that is fed whole lists and finds out by key which rows went, came, moved and changed. It never resets,
-/// so the delegates of a view live on, positions hold and moves can be animated. Signals come in the order removals,
-/// moves, insertions, changes; at each structural one the model holds exactly the rows signalled so far, with the values
-/// from before; new values come all at once, just before they are signalled. An update sends at most `maxRowDiffSteps`
-/// structural signals and as many changes. A key that occurs twice costs a needless insertion, no more.
+/// A list model that takes complete lists and finds by key which rows were removed, moved, inserted and changed. It
+/// never resets, so that a view keeps its delegates and its position, and moves can be animated. Signals are emitted in
+/// the order removals, moves, insertions, changes. At each structural signal, the model contains exactly the rows
+/// signalled so far, and kept rows have their old values. The new values are all stored just before the change signals.
+/// An update emits at most `maxRowDiffSteps` structural signals and as many change signals. A repeated key only causes
+/// an unnecessary removal and insertion.
 template <KeyedRow Row>
 class KeyedListModel : public QAbstractListModel
 {
@@ -32,7 +33,7 @@ public:
         return parent.isValid() ? 0 : int(m_rows.size());
     }
 
-    /// Takes over a list.
+    /// Replaces the list.
     void update(QList<Row> rows)
     {
         const RowRange middle = trimmed(rows);
@@ -50,7 +51,8 @@ public:
 
     const QList<Row> &rows() const { return m_rows; }
 
-    /// Where the row with the key stands. Costs one look-up; the first call after a change of the rows costs O(n).
+    /// The position of the row with the key; nothing if there is none. Costs one look-up; the first call after a change
+    /// of the rows costs O(n).
     std::optional<int> rowOf(QStringView key) const
     {
         if (!m_index)
@@ -59,10 +61,11 @@ public:
     }
 
 protected:
-    /// Grows with each step by which rows come, go or move, from 0.
+    /// Grows with each removal, insertion or move of rows, from 0.
     quint64 structure() const { return m_structure; }
 
-    /// Tells views that roles of single rows changed though the rows did not; neighbours share a signal. Rows ascend.
+    /// Notifies views that roles of these rows changed, even if the rows themselves did not. Adjacent rows share a
+    /// signal. `rows` must be ascending.
     void notifyChanged(const std::vector<int> &rows, const QList<int> &roles = {})
     {
         std::vector<RowRange> ranges;
@@ -72,7 +75,7 @@ protected:
             else
                 ranges.push_back({row, 1});
         }
-        // Telling of a row too many is harmless, thousands of signals are not.
+        // Notifying unchanged rows is harmless, but thousands of signals are slow.
         if (ranges.size() > std::size_t(maxRowDiffSteps))
             ranges = {{rows.front(), rows.back() - rows.front() + 1}};
         for (const auto &range : ranges)
@@ -80,7 +83,7 @@ protected:
     }
 
 private:
-    /// The rows of the new list that are left when what both lists begin and end with is taken away.
+    /// The rows of the new list without the common beginning and the common end of both lists.
     RowRange trimmed(const QList<Row> &rows) const
     {
         const auto shorter = std::min(m_rows.size(), rows.size());
@@ -152,7 +155,7 @@ private:
         m_index.reset();
     }
 
-    /// All rows stand where they belong; takes over the values that differ.
+    /// Replaces the values that differ. All rows must already be at their new positions.
     void change(const QList<Row> &rows)
     {
         std::vector<int> changed;
@@ -170,6 +173,6 @@ private:
 
     QList<Row> m_rows;
     quint64 m_structure = 0;
-    /// Points into the rows.
+    /// Refers to the memory of the keys in `m_rows`.
     mutable std::optional<KeyIndex> m_index;
 };

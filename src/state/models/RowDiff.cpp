@@ -9,7 +9,7 @@ namespace {
 
 constexpr int absent = -1;
 
-/// Rows that stand in both lists side by side.
+/// Rows that are adjacent in both lists.
 struct KeptRun
 {
     int before = 0;
@@ -17,7 +17,7 @@ struct KeptRun
     int count = 0;
 };
 
-/// For each row of `after` its row in `before`, or `absent`; each row of `before` is given once.
+/// For each row of `after` its row in `before`, or `absent`; each row of `before` is used at most once.
 std::vector<int> earlierRows(const std::vector<QStringView> &before,
                              const std::vector<QStringView> &after)
 {
@@ -103,8 +103,8 @@ std::vector<int> permutation(int countBefore, const std::vector<int> &earlier)
     return kept;
 }
 
-/// The stretches of the new order that leave their place: rows out of the longest increasing subsequence that were
-/// neighbours before and still are.
+/// The ranges of the new order that must be moved: rows outside the longest increasing subsequence. Rows that are
+/// adjacent in both orders share a range.
 std::vector<RowRange> movingRanges(const std::vector<int> &order)
 {
     std::vector<bool> moves(order.size(), true);
@@ -135,7 +135,7 @@ void applyMove(std::vector<int> &list, const RowMove &move)
                     begin + move.to + move.count);
 }
 
-/// Moves each stretch behind the row that precedes it in the new order, from the top down.
+/// The moves that place each range after the row that precedes it in the new order, from first to last.
 std::vector<RowMove> movesFor(const std::vector<int> &order, const std::vector<RowRange> &ranges)
 {
     std::vector<int> list(order.size());
@@ -156,7 +156,7 @@ std::vector<RowMove> movesFor(const std::vector<int> &order, const std::vector<R
     return moves;
 }
 
-/// The rows that keep their order, as runs that stand side by side in both lists.
+/// The rows that keep their order, as runs that are adjacent in both lists.
 std::vector<KeptRun> keptRuns(const std::vector<int> &earlier)
 {
     std::vector<KeptRun> runs;
@@ -172,7 +172,7 @@ std::vector<KeptRun> keptRuns(const std::vector<int> &earlier)
     return runs;
 }
 
-/// The longest runs, in their order: as many as the bound on steps allows.
+/// The longest runs, in their order: as many as `maxRowDiffSteps` allows.
 std::vector<KeptRun> longestRuns(std::vector<KeptRun> runs)
 {
     constexpr std::size_t most = maxRowDiffSteps / 2 - 1;
@@ -186,7 +186,7 @@ std::vector<KeptRun> longestRuns(std::vector<KeptRun> runs)
     return runs;
 }
 
-/// Replaces whatever stands between the longest kept runs.
+/// A diff that replaces all rows between the longest kept runs.
 RowDiff coarseDiff(int countBefore, const std::vector<int> &earlier)
 {
     RowDiff diff;

@@ -13,7 +13,7 @@ struct RowRange
     bool operator==(const RowRange &) const = default;
 };
 
-/// Rows that change place together. `to` is where the first of them stands afterwards.
+/// Adjacent rows that are moved together. `to` is the position of the first of them after the move.
 struct RowMove
 {
     int first = 0;
@@ -23,23 +23,23 @@ struct RowMove
     bool operator==(const RowMove &) const = default;
 };
 
-/// How to get from one list of keys to another. The three families are applied one after the other, each in its order;
-/// a position is that of the list as it stands when the step is applied.
+/// The steps that convert one list of keys to another. Removals, moves and insertions are applied one after the other,
+/// each in its order. Positions refer to the list as it is when the step is applied.
 struct RowDiff
 {
-    /// From the bottom up.
+    /// In descending order of position.
     std::vector<RowRange> removals;
     std::vector<RowMove> moves;
-    /// From the top down: the positions in the new list.
+    /// In ascending order of position; these are the positions in the new list.
     std::vector<RowRange> insertions;
 
     bool operator==(const RowDiff &) const = default;
 };
 
-/// The most steps that a diff has. A view works through the changes of one event in time quadratic in their number; past
-/// this bound short stretches of kept rows are given up and replaced with what surrounds them, the longest ones stay.
+/// The maximum number of steps of a diff. A view needs quadratic time in the number of steps. If there would be more
+/// steps, only the longest runs of kept rows are kept; shorter ones are removed and inserted again.
 constexpr int maxRowDiffSteps = 64;
 
-/// The difference of two lists; O(n log n). As few rows move as possible. A row that repeats an earlier key counts as a
-/// row of its own, which goes and comes with every diff.
+/// The difference of two lists; O(n log n). As few rows move as possible. A row that repeats an earlier key is removed
+/// and inserted again by every diff.
 RowDiff rowDiff(const std::vector<QStringView> &before, const std::vector<QStringView> &after);

@@ -18,14 +18,14 @@ public:
         KindRole = Qt::UserRole,
         TextRole,
         SymbolRole,
-        /// What to hand to the store when the row is picked; meaningless where `isSelectable` is false.
+        /// The scope to pass to the store when the row is picked; meaningless if `isSelectable` is false.
         ScopeRole,
         IsSelectableRole,
         IsSelectedRole,
         /// An empty record for rows without a project.
         ProjectRole,
         IsFavoriteRole,
-        /// The number as text; empty for none.
+        /// The number as text; empty if there is none.
         BadgeTextRole,
         AccessibleNameRole
     };

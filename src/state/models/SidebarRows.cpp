@@ -107,7 +107,7 @@ QList<SidebarRow> projectSection(const SidebarInputs &inputs)
     return title + QList{plainRow(RowKind::Placeholder, u"placeholder"_s, text)};
 }
 
-/// Of several rows of the same scope the last is the most specific.
+/// Selects the last row of the scope: if several rows have the same scope, the last is the most specific.
 void selectRow(QList<SidebarRow> &rows, const IssueScope &scope)
 {
     const auto bears = [tag = sidebarTag(scope)](const SidebarRow &row) {

@@ -5,7 +5,7 @@
 
 #include <QtQml/qqmlregistration.h>
 
-/// A toast under its id.
+/// A toast with its id as the key.
 struct ToastRow
 {
     QString key;
@@ -14,7 +14,7 @@ struct ToastRow
     bool operator==(const ToastRow &) const = default;
 };
 
-/// The toasts now shown, oldest first.
+/// The toasts that are shown, oldest first.
 class ToastModel : public KeyedListModel<ToastRow>
 {
     Q_OBJECT
