@@ -29,23 +29,23 @@
 #include <stop_token>
 
 /// The state of the program: the active service, all lists and dictionaries that screens show, the preferences and the
-/// toasts. Made once by the composition root; lives on the UI thread; the single writer of its fields. Screens bind to
-/// its properties and call its operations, and never see the service.
+/// toasts. Created once by the composition root; used on the UI thread only; the only writer of its fields. Screens
+/// bind to its properties and call its operations, but never access the service.
 ///
-/// Asynchronous operations never fail. They belong to the session in which they begin: when it is over they end without a
-/// result and change nothing. A wait that outlives the store ends with `OwnerGone`.
+/// Asynchronous operations never fail. They belong to the session in which they begin: when it ends, they end without a
+/// result and change nothing. If the store is destroyed, pending ones end with `OwnerGone`.
 class AppStore : public AppStorePreferences
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the composition root")
-    // Cases of different enumerations share names.
+    // Enumerators of different enumerations have the same names.
     Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
     // Selection
     Q_PROPERTY(bool showInspector READ showInspector WRITE setShowInspector NOTIFY
                    inspectorKeyChanged FINAL)
-    // What is made from the fields
+    // Values computed from the fields
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged FINAL)
     Q_PROPERTY(
         ActivityHeaderData activityHeader READ activityHeader NOTIFY activityHeaderChanged FINAL)
@@ -59,120 +59,120 @@ public:
     ~AppStore() override;
 
     // Session ---------------------------------------------------------------------------------------------------------
-    /// Comes to a first phase; acts only the first time.
+    /// Starts the program until its first phase. Only the first call has an effect.
     QCoro::Task<> bootstrap();
-    /// Leaves whatever session there is for one on made-up data.
+    /// Replaces the current session, if any, by one on made-up data.
     QCoro::Task<> startDemo();
     /// `startDemo` for a button, which does not wait.
     Q_INVOKABLE void openDemo();
     /// Deletes the token, and goes back to the first screen.
     Q_INVOKABLE void signOut();
-    /// Whether `bootstrap` will open the demo, which asks nobody for anything.
+    /// Whether `bootstrap` will open the demo, which needs no credentials.
     bool startsWithDemo() const;
-    /// Opens the session that is saved, if there is one and the system hands it over. A session that was begun or ended
-    /// in the meantime stands.
+    /// Opens the saved session, if there is one and the system gives access to it. Has no effect if a session began or
+    /// ended in the meantime.
     QCoro::Task<> restoreSavedSession();
     /// `restoreSavedSession` for a button, which does not wait.
     Q_INVOKABLE void retrySavedSession();
-    /// Signs in: tries the credentials, keeps them, and leaves whatever session there is for theirs. Fails with the
-    /// words to show beside the form, and then nothing has changed.
+    /// Signs in: verifies the credentials, saves them and replaces the current session. Fails with the message to show
+    /// beside the form; then nothing has changed.
     QCoro::Task<> connect(QString site, QString email, QString token);
     using QObject::connect;
-    /// What the form offers: the site and the e-mail of the last sign-in.
+    /// The initial values of the form: the site and the e-mail of the last sign-in.
     SignIn lastSignIn() const { return m_context.sessions.lastSignIn(); }
 
-    /// The writes that are not answered yet, those of sessions that are over included.
+    /// The writes that are not answered yet, including those of sessions that have ended.
     const PendingWrites &writes() const { return m_writes; }
 
     // Loading ---------------------------------------------------------------------------------------------------------
     /// Shows another list: its last known state at once, and a fresh one when the service has answered.
     Q_INVOKABLE void select(const IssueScope &scope);
-    /// Selects the scope of a sidebar row; a recap takes the stored switch for the team. Nothing is ignored.
+    /// Selects the scope of a sidebar row; a recap gets the stored switch for the team. Without a scope, has no effect.
     void setSidebarSelection(const std::optional<IssueScope> &scope);
     Q_INVOKABLE void selectInSidebar(const IssueScope &scope) { setSidebarSelection(scope); }
-    /// Fetches the current list anew. Of overlapping reloads only the last one started writes.
+    /// Fetches the current list again. If reloads overlap, only the last one started writes its result.
     QCoro::Task<> reload();
-    /// Fetches the current list, and what the start of the session could not, for a user who asked for it: a failure is
-    /// told by a toast where the list is not empty.
+    /// A reload requested by the user. Also fetches what the start of the session could not. A failure is shown in a
+    /// toast if the list is not empty.
     Q_INVOKABLE void refresh();
     QCoro::Task<> refreshMyIssues();
-    /// Fetches all of an opened issue: the record, its comments and its transitions.
+    /// Fetches all data of an opened issue: the record, its comments and its transitions.
     QCoro::Task<> loadDetails(QString key, std::stop_token stop = {});
     /// Fetches a project's statuses, assignable users and types, once in a session.
     QCoro::Task<> loadProjectMeta(QString key);
     /// Issues that the service finds; none on any failure.
     QCoro::Task<IssueList> searchRemote(QString text, std::stop_token stop = {});
-    /// The best known record of the issue.
+    /// The most complete known record of the issue.
     std::optional<SharedIssue> issue(const QString &key) const;
     std::optional<Project> project(const QString &key) const;
-    /// The last known list of each scope met in this session.
+    /// The last known list of each scope shown in this session.
     const QHash<IssueScope, IssueList> &scopeCache() const { return m_scopeCache; }
-    /// Every user met so far, by id; outlives sessions.
+    /// Every user received so far, by id; kept across sessions.
     const QHash<QString, JiraUser> &knownUsers() const { return m_knownUsers; }
 
-    // Derived lists: each computed at most once per change of what it depends on ---------------------------------------
+    // Derived lists: each is computed at most once per change of its dependencies -------------------------------------
     const IssueList &visibleIssues() const { return derivation().visibleIssues(); }
     const QList<IssueGroup> &groups() const { return derivation().groups(); }
     const QList<IssueGroup> &boardColumns() const { return derivation().boardColumns(); }
-    /// The keys in display order: the path of the arrow keys.
+    /// The keys in display order, in which the arrow keys move.
     const QStringList &flatVisibleKeys() const { return derivation().flatVisibleKeys(); }
-    /// The same path, on which keys are found.
+    /// The same keys, with an index of their positions.
     const VisiblePath &visiblePath() const { return derivation().visiblePath(); }
-    /// All of the above and what the filter menus offer.
+    /// All of the above and the entries of the filter menus.
     const IssueDerivation &derivation() const;
-    /// The present to the minute, for relative dates.
+    /// The current time, updated each minute, for relative dates.
     const QDateTime &now() const { return *m_now; }
     const UserCalendar &calendar() const { return m_context.calendar; }
-    /// The user's calendar has changed: everything that shows dates or sorts names is updated.
+    /// Sets the user's calendar. Everything that shows dates or sorts names is updated.
     void setCalendar(const UserCalendar &calendar);
-    /// For screens that wait.
+    /// The clock, for timers of screens.
     Clock &clock() const { return m_context.clock; }
-    /// Each follows the issues while its layout is the present one, and is emptied with the session.
+    /// Each is updated while its layout is the current one, and is emptied at the end of the session.
     IssueListModel *issueList() { return &m_issueList; }
     BoardModel *board() { return &m_board; }
     SidebarModel *sidebar() { return &m_sidebar; }
     ToastModel *toastModel() { return &m_toastModel; }
 
-    // Edits: each shows at once in every copy of its issues, is sent, and comes back with a toast if it is refused; keys
-    // of unknown issues are left out, and so are issues that are as wished already --------------------------------------
-    /// Moves issues by their workflows, at most eight at a time; each ends in the status that its workflow really reaches.
+    // Edits: each is shown at once in every copy of its issues and sent. If it is refused, it is undone with a toast.
+    // Unknown issues are left out, and so are issues that already have the wanted value -------------------------------
+    /// Carries out transitions, at most eight at a time. Each issue gets the status that its workflow actually reaches.
     void setStatus(const IssueStatus &status, const QStringList &keys);
     void setPriority(const IssuePriority &priority, const QStringList &keys);
-    /// Nobody unassigns. Refreshes the user's own issues.
+    /// Without a user, unassigns the issues. Refreshes the user's own issues.
     void assign(const QStringList &keys, const std::optional<JiraUser> &user);
-    /// Takes the label off when all issues have it, else adds it where it is missing.
+    /// Removes the label if all issues have it, else adds it where it is missing.
     void toggleLabel(const QString &label, const QStringList &keys);
-    /// Adds the label behind their own to the issues that have it not.
+    /// Appends the label to the labels of the issues that do not have it.
     void addLabel(const QString &label, const QStringList &keys);
     void setLabels(const QStringList &labels, const QString &key);
     void rename(const QString &key, const QString &title);
-    /// A text without a word clears the description.
+    /// A text without words clears the description.
     void setDescription(const QString &markdown, const QString &key);
-    /// Nothing clears the date.
+    /// Without a day, clears the date.
     void setDueDate(const std::optional<QDate> &day, const QString &key);
-    /// Carries out what picking a row does.
+    /// Carries out the action of a picker row.
     void run(const OptionAction &action);
 
-    // Comments and creation, which show only when they are stored --------------------------------------------------------
-    /// Gives whether the comment was posted; until then its text is the caller's to keep. Names after an "@" become
-    /// mentions, of `mentions` first.
+    // Comments and creation, which are shown only once they are stored ------------------------------------------------
+    /// Returns whether the comment was posted; until then the caller must keep the text. Names after an "@" become
+    /// mentions; users in `mentions` take precedence.
     QCoro::Task<bool> addComment(QString markdown, QString key, CommentAudience audience,
                                  QList<JiraUser> mentions);
-    /// Gives the key of the new issue, which is then focused and open; nothing when it was refused.
+    /// Returns the key of the new issue, which is then focused and open; nothing if it was refused.
     QCoro::Task<std::optional<QString>> create(IssueDraft draft);
     std::optional<QString> defaultProjectKey() const;
-    /// Without a project the issue's counts.
+    /// Without a project, the project of the issue is used.
     QList<JiraUser> mentionCandidates(const std::optional<QString> &issueKey = {},
                                       const std::optional<QString> &projectKey = {}) const;
     /// Users that the service finds; none on any failure.
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {});
 
-    // Attachments: what fails ends in a toast -------------------------------------------------------------------------------
-    /// Gives what was stored; nothing when it failed. All files go together or not at all.
+    // Attachments: a failure is shown in a toast ----------------------------------------------------------------------
+    /// Returns the stored attachments; empty on failure. Either all files are uploaded or none.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files);
-    /// Uploads the files on the pasteboard, else the picture on it, as a dated capture.
+    /// Uploads the files on the clipboard, else its picture, with the date in its name.
     QCoro::Task<> uploadFromPasteboard(QString key);
-    /// A file with the attachment's content; nothing when it cannot be had.
+    /// A local file with the attachment's content; nothing on failure.
     QCoro::Task<std::optional<QUrl>> localFile(Attachment attachment);
     void deleteAttachment(const Attachment &attachment, const QString &key);
 
@@ -183,9 +183,9 @@ public:
     /// A click on a row or a card with these `Qt::KeyboardModifiers`.
     Q_INVOKABLE void handleClick(const QString &key, int modifiers = 0);
     Q_INVOKABLE void toggleCheck(const QString &key);
-    /// Takes the focus to the issue and shows it in the inspector.
+    /// Focuses the issue and shows it in the inspector.
     void openInInspector(const QString &key);
-    /// Closes the inspector, or opens it on the focused issue, else on the first one shown.
+    /// Closes the inspector, or opens it with the focused issue, else with the first visible one.
     Q_INVOKABLE void togglePeek();
     bool showInspector() const { return m_inspectorKey->has_value(); }
     void setShowInspector(bool shown);
@@ -197,12 +197,12 @@ public:
     Q_INVOKABLE void newIssue() { newIssue(std::nullopt); }
     void newIssue(const std::optional<QString> &projectKey);
 
-    // Keys and commands -------------------------------------------------------------------------------------------------
-    /// Carries out what the key map makes of a press; false for a press that is not consumed. Not for presses that a text
-    /// field, the palette or the create screen should have.
+    // Keys and commands -----------------------------------------------------------------------------------------------
+    /// Carries out the command of a press in the key map; false if the press is not consumed. Must not be called for
+    /// presses that a text field, the palette or the create screen handles.
     bool handleKey(const KeyPress &press);
-    /// Carries out a command on the issues that are chosen. Where it needs one and there is none, a toast asks for it; where
-    /// it needs the account and that is unknown, a toast says so.
+    /// Carries out a command on the issues that are chosen. If it needs an issue and none is chosen, or needs the
+    /// account and that is unknown, a toast says so.
     Q_INVOKABLE void run(Commands::Command command);
     /// The same on these issues; a command on one issue takes the first.
     Q_INVOKABLE void run(Commands::Command command, QStringList keys);
@@ -214,17 +214,17 @@ public:
         &AppStoreFields::assignablesChanged,  &AppStoreFields::prioritiesChanged,
         &AppStoreFields::myOpenIssuesChanged, &AppStoreFields::meChanged};
 
-    // Pasteboard and browser --------------------------------------------------------------------------------------------
+    // Clipboard and browser -------------------------------------------------------------------------------------------
     void copy(const QString &text, const QString &label);
     Q_INVOKABLE void openSite();
-    /// The address of an issue at the site; without a key of the first of the issues that are chosen.
+    /// The URL of an issue at the site; without a key, of the first chosen issue.
     std::optional<QUrl> browseURL(const std::optional<QString> &key = {}) const;
-    /// Gives an address that the program itself knows to the browser.
+    /// Opens a URL of the program's own in the browser.
     void openAddress(const QUrl &address);
 
-    // Recap; outside of one nothing of it does anything ------------------------------------------------------------------
+    // Recap: has no effect outside a recap ----------------------------------------------------------------------------
     const ActivitySummary &activitySummary() const;
-    /// How often each part was computed tells whether a read did any work.
+    /// The cached values; their computation counts show whether a read had to compute anything.
     const RecapMemos &recapMemos() const { return m_recap; }
     /// Empty outside a recap.
     const ActivityHeaderData &activityHeader() const { return *m_activityHeader; }
@@ -242,23 +242,23 @@ public:
     // Toasts ----------------------------------------------------------------------------------------------------------
     void toast(const QString &message, const QString &symbol, ToastKind kind = ToastKind::Notice);
     Q_INVOKABLE void dismissToast(const QUuid &id);
-    /// Goes on to the next appearance and says so.
+    /// Switches to the next appearance and shows a toast.
     Q_INVOKABLE void cycleAppearance();
 
 Q_SIGNALS:
     void nowChanged();
     void calendarChanged();
     void activityHeaderChanged();
-    /// The site did not take a change; `reason` is the text of the toast.
+    /// The site refused a change; `reason` is the text of the toast.
     void writeRefused(const QString &reason);
-    /// Asks for the window of an issue of its own.
+    /// Requests a separate window for the issue.
     void openWindowRequested(const QString &key);
-    /// Asks for the window of the settings.
+    /// Requests the settings window.
     void settingsRequested();
 
 private:
-    // The private operations run in the present session and await through it. `OwnerGone` ends them when it is over; the
-    // public ones then end without a result.
+    // The private operations run in the current session and await through it. When it ends, `OwnerGone` ends them, and
+    // the public ones end without a result.
 
     // AppStoreSession.cpp
     QCoro::Task<> activate(SiteSessions::Opened opened, Session::Kind kind,
@@ -273,7 +273,7 @@ private:
     void startAutoRefresh();
     QCoro::Task<> refreshInBackground();
     // AppStoreLoading.cpp
-    /// Who asked for a reload decides who is told of its failure.
+    /// Who requested a reload; determines how its failure is shown.
     enum class AskedBy { Program, User };
     QCoro::Task<> refreshForUser();
     QCoro::Task<> reloadList(AskedBy askedBy);
@@ -323,9 +323,9 @@ private:
     Selection selection() const;
     void setSelection(const Selection &selection);
     // AppStoreCommands.cpp
-    /// Absent for the issues that are chosen.
+    /// Absent means the chosen issues.
     using TargetKeys = std::optional<QStringList>;
-    /// False when there was nothing to do.
+    /// Returns false if there was nothing to do.
     bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
     bool carryOutOnIssues(Command command, const TargetKeys &keys);
     void carryOutInWindow(Command command);
@@ -369,7 +369,7 @@ private:
 
     AppStoreContext m_context;
     bool m_didBootstrap = false;
-    /// Attempts to open a session: the newest one counts, until a session begins or ends.
+    /// Attempts to open a session. Only the newest one is valid, until a session begins or ends.
     Newest m_openings;
     PendingWrites m_writes;
     QHash<IssueScope, IssueList> m_scopeCache;
@@ -378,12 +378,12 @@ private:
     Clock::TimerHandle m_minuteTimer;
     std::map<QUuid, Clock::TimerHandle> m_toastTimers;
 
-    /// Follows the fields when it is read and when a batch ends.
+    /// Updated from the fields when it is read and when a batch ends.
     mutable IssueDerivation m_derivation;
     Observed<AppStore, QDateTime> m_now{this, &AppStore::nowChanged, Time, m_context.clock.now()};
     Observed<AppStore, ActivityHeaderData> m_activityHeader{this, &AppStore::activityHeaderChanged};
     mutable RecapMemos m_recap;
-    /// What the models show; nothing yet at 0. Badges: the statuses and the users that they were told from.
+    /// The versions that the models show; 0 at first. For badges, the versions of statuses and users.
     std::pair<quint64, QSet<QString>> m_fedGroups;
     quint64 m_fedBoard = 0;
     std::pair<quint64, quint64> m_fedBadges;

@@ -16,7 +16,7 @@ QString uploadedText(const QString &key, const QList<Attachment> &attachments)
     return u"« "_s + name + u" » joint à "_s + key;
 }
 
-/// What the users of the site see as the name of a pasted picture.
+/// The file name of a pasted picture, which the users of the site see.
 QString captureName(const QDateTime &now, const UserCalendar &calendar)
 {
     return u"Capture "_s +

@@ -33,7 +33,7 @@ void AppStore::run(Command command, QStringList keys)
 bool AppStore::carryOut(Command command, const TargetKeys &keys, FocusMove move)
 {
     switch (command) {
-    // These find nothing to do at times; a key is then left to others.
+    // These may have nothing to do; the key press is then not consumed.
     case Command::OpenIssue:
         return openIssue(keys);
     case Command::OpenWindow:
@@ -57,7 +57,7 @@ bool AppStore::carryOut(Command command, const TargetKeys &keys, FocusMove move)
     }
 }
 
-/// The commands that take issues. False for the others.
+/// Carries out a command on issues. False for other commands.
 bool AppStore::carryOutOnIssues(Command command, const TargetKeys &keys)
 {
     switch (command) {
@@ -87,7 +87,7 @@ bool AppStore::carryOutOnIssues(Command command, const TargetKeys &keys)
     }
 }
 
-/// The commands that concern the window as a whole.
+/// Carries out a command that concerns the whole window.
 void AppStore::carryOutInWindow(Command command)
 {
     switch (command) {
@@ -129,7 +129,7 @@ void AppStore::togglePalette()
 void AppStore::assignToMe(const TargetKeys &keys)
 {
     const auto targets = targetsOrToast(keys);
-    // While the account is unknown, assigning to it would take everybody off.
+    // While the account is unknown, assigning to it would unassign the issues.
     if (!*m_me && !targets.isEmpty())
         toast(u"Ton compte Jira n'a pas encore pu être lu. Actualise la liste."_s,
               u"exclamationmark.triangle.fill"_s, ToastKind::Error);

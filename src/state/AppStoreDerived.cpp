@@ -51,7 +51,7 @@ void AppStore::flush(unsigned what)
     if (what & ToastRows)
         m_toastModel.setToasts(*m_toasts);
     const bool isBoardInSight = *m_layout == LayoutMode::Board;
-    // As with its rows, the layout out of sight learns the time and the people when it comes back.
+    // The hidden layout gets the time and the people, like its rows, when it is shown again.
     if (what & (List | Time))
         isBoardInSight ? m_board.setNow(*m_now) : m_issueList.setNow(*m_now);
     if (what & (List | Captions | Time))
@@ -65,8 +65,8 @@ void AppStore::flush(unsigned what)
 void AppStore::feedLists()
 {
     m_derivation.setInputs(derivationInputs());
-    // The other layout is out of sight. Coming back to one that nothing has changed costs nothing; but nothing of a
-    // session that has ended stays in it.
+    // The hidden layout is not updated, so that showing it again costs nothing if nothing has changed. It is only
+    // emptied, so that it keeps no data of an ended session.
     const bool isEmpty = m_issues->isEmpty();
     if (isEmpty || *m_layout == LayoutMode::Board)
         feedBoard();

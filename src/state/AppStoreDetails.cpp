@@ -16,7 +16,7 @@ QCoro::Task<> AppStore::fetchDetails(QString key, std::stop_token stop)
     const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
     std::stop_source commentsStop;
     const std::stop_callback stopsComments(stop, [commentsStop] {
-        // A copy: the stop may end this task, and with it what was captured.
+        // A copy, because the stop request may destroy this task and what it captured.
         // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
         const auto kept = commentsStop;
         kept.request_stop();
@@ -34,14 +34,14 @@ QCoro::Task<> AppStore::fetchDetails(QString key, std::stop_token stop)
     const auto comments = co_await whileAlive(session, std::move(commentsTask));
     if (stop.stop_requested())
         co_return;
-    // An entry of some kind in any case, so that the screen can end its wait.
+    // An entry is always inserted, so that the screen stops waiting.
     m_comments.insert(key, comments ? session->edits.laidOver(*comments, key, reading)
                                     : m_comments->value(key));
     co_await whileAlive(session, fetchProjectMeta(issue->projectKey));
     const OpenEdits::Reading offerReading = session->edits.beginReading(m_context.clock.now());
     const auto offered =
         co_await whileAlive(session, settled(service, service->transitions(key, stop)));
-    // What was offered before a change of the status is not offered now.
+    // Transitions that were offered before a change of the status are no longer valid.
     if (offered && !session->edits.mayLackStatus(key, offerReading))
         m_transitions.insert(key, *offered);
 }
@@ -57,7 +57,7 @@ void AppStore::takeDetails(const QString &key, const Issue &answer,
     takeFullRecord(*issue);
 }
 
-/// The full record in its issue's place in the list.
+/// Replaces the issue's record in the list by the full record.
 void AppStore::takeFullRecord(const Issue &issue)
 {
     const auto row = derivation().rowOf(issue.key);
@@ -72,7 +72,7 @@ void AppStore::takeFullRecord(const Issue &issue)
     m_issues.set(issues);
 }
 
-/// An issue that was created a short time ago stands in its list before a search finds it.
+/// Shows a recently created issue in its list before a search finds it.
 void AppStore::showJustCreated(const SharedIssue &issue)
 {
     if (!(*m_session)->edits.isJustCreated(issue->key, m_context.clock.now()) ||
@@ -98,7 +98,7 @@ QCoro::Task<> AppStore::fetchProjectMeta(QString key)
     Session *const session = m_session->get();
     if (!session || session->loadedMeta.contains(key))
         co_return;
-    // Before anything is fetched, so that a second caller does not fetch again.
+    // Noted before the requests are sent, so that a second caller does not send them again.
     session->loadedMeta.insert(key);
     const auto service = session->service();
     auto statusesTask = settled(service, service->statuses(key));

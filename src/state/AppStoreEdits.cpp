@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The edits that the issues need; `makeEdit` gives none for an issue that is as wished.
+/// The edits that the issues need; `makeEdit` returns nothing for an issue that already has the wanted value.
 template <typename MakeEdit>
 QList<OptimisticEdit> neededEdits(const IssueList &issues, const MakeEdit &makeEdit)
 {
@@ -17,8 +17,8 @@ QList<OptimisticEdit> neededEdits(const IssueList &issues, const MakeEdit &makeE
     return edits;
 }
 
-/// The issue by the key it is asked for: one that was moved on the site is opened by its former key, and stands under that
-/// one here.
+/// The issue with the requested key. An issue that was moved on the site can be opened by its former key, and is then
+/// stored under that key.
 SharedIssue underKey(const SharedIssue &issue, const QString &key)
 {
     if (issue->key == key)
@@ -102,7 +102,8 @@ void AppStore::carryOut(const QList<OptimisticEdit> &edits)
         spawn(commit(edits[i], ids[i]));
 }
 
-/// Changes all copies of the issues. Gives the numbers of the edits; none without a session, where nothing is sent.
+/// Applies the edits to all copies of the issues. Returns the ids of the edits; none without a session, because then
+/// nothing is sent.
 QList<OpenEdits::Id> AppStore::show(const QList<OptimisticEdit> &edits)
 {
     QList<OpenEdits::Id> ids;
@@ -138,7 +139,8 @@ void AppStore::undo(OpenEdits::Id id, const TaskFailure &failure)
     reportRefusal(failure);
 }
 
-/// The copies of the issue show the value already, unless another edit of the same field ended in between.
+/// Shows the value of a confirmed edit. The copies of the issue already have it, unless another edit of the same field
+/// ended in between.
 void AppStore::showConfirmed(const std::optional<OptimisticEdit> &confirmed)
 {
     if (confirmed)

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the addresses of all Jira Cloud sites end with.
+/// The suffix of the addresses of all Jira Cloud sites.
 constexpr auto CloudSuffix = ".atlassian.net"_L1;
 
 } // namespace

@@ -152,7 +152,7 @@ public:
     int visibleCount() const { return *m_visibleCount; }
     /// "13 tickets", and whether a refresh is running.
     const QString &subtitle() const { return *m_subtitle; }
-    /// "il y a 12 min": when the list on the screen was fetched, while refreshing it fails; empty otherwise. The reason is
+    /// "il y a 12 min": when the shown list was fetched, if refreshing it fails; empty otherwise. The reason is
     /// `loadError`.
     const QString &listAge() const { return *m_listAge; }
     /// A hint that the site returned only a part of a long list; empty otherwise.

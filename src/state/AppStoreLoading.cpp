@@ -6,7 +6,7 @@
 
 namespace {
 
-/// How many projects of one list get their metadata fetched, so that a list across many does not flood the service.
+/// The maximum number of projects whose metadata is fetched for one list, to limit the number of requests.
 constexpr qsizetype MetaPerReload = 8;
 
 bool hasKey(const IssueList &issues, const QString &key)
@@ -65,7 +65,7 @@ QCoro::Task<> AppStore::refreshForUser()
         co_return;
     spawn(completeSession());
     co_await whileAlive(session, reloadList(AskedBy::User));
-    // The start of the session could not fetch them.
+    // Fetched here if the start of the session could not.
     if (!session->hasMyIssues)
         co_await whileAlive(session, reloadMyIssues());
 }
@@ -92,7 +92,8 @@ QCoro::Task<> AppStore::reloadList(AskedBy askedBy)
         takeReloaded(scope, *outcome, reading);
     else
         takeReloadFailure(outcome.error(), askedBy);
-    // Before the others, which may be of the same project: whoever comes second does not wait.
+    // Started before the others, which may be for the same project, because a second caller does not wait for the
+    // result.
     std::optional<QCoro::Task<>> own;
     if (const auto *project = scope.asProject())
         own = fetchProjectMeta(project->key);
@@ -106,7 +107,7 @@ void AppStore::takeReloaded(const IssueScope &scope, const IssueList &answer,
 {
     const Batch batch(*this);
     const IssueList fresh = withJustCreated(current(answer, reading), scope, reading);
-    // What has not changed stays the same object, so that the lists derived from it need not look inside.
+    // Unchanged records stay the same objects, so that comparisons of the derived lists are fast.
     const IssueList issues = reusingRecords(fresh, *m_issues);
     m_issues.set(issues);
     m_scopeCache.insert(scope, issues);
@@ -117,7 +118,7 @@ void AppStore::takeReloaded(const IssueScope &scope, const IssueList &answer,
     m_isLoading.set(false);
 }
 
-/// The list stays. Where there is none the screen itself tells the failure.
+/// The list is kept. If it is empty, the screen shows the failure instead of a toast.
 void AppStore::takeReloadFailure(const TaskFailure &failure, AskedBy askedBy)
 {
     const Batch batch(*this);
@@ -128,14 +129,15 @@ void AppStore::takeReloadFailure(const TaskFailure &failure, AskedBy askedBy)
     m_isLoading.set(false);
 }
 
-/// The answer of a search as the user is to see it: each issue once, and no confirmed edit undone.
+/// The answer of a search as it is shown: each issue once, and with the confirmed edits.
 IssueList AppStore::current(const IssueList &answer, const OpenEdits::Reading &reading)
 {
     return (*m_session)
         ->edits.laidOver(withoutRepeatedKeys(answer), reading, OpenEdits::Source::Search);
 }
 
-/// A search may lack an issue that was created a short time ago; one that has been seen stays in its list.
+/// The fetched list, preceded by the recently created issues that belong to it but that the search does not find yet.
+/// Only issues that have been opened are added.
 IssueList AppStore::withJustCreated(const IssueList &fresh, const IssueScope &scope,
                                     const OpenEdits::Reading &reading) const
 {

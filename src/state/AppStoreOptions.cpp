@@ -37,7 +37,7 @@ OptionInputs AppStore::optionInputs(const QStringList &keys) const
 void AppStore::run(const OptionAction &action)
 {
     using A = OptionAction;
-    // A copy: carrying it out changes the rows that it may belong to.
+    // A copy, because the action may belong to rows that it changes.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const OptionAction kept = action;
     std::visit(Overloaded{[](const A::None &) {},

@@ -17,7 +17,7 @@ const auto AppearanceKey = u"appearance"_s;
 const auto AccentKey = u"accent"_s;
 const auto DensityKey = u"density"_s;
 
-/// The stored case; the fallback when there is none or its text is unknown.
+/// The stored enumerator; the fallback if there is none or its text is unknown.
 template <typename E>
 E storedCase(const Preferences &preferences, const QString &key, E fallback)
 {

@@ -91,7 +91,7 @@ const QHash<QString, JiraUser> &AppStore::badgeUsers() const
     return m_recap.users.refreshed(sources, compute).value;
 }
 
-/// Has the rows tell their badges anew where what badges are told from has changed.
+/// Updates the badges of the rows if the statuses or the users have changed.
 void AppStore::refreshBadges()
 {
     std::pair<quint64, quint64> shown;

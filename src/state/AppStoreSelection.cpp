@@ -26,7 +26,7 @@ void AppStore::toggleCheck(const QString &key)
 
 void AppStore::openInInspector(const QString &key)
 {
-    // A copy: the key may be the one of a field that changes below.
+    // A copy, because the key may refer to a field that changes below.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QString opened = key;
     const Batch batch(*this);

@@ -178,7 +178,7 @@ Session *AppStore::open(const SiteSessions::Opened &opened, Session::Kind kind)
     endSession();
     m_session.set(std::make_shared<Session>(opened.service, kind));
     opened.onBegin();
-    // Loading rows stand in the empty list until the first answer.
+    // The empty list shows loading rows until the first answer.
     m_isLoading.set(true);
     m_phase.set(Phase::Ready);
     startMinutes();

@@ -34,7 +34,7 @@ void AppStore::toast(const QString &message, const QString &symbol, ToastKind ki
 
 void AppStore::dismissToast(const QUuid &id)
 {
-    // By value: the argument may belong to the toast or to the timer that goes here.
+    // A copy, because the argument may belong to the toast or the timer that is removed here.
     const QUuid gone = id;
     m_toastTimers.erase(gone);
     QList<Toast> left = *m_toasts;

@@ -4,7 +4,7 @@
 #include "state/AppStore.h"
 #include "state/edits/TransitionChoice.h"
 
-/// Takes the issue to the wished status by its workflow, as it is at this moment; gives the status that is reached.
+/// Moves the issue to the wished status with a transition of its current workflow. Returns the reached status.
 QCoro::Task<IssueStatus> AppStore::moved(QString key, IssueStatus wished)
 {
     Session *const session = m_session->get();
@@ -43,7 +43,7 @@ QCoro::Task<> AppStore::transition(QString key, OpenEdits::Id id, IssueStatus wi
         co_return;
     }
     showConfirmed(session->edits.confirm(id, *reached, m_context.clock.now()));
-    // What the workflow offers depends on the present status.
+    // The offered transitions depend on the current status.
     const OpenEdits::Reading reading = session->edits.beginReading(m_context.clock.now());
     const auto offered = co_await whileAlive(session, settled(service, service->transitions(key)));
     if (session->edits.mayLackStatus(key, reading))

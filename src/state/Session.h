@@ -13,8 +13,8 @@
 #include <memory>
 
 /// One account at work on one back end, from its activation to the sign-out or to the next session. The store owns the
-/// present one. Operations of the store await everything through `whileAlive(session, …)`: what is still on its way when
-/// the session is destroyed ends there and writes nothing. UI thread only.
+/// present one. Operations of the store await everything through `whileAlive(session, …)`: requests that are pending
+/// when the session is destroyed end there and write nothing. UI thread only.
 class Session : public QObject
 {
     Q_OBJECT
