@@ -185,7 +185,7 @@ Session *AppStore::open(const SiteSessions::Opened &opened, Session::Kind kind)
     return m_session->get();
 }
 
-/// Gives what the user is told when the account or the projects cannot be fetched.
+/// Returns the message for the user if the account or the projects cannot be fetched; nothing on success.
 QCoro::Task<std::optional<QString>> AppStore::fetchBasics()
 {
     Session *const session = m_session->get();
@@ -229,7 +229,8 @@ QCoro::Task<std::optional<QString>> AppStore::fetchMissingBasics()
     co_return std::nullopt;
 }
 
-/// Fetches what the start of the session could not. Only the list's own reload tells when the site still fails.
+/// Fetches what the start of the session could not. A further failure is not shown here, because the reload of the list
+/// reports it.
 QCoro::Task<> AppStore::completeSession()
 {
     Session *const session = m_session->get();

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Lists bring neither descriptions nor attachments.
+/// Whether records of this source have the edited field. Lists have neither descriptions nor attachments.
 bool isPartOf(const OptimisticEdit &edit, OpenEdits::Source source)
 {
     if (source == OpenEdits::Source::Issue)
