@@ -24,7 +24,7 @@ Item {
 
         Item {
             width: sheet.width
-            implicitHeight: column.implicitHeight + 2 * Metrics.gapLarge
+            implicitHeight: column.implicitHeight + 2 * Metrics.gapSection
 
             Column {
                 id: column
@@ -32,7 +32,7 @@ Item {
                 anchors.left: parent.left
                 anchors.right: parent.right
                 anchors.top: parent.top
-                anchors.margins: Metrics.gapLarge
+                anchors.margins: Metrics.gapSection
                 spacing: Metrics.gapMedium
 
                 AppText {
