@@ -53,8 +53,15 @@ TEST_F(CredentialsStoreTest, whatIsSavedIsLoaded)
 
 TEST_F(CredentialsStoreTest, theTokenIsInNoPreference)
 {
-    save(credentials());
-    QFile stored(file);
+    const QString path = folder.filePath(u"Stored.ini"_s);
+    {
+        // Everything is stored when the preferences are gone.
+        Preferences closed(path);
+        CredentialsStore closing(closed, keychain);
+        const TaskResult<void> saved(closing.save(credentials()));
+        saved.value();
+    }
+    QFile stored(path);
     ASSERT_TRUE(stored.open(QFile::ReadOnly));
 
     EXPECT_FALSE(stored.readAll().contains("jeton"));
