@@ -42,13 +42,23 @@ TEST(SettledTest, aCancellationIsToldFromAFailure)
     EXPECT_TRUE(result.value().error().isCancellation);
 }
 
-TEST(SettledTest, anExceptionThatIsNoFailurePassesThrough)
+TEST(SettledTest, anExceptionThatIsNoFailureBecomesOneThatTheUserCanRead)
 {
     const Promise<int> promise;
     const TaskResult<Settled<int>> result(settled(nullptr, promise.task()));
     promise.fail(std::runtime_error("stray"));
 
-    EXPECT_THROW(result.value(), std::runtime_error);
+    EXPECT_EQ(result.value().error(),
+              (TaskFailure{u"Une erreur inattendue est survenue."_s, false}));
+}
+
+TEST(SettledTest, theEndOfAnOwnerPassesThrough)
+{
+    const Promise<int> promise;
+    const TaskResult<Settled<int>> result(settled(nullptr, promise.task()));
+    promise.fail(OwnerGone());
+
+    EXPECT_THROW(result.value(), OwnerGone);
 }
 
 TEST(SettledTest, aTaskWithoutAResultSettlesToo)
