@@ -65,6 +65,8 @@ function(velmora_test name)
         _velmora_common(${name})
     elseif(ARG_FIXTURE)
         _velmora_common(${name} HEADERS <gtest/gtest.h> <${ARG_FIXTURE}>)
+        # It includes headers of this checkout by their paths: no other checkout may get it from the cache.
+        target_compile_definitions(${name} PRIVATE VELMORA_CHECKOUT="${CMAKE_SOURCE_DIR}")
         # The templates that the fixture needs are instantiated once, with the header.
         target_compile_options(${name} PRIVATE -O0 -fpch-instantiate-templates)
     else()

@@ -166,7 +166,7 @@ QCoro::Task<> AppStore::activate(SiteSessions::Opened opened, Session::Kind kind
     }
     const auto failure = co_await whileAlive(session, fetchBasics());
     if (failure)
-        m_loadError.set(*failure);
+        m_loadError.set(failure);
     co_await whileAlive(session, reloadList(AskedBy::Program));
     co_await whileAlive(session, reloadMyIssues());
     startAutoRefresh();

@@ -24,10 +24,10 @@ QString compactRelative(const QDateTime &date, const QDateTime &now, const UserC
 QString agoText(const QDateTime &date, const QDateTime &now, const UserCalendar &calendar)
 {
     constexpr qint64 minute = 60;
-    constexpr qint64 week = 7 * 24 * 60 * minute;
+    constexpr qint64 week = minute * 60 * 24 * 7;
 
     const qint64 seconds = date.secsTo(now);
-    const QString relative = compactRelative(date, now, calendar);
+    QString relative = compactRelative(date, now, calendar);
     if (seconds < minute)
         return relative;
     return seconds < week ? u"il y a "_s + relative : u"le "_s + relative;

@@ -44,7 +44,7 @@ std::optional<OptimisticEdit> OpenEdits::confirm(Id id, const QDateTime &now)
 {
     Field &field = fieldOf(id);
     const auto at = std::ranges::find(field.pending, id, &Pending::id);
-    const OptimisticEdit confirmed = at->edit;
+    OptimisticEdit confirmed = at->edit;
     Issue told;
     confirmed.apply(told);
     field.pending.erase(at);
