@@ -1,5 +1,4 @@
 import QtQuick
-import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
 import Velmora.State

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
 import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
