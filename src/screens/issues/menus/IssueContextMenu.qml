@@ -27,7 +27,7 @@ PopupMenu {
 
             section: modelData
             isReached: root.currentIndex === index
-            onChosen: choice => root.content.choose(modelData.id, choice)
+            onChosen: choice => root.content.choose(choice)
         }
     }
 

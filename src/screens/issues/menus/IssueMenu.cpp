@@ -1,6 +1,5 @@
 #include "screens/issues/menus/IssueMenu.h"
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -19,9 +18,6 @@ constexpr std::array submenus{Submenu{"status"_L1, PickerKind::Status, u"Statut"
                               Submenu{"assignee"_L1, PickerKind::Assignee, u"Assigner"},
                               Submenu{"labels"_L1, PickerKind::Labels, u"Étiquettes"}};
 
-constexpr QLatin1StringView toMe("assign:me");
-constexpr QLatin1StringView toNobody("assignee:none");
-
 bool ticksChoices(PickerKind kind)
 {
     return kind == PickerKind::Labels;
@@ -31,16 +27,20 @@ QList<MenuChoice> optionChoices(PickerKind kind, const QList<OptionItem> &option
 {
     QList<MenuChoice> choices;
     for (const auto &option : options)
-        choices += {option.id, option.title, option.icon, ticksChoices(kind) && option.isSelected};
+        choices += {option.id, option.title, option.icon, ticksChoices(kind) && option.isSelected,
+                    option.run};
     return choices;
 }
 
 /// The first option stands for no assignee. The menu has a separate text entry for it.
-QList<MenuChoice> assigneeChoices(const QList<OptionItem> &options)
+QList<MenuChoice> assigneeChoices(const QList<OptionItem> &options, const QStringList &keys)
 {
-    QList<MenuChoice> choices{
-        {toMe, u"M'assigner"_s, OptionIcon{OptionIcon::Symbol{u"person.fill.checkmark"_s}}},
-        {toNobody, u"Retirer l'assignation"_s, OptionIcon{OptionIcon::Symbol{u"person.slash"_s}}}};
+    QList<MenuChoice> choices{{u"assign:me"_s, u"M'assigner"_s,
+                               OptionIcon{OptionIcon::Symbol{u"person.fill.checkmark"_s}}, false,
+                               OptionAction{OptionAction::RunCommand{Command::AssignToMe, keys}}},
+                              {options.front().id, u"Retirer l'assignation"_s,
+                               OptionIcon{OptionIcon::Symbol{u"person.slash"_s}}, false,
+                               options.front().run}};
     auto people = optionChoices(PickerKind::Assignee, options.sliced(1));
     if (!people.isEmpty())
         people.front().startsGroup = true;
@@ -55,7 +55,7 @@ QList<MenuSection> issueMenuSections(const AppStore &store, const QStringList &k
     for (const auto &submenu : submenus) {
         const auto options = store.options(submenu.kind, keys);
         const auto choices = submenu.kind == PickerKind::Assignee
-                                 ? assigneeChoices(options)
+                                 ? assigneeChoices(options, keys)
                                  : optionChoices(submenu.kind, options);
         if (!choices.isEmpty() || submenu.kind != PickerKind::Labels)
             sections += {submenu.id, submenu.title.toString(), choices};
@@ -77,17 +77,10 @@ void IssueMenu::prepare(const QString &key)
     Q_EMIT changed();
 }
 
-void IssueMenu::choose(const QString &section, const QString &choice)
+void IssueMenu::choose(const MenuChoice &choice)
 {
-    const auto *submenu = std::ranges::find(submenus, section, &Submenu::id);
-    if (!m_store || submenu == submenus.end())
-        return;
-    if (choice == toMe)
-        return run(Command::AssignToMe);
-    const auto options = m_store->options(submenu->kind, m_keys);
-    const auto option = std::ranges::find(options, choice, &OptionItem::id);
-    if (option != options.end())
-        m_store->run(option->run);
+    if (m_store)
+        m_store->run(choice.run);
 }
 
 void IssueMenu::run(Commands::Command command)

@@ -32,8 +32,8 @@ public:
 
     /// Prepares the menu for an issue: for all checked issues if it is one of them, otherwise for it alone.
     Q_INVOKABLE void prepare(const QString &key);
-    /// Carries out an entry of a submenu. Does nothing for an unknown entry.
-    Q_INVOKABLE void choose(const QString &section, const QString &choice);
+    /// Carries out an entry of a submenu, as it was when the menu was prepared.
+    Q_INVOKABLE void choose(const MenuChoice &choice);
     /// Carries out a command on the issues of the menu.
     Q_INVOKABLE void run(Commands::Command command);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/OptionAction.h"
 #include "screens/options/OptionIconValue.h"
 
 #include <QList>
@@ -25,6 +26,8 @@ public:
     OptionIcon icon;
     /// Shows a check mark.
     bool isOn = false;
+    /// What the entry does, if the choice alone tells it.
+    OptionAction run = {};
     /// The entry is preceded by a separator.
     bool startsGroup = false;
 

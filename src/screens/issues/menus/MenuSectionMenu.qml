@@ -18,7 +18,7 @@ PopupMenu {
 
     property bool isFilled: false
 
-    signal chosen(choice: string)
+    signal chosen(choice: menuChoice)
 
     title: section.title
     onIsReachedChanged: isFilled = isFilled || isReached
@@ -40,7 +40,7 @@ PopupMenu {
             topPadding: modelData.startsGroup ? 11 : 0
             topInset: topPadding
             implicitHeight: Metrics.menuRowHeight + topPadding
-            onTriggered: root.chosen(modelData.id)
+            onTriggered: root.chosen(modelData)
 
             Rectangle {
                 visible: row.modelData.startsGroup

@@ -25,7 +25,7 @@ PopupMenu {
 
             section: modelData
             isReached: root.currentIndex === index
-            onChosen: choice => root.filters.toggle(modelData.id, choice)
+            onChosen: choice => root.filters.toggle(modelData.id, choice.id)
         }
     }
 
