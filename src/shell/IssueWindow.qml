@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora.Issues
+import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
@@ -33,10 +34,11 @@ Window {
         store: root.store
         key: root.key
 
-        // Declared inside an item, so that popups above it receive the key first.
-        Shortcut {
-            sequences: ["Escape"]
-            onActivated: root.close()
+        Layer {
+            item: summary
+            isOpen: true
+            kind: Layer.Kind.Content
+            onCloseRequested: root.close()
         }
     }
 

@@ -3,82 +3,75 @@
 #include "commands/CommandTable.h"
 #include "commands/KeyPress.h"
 #include "commands/KeyRouting.h"
+#include "screens/kit/layers/OwnKeys.h"
+#include "screens/kit/layers/WindowLayers.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
 
-void KeyMonitor::setWindow(QQuickWindow *window)
+namespace {
+
+bool isActivation(int key)
 {
-    if (m_window == window)
-        return;
-    if (m_window)
-        m_window->removeEventFilter(this);
-    m_window = window;
-    if (m_window)
-        m_window->installEventFilter(this);
-    Q_EMIT windowChanged();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
-void KeyMonitor::setStore(AppStore *store)
+/// A control that shows the keyboard focus is pressed by Return and Space.
+bool isPressed(const QQuickItem &control, int key)
 {
-    if (m_store == store)
-        return;
-    m_store = store;
-    Q_EMIT storeChanged();
+    return (isActivation(key) || key == Qt::Key_Space) && control.property("visualFocus").toBool();
 }
 
-bool KeyMonitor::eventFilter(QObject *watched, QEvent *event)
+bool isInWalkedList(const QQuickItem &row)
 {
-    if (event->type() != QEvent::KeyPress || watched != m_window || !m_store)
+    // A list forwards the focus to its current row.
+    const QQuickItem *item = &row;
+    while (item && !OwnKeys::walksRows(*item))
+        item = item->parentItem();
+    return item != nullptr;
+}
+
+bool isStep(Command command)
+{
+    return command == Command::MoveDown || command == Command::MoveUp;
+}
+
+} // namespace
+
+bool KeyMonitor::takes(const QKeyEvent &event)
+{
+    if (!m_store || !m_window)
         return false;
-    const KeyPress press = KeyPress::from(static_cast<const QKeyEvent &>(*event));
+    const auto press = KeyPress::from(event);
     const auto command = route(press);
-    if (command && !isOffered(*command))
-        return false;
-    if (m_store->palette() || m_store->isCreating() || isTyping() || isInPopup() ||
-        isWalkingAList(press.key) || isPressingAControl(press.key))
+    if ((command && !isOffered(*command)) || isLeftToFocusItem(press.key))
         return false;
     return give(press);
+}
+
+bool KeyMonitor::repeats(const QKeyEvent &event) const
+{
+    const auto command = route(KeyPress::from(event));
+    return command && isStep(*command);
 }
 
 bool KeyMonitor::give(const KeyPress &press)
 {
     const auto command = route(press);
-    const bool isStep = command == Command::MoveDown || command == Command::MoveUp;
     const auto before = m_store->focusedKey();
     const bool isTaken = m_store->handleKey(press);
-    if (isStep || m_store->focusedKey() != before)
+    if ((command && isStep(*command)) || m_store->focusedKey() != before)
         Q_EMIT walked();
     return isTaken;
 }
 
-bool KeyMonitor::isTyping() const
+bool KeyMonitor::isLeftToFocusItem(int key) const
 {
+    if (WindowLayers::of(*m_window).isTyping())
+        return true;
     const QQuickItem *item = m_window->activeFocusItem();
-    return item && (item->inherits("QQuickTextInput") || item->inherits("QQuickTextEdit"));
-}
-
-bool KeyMonitor::isInPopup() const
-{
-    const QQuickItem *item = m_window->activeFocusItem();
-    while (item && !item->inherits("QQuickPopupItem"))
-        item = item->parentItem();
-    return item != nullptr;
-}
-
-bool KeyMonitor::isPressingAControl(int key) const
-{
-    const QQuickItem *item = m_window->activeFocusItem();
-    return item && item->property("visualFocus").toBool() &&
-           (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
-}
-
-bool KeyMonitor::isWalkingAList(int key) const
-{
-    // A list forwards the focus to its current row.
-    const QQuickItem *item = m_window->activeFocusItem();
-    while (item && !item->property("walksItsRows").toBool())
-        item = item->parentItem();
-    return item && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Up ||
-                    key == Qt::Key_Down);
+    if (!item)
+        return false;
+    const bool isWalking = isActivation(key) || key == Qt::Key_Up || key == Qt::Key_Down;
+    return isPressed(*item, key) || (isWalking && isInWalkedList(*item));
 }

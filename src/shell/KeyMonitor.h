@@ -1,32 +1,27 @@
 #pragma once
 
+#include "screens/kit/layers/KeyHandler.h"
 #include "state/AppStore.h"
 
-#include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
-#include <QtQml/qqmlregistration.h>
 
-/// Sees every key press of one window before the item with the focus does, and offers it to the store's key map. A
-/// press is passed on while the user types in a text field, while the palette or the create screen is open, and while a
-/// menu or a popover has the focus. Return and the arrow keys are passed on to a focused list that moves through its
-/// rows itself. Return and Space are passed on to a control that was reached by Tab.
-class KeyMonitor : public QObject
+/// Offers the key presses of the main window's content to the store's key map. A press is passed on while the user
+/// types in a text field. Return and the arrow keys are passed on to a focused list that moves through its rows itself.
+/// Return and Space are passed on to a control that was reached by Tab.
+class KeyMonitor : public KeyHandler
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL)
-    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    Q_PROPERTY(QQuickWindow *window MEMBER m_window NOTIFY windowChanged FINAL)
+    Q_PROPERTY(AppStore *store MEMBER m_store NOTIFY storeChanged FINAL REQUIRED)
 
 public:
-    using QObject::QObject;
+    using KeyHandler::KeyHandler;
 
-    QQuickWindow *window() const { return m_window; }
-    void setWindow(QQuickWindow *window);
-    AppStore *store() const { return m_store; }
-    void setStore(AppStore *store);
-
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool takes(const QKeyEvent &press) override;
+    /// Holding a key down moves the focus on through the issues. It repeats nothing else.
+    bool repeats(const QKeyEvent &press) const override;
 
 Q_SIGNALS:
     void windowChanged();
@@ -35,11 +30,8 @@ Q_SIGNALS:
     void walked();
 
 private:
+    bool isLeftToFocusItem(int key) const;
     bool give(const KeyPress &press);
-    bool isTyping() const;
-    bool isInPopup() const;
-    bool isWalkingAList(int key) const;
-    bool isPressingAControl(int key) const;
 
     QPointer<QQuickWindow> m_window;
     QPointer<AppStore> m_store;

@@ -35,11 +35,26 @@ FocusScope {
 
     onPlanChanged: isSidebarFloating = isSidebarFloating && !plan.hasSidebar
 
-    KeyMonitor {
-        window: root.Window.window
-        store: root.store
-        // A key press that moves to another issue also moves the focus away from any button.
-        onWalked: issues.focusIssues()
+    Layer {
+        item: root
+        isOpen: true
+        kind: Layer.Kind.Content
+        closesOnEscape: false
+    }
+
+    KeyMonitorModifier {
+        handler: KeyMonitor {
+            window: root.Window.window
+            store: root.store
+            // A key press that moves to another issue also moves the focus away from any button.
+            onWalked: issues.focusIssues()
+        }
+    }
+
+    Layer {
+        item: sidebar
+        isOpen: root.isSidebarFloating
+        onCloseRequested: root.isSidebarFloating = false
     }
 
     SidebarView {
@@ -89,14 +104,12 @@ FocusScope {
         onSidebarWanted: root.isSidebarFloating = true
     }
 
-    // A press beside the floating sidebar only closes it. It closes on release, because otherwise the content below
-    // would receive the release.
-    MouseArea {
+    // A press beside the floating sidebar only closes it.
+    LayerShield {
         anchors.fill: parent
         z: 1
         visible: root.isSidebarFloating
-        onReleased: root.isSidebarFloating = false
-        onWheel: event => event.accepted = true
+        onClicked: root.isSidebarFloating = false
     }
 
     SplitHandle {

@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/kit/layers/OwnKeys.h"
 
 #include <QQuickItem>
 #include <QTest>
@@ -30,7 +31,7 @@ protected:
     bool isInSidebar()
     {
         const QQuickItem *item = window().activeFocusItem();
-        while (item && !item->property("walksItsRows").toBool())
+        while (item && !OwnKeys::walksRows(*item))
             item = item->parentItem();
         return item != nullptr;
     }

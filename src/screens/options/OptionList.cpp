@@ -30,8 +30,10 @@ void OptionList::setQuery(const QString &query)
         return;
     m_query = query;
     Q_EMIT queryChanged();
-    setHighlighted(0);
-    refresh();
+    const bool hasMoved = std::exchange(m_highlighted, 0) != 0;
+    listRows();
+    if (hasMoved)
+        Q_EMIT highlightedChanged();
 }
 
 void OptionList::setHighlighted(int row)
@@ -43,6 +45,16 @@ void OptionList::setHighlighted(int row)
 }
 
 void OptionList::refresh()
+{
+    const auto &rows = m_rows.rows();
+    const auto key = m_highlighted < rows.size() ? rows[m_highlighted].key : QString();
+    listRows();
+    const auto row = std::ranges::find(rows, key, &OptionListRow::key);
+    const int last = std::max(0, int(rows.size()) - 1);
+    setHighlighted(row == rows.end() ? std::min(m_highlighted, last) : int(row - rows.begin()));
+}
+
+void OptionList::listRows()
 {
     const auto items = m_source ? m_source->items() : QList<OptionItem>();
     const bool canCreate = m_source && m_source->canCreate();
@@ -59,7 +71,7 @@ void OptionList::refresh()
 
 QString OptionList::spoken() const
 {
-    if (m_highlighted >= m_rows.rowCount())
+    if (m_rows.rows().isEmpty())
         return u"Aucun résultat"_s;
     return u"%1, %2 sur %3"_s.arg(m_rows.rows()[m_highlighted].item.title)
         .arg(m_highlighted + 1)
@@ -98,6 +110,11 @@ void OptionList::create()
     const QString candidate = *m_candidate;
     m_source->create(candidate);
     setQuery({});
+}
+
+bool OptionList::repeats(const QKeyEvent &press) const
+{
+    return press.key() == Qt::Key_Down || press.key() == Qt::Key_Up;
 }
 
 bool OptionList::handle(const KeyPress &press)

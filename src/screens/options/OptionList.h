@@ -1,6 +1,7 @@
 #pragma once
 
-#include "screens/options/KeyHandler.h"
+#include "commands/KeyPress.h"
+#include "screens/kit/layers/KeyHandler.h"
 #include "screens/options/OptionListModel.h"
 #include "screens/options/OptionSource.h"
 
@@ -18,7 +19,8 @@ class OptionList : public KeyHandler
     QML_ELEMENT
     Q_PROPERTY(OptionSource *source READ source WRITE setSource NOTIFY sourceChanged FINAL REQUIRED)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
-    /// The index of the highlighted row. It may exceed the last index after rows were removed.
+    /// The index of the highlighted row; 0 if there are no rows. The highlight stays on its item while the items change,
+    /// and on its place if the item disappears.
     Q_PROPERTY(
         int highlighted READ highlighted WRITE setHighlighted NOTIFY highlightedChanged FINAL)
     Q_PROPERTY(OptionListModel *rows READ rows CONSTANT FINAL)
@@ -51,7 +53,11 @@ public:
     void setPointer(QPointF where) { m_pointer = where; }
     /// The same, with the position that the system reports for the window of `view`.
     Q_INVOKABLE void findPointer(const QQuickItem *view);
-    bool handle(const KeyPress &press) override;
+    /// Handles a key press before the search field sees it. False for a press that is left to the field.
+    bool handle(const KeyPress &press);
+
+    bool takes(const QKeyEvent &press) override { return handle(KeyPress::from(press)); }
+    bool repeats(const QKeyEvent &press) const override;
 
 Q_SIGNALS:
     void sourceChanged();
@@ -63,6 +69,8 @@ Q_SIGNALS:
     void done();
 
 private:
+    void listRows();
+    /// Lists the items again and keeps the highlight on its item.
     void refresh();
     void create();
     void moveHighlight(int delta);

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-CommandPalette::CommandPalette(QObject *parent) : QObject(parent)
+CommandPalette::CommandPalette(QObject *parent) : KeyHandler(parent)
 {
     connect(&m_remote, &RemoteSearch::foundChanged, this, &CommandPalette::refresh);
     connect(&m_remote, &RemoteSearch::isSearchingChanged, this, [this] {
@@ -59,8 +59,10 @@ void CommandPalette::followPalette()
 void CommandPalette::begin(const PaletteMode &mode)
 {
     // The result of a search that was started before the palette was reopened is discarded.
-    if (!m_isOpen)
+    if (!m_isOpen) {
         m_remote.reset();
+        m_pointer.reset();
+    }
     m_mode = mode;
     m_isPointing = false;
     m_sources.forgetOptions();
@@ -69,7 +71,7 @@ void CommandPalette::begin(const PaletteMode &mode)
         Q_EMIT queryChanged();
     setHighlighted(0);
     Q_EMIT modeChanged();
-    refresh();
+    listRows();
     Q_EMIT begun();
 }
 
@@ -79,7 +81,7 @@ void CommandPalette::setIsOpen(bool open)
         Q_EMIT isOpenChanged();
 }
 
-void CommandPalette::refresh()
+void CommandPalette::listRows()
 {
     if (!m_store || !m_store->palette())
         return;
@@ -87,6 +89,16 @@ void CommandPalette::refresh()
     m_capsules = keyCapsules(picker ? picker->keys : m_store->actionTargets());
     m_rows = paletteRows(m_sources.sections(*m_store, m_mode, m_query, m_remote.found()));
     Q_EMIT updated();
+}
+
+void CommandPalette::refresh()
+{
+    const auto id = m_highlighted < rowCount() ? m_rows[m_highlighted].option.id : QString();
+    listRows();
+    const auto row =
+        std::ranges::find(m_rows, id, [](const PaletteRow &each) { return each.option.id; });
+    if (row != m_rows.end())
+        setHighlighted(int(row - m_rows.begin()));
 }
 
 void CommandPalette::refreshOptions()
@@ -120,7 +132,7 @@ void CommandPalette::setQuery(const QString &query)
     // Emitted only once the rows match the query, because both are announced together.
     const bool hasMoved = std::exchange(m_highlighted, 0) != 0;
     searchRemote();
-    refresh();
+    listRows();
     if (hasMoved)
         Q_EMIT highlightedChanged();
     Q_EMIT begun();
@@ -187,6 +199,34 @@ void CommandPalette::close()
 {
     if (m_isOpen)
         m_store->closePalette();
+}
+
+bool CommandPalette::takes(const QKeyEvent &press)
+{
+    // The field is the only item of the palette that takes the focus.
+    const bool isTab = press.key() == Qt::Key_Tab || press.key() == Qt::Key_Backtab;
+    return isTab || handle(KeyPress::from(press));
+}
+
+bool CommandPalette::repeats(const QKeyEvent &press) const
+{
+    return press.key() == Qt::Key_Down || press.key() == Qt::Key_Up;
+}
+
+void CommandPalette::observe(const QEvent &event)
+{
+    if (event.type() == QEvent::MouseMove)
+        notePointer(static_cast<const QMouseEvent &>(event).globalPosition());
+    else if (event.type() == QEvent::Wheel)
+        m_isPointing = false;
+}
+
+void CommandPalette::notePointer(QPointF place)
+{
+    // Some systems also report a resting pointer when a window appears below it.
+    const bool wasKnown = m_pointer.has_value();
+    if (std::exchange(m_pointer, place) != place && wasKnown)
+        m_isPointing = true;
 }
 
 bool CommandPalette::handle(const KeyPress &press)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/kit/layers/KeyHandler.h"
 #include "screens/palette/PaletteSources.h"
 #include "screens/palette/RemoteSearch.h"
 #include "state/palette/PaletteKeys.h"
@@ -12,7 +13,7 @@
 /// results, the highlighted row, and the effects of keys and clicks. Each time it opens, and each time its mode
 /// changes, it starts with an empty query and the first row highlighted. After it closes it keeps its last rows, so
 /// that its panel can fade out.
-class CommandPalette : public QObject
+class CommandPalette : public KeyHandler
 {
     Q_OBJECT
     QML_ELEMENT
@@ -26,7 +27,8 @@ class CommandPalette : public QObject
     /// The shortcut that opens an issue in a window, as this system spells it.
     Q_PROPERTY(QString windowShortcut READ windowShortcut CONSTANT FINAL)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged FINAL)
-    /// The index of the highlighted row. It may exceed the last index after rows were removed.
+    /// The index of the highlighted row. The highlight stays on its row while the rows change. If that row disappears, the
+    /// index stays the same and may exceed the last one.
     Q_PROPERTY(
         int highlighted READ highlighted WRITE setHighlighted NOTIFY highlightedChanged FINAL)
     Q_PROPERTY(int rowCount READ rowCount NOTIFY updated FINAL)
@@ -69,10 +71,12 @@ public:
     /// Reports that the pointer is over a row. The row is highlighted if the pointer itself has moved. A row that
     /// appears below a resting pointer, because the palette opened or its rows scrolled, is not highlighted.
     Q_INVOKABLE void point(int row);
-    void notePointerMoved() { m_isPointing = true; }
-    void noteScrolled() { m_isPointing = false; }
     /// Handles a key press before the search field sees it. False for a press that is left to the field.
     bool handle(const KeyPress &press);
+
+    bool takes(const QKeyEvent &press) override;
+    bool repeats(const QKeyEvent &press) const override;
+    void observe(const QEvent &event) override;
 
 Q_SIGNALS:
     void storeChanged();
@@ -91,8 +95,11 @@ private:
     void followPalette();
     void begin(const PaletteMode &mode);
     void setIsOpen(bool open);
+    void listRows();
+    /// Lists the rows again and keeps the highlight on its row.
     void refresh();
     void refreshOptions();
+    void notePointer(QPointF place);
     void searchRemote();
     void activateInWindow(int row);
     void moveHighlight(int delta);
@@ -106,6 +113,8 @@ private:
     int m_highlighted = 0;
     /// The pointer has moved since the last key press.
     bool m_isPointing = false;
+    /// The last reported position of the pointer on the screen since the palette opened.
+    std::optional<QPointF> m_pointer;
     RemoteSearch m_remote;
     PaletteSources m_sources;
     QList<PaletteRow> m_rows;

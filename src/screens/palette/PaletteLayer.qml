@@ -16,7 +16,8 @@ FocusScope {
     readonly property bool shown: logic.isOpen
     property bool wasShown: false
 
-    visible: opacity > 0
+    // At once, because it receives the very next key.
+    visible: shown || opacity > 0
     opacity: shown ? 1 : 0
     onShownChanged: wasShown = true
 
@@ -25,17 +26,31 @@ FocusScope {
         store: root.store
     }
 
+    Connections {
+        target: logic
+
+        function onModeChanged() {
+            if (root.shown)
+                root.forceActiveFocus(Qt.PopupFocusReason);
+        }
+    }
+
+    Layer {
+        item: root
+        isOpen: root.shown
+        closesOnEscape: false
+        replacesOthers: true
+        onCloseRequested: logic.close()
+    }
+
     Rectangle {
         anchors.fill: parent
         color: Theme.scrim
     }
 
-    // The scrim blocks the pointer from the content below.
-    MouseArea {
+    LayerShield {
         anchors.fill: parent
-        enabled: root.shown
-        hoverEnabled: true
-        onWheel: event => event.accepted = true
+        visible: root.shown
         onClicked: logic.close()
     }
 

@@ -27,10 +27,8 @@ GlassPanel {
     Accessible.role: Accessible.Dialog
     Accessible.name: commandPalette.isPicker ? commandPalette.title : "Palette de commandes"
 
-    PaletteFocus {
-        window: root.Window.window
-        palette: root.commandPalette
-        field: field
+    KeyMonitorModifier {
+        handler: root.commandPalette
     }
 
     // Without rounded corners the scene graph knows that this item hides the content below, and does not redraw that
@@ -43,8 +41,8 @@ GlassPanel {
         color: root.color
     }
 
-    // A click beside a row must not reach the content below.
-    MouseArea {
+    // A click beside a row must not reach the shield of the layer, which closes the palette.
+    LayerShield {
         anchors.fill: parent
     }
 

@@ -1,7 +1,7 @@
 #include "shell/menubar/MenuBarKeys.h"
 
 #include "commands/KeyPress.h"
-#include "screens/kit/overlays/OpenPopups.h"
+#include "screens/kit/layers/WindowLayers.h"
 
 #include <QKeyEvent>
 
@@ -10,10 +10,10 @@ void MenuBarKeys::setWindow(QQuickWindow *window)
     if (m_window == window)
         return;
     if (m_window)
-        m_window->removeEventFilter(this);
+        WindowLayers::of(*m_window).setShortcuts(nullptr);
     m_window = window;
     if (m_window)
-        m_window->installEventFilter(this);
+        WindowLayers::of(*m_window).setShortcuts(this);
     Q_EMIT windowChanged();
 }
 
@@ -25,36 +25,37 @@ void MenuBarKeys::setCommands(AppCommands *commands)
     Q_EMIT commandsChanged();
 }
 
-bool MenuBarKeys::eventFilter(QObject *watched, QEvent *event)
+void MenuBarKeys::observe(const QEvent &event)
 {
-    if (watched != m_window)
-        return false;
-    switch (event->type()) {
-    case QEvent::KeyPress:
-        return takesPress(static_cast<const QKeyEvent &>(*event));
+    switch (event.type()) {
+    case QEvent::KeyPress: {
+        const auto &press = static_cast<const QKeyEvent &>(event);
+        if (!press.isAutoRepeat())
+            m_altTap.keyPressed(Qt::Key(press.key()), press.modifiers());
+        return;
+    }
     case QEvent::KeyRelease: {
-        const auto &release = static_cast<const QKeyEvent &>(*event);
+        const auto &release = static_cast<const QKeyEvent &>(event);
         if (!release.isAutoRepeat() && m_altTap.keyReleased(Qt::Key(release.key())))
             toggle();
-        return false;
+        return;
     }
     case QEvent::MouseButtonPress:
+    case QEvent::Wheel:
     case QEvent::FocusOut:
         m_altTap.interrupt();
-        return false;
+        return;
     default:
-        return false;
+        return;
     }
 }
 
-bool MenuBarKeys::takesPress(const QKeyEvent &event)
+bool MenuBarKeys::takes(const QKeyEvent &press)
 {
-    if (!event.isAutoRepeat())
-        m_altTap.keyPressed(Qt::Key(event.key()), event.modifiers());
-    const bool isF10 = event.key() == Qt::Key_F10 && event.modifiers() == Qt::NoModifier;
+    const bool isF10 = press.key() == Qt::Key_F10 && press.modifiers() == Qt::NoModifier;
     if (isF10)
         toggle();
-    return isF10 || (m_commands && m_commands->runShortcut(KeyPress::from(event)));
+    return isF10 || (m_commands && m_commands->runShortcut(KeyPress::from(press)));
 }
 
 void MenuBarKeys::setHasOpenMenu(bool open)
@@ -83,36 +84,24 @@ void MenuBarKeys::toggle()
 
 void MenuBarKeys::open()
 {
-    Q_EMIT aboutToOpen();
-    OpenPopups::close(*m_window);
-    m_before = m_window->activeFocusItem();
+    auto &layers = WindowLayers::of(*m_window);
+    layers.requestCloseAll();
+    if (layers.top() && layers.top()->kind() == Layer::Kind::Required)
+        return;
     m_isOpen = true;
     Q_EMIT isOpenChanged();
 }
 
-bool MenuBarKeys::hasMovedOn(const QQuickItem *focus) const
-{
-    if (!focus || focus->isAncestorOf(m_before))
-        return false;
-    // The menus are popups. While the bar is shown there are no other popups.
-    while (focus && focus != m_layer && !focus->inherits("QQuickPopupItem"))
-        focus = focus->parentItem();
-    return focus == nullptr;
-}
-
 void MenuBarKeys::close()
 {
-    if (!m_isOpen)
+    if (!std::exchange(m_isOpen, false))
         return;
-    m_isOpen = false;
     Q_EMIT isOpenChanged();
-    if (m_before && !hasMovedOn(m_window->activeFocusItem()))
-        m_before->forceActiveFocus(Qt::MenuBarFocusReason);
-    m_before = nullptr;
 }
 
 void MenuBarKeys::choose(int command)
 {
+    WindowLayers::of(*m_window).requestCloseAll();
     close();
     if (m_commands)
         m_commands->run(command);

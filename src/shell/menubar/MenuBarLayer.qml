@@ -16,9 +16,6 @@ Item {
     MenuBarKeys {
         id: barKeys
         window: root.Window.window
-        layer: root
-        // Only the main window has a palette.
-        onAboutToOpen: if (root.issueKey === "") root.store.closePalette()
         commands: menuCommands
     }
 
@@ -29,19 +26,34 @@ Item {
     }
 
     Shortcut {
+        autoRepeat: false
         sequences: ["Ctrl+Q"]
         onActivated: Qt.quit()
     }
 
     // The conventional key for settings on desktops that define none of their own.
     Shortcut {
+        autoRepeat: false
         sequences: ["Ctrl+,"]
         onActivated: root.store.run(Commands.Command.OpenSettings)
     }
 
+    Layer {
+        id: barLayer
+        item: bar
+        isOpen: barKeys.isOpen
+        onCloseRequested: barKeys.close()
+    }
+
+    LayerShield {
+        anchors.fill: parent
+        visible: barKeys.isOpen
+    }
+
     LatePart {
+        id: bar
         width: root.width
-        shown: barKeys.isOpen
+        shown: barLayer.isOpen
         onWanted: setSource("AppMenuBar.qml", { store: root.store, keys: barKeys, commands: menuCommands })
     }
 }

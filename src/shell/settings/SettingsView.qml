@@ -23,8 +23,16 @@ Window {
     color: Theme.pane
 
     Shortcut {
-        sequences: ["Ctrl+W", "Escape"]
+        autoRepeat: false
+        sequences: ["Ctrl+W"]
         onActivated: root.close()
+    }
+
+    Layer {
+        item: root.contentItem
+        isOpen: true
+        kind: Layer.Kind.Content
+        onCloseRequested: root.close()
     }
 
     Shortcut {

@@ -25,10 +25,6 @@ FocusScope {
         line?.menuRequested(0, line.height);
     }
 
-    Keys.onEscapePressed: event => {
-        event.accepted = isFloating;
-        dismissed();
-    }
     onVisibleChanged: if (visible && isFloating) list.forceActiveFocus(Qt.ShortcutFocusReason)
 
     Workspace {
@@ -58,7 +54,7 @@ FocusScope {
         id: list
 
         // Tells the key monitor to leave the arrow keys and Return to this list, which moves through its rows itself.
-        readonly property bool walksItsRows: true
+        OwnKeys.walksRows: true
 
         anchors.top: header.bottom
         anchors.topMargin: Metrics.gapSmall

@@ -23,7 +23,7 @@ Item {
         height: 28
         padding: 4
         accessibleName: "Espace " + root.store.siteShortName
-        onClicked: menu.toggle()
+        onClicked: menu.open()
 
         background: HoverFill {
             radius: Metrics.radiusRow
@@ -67,7 +67,6 @@ Item {
         id: menu
         parent: button
         y: root.height - button.y
-        leavePressesToParent: true
         title: "Espace"
 
         PopupMenuItem {

@@ -257,3 +257,33 @@ TEST_F(OptionListTest, ScreenReadersHearTheHighlightedRowAndItsPlace)
     list.setQuery(u"introuvable"_s);
     EXPECT_EQ(list.spoken(), u"Aucun résultat"_s);
 }
+
+TEST_F(OptionListTest, TheHighlightStaysOnItsItemWhileTheItemsChange)
+{
+    moveDown(1);
+    source.set({item(u"Zéro"_s), item(u"Un"_s), item(u"Deux"_s), item(u"Trois"_s)});
+    EXPECT_EQ(list.highlighted(), 2);
+    EXPECT_EQ(list.spoken(), u"Deux, 3 sur 4"_s);
+    list.handle(press(Qt::Key_Return));
+    EXPECT_EQ(source.ran, QStringList{u"Deux"_s});
+}
+
+TEST_F(OptionListTest, AHighlightedItemThatDisappearsLeavesTheHighlightWithinTheRows)
+{
+    moveDown(2);
+    source.set({item(u"Un"_s), item(u"Deux"_s)});
+    EXPECT_EQ(list.highlighted(), 1);
+    EXPECT_EQ(list.spoken(), u"Deux, 2 sur 2"_s);
+
+    source.set({});
+    EXPECT_EQ(list.highlighted(), 0);
+    EXPECT_EQ(list.spoken(), u"Aucun résultat"_s);
+}
+
+TEST_F(OptionListTest, OnlyMovementRepeatsWhileAKeyIsHeld)
+{
+    for (const auto key : {Qt::Key_Down, Qt::Key_Up})
+        EXPECT_TRUE(list.repeats(QKeyEvent(QEvent::KeyPress, key, {}, {}, true)));
+    for (const auto key : {Qt::Key_Return, Qt::Key_1})
+        EXPECT_FALSE(list.repeats(QKeyEvent(QEvent::KeyPress, key, {}, {}, true)));
+}

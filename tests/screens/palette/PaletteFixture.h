@@ -3,6 +3,8 @@
 #include "screens/palette/CommandPalette.h"
 #include "state/AppStoreFixture.h"
 
+#include <QMouseEvent>
+
 /// A palette with a store that has a session, without a window.
 class PaletteFixture : public AppStoreFixture
 {
@@ -21,6 +23,11 @@ protected:
     bool press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString &text = {})
     {
         return palette.handle(KeyPress::make(key, 0, text, modifiers));
+    }
+
+    void movePointer(QPointF place)
+    {
+        palette.observe(QMouseEvent(QEvent::MouseMove, place, place, Qt::NoButton, {}, {}));
     }
 
     QStringList titles()

@@ -138,7 +138,10 @@ TEST_F(PaletteKeyTest, ThePointerHighlightsOnlyWhereItWasMoved)
     openRoot();
     palette.point(3);
     EXPECT_EQ(palette.highlighted(), 0);
-    palette.notePointerMoved();
+    movePointer({10, 10});
+    palette.point(3);
+    EXPECT_EQ(palette.highlighted(), 0) << "it may have rested there before";
+    movePointer({10, 11});
     palette.point(3);
     EXPECT_EQ(palette.highlighted(), 3);
     press(Qt::Key_Down);

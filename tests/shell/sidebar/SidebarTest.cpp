@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/kit/layers/OwnKeys.h"
 #include "shell/sidebar/Workspace.h"
 
 #include <QQuickItem>
@@ -20,7 +21,7 @@ protected:
     bool isWalking()
     {
         for (QQuickItem *item = window().activeFocusItem(); item; item = item->parentItem()) {
-            if (item->property("walksItsRows").toBool())
+            if (OwnKeys::walksRows(*item))
                 return true;
         }
         return false;

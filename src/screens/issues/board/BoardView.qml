@@ -84,7 +84,7 @@ FocusScope {
                     clearance: root.store.isSelecting ? Metrics.selectionBarRoom : 0
                     onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
-                    onPickRequested: (kind, key, card, cell) => root.picker.toggle(kind, key, card, cell)
+                    onPickRequested: (kind, key, card, cell) => root.picker.open(kind, key, card, cell)
                     onDragBegun: (key, handler) => root.drag.begin(key, handler)
                     menuKey: root.contextMenu.key
                     isTargeted: index === drop.column

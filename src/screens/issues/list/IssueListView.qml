@@ -113,7 +113,7 @@ FocusScope {
                     onClicked: modifiers => root.click(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
-                    onPickRequested: (kind, cell) => root.picker.toggle(kind, issue.key, row, cell)
+                    onPickRequested: (kind, cell) => root.picker.open(kind, issue.key, row, cell)
                     onDragBegun: handler => root.drag.begin(issue.key, handler)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true

@@ -14,27 +14,15 @@ Item {
     required property AppStore store
 
     property bool isOpen: false
-    property string issueKey: ""
     property rect cell
     readonly property int alignment: options.kind === Commands.PickerKind.Assignee ? PopoverPlacement.Trailing
         : PopoverPlacement.Leading
 
-    signal dismissed()
-
-    // Opens the picker of a kind (`Commands.PickerKind`) for an issue at a cell of its row or card, or closes the
-    // picker if it is already open there.
-    function toggle(kind: int, key: string, face: Item, cell: rect) {
-        if (isOpen && options.kind === kind && issueKey === key)
-            dismissed();
-        else
-            open(kind, key, face.mapToItem(root, cell));
-    }
-
-    function open(kind: int, key: string, at: rect) {
+    // Opens the picker of a kind (`Commands.PickerKind`) for an issue at a cell of its row or card.
+    function open(kind: int, key: string, face: Item, spot: rect) {
         isOpen = false;
-        issueKey = key;
         options.aim(kind, key);
-        cell = at;
+        cell = face.mapToItem(root, spot);
         isOpen = true;
     }
 
@@ -43,27 +31,17 @@ Item {
         store: root.store
     }
 
-    Item {
-        id: spot
-        x: root.cell.x
-        y: root.cell.y
-        width: root.cell.width
-        height: root.cell.height
-    }
-
     When {
         shown: root.isOpen
 
         Item {
             Popover {
                 id: popover
-                parent: spot
+                parent: root
+                spot: root.cell
                 name: options.placeholder
                 width: 260
                 alignment: root.alignment
-                // Not modal, so that a press on another cell moves the picker there.
-                modal: false
-                closePolicy: Popover.CloseOnEscape | Popover.CloseOnPressOutsideParent
                 onClosed: root.isOpen = false
                 Component.onCompleted: open()
 
@@ -76,14 +54,6 @@ Item {
                         placeholder: options.placeholder
                         onDone: popover.close()
                     }
-                }
-            }
-
-            Connections {
-                target: root
-
-                function onDismissed() {
-                    popover.close();
                 }
             }
         }

@@ -13,13 +13,11 @@ ToolbarCell {
 
     property bool isOpen: false
 
-    signal dismissed()
-
     name: "Affichage"
     hint: "Options d'affichage"
     symbol: "slider.horizontal.3"
     on: isOpen
-    onClicked: isOpen ? dismissed() : isOpen = true
+    onClicked: isOpen = true
 
     When {
         shown: root.isOpen
@@ -44,14 +42,6 @@ ToolbarCell {
                     id: view
                     width: popover.width
                     store: root.store
-                }
-            }
-
-            Connections {
-                target: root
-
-                function onDismissed() {
-                    popover.close();
                 }
             }
         }

@@ -12,32 +12,20 @@ ToolbarCell {
 
     property bool isOpen: false
 
-    signal dismissed()
-
     name: "Filtrer"
     symbol: filters.isEmpty ? "line.3.horizontal.decrease" : "line.3.horizontal.decrease.circle.fill"
     active: !filters.isEmpty
     on: isOpen
-    onClicked: isOpen ? dismissed() : isOpen = true
+    onClicked: isOpen = true
 
     When {
         shown: root.isOpen
 
         Item {
             FilterMenu {
-                id: menu
                 filters: root.filters
-                leavePressesToParent: true
                 onClosed: root.isOpen = false
                 Component.onCompleted: popup(root, 0, root.height + 6)
-            }
-
-            Connections {
-                target: root
-
-                function onDismissed() {
-                    menu.close();
-                }
             }
         }
     }

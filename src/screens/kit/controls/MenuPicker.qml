@@ -80,7 +80,6 @@ Item {
                 id: menu
 
                 y: root.height + 4
-                leavePressesToParent: true
                 title: root.name
                 choices: root.choices
                 current: root.current

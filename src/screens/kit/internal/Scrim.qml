@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora.Kit
 import Velmora.Theme
 
 /// Dims the window below a sheet. The overlay sets its opacity.
@@ -7,6 +8,10 @@ Rectangle {
 
     color: Theme.scrim
     opacity: 0
+
+    LayerShield {
+        anchors.fill: parent
+    }
 
     Behavior on opacity {
         NumberAnimation {

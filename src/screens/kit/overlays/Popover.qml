@@ -3,10 +3,9 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// A floating panel beside its parent item, kept within the window. Its children are stacked at the top left. `name` is
-/// its name for screen readers. Escape and a press outside close it, and that press has no other effect, unless `modal`
-/// and `closePolicy` are changed. The focus then returns to the item that had it before. Put expensive content into a
-/// `When { shown: popover.isShown }`.
+/// A floating panel beside an area of its parent item, kept within the window. Its children are stacked at the top left. `name` is
+/// its name for screen readers. Escape and a press outside close it, and that press has no other effect. The focus then
+/// returns to the item that had it before. Put expensive content into a `When { shown: popover.isShown }`.
 T.Popup {
     id: root
 
@@ -20,12 +19,19 @@ T.Popup {
     /// True while the popover closes. Its content then receives no clicks.
     property bool isLeaving: false
     readonly property Item room: T.Overlay.overlay
-    property Item returnTo: null
+    /// The area of the parent item beside which the panel stands.
+    property rect spot: parent ? Qt.rect(0, 0, parent.width, parent.height) : Qt.rect(0, 0, 0, 0)
     property rect anchor: Qt.rect(0, 0, 0, 0)
     readonly property size roomSize: room ? Qt.size(room.width, room.height) : Qt.size(0, 0)
     readonly property point place: PopoverPlacement.place(anchor, Qt.size(width, height), roomSize, alignment)
 
-    readonly property Item shield: MouseArea {
+    readonly property Layer layer: Layer {
+        item: holder.parent
+        isOpen: false
+        onCloseRequested: root.close()
+    }
+
+    readonly property Item shield: LayerShield {
         parent: holder.parent
         anchors.fill: parent
         z: 1
@@ -46,29 +52,38 @@ T.Popup {
 
     function begin() {
         isLeaving = false
-        returnTo = FocusReturn.holder(parent)
-        anchor = parent.mapToItem(null, 0, 0, parent.width, parent.height)
+        layer.isOpen = true
+        follow()
     }
 
     function leave() {
         isLeaving = true
-        FocusReturn.giveBack(returnTo)
+        layer.isOpen = false
     }
 
-    x: place.x
-    y: place.y
+    /// Moves the panel to its area, for instance after the window was resized.
+    function follow() {
+        if (parent)
+            anchor = parent.mapToItem(null, spot.x, spot.y, spot.width, spot.height)
+    }
+
+    x: spot.x + place.x
+    y: spot.y + place.y
     implicitWidth: 290
     implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
     padding: 0
     focus: true
     modal: true
-    dim: false
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    closePolicy: T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
+    onSpotChanged: if (visible) follow()
+    // The items below get their new places after the size of the window has changed.
+    onRoomSizeChanged: if (visible) Qt.callLater(follow)
     onAboutToShow: begin()
     onAboutToHide: leave()
 
     contentItem: body
+    T.Overlay.modal: LayerShield {}
 
     background: GlassPanel {
         radius: Metrics.radiusPopover

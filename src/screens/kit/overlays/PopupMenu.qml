@@ -4,24 +4,24 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A menu that the program draws itself. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s
-/// with a title. When it closes, the focus returns to the item that had it before. A press outside closes the menu. A
-/// control that opens the menu on a click must also close it on a click, because otherwise the click would open it
-/// again: make the control the menu's parent, set `leavePressesToParent`, and call `toggle()`.
+/// with a title. Escape and a press outside close it, and that press has no other effect. The focus then returns to the
+/// item that had it before.
 T.Menu {
     id: root
 
     property real widest: 0
-    property Item returnTo: null
-    property bool leavePressesToParent: false
-
-    function toggle() {
-        root.visible = !root.visible
+    // The menu or the menu bar that has opened this menu must stay reachable.
+    readonly property bool isSubmenu: parent instanceof T.MenuItem || parent instanceof T.MenuBarItem
+    readonly property Layer layer: Layer {
+        item: root.contentItem.parent
+        isOpen: false
+        onCloseRequested: root.close()
     }
 
     function begin() {
         MenuMeasure.alignMarks(root)
         widest = MenuMeasure.widest(root)
-        returnTo = FocusReturn.holder(parent)
+        layer.isOpen = true
     }
 
     implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
@@ -30,9 +30,12 @@ T.Menu {
     margins: 8
     overlap: 4
     cascade: true
-    closePolicy: T.Popup.CloseOnEscape | (leavePressesToParent ? T.Popup.CloseOnPressOutsideParent : T.Popup.CloseOnPressOutside)
+    modal: !isSubmenu
+    dim: modal
+    closePolicy: T.Popup.CloseOnPressOutside
     onAboutToShow: begin()
-    onAboutToHide: FocusReturn.giveBack(returnTo)
+    onAboutToHide: layer.isOpen = false
+    T.Overlay.modal: LayerShield {}
 
     delegate: PopupMenuItem {}
 

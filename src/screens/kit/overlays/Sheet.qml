@@ -4,9 +4,8 @@ import Velmora.Theme
 import Velmora.Kit
 
 /// A panel above the window that the user must complete first: the rest is dimmed and cannot be reached. Its children
-/// are stacked at the top left. Give them `width: sheet.width`. `name` is its name for screen readers. Escape closes it
-/// unless `closePolicy` is changed. The focus then returns to the item that had it before. Put expensive content into a
-/// `When { shown: sheet.visible }`.
+/// are stacked at the top left. Give them `width: sheet.width`. `name` is its name for screen readers. Escape closes it.
+/// The focus then returns to the item that had it before. Put expensive content into a `When { shown: sheet.visible }`.
 T.Popup {
     id: root
 
@@ -17,7 +16,13 @@ T.Popup {
     /// higher.
     property real lift: 0.4
     readonly property real freeHeight: parent ? parent.height - height : 0
-    property Item returnTo: null
+    readonly property Layer layer: Layer {
+        item: holder.parent
+        kind: Layer.Kind.Required
+        isOpen: false
+        onCloseRequested: root.close()
+    }
+
     readonly property Item body: Item {
         id: holder
 
@@ -35,10 +40,11 @@ T.Popup {
     padding: 0
     modal: true
     focus: true
-    closePolicy: T.Popup.CloseOnEscape
+    dim: true
+    closePolicy: T.Popup.NoAutoClose
     contentItem: body
-    onAboutToShow: returnTo = FocusReturn.holder(parent)
-    onAboutToHide: FocusReturn.giveBack(returnTo)
+    onAboutToShow: layer.isOpen = true
+    onAboutToHide: layer.isOpen = false
 
     background: GlassPanel {
         radius: Metrics.radiusSheet

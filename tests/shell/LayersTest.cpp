@@ -1,0 +1,306 @@
+#include "app/WindowFixture.h"
+#include "async/Spawn.h"
+#include "screens/kit/layers/WindowLayers.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// The palette, pickers and menus above the list and the board: what they receive, and what they keep from those below.
+class Layers : public WindowFixture
+{
+protected:
+    Layers()
+    {
+        Preferences(preferencesPath).setText(u"ordering"_s, u"key"_s);
+        Preferences(preferencesPath).setText(u"grouping"_s, u"none"_s);
+        serveStatuses({u"En cours"_s, u"En revue"_s});
+        service->performCalls.answerWith();
+        service->updateCalls.answerWith();
+        service->assignCalls.answerWith();
+        openOnDemo();
+        service->transitionsCalls.answerWith(
+            {{u"11"_s, u"Commencer"_s, IssueStatus::guessed(u"En cours"_s)},
+             {u"12"_s, u"Relire"_s, IssueStatus::guessed(u"En revue"_s)}});
+        desktop->setPrefersReducedMotion(true);
+        press(Qt::Key_Down);
+        settle();
+    }
+
+    /// Serves 60 issues. The last ones have these statuses, which are then offered for all; the others are to be done.
+    void serveStatuses(const QStringList &names)
+    {
+        IssueList issues;
+        for (int i = 1; i <= 60; ++i) {
+            const int last = i - 61 + int(names.size());
+            issues += issueWithKey(u"MOB-%1"_s.arg(i), last < 0 ? u"À faire"_s : names[last]);
+        }
+        serveIssues(issues);
+    }
+
+    Layer *top() { return WindowLayers::of(window()).top(); }
+    bool isOnTop(const QQuickItem *item) { return top() && top()->item() == item; }
+    bool isContentOnTop() { return top() && top()->kind() == Layer::Kind::Content; }
+    bool becomesContent()
+    {
+        return QTest::qWaitFor([this] { return isContentOnTop(); });
+    }
+    Spoken row(const QString &key) { return await(QAccessible::ListItem, key + u','); }
+    void openPalette()
+    {
+        press(Qt::Key_K, Qt::ControlModifier);
+        ASSERT_TRUE(store().palette());
+        settle();
+    }
+    void openRowPicker()
+    {
+        const auto cells = spokenIn(window(), QAccessible::Button, u"Statut :"_s);
+        ASSERT_FALSE(cells.isEmpty());
+        click(cells.first());
+        await(QAccessible::EditableText, u"Statut…"_s);
+    }
+    void drag(QPoint from, QPoint to)
+    {
+        QTest::mousePress(&window(), Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 8; ++step)
+            QTest::mouseMove(&window(), from + (to - from) * step / 8);
+        QTest::mouseRelease(&window(), Qt::LeftButton, {}, to);
+    }
+    void wheel(QPointF place)
+    {
+        QWheelEvent event(place, window().mapToGlobal(place), {}, {0, -120}, {}, {}, {}, false);
+        QCoreApplication::sendEvent(&window(), &event);
+    }
+    void repeat(Qt::Key key, const QString &text)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QCoreApplication::sendEvent(&window(), &event);
+    }
+    Issue issue(const QString &key) { return *store().issue(key).value_or(SharedIssue()); }
+};
+
+namespace {
+
+QAccessibleInterface *nodeOf(QAccessibleInterface *node, QAccessible::Role role,
+                             const QString &name)
+{
+    if (!node || (node->role() == role && node->text(QAccessible::Name).contains(name)))
+        return node;
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (auto *found = nodeOf(node->child(i), role, name))
+            return found;
+    }
+    return nullptr;
+}
+
+/// Presses a control as a screen reader does, whatever is above it.
+void pressByReader(QQuickWindow &window, QAccessible::Role role, const QString &name)
+{
+    auto *node = nodeOf(QAccessible::queryAccessibleInterface(&window), role, name);
+    ASSERT_NE(node, nullptr) << name.toStdString();
+    node->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
+} // namespace
+
+TEST_F(Layers, ADragThatBeginsOnThePaletteMovesNoCard)
+{
+    store().setLayout(LayoutMode::Board);
+    settle();
+    openPalette();
+    const int width = window().width();
+    for (const auto from : {QPoint(width / 2, 700), QPoint(width / 2 - 250, 160)})
+        drag(from, {width - 100, 500});
+
+    EXPECT_EQ(service->performCalls.count(), 0);
+}
+
+TEST_F(Layers, ARightClickBesideThePaletteOpensNoMenu)
+{
+    const auto box = row(u"MOB-20"_s).box;
+    openPalette();
+    QTest::mouseClick(&window(), Qt::RightButton, {}, box.center());
+    settle();
+
+    EXPECT_TRUE(spokenIn(window(), QAccessible::MenuItem, u"Copier la clé"_s).isEmpty());
+    EXPECT_TRUE(store().palette());
+}
+
+TEST_F(Layers, TheWheelBesideThePaletteScrollsNothing)
+{
+    openPalette();
+    const auto before = row(u"MOB-1"_s).box;
+    wheel({before.center().x() + 0.0, window().height() - 60.0});
+    settle();
+
+    EXPECT_EQ(row(u"MOB-1"_s).box, before);
+}
+
+TEST_F(Layers, EscapeClosesAMenuAboveThePaletteFirst)
+{
+    openPalette();
+    pressByReader(window(), QAccessible::Button, u"Espace"_s);
+    await(QAccessible::MenuItem, u"Réglages…"_s);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, u"Réglages…"_s));
+    EXPECT_TRUE(store().palette());
+
+    const auto focused = store().focusedKey();
+    press(Qt::Key_Down);
+    press(Qt::Key_X);
+    EXPECT_EQ(store().focusedKey(), focused);
+    EXPECT_EQ(store().checkedCount(), 0);
+
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(store().palette());
+    press(Qt::Key_J);
+    EXPECT_NE(store().focusedKey(), focused) << "the window has gone deaf";
+}
+
+TEST_F(Layers, TabStaysInThePickerOfARow)
+{
+    openRowPicker();
+    const auto focused = store().focusedKey();
+    for (int i = 0; i < 5; ++i) {
+        press(Qt::Key_Tab);
+        press(Qt::Key_J);
+    }
+    EXPECT_EQ(store().focusedKey(), focused);
+
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(becomesContent());
+    press(Qt::Key_J);
+    EXPECT_NE(store().focusedKey(), focused);
+}
+
+TEST_F(Layers, APressOnAnotherRowOnlyClosesThePicker)
+{
+    openRowPicker();
+    click(row(u"MOB-20"_s));
+    EXPECT_TRUE(becomesContent());
+    settle();
+
+    EXPECT_EQ(store().inspectorKey(), std::nullopt);
+    EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
+}
+
+TEST_F(Layers, TheWheelBelowAPickerScrollsNothing)
+{
+    openRowPicker();
+    const auto before = row(u"MOB-20"_s).box;
+    wheel(before.center());
+    settle();
+
+    EXPECT_EQ(row(u"MOB-20"_s).box, before);
+}
+
+TEST_F(Layers, AHeldDigitPicksOnceAndDoesNothingElse)
+{
+    press(Qt::Key_S);
+    ASSERT_TRUE(store().palette());
+    settle();
+    QKeyEvent first(QEvent::KeyPress, Qt::Key_2, Qt::NoModifier, u"2"_s);
+    QCoreApplication::sendEvent(&window(), &first);
+    for (int i = 0; i < 20; ++i)
+        repeat(Qt::Key_2, u"2"_s);
+
+    EXPECT_EQ(issue(u"MOB-1"_s).status.name(), u"En cours"_s);
+    EXPECT_FALSE(store().palette());
+    EXPECT_EQ(store().layout(), LayoutMode::List);
+}
+
+TEST_F(Layers, AHeldLetterWalksButDoesNotCheckAgainAndAgain)
+{
+    QKeyEvent first(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, u"x"_s);
+    QCoreApplication::sendEvent(&window(), &first);
+    for (int i = 0; i < 3; ++i)
+        repeat(Qt::Key_X, u"x"_s);
+    EXPECT_TRUE(store().checked().contains(u"MOB-1"_s));
+
+    QKeyEvent step(QEvent::KeyPress, Qt::Key_J, Qt::NoModifier, u"j"_s);
+    QCoreApplication::sendEvent(&window(), &step);
+    for (int i = 0; i < 3; ++i)
+        repeat(Qt::Key_J, u"j"_s);
+    EXPECT_EQ(store().focusedKey(), u"MOB-5"_s);
+}
+
+TEST_F(Layers, AMenuCarriesOutWhatItShowsEvenIfItIsNoLongerOffered)
+{
+    rightClick(row(u"MOB-1"_s));
+    click(await(QAccessible::MenuItem, u"Statut"_s));
+    const auto entry = await(QAccessible::MenuItem, u"En revue"_s);
+    serveStatuses({u"En cours"_s});
+    reload();
+    settle();
+    click(entry);
+
+    EXPECT_EQ(issue(u"MOB-1"_s).status.name(), u"En revue"_s);
+}
+
+/// Random keys and presses, with layers that open and close: what is below the topmost layer never reacts, and in the
+/// end Escape leads back to a window that answers.
+TEST_F(Layers, RandomKeysAndPressesNeverReachALayerBelowTheTopmost)
+{
+    const auto state = [&] {
+        return std::tuple(store().focusedKey(), store().inspectorKey(), store().layout(),
+                          store().checkedCount(), store().scope());
+    };
+    const QList<Qt::Key> keys{
+        Qt::Key_J,    Qt::Key_K,      Qt::Key_X,      Qt::Key_S,   Qt::Key_P,   Qt::Key_A,
+        Qt::Key_L,    Qt::Key_1,      Qt::Key_2,      Qt::Key_Tab, Qt::Key_Up,  Qt::Key_Down,
+        Qt::Key_Left, Qt::Key_Escape, Qt::Key_Escape, Qt::Key_F10, Qt::Key_Menu};
+    // More seeds and steps than each run of the tests can afford.
+    const int seeds = qEnvironmentVariableIntValue("VELMORA_LAYER_SEEDS");
+    const int steps = seeds > 0 ? 1000 : 200;
+    for (int seed = 1; seed <= (seeds > 0 ? seeds : 3); ++seed) {
+        QRandomGenerator random{quint32(seed)};
+        for (int step = 0; step < steps; ++step) {
+            const auto before = state();
+            const QPointer<Layer> layer = top();
+            const bool isCovered = !isContentOnTop();
+            const auto trace = [&] {
+                return u"seed %1, step %2"_s.arg(seed).arg(step).toStdString();
+            };
+            if (random.bounded(3) > 0) {
+                const auto key = keys[random.bounded(int(keys.size()))];
+                if (random.bounded(8) == 0)
+                    press(Qt::Key_K, Qt::ControlModifier);
+                else
+                    press(key);
+                // The digits run rows of pickers, which is not a change of these fields either.
+                if (isCovered) {
+                    EXPECT_EQ(state(), before) << trace() << " key " << key;
+                }
+            } else {
+                const QPoint place(random.bounded(window().width()),
+                                   random.bounded(window().height()));
+                const bool isBeside = isCovered && layer &&
+                                      !layer->item()->contains(layer->item()->mapFromScene(place));
+                QTest::mouseClick(&window(), random.bounded(3) ? Qt::LeftButton : Qt::RightButton,
+                                  {}, place);
+                if (isBeside) {
+                    EXPECT_EQ(state(), before)
+                        << trace() << " press beside " << place.x() << "," << place.y();
+                }
+            }
+            ASSERT_FALSE(HasFailure()) << trace();
+            // The menu of the site ends the session.
+            if (store().phase() != AppStore::Phase::Ready)
+                spawn(store().startDemo());
+        }
+        for (int i = 0; i < 12 && !isContentOnTop(); ++i) {
+            press(Qt::Key_Escape);
+            settle();
+        }
+        ASSERT_TRUE(isContentOnTop()) << "seed " << seed;
+        store().setFocusedKey(u"MOB-1"_s);
+        press(Qt::Key_Escape);
+        press(Qt::Key_J);
+        ASSERT_NE(store().focusedKey(), u"MOB-1"_s)
+            << "the window has gone deaf after seed " << seed;
+    }
+}
