@@ -1,10 +1,11 @@
 #!/usr/bin/python3
-"""Runs the window tests of the built program with each renderer, several at once.
+"""Runs the window tests of the built program with the renderers that they name, several at once.
 
 Usage: tests/e2e/run.py <program> [--renderer software|opengl] [--results <folder>] [-k <part of a test's name>]
 
 Each test has its own process, desktop and home folder. The screenshot, the accessibility tree and the output of a
-failed test are saved in the folder of results. Run it with the system's python3.
+failed test are saved in the folder of results. With --renderer every test runs with that renderer. Run it with the
+system's python3.
 """
 import argparse
 import concurrent.futures
@@ -39,11 +40,16 @@ def single_tests(suite):
             yield test
 
 
-def names(patterns):
+def chosen(given):
+    """[(renderer, name)] of the tests to run. Long ones come first, so that no worker is left alone with one."""
     loader = unittest.TestLoader()
-    if patterns:
-        loader.testNamePatterns = ["*%s*" % pattern for pattern in patterns]
-    return [test.id() for test in single_tests(loader.discover(HERE, pattern="test_*.py", top_level_dir=HERE))]
+    if given.patterns:
+        loader.testNamePatterns = ["*%s*" % pattern for pattern in given.patterns]
+    tests = list(single_tests(loader.discover(HERE, pattern="test_*.py", top_level_dir=HERE)))
+    # A module that cannot be imported is a test that fails, without our attributes.
+    tests.sort(key=lambda test: not getattr(test, "is_long", False))
+    return [(renderer, test.id()) for test in tests
+            for renderer in given.renderer or getattr(test, "renderers", ("software",))]
 
 
 def run_here(given):
@@ -72,8 +78,7 @@ def main():
     counts = {PASSED: 0, FAILED: 0, SKIPPED: 0}
     # A test spends much of its time waiting, so one more than the cores can run.
     with concurrent.futures.ThreadPoolExecutor(len(os.sched_getaffinity(0)) + 1) as pool:
-        runs = [(renderer, name, pool.submit(run_apart, given, renderer, name))
-                for renderer in given.renderer or ["software", "opengl"] for name in names(given.patterns)]
+        runs = [(renderer, name, pool.submit(run_apart, given, renderer, name)) for renderer, name in chosen(given)]
         for renderer, name, run in runs:
             status, said = run.result()
             outcome = status if status in counts else FAILED

@@ -148,6 +148,10 @@ def faults(result):
 class WindowCase(unittest.TestCase):
     """A test with its own desktop. It also fails if the program has written any output. What a failed test saw is saved."""
     screen = SCREEN
+    # Tests whose result does not depend on how the window is drawn have only "software", which costs half the time.
+    renderers = ("software", "opengl")
+    # Takes much longer than the others.
+    is_long = False
 
     def run(self, result=None):
         self._result, self._faults_before = result, faults(result)

@@ -4,6 +4,8 @@ from site_case import SiteCase
 
 
 class Closing(SiteCase):
+    renderers = ("software",)
+
     def setUp(self):
         super().setUp()
         self.velmora = self.open_card()

@@ -4,6 +4,8 @@ from support import ISSUE, WindowCase
 
 
 class FirstStart(WindowCase):
+    renderers = ("software",)
+
     def test_a_new_profile_opens_on_the_first_screen(self):
         velmora = self.open()
         velmora.app.find(role="push button", name="^Explorer en mode démo$")
@@ -28,6 +30,8 @@ class FirstStart(WindowCase):
 
 
 class Restart(WindowCase):
+    renderers = ("software",)
+
     def test_a_demo_opened_once_is_there_again_after_a_restart(self):
         first = self.open()
         first.app.find(role="push button", name="^Explorer en mode démo$").click()

@@ -6,6 +6,8 @@ PATH = [key for _, keys in demo_lists.mine() for key in keys]
 
 
 class Walking(WindowCase):
+    renderers = ("software",)
+
     def test_j_and_k_walk_the_list_across_its_groups(self):
         velmora = self.open_demo()
         for key in PATH[:6]:
@@ -59,6 +61,8 @@ class Walking(WindowCase):
 
 
 class Filtering(WindowCase):
+    renderers = ("software",)
+
     def type_into_filter(self, velmora, text):
         velmora.search_field().click()
         self.session.type(text)
@@ -95,6 +99,8 @@ class Filtering(WindowCase):
 
 
 class Menus(WindowCase):
+    renderers = ("software",)
+
     def test_the_menu_key_and_shift_f10_open_the_menu_of_the_focused_issue(self):
         velmora = self.open_demo()
         self.session.key("j")

@@ -6,6 +6,8 @@ PROJECTS = {"MOB": "App mobile", "WEB": "Plateforme web", "DS": "Design System",
 
 
 class Scopes(WindowCase):
+    renderers = ("software",)
+
     def test_the_recaps_by_mouse(self):
         velmora = self.open_demo()
         for name, offset in (("Cette semaine", 0), ("Semaine dernière", -1)):
@@ -75,6 +77,8 @@ class Scopes(WindowCase):
 
 
 class Rows(WindowCase):
+    renderers = ("software",)
+
     def test_a_row_reads_as_a_sentence(self):
         velmora = self.open_demo()
         self.assertEqual(velmora.row("MOB-101").name, "MOB-101, Connexion avec Apple : le jeton expire après 24 h, "

@@ -8,6 +8,8 @@ FIELD = "^Rechercher un ticket, une action, un projet…$"
 
 
 class Palette(WindowCase):
+    renderers = ("software",)
+
     def open_palette(self, velmora):
         self.session.key("ctrl+k")
         return velmora.app.find(role="text", name=FIELD, states=("focused",))

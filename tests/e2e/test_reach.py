@@ -7,6 +7,8 @@ MINE = [key for _, keys in demo_lists.mine() for key in keys]
 
 
 class ByKeyboardAlone(WindowCase):
+    is_long = True
+
     def setUp(self):
         self.session = Session(size=(1000, 700), renderer=RUN.renderer, tray=True)
         self.addCleanup(self.session.stop)

@@ -7,6 +7,8 @@ SPRINT = [key for _, keys in demo_lists.sprint("MOB") for key in keys]
 
 
 class Selection(WindowCase):
+    renderers = ("software",)
+
     def open_sprint(self):
         velmora = self.open_demo()
         velmora.scope("App mobile").click()
@@ -71,6 +73,8 @@ class Selection(WindowCase):
 
 
 class Recap(WindowCase):
+    renderers = ("software",)
+
     def test_last_weeks_recap_is_switched_to_the_team_copied_and_pasted(self):
         velmora = self.open_demo()
         velmora.scope("Semaine dernière").click()

@@ -8,6 +8,8 @@ from support import ISSUE
 
 
 class SignIn(SiteCase):
+    renderers = ("software",)
+
     def sign_out(self, velmora):
         velmora.app.find(role="push button", name="^Espace ").click()
         velmora.app.find(role="menu item", name="^Se déconnecter$").click()

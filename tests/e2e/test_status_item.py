@@ -62,6 +62,8 @@ class StatusItem(WindowCase):
 
 
 class Process(WindowCase):
+    renderers = ("software",)
+
     def test_without_a_host_the_process_ends_with_its_last_window(self):
         velmora = self.open_demo()
         velmora.app.close_window("Velmora")

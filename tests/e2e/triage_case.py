@@ -29,6 +29,7 @@ class TriageCase(WindowCase):
     """Each renderer has a window of a different size and appearance, given as (software, OpenGL)."""
 
     worlds = ((SMALL, "dark"), (LARGE, "light"))
+    is_long = True
 
     def setUp(self):
         self.size, self.appearance = self.worlds[RUN.renderer == "opengl"]
