@@ -9,7 +9,7 @@ import Velmora.State
 import Velmora.Theme
 
 // One status of the board: its header and, below it, the cards, which are created as they become visible.
-Rectangle {
+Item {
     id: root
 
     required property string title
@@ -41,12 +41,18 @@ Rectangle {
         scroller.revealAtOnce();
     }
 
-    radius: Metrics.radiusPopover
-    color: Theme.boardColumn
+    Rectangle {
+        anchors.fill: parent
+        radius: target.radius
+        // The fill of a target replaces this one.
+        opacity: 1 - target.opacity
+        color: Theme.boardColumn
+    }
 
     ColumnTarget {
+        id: target
         anchors.fill: parent
-        radius: root.radius
+        radius: Metrics.radiusPopover
         isTargeted: root.isTargeted
     }
 

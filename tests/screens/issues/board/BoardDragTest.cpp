@@ -168,6 +168,21 @@ TEST_F(BoardDrag, TheColumnUnderTheDragIsMarkedUntilItLeaves)
     EXPECT_TRUE(QTest::qWaitFor([&] { return ground() == before; }));
 }
 
+TEST_F(BoardDrag, TheColumnUnderTheDragIsFilledWithTheAccentAtTenPercentOnly)
+{
+    content.setText(u"MOB-1"_s);
+    const QPoint point = inColumn(u"En cours"_s);
+    dragOver(point);
+    settle();
+
+    const QColor ground = window().grabWindow().pixelColor(point);
+    EXPECT_NEAR(ground.red(), 0xEF, 1);
+    EXPECT_NEAR(ground.green(), 0xF0, 1);
+    EXPECT_NEAR(ground.blue(), 0xFA, 1);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&window(), &leave);
+}
+
 TEST_F(BoardDrag, AReloadInMidDragLeavesTheDropInPlace)
 {
     content.setText(u"MOB-1"_s);
