@@ -11,6 +11,8 @@ Item {
 
     required property Filters filters
 
+    // The chips stay visible while the bar closes.
+    enabled: !root.filters.isEmpty
     implicitHeight: flow.implicitHeight + Metrics.gapMedium
 
     Accessible.role: Accessible.Grouping

@@ -24,10 +24,11 @@ FilterSources Filters::sources() const
 void Filters::update()
 {
     // The menu contents are computed only while a filter is active, because only then are they needed.
-    const auto chips = m_store->filters().isEmpty() ? QList<FilterChip>()
-                                                    : filterChips(m_store->filters(), sources());
-    if (m_chips == chips)
+    const bool isEmpty = m_store->filters().isEmpty();
+    const auto chips = isEmpty ? m_chips : filterChips(m_store->filters(), sources());
+    if (m_isEmpty == isEmpty && m_chips == chips)
         return;
+    m_isEmpty = isEmpty;
     m_chips = chips;
     Q_EMIT changed();
 }

@@ -11,7 +11,8 @@ class Filters : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
-    /// One chip for each non-empty set.
+    /// One chip for each non-empty set. While no filter is active, the chips keep their last value, because the bar that
+    /// shows them may still be closing.
     Q_PROPERTY(QList<FilterChip> chips READ chips NOTIFY changed FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed FINAL)
 
@@ -21,7 +22,7 @@ public:
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
     const QList<FilterChip> &chips() const { return m_chips; }
-    bool isEmpty() const { return m_chips.isEmpty(); }
+    bool isEmpty() const { return m_isEmpty; }
 
     /// The present submenus of the filter menu.
     Q_INVOKABLE QList<MenuSection> sections() const;
@@ -41,4 +42,5 @@ private:
 
     QPointer<AppStore> m_store;
     QList<FilterChip> m_chips;
+    bool m_isEmpty = true;
 };

@@ -189,3 +189,16 @@ TEST_F(FiltersInTheWindow, TypingPastAnEmptyResultAndBackKeepsTheSearchField)
     type(u"x"_s);
     EXPECT_EQ(store().filterText(), u"mob-3x"_s);
 }
+
+TEST_F(FiltersInTheWindow, TheChipsStayUntilTheirBarHasClosed)
+{
+    store().setFilters({.statuses = {u"inprogress"_s}});
+    await(QAccessible::Grouping, u"Statut : En cours"_s);
+    desktop->setPrefersReducedMotion(false);
+    settle();
+
+    store().setFilters({});
+
+    EXPECT_EQ(spokenIn(window(), QAccessible::Grouping, u"Statut : En cours"_s).size(), 1);
+    EXPECT_TRUE(isGone(QAccessible::Grouping, u"Statut : En cours"_s));
+}
