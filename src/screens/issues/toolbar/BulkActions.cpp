@@ -2,9 +2,14 @@
 
 using namespace Qt::StringLiterals;
 
-QString selectedCountText(int count)
+QString selectedWord(int count)
 {
-    return QString::number(count) + (count < 2 ? u" sélectionné"_s : u" sélectionnés"_s);
+    return count < 2 ? u"sélectionné"_s : u"sélectionnés"_s;
+}
+
+QString BulkActions::countText() const
+{
+    return QString::number(m_count) + u' ' + countWord();
 }
 
 void BulkActions::setStore(AppStore *store)
@@ -24,7 +29,7 @@ void BulkActions::setStore(AppStore *store)
 void BulkActions::update()
 {
     if (m_store->isSelecting())
-        m_countText = selectedCountText(m_store->checkedCount());
+        m_count = m_store->checkedCount();
     Q_EMIT changed();
 }
 

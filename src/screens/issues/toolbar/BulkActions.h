@@ -6,8 +6,8 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-/// "1 sélectionné", "2 sélectionnés".
-QString selectedCountText(int count);
+/// "sélectionné", and "sélectionnés" for more than one.
+QString selectedWord(int count);
 
 /// The text of the selection bar, and the command that closes it.
 class BulkActions : public QObject
@@ -16,8 +16,10 @@ class BulkActions : public QObject
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
     Q_PROPERTY(bool isShown READ isShown NOTIFY changed FINAL)
-    /// The number of checked issues as text. While nothing is checked it keeps its last value, because the bar may
-    /// still be fading out.
+    /// The number of checked issues, the word after it, and both together. While nothing is checked they keep their
+    /// last values, because the bar may still be fading out.
+    Q_PROPERTY(int count READ count NOTIFY changed FINAL)
+    Q_PROPERTY(QString countWord READ countWord NOTIFY changed FINAL)
     Q_PROPERTY(QString countText READ countText NOTIFY changed FINAL)
 
 public:
@@ -26,7 +28,9 @@ public:
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
     bool isShown() const { return m_store && m_store->isSelecting(); }
-    const QString &countText() const { return m_countText; }
+    int count() const { return m_count; }
+    QString countWord() const { return selectedWord(m_count); }
+    QString countText() const;
 
     /// Unchecks all issues.
     Q_INVOKABLE void clear();
@@ -39,5 +43,5 @@ private:
     void update();
 
     QPointer<AppStore> m_store;
-    QString m_countText;
+    int m_count = 0;
 };

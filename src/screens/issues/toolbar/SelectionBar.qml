@@ -41,14 +41,31 @@ Item {
             shadow: "bar"
             color: Theme.glassStrong
 
-            AppText {
+            Row {
                 id: count
                 x: 20
                 width: Math.ceil(implicitWidth)
                 anchors.verticalCenter: parent.verticalCenter
-                weight: Font.Medium
-                tabular: true
-                text: actions.countText
+                spacing: blank.advanceWidth
+
+                RollingNumber {
+                    number: actions.count
+                    rolls: root.presence > 0
+                }
+
+                AppText {
+                    id: word
+                    weight: Font.Medium
+                    tabular: true
+                    text: actions.countWord
+                    Accessible.ignored: true
+                }
+
+                TextMetrics {
+                    id: blank
+                    font: word.font
+                    text: " "
+                }
             }
 
             IconButton {

@@ -4,8 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(SelectedCountText, OneIsInTheSingularAndTwoInThePlural)
+TEST(SelectedWord, OneIsInTheSingularAndTwoInThePlural)
 {
-    EXPECT_EQ(selectedCountText(1), u"1 sélectionné"_s);
-    EXPECT_EQ(selectedCountText(2), u"2 sélectionnés"_s);
+    EXPECT_EQ(selectedWord(1), u"sélectionné"_s);
+    EXPECT_EQ(selectedWord(2), u"sélectionnés"_s);
 }

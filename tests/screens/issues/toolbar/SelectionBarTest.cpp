@@ -1,5 +1,7 @@
 #include "app/WindowFixture.h"
 
+#include <QQuickItem>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,33 @@ protected:
         service->assignCalls.answerWith();
         openOnDemo();
         desktop->setPrefersReducedMotion(true);
+    }
+
+    /// The numbers that the bar shows, each as one text.
+    QStringList numbersShown()
+    {
+        auto *bar = barIn(window().contentItem());
+        return bar ? numbersIn(*bar) : QStringList();
+    }
+    static QQuickItem *barIn(QQuickItem *item)
+    {
+        if (QByteArray(item->metaObject()->className()).startsWith("SelectionBar"))
+            return item;
+        for (auto *child : item->childItems()) {
+            if (auto *bar = barIn(child))
+                return bar;
+        }
+        return nullptr;
+    }
+    static QStringList numbersIn(const QQuickItem &item)
+    {
+        static const QRegularExpression number(u"^\\d+"_s);
+        QStringList numbers;
+        if (item.inherits("QQuickText") && item.isVisible())
+            numbers += number.match(item.property("text").toString()).capturedTexts();
+        for (const auto *child : item.childItems())
+            numbers += numbersIn(*child);
+        return numbers;
     }
 };
 
@@ -101,4 +130,26 @@ TEST_F(SelectionBar, TheInvisibleCheckBoxOfARowCanBeClicked)
 
     EXPECT_EQ(store().checked(), QSet<QString>{u"MOB-2"_s});
     EXPECT_EQ(store().inspectorKey(), std::nullopt);
+}
+
+TEST_F(SelectionBar, TheNumberRollsFromItsOldValueToTheNew)
+{
+    desktop->setPrefersReducedMotion(false);
+    store().setChecked({u"MOB-1"_s});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return numbersShown() == QStringList{u"1"_s}; }));
+
+    store().setChecked({u"MOB-1"_s, u"MOB-2"_s});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return numbersShown() == QStringList{u"1"_s, u"2"_s}; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return numbersShown() == QStringList{u"2"_s}; }));
+}
+
+TEST_F(SelectionBar, TheNumberDoesNotRollForWhoWantsLessMotion)
+{
+    store().setChecked({u"MOB-1"_s});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return numbersShown() == QStringList{u"1"_s}; }));
+
+    store().setChecked({u"MOB-1"_s, u"MOB-2"_s});
+
+    EXPECT_EQ(numbersShown(), QStringList{u"2"_s});
 }
