@@ -1,5 +1,7 @@
 #include "shell/StatusMenu.h"
 
+#include "model/OneLineText.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -21,8 +23,8 @@ QList<StatusMenuEntry> issueLines(const IssueList &issues)
         return {line(Kind::NoIssue, u"Aucun ticket ouvert"_s)};
     QList<StatusMenuEntry> lines{line(Kind::Heading, u"Mes tickets ouverts"_s)};
     for (const auto &issue : issues.first(std::min(mostIssues, issues.size())))
-        lines.append(
-            {Kind::Issue, issue->key + u"  "_s + issue->summary, issue->key, issue->status});
+        lines.append({Kind::Issue, issue->key + u"  "_s + oneLine(issue->summary), issue->key,
+                      issue->status});
     return lines;
 }
 

@@ -1,5 +1,7 @@
 #include "screens/options/OptionListModel.h"
 
+#include "model/OneLineText.h"
+
 using namespace Qt::StringLiterals;
 
 OptionListRow itemRow(const OptionItem &item)
@@ -20,9 +22,9 @@ QVariant OptionListModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case TitleRole:
-        return item.title;
+        return oneLine(item.title);
     case SubtitleRole:
-        return item.subtitle.value_or(QString());
+        return oneLine(item.subtitle.value_or(QString()));
     case IconRole:
         return QVariant::fromValue(OptionIconValue(item.icon));
     case IsSelectedRole:

@@ -1,5 +1,7 @@
 #include "state/models/BoardModel.h"
 
+#include "model/OneLineText.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -122,7 +124,7 @@ QVariant BoardModel::data(const QModelIndex &index, int role) const
         return column.key;
     case Qt::DisplayRole:
     case TitleRole:
-        return column.title;
+        return oneLine(column.title);
     case CountRole:
         return column.count;
     case StatusRole:

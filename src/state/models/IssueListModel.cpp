@@ -1,5 +1,6 @@
 #include "state/models/IssueListModel.h"
 
+#include "model/OneLineText.h"
 #include "model/dates/DateLabels.h"
 
 #include <algorithm>
@@ -161,9 +162,9 @@ QVariant IssueListModel::issueRoleData(const Issue &issue, int role) const
     case KindRole:
         return QVariant::fromValue(IssueListEnums::RowKind::Issue);
     case Qt::DisplayRole:
-        return issue.summary;
+        return oneLine(issue.summary);
     case IssueRole:
-        return QVariant::fromValue(issue);
+        return QVariant::fromValue(withOneLineTexts(issue));
     case HeaderRole:
         return QVariant::fromValue(IssueListHeader());
     case IsFocusedRole:

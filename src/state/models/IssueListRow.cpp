@@ -1,5 +1,7 @@
 #include "state/models/IssueListRow.h"
 
+#include "model/OneLineText.h"
+
 using namespace Qt::StringLiterals;
 
 static_assert(int(IssueListEnums::GroupKind::Status) == int(IssueGroupKind::Type::Status) &&
@@ -14,7 +16,7 @@ QString priorityWords(const Issue &issue)
 
 QString assigneeWords(const Issue &issue)
 {
-    return issue.assignee ? u"assigné à "_s + issue.assignee->name : u"non assigné"_s;
+    return issue.assignee ? u"assigné à "_s + oneLine(issue.assignee->name) : u"non assigné"_s;
 }
 
 } // namespace
@@ -28,7 +30,7 @@ IssueListRow headerRow(const IssueGroup &group, bool isCollapsed)
 {
     IssueListHeader header;
     header.groupId = group.id;
-    header.title = group.title;
+    header.title = oneLine(group.title);
     header.count = int(group.issues.size());
     header.isCollapsed = isCollapsed;
     header.kind = group.kind;
@@ -74,7 +76,7 @@ QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QS
 
 QString accessibleSentence(const Issue &issue)
 {
-    const QStringList words{issue.key, issue.summary, issue.status.displayName(),
+    const QStringList words{issue.key, oneLine(issue.summary), issue.status.displayName(),
                             priorityWords(issue), assigneeWords(issue)};
     return words.join(", "_L1);
 }

@@ -1,5 +1,7 @@
 #include "state/models/SidebarModel.h"
 
+#include "model/OneLineText.h"
+
 QVariant SidebarModel::data(const QModelIndex &index, int role) const
 {
     Q_ASSERT(checkIndex(index, CheckIndexOption::IndexIsValid));
@@ -9,7 +11,7 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
         return QVariant::fromValue(row.kind);
     case Qt::DisplayRole:
     case TextRole:
-        return row.text;
+        return oneLine(row.text);
     case SymbolRole:
         return row.symbol;
     case ScopeRole:

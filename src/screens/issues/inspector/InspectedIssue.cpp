@@ -1,6 +1,7 @@
 #include "screens/issues/inspector/InspectedIssue.h"
 
 #include "async/Spawn.h"
+#include "model/OneLineText.h"
 #include "model/dates/DateLabels.h"
 
 using namespace Qt::StringLiterals;
@@ -56,7 +57,7 @@ void InspectedIssue::load()
 void InspectedIssue::update()
 {
     const auto known = m_store ? m_store->issue(m_key) : std::nullopt;
-    const Issue issue = known ? **known : Issue();
+    const Issue issue = known ? withOneLineTexts(**known) : Issue();
     const auto project = m_store ? m_store->project(issue.projectKey) : std::nullopt;
     if (m_issue == issue && m_project == project)
         return;

@@ -18,7 +18,7 @@ class InspectedIssue : public QObject
     Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged FINAL REQUIRED)
     /// A list that contains only the key, as the editing operations expect it.
     Q_PROPERTY(QStringList keys READ keys NOTIFY keyChanged FINAL)
-    /// The record. Empty while nothing is known of the issue.
+    /// The record, with its texts on one line. Empty while nothing is known of the issue.
     Q_PROPERTY(Issue issue READ issue NOTIFY changed FINAL)
     Q_PROPERTY(bool isKnown READ isKnown NOTIFY changed FINAL)
     /// The reason why the issue could not be fetched. Empty after a success, and also after a failure if the issue is

@@ -1,5 +1,7 @@
 #include "screens/issues/motion/IssueDrag.h"
 
+#include "model/OneLineText.h"
+
 using namespace Qt::StringLiterals;
 
 QVariantMap dragContent(const Issue &issue, const std::optional<QUrl> &address)
@@ -20,7 +22,7 @@ bool IssueDrag::take(const QString &key)
     const auto issue = m_store ? m_store->issue(key) : std::nullopt;
     if (!issue)
         return false;
-    m_issue = **issue;
+    m_issue = withOneLineTexts(**issue);
     m_content = dragContent(m_issue, m_store->browseURL(key));
     Q_EMIT changed();
     return true;

@@ -1,0 +1,74 @@
+#include "app/WindowFixture.h"
+
+#include <QQuickItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class ListLooks : public WindowFixture
+{
+protected:
+    ListLooks()
+    {
+        Preferences(preferencesPath).setText(u"ordering"_s, u"key"_s);
+        Preferences(preferencesPath).setFlag(u"showCompleted"_s, true);
+    }
+
+    void openWith(const IssueList &issues)
+    {
+        serveIssues(issues);
+        openOnDemo();
+        desktop->setPrefersReducedMotion(true);
+        settle();
+    }
+    QRect row(const QString &key) { return await(QAccessible::ListItem, key + u',').box; }
+    template <typename Test>
+    static QQuickItem *itemIn(QQuickItem *root, Test test)
+    {
+        if (test(root))
+            return root;
+        for (auto *child : root->childItems()) {
+            if (auto *found = itemIn(child, test))
+                return found;
+        }
+        return nullptr;
+    }
+    template <typename Test>
+    QQuickItem *waitForItem(Test test)
+    {
+        QQuickItem *found = nullptr;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return found = itemIn(window().contentItem(), test); }));
+        return found;
+    }
+    static bool isText(const QQuickItem *item, const QString &text)
+    {
+        return item->inherits("QQuickText") && item->isVisible() &&
+               item->property("text").toString() == text;
+    }
+    QQuickItem *textItem(const QString &text)
+    {
+        return waitForItem([&](const QQuickItem *item) { return isText(item, text); });
+    }
+    static bool isAlignedLeft(const QQuickItem *text)
+    {
+        return text && text->property("effectiveHorizontalAlignment").toInt() == Qt::AlignLeft;
+    }
+    static QQuickItem *chevronIn(QQuickItem *header)
+    {
+        return itemIn(header, [](const QQuickItem *item) {
+            return item->property("name").toString() == u"chevron.right"_s;
+        });
+    }
+};
+
+TEST_F(ListLooks, ALineBreakInASummaryIsShownAsABlank)
+{
+    Issue issue = issueWithKey(u"MOB-1"_s);
+    issue.summary = u"Première\nseconde"_s;
+    openWith({issue});
+    await(QAccessible::ListItem, u"MOB-1,"_s);
+
+    const auto *text = textItem(u"Première seconde"_s);
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->property("lineCount").toInt(), 1);
+}
