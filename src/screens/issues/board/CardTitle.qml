@@ -13,6 +13,8 @@ Text {
     wrapMode: Text.Wrap
     maximumLineCount: 3
     elide: Text.ElideRight
+    // A text in a right-to-left script would otherwise be aligned to the right edge.
+    horizontalAlignment: Text.AlignLeft
     lineHeightMode: Text.FixedHeight
     lineHeight: style.titleLine
     font: style.titleFont

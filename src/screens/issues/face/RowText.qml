@@ -9,6 +9,8 @@ Text {
 
     textFormat: Text.PlainText
     elide: Text.ElideRight
+    // A text in a right-to-left script would otherwise be aligned to the right edge.
+    horizontalAlignment: Text.AlignLeft
     topPadding: leading
     bottomPadding: leading
 }

@@ -17,6 +17,8 @@ Text {
     color: Theme.text1
     font: TypeScale.font(role, weight, tabular)
     elide: Text.ElideRight
+    // A text in a right-to-left script would otherwise be aligned to the right edge.
+    horizontalAlignment: Text.AlignLeft
     lineHeightMode: wraps ? Text.FixedHeight : Text.ProportionalHeight
     lineHeight: wraps ? TypeScale.lineHeight(role) : 1
     topPadding: leading

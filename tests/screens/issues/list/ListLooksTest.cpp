@@ -72,3 +72,23 @@ TEST_F(ListLooks, ALineBreakInASummaryIsShownAsABlank)
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(text->property("lineCount").toInt(), 1);
 }
+
+TEST_F(ListLooks, ARightToLeftSummaryBeginsAtTheLeftLikeTheOthers)
+{
+    const QString summary = u"שלום עולם"_s;
+    Issue issue = issueWithKey(u"MOB-1"_s);
+    issue.summary = summary;
+    openWith({issue});
+    EXPECT_TRUE(isAlignedLeft(textItem(summary)));
+
+    store().setInspectorKey(u"MOB-1"_s);
+    const auto *title = waitForItem(
+        [&](const QQuickItem *item) { return isText(item, summary) && item->width() > 300; });
+    EXPECT_TRUE(isAlignedLeft(title));
+
+    store().setInspectorKey(std::nullopt);
+    store().setLayout(LayoutMode::Board);
+    const auto *card = waitForItem(
+        [&](const QQuickItem *item) { return isText(item, summary) && item->width() == 256; });
+    EXPECT_TRUE(isAlignedLeft(card));
+}
