@@ -12,8 +12,21 @@ Item {
     // The header is drawn above rows that scroll below it.
     property bool isPinned: false
 
+    // The group whose state the chevron shows.
+    property string shownGroup
+
     signal toggled()
     signal newIssueRequested()
+
+    // The chevron turns only when its group is folded or unfolded, not when the header starts to show another group.
+    function turnChevron() {
+        turning.enabled = shownGroup === header.groupId;
+        shownGroup = header.groupId;
+        chevron.rotation = header.isCollapsed ? 0 : 90;
+    }
+
+    onHeaderChanged: turnChevron()
+    Component.onCompleted: turnChevron()
 
     Accessible.role: Accessible.Button
     Accessible.name: root.header.accessibleName
@@ -39,14 +52,16 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
 
         Symbol {
+            id: chevron
             anchors.centerIn: parent
             name: "chevron.right"
             size: 9
             weight: "bold"
             color: Theme.text2
-            rotation: root.header.isCollapsed ? 0 : 90
 
             Behavior on rotation {
+                id: turning
+
                 NumberAnimation {
                     duration: Motion.stateDuration
                     easing: Springs.even

@@ -92,3 +92,50 @@ TEST_F(ListLooks, ARightToLeftSummaryBeginsAtTheLeftLikeTheOthers)
         [&](const QQuickItem *item) { return isText(item, summary) && item->width() == 256; });
     EXPECT_TRUE(isAlignedLeft(card));
 }
+
+TEST_F(ListLooks, TheChevronOfThePinnedHeaderDoesNotTurnWhenTheHeaderShowsAnotherGroup)
+{
+    IssueList many{issueWithKey(u"WEB-1"_s, u"En cours"_s)};
+    for (int i = 1; i <= 60; ++i)
+        many += issueWithKey(u"MOB-%1"_s.arg(i));
+    openWith(many);
+    store().toggleGroup(store().groups().first().id);
+    settle();
+    desktop->setPrefersReducedMotion(false);
+    auto *list = waitForItem([](const QQuickItem *item) {
+        return item->inherits("QQuickListView") && item->isVisible() &&
+               item->property("count").toInt() > 60;
+    });
+    auto *pinned = itemIn(window().contentItem(), [](const QQuickItem *item) {
+        return item->property("isPinned").toBool();
+    });
+    ASSERT_TRUE(list && pinned);
+    const auto *chevron = chevronIn(pinned);
+    ASSERT_NE(chevron, nullptr);
+    const double start = list->property("contentY").toDouble();
+    list->setProperty("contentY", start + 10);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chevron->rotation() == 0; }));
+
+    list->setProperty("contentY", start + 50);
+
+    EXPECT_EQ(chevron->rotation(), 90);
+}
+
+TEST_F(ListLooks, TheChevronTurnsWhileItsGroupIsFolded)
+{
+    openWith({issueWithKey(u"MOB-1"_s), issueWithKey(u"MOB-2"_s)});
+    desktop->setPrefersReducedMotion(false);
+    const QString group = store().groups().first().id;
+    auto *header = waitForItem([&](const QQuickItem *item) {
+        return item->property("glideKey").toString() == u"h:"_s + group;
+    });
+    ASSERT_NE(header, nullptr);
+    const auto *chevron = chevronIn(header);
+    ASSERT_EQ(chevron->rotation(), 90);
+
+    store().toggleGroup(group);
+
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return chevron->rotation() < 90 && chevron->rotation() > 0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chevron->rotation() == 0; }));
+}
