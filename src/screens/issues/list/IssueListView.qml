@@ -41,15 +41,16 @@ FocusScope {
         CreateScreen.open(store, header.hasProject ? header.projectOrEmpty.key : "");
     }
 
-    KeyColumn {
-        id: keyColumn
+    RowColumns {
+        id: columns
         store: root.store
     }
 
     RowLook {
         id: look
         display: root.store.display
-        keyWidth: keyColumn.width
+        keyWidth: columns.keyWidth
+        updatedWidth: columns.updatedWidth
     }
 
     ListView {

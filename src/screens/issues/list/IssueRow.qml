@@ -37,8 +37,6 @@ RowLine {
             clicked(modifiers);
     }
 
-    hasActivity: badge.isShown
-
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
     Accessible.focusable: true
@@ -142,19 +140,20 @@ RowLine {
     }
 
     When {
-        shown: root.hasActivity && root.plan.updated >= 0
+        shown: root.badge.isShown && root.plan.updated >= 0
 
         RowActivity {
             x: root.plan.updated
             y: root.cellTop
+            width: root.plan.updatedWidth
             badge: root.badge
         }
     }
 
     // "à l'instant" is wider than the column and also uses part of the gap before it.
     RowText {
-        visible: root.plan.updated >= 0 && !root.hasActivity
-        x: root.plan.updated + 54 - width
+        visible: root.plan.updated >= 0 && !root.badge.isShown
+        x: root.plan.updated + root.plan.updatedWidth - width
         anchors.verticalCenter: parent.verticalCenter
         font: root.style.figuresFont
         leading: root.style.smallLeading

@@ -11,7 +11,6 @@ Item {
 
     required property issueListBadge badge
 
-    implicitWidth: 132
     implicitHeight: Metrics.smallButton
     Accessible.role: Accessible.StaticText
     Accessible.name: root.badge.tooltip

@@ -30,7 +30,8 @@ void RowLine::makePlan()
     if (!m_style)
         return;
     const RowContents contents{m_style->display, double(m_style->keyWidth), issue().labels,
-                               issue().dueDate ? dueText() : QString(), m_hasActivity};
+                               issue().dueDate ? dueText() : QString(),
+                               double(m_style->updatedWidth)};
     m_plan = rowPlan(contents, width());
     showCaptions(rowCaptions({contents, m_plan, *m_style, isOverdue(), height()}), *m_style);
 }

@@ -10,8 +10,6 @@ class RowLine : public IssueFace
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(RowStyle *style READ style WRITE setStyle NOTIFY styleChanged REQUIRED FINAL)
-    /// The row ends with the latest event, as in a recap.
-    Q_PROPERTY(bool hasActivity MEMBER m_hasActivity NOTIFY contentChanged FINAL)
     Q_PROPERTY(RowPlan plan READ plan NOTIFY planned FINAL)
 
 public:
@@ -29,6 +27,5 @@ protected:
 
 private:
     QPointer<RowStyle> m_style;
-    bool m_hasActivity = false;
     RowPlan m_plan;
 };

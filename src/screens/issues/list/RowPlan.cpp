@@ -11,8 +11,6 @@ constexpr double gap = 10;
 constexpr double checkWidth = 14;
 constexpr double cellWidth = 22;
 constexpr double typeWidth = 14;
-constexpr double updatedWidth = 54;
-constexpr double activityWidth = 132;
 constexpr double compactDueWidth = 26;
 constexpr double dotWidth = 7;
 constexpr double dotGap = 3;
@@ -55,7 +53,7 @@ double trailingWidth(const RowContents &contents)
 {
     Places places(0);
     places.take(contents.display.assignee, cellWidth);
-    places.take(contents.display.updated, contents.hasActivity ? activityWidth : updatedWidth);
+    places.take(contents.display.updated, contents.updatedWidth);
     return places.end();
 }
 
@@ -72,7 +70,8 @@ void placeTrailing(RowPlan &plan, double start, const RowContents &contents)
 {
     Places places(start);
     plan.assignee = places.take(contents.display.assignee, cellWidth);
-    plan.updated = places.take(contents.display.updated, updatedWidth);
+    plan.updated = places.take(contents.display.updated, contents.updatedWidth);
+    plan.updatedWidth = contents.updatedWidth;
 }
 
 /// Places labels, due date and summary from right to left, in the forms that fit between the other columns.

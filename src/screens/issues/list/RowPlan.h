@@ -15,8 +15,8 @@ struct RowContents
     QStringList labels;
     /// Empty without a due date.
     QString dueText;
-    /// The row ends with the latest event of a recap in place of the date.
-    bool hasActivity = false;
+    /// The width of the last column, which all rows of a list share.
+    double updatedWidth = 54;
 };
 
 /// The layout of a row: the positions of its columns in logical pixels from its left edge, or `absent` for a column
@@ -33,6 +33,7 @@ class RowPlan
     Q_PROPERTY(double summaryWidth MEMBER summaryWidth CONSTANT FINAL)
     Q_PROPERTY(double assignee MEMBER assignee CONSTANT FINAL)
     Q_PROPERTY(double updated MEMBER updated CONSTANT FINAL)
+    Q_PROPERTY(double updatedWidth MEMBER updatedWidth CONSTANT FINAL)
 
 public:
     static constexpr double absent = -1;
@@ -56,6 +57,7 @@ public:
     double assignee = absent;
     /// The date, or the latest event.
     double updated = absent;
+    double updatedWidth = 0;
 
     bool operator==(const RowPlan &) const = default;
 };

@@ -12,6 +12,8 @@ class RowStyle : public IssueStyle
     Q_PROPERTY(DisplayProperties display MEMBER display NOTIFY changed FINAL)
     /// The width of the key column, in logical pixels.
     Q_PROPERTY(int keyWidth MEMBER keyWidth NOTIFY changed FINAL)
+    /// The width of the last column, with the date or the latest event, in logical pixels.
+    Q_PROPERTY(int updatedWidth MEMBER updatedWidth NOTIFY changed FINAL)
     /// The fonts of the summary and of keys and dates, with the space above and below the text within a line.
     Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
     Q_PROPERTY(double titleLeading READ titleLeading CONSTANT FINAL)
@@ -31,4 +33,5 @@ public:
 
     DisplayProperties display;
     int keyWidth = 0;
+    int updatedWidth = 54;
 };

@@ -61,6 +61,22 @@ protected:
     }
 };
 
+TEST_F(ListLooks, InARecapWithEventsAndDatesTheAssigneesStandInOneColumn)
+{
+    Issue changed = issueWithKey(u"MOB-1"_s);
+    changed.activity = {{changed.updated, {}, ActivityEvent::Created{}}};
+    serveIssues({changed, issueWithKey(u"MOB-2"_s)});
+    openOnDemo();
+    store().select(IssueScope::activity({ActivityRange::Week, 0, false}));
+    const auto box = row(u"MOB-1"_s);
+    row(u"MOB-2"_s);
+
+    const auto cells = spokenIn(window(), QAccessible::Button, u"Assigné : personne"_s);
+    ASSERT_EQ(cells.size(), 2);
+    EXPECT_EQ(cells[0].box.left(), cells[1].box.left());
+    EXPECT_EQ(cells[0].box.right(), box.right() - 12 - 132 - 10);
+}
+
 TEST_F(ListLooks, ALineBreakInASummaryIsShownAsABlank)
 {
     Issue issue = issueWithKey(u"MOB-1"_s);

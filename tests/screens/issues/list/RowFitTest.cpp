@@ -1,6 +1,6 @@
 #include "screens/issues/list/RowFit.h"
 
-#include "screens/issues/list/KeyColumn.h"
+#include "screens/issues/list/RowColumns.h"
 
 #include <gtest/gtest.h>
 

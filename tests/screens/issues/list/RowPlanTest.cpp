@@ -51,12 +51,15 @@ TEST(RowPlan, AColumnThatIsNotShownLeavesNoGap)
     EXPECT_EQ(plan.summaryWidth, width - 12 - 10 - plan.summary);
 }
 
-TEST(RowPlan, TheEventOfARecapIsWiderThanADate)
+TEST(RowPlan, TheLastColumnHasTheWidthThatTheWholeListShares)
 {
     auto row = contents();
-    row.hasActivity = true;
+    row.updatedWidth = 132;
+    const auto plan = rowPlan(row, width);
 
-    EXPECT_EQ(rowPlan(row, width).updated, width - 12 - 132);
+    EXPECT_EQ(plan.updated, width - 12 - 132);
+    EXPECT_EQ(plan.updatedWidth, 132);
+    EXPECT_EQ(plan.assignee, plan.updated - 10 - 22);
 }
 
 TEST(RowPlan, LabelsAndDueDateStandBetweenSummaryAndAssignee)

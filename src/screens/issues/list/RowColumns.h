@@ -1,0 +1,50 @@
+#pragma once
+
+#include "state/AppStore.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QtQml/qqmlregistration.h>
+
+#include <functional>
+
+/// The widths of the columns that all rows of a list share, in logical pixels.
+class RowColumns : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    /// The width of the widest visible key, so that summaries are aligned, limited so that a long project key leaves
+    /// enough width for the row: 36 to 150, and 36 without keys. It is measured with one key of each length and
+    /// project, and not with every row.
+    Q_PROPERTY(int keyWidth READ keyWidth NOTIFY changed FINAL)
+    /// The width of the last column: 132 in a recap in which at least one row ends with an event, otherwise 54.
+    Q_PROPERTY(int updatedWidth READ updatedWidth NOTIFY changed FINAL)
+
+public:
+    using QObject::QObject;
+
+    AppStore *store() const { return m_store; }
+    void setStore(AppStore *store);
+    int keyWidth() const { return m_keyWidth; }
+    int updatedWidth() const { return m_updatedWidth; }
+
+Q_SIGNALS:
+    void storeChanged();
+    void changed();
+
+private:
+    void measure();
+
+    QPointer<AppStore> m_store;
+    int m_keyWidth = 36;
+    int m_updatedWidth = 54;
+};
+
+/// The width of a column that holds all the keys: the widest one plus 4, rounded up, between 36 and 150. `advance`
+/// measures one text. All digits are assumed to have the same width, so keys of the same project and length are
+/// measured once.
+int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance);
+
+/// The width of the last column of a list with these issues: a column of events is wider than one of relative dates.
+int updatedColumnWidth(const IssueScope &scope, const IssueList &issues);
