@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
@@ -13,33 +12,19 @@ FocusScope {
 
     required property OptionSource source
     required property string placeholder
-    readonly property int highest: 340
 
     signal done()
 
-    function begin() {
-        field.forceActiveFocus(Qt.PopupFocusReason)
-        list.findPointer(root)
-    }
-
-    /// Scrolls to the highlighted row. The first and the last row scroll to the very end of the list.
-    function follow() {
-        rows.positionViewAtIndex(list.highlighted, ListView.Contain)
-        if (list.highlighted === 0)
-            rows.positionViewAtBeginning()
-    }
-
     implicitWidth: 290
-    implicitHeight: field.height + (list.isEmpty ? nothing.height : rows.height)
+    implicitHeight: field.height + rows.height
     focus: true
-    Component.onCompleted: begin()
+    Component.onCompleted: field.forceActiveFocus(Qt.PopupFocusReason)
 
     OptionList {
         id: list
 
         source: root.source
         onDone: root.done()
-        onHighlightedChanged: root.follow()
     }
 
     KeyMonitorModifier {
@@ -68,49 +53,12 @@ FocusScope {
         color: Theme.divider
     }
 
-    ListView {
+    OptionRows {
         id: rows
 
         anchors.top: field.bottom
-        x: 6
-        width: parent.width - 12
-        height: Math.min(root.highest, contentHeight + topMargin + bottomMargin)
-        topMargin: 6
-        bottomMargin: 6
-        visible: !list.isEmpty
-        clip: contentHeight + topMargin + bottomMargin > height
-        model: list.rows
-        boundsBehavior: Flickable.StopAtBounds
-        keyNavigationEnabled: false
-        // Rows that the view creates in advance would survive the filter that removes them.
-        cacheBuffer: 0
-        currentIndex: -1
-        Accessible.role: Accessible.List
-        Accessible.name: root.placeholder
-
-        delegate: OptionRow {
-            width: rows.width
-            isHighlighted: index === list.highlighted
-            onPointed: where => list.point(index, where)
-            onPicked: list.activate(index)
-        }
-
-        T.ScrollBar.vertical: OverlayScrollBar {
-            thickness: 5
-        }
-    }
-
-    AppText {
-        id: nothing
-
-        anchors.top: field.bottom
         width: parent.width
-        horizontalAlignment: Text.AlignHCenter
-        visible: list.isEmpty
-        topPadding: 18 + leading
-        bottomPadding: 18 + leading
-        role: TypeScale.Small
-        color: Theme.text2
-        text: "Aucun résultat"
+        list: list
+        name: root.placeholder
     }
 }

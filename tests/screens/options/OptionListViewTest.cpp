@@ -252,3 +252,50 @@ TEST(KeyMonitorModifier, WhileTheFocusIsElsewhereItTakesNothing)
     QTest::keyClick(&bench.window(), Qt::Key_Down);
     EXPECT_EQ(highlighted(), 1);
 }
+
+TEST(OptionRows, TheyFollowATextThatKeepsTheFocus)
+{
+    offer(12);
+    Bench bench;
+    auto *holder = bench.show(uR"(
+        import Velmora.Options
+        import Tests
+        Item {
+            id: root
+            property alias editor: editor
+            property alias list: list
+            property alias suggestions: suggestions
+            width: 600
+            height: 500
+            InputField { id: editor; name: "Commentaire"; focus: true; onTextEdited: list.query = text }
+            OptionList { id: list; source: Listed }
+            Popover {
+                id: suggestions
+                parent: editor
+                name: "Mentions"
+                leavesFocus: true
+                KeyMonitorModifier { handler: list }
+                OptionRows { width: 290; list: list; name: "Mentions" }
+            }
+        })"_s);
+    ASSERT_NE(holder, nullptr) << bench.warnings();
+    const auto part = [&](const char *name) { return holder->property(name).value<QObject *>(); };
+    auto *editor = qobject_cast<QQuickItem *>(part("editor"));
+    editor->forceActiveFocus();
+    QMetaObject::invokeMethod(part("suggestions"), "open");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return part("suggestions")->property("opened").toBool(); }));
+
+    type(bench, u"option 1"_s);
+    EXPECT_EQ(part("list")->property("query"), u"option 1"_s);
+    QTest::keyClick(&bench.window(), Qt::Key_Down);
+    EXPECT_TRUE(editor->hasActiveFocus());
+    QTest::keyClick(&bench.window(), Qt::Key_Return);
+    EXPECT_EQ(source().ran, QStringList{u"Option 10"_s});
+    EXPECT_EQ(editor->property("text"), u"option 1"_s);
+
+    QTest::keyClick(&bench.window(), Qt::Key_Escape);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return !part("suggestions")->property("visible").toBool(); }));
+    EXPECT_TRUE(editor->hasActiveFocus());
+    EXPECT_EQ(bench.warnings(), "");
+}

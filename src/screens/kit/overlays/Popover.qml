@@ -12,6 +12,9 @@ T.Popup {
     required property string name
 
     default property alias content: holder.data
+    /// The focus stays where it is, and the content receives the keys of its monitors only: suggestions below a text that
+    /// the user goes on typing.
+    property bool leavesFocus: false
     /// A `PopoverPlacement.Alignment`.
     property int alignment: PopoverPlacement.Leading
     /// True while the popover is open, opening or closing.
@@ -28,6 +31,7 @@ T.Popup {
     readonly property Layer layer: Layer {
         item: holder.parent
         isOpen: false
+        leavesFocus: root.leavesFocus
         onCloseRequested: root.close()
     }
 
@@ -72,8 +76,9 @@ T.Popup {
     implicitWidth: 290
     implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
     padding: 0
-    focus: true
-    modal: true
+    focus: !leavesFocus
+    modal: !leavesFocus
+    dim: modal
     closePolicy: T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
     onSpotChanged: if (visible) follow()
