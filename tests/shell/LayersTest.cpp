@@ -62,13 +62,6 @@ protected:
         click(cells.first());
         await(QAccessible::EditableText, u"Statut…"_s);
     }
-    void drag(QPoint from, QPoint to)
-    {
-        QTest::mousePress(&window(), Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 8; ++step)
-            QTest::mouseMove(&window(), from + (to - from) * step / 8);
-        QTest::mouseRelease(&window(), Qt::LeftButton, {}, to);
-    }
     void wheel(QPointF place)
     {
         QWheelEvent event(place, window().mapToGlobal(place), {}, {0, -120}, {}, {}, {}, false);
@@ -105,18 +98,6 @@ void pressByReader(QQuickWindow &window, QAccessible::Role role, const QString &
 }
 
 } // namespace
-
-TEST_F(Layers, ADragThatBeginsOnThePaletteMovesNoCard)
-{
-    store().setLayout(LayoutMode::Board);
-    settle();
-    openPalette();
-    const int width = window().width();
-    for (const auto from : {QPoint(width / 2, 700), QPoint(width / 2 - 250, 160)})
-        drag(from, {width - 100, 500});
-
-    EXPECT_EQ(service->performCalls.count(), 0);
-}
 
 TEST_F(Layers, ARightClickBesideThePaletteOpensNoMenu)
 {
@@ -297,8 +278,12 @@ TEST_F(Layers, RandomKeysAndPressesNeverReachALayerBelowTheTopmost)
             settle();
         }
         ASSERT_TRUE(isContentOnTop()) << "seed " << seed;
-        store().setFocusedKey(u"MOB-1"_s);
+        // Escape leaves the search field. What was typed there, and the chosen filters, may have left no issues.
         press(Qt::Key_Escape);
+        store().setFilterText({});
+        store().setFilters({});
+        store().setFocusedKey(u"MOB-1"_s);
+        settle();
         press(Qt::Key_J);
         ASSERT_NE(store().focusedKey(), u"MOB-1"_s)
             << "the window has gone deaf after seed " << seed;
