@@ -95,9 +95,9 @@ std::optional<int> IssueDerivation::rowOf(QStringView key) const
 
 const Memo<IssueRows> &IssueDerivation::order() const
 {
-    return m_order.refreshed({version(Issues), version(Recap), version(OrderingInput)}, [this] {
-        return m_inputs.isRecap() ? recapOrder(m_inputs.issues)
-                                  : issueOrder(m_inputs.issues, m_inputs.ordering);
+    return m_order.refreshed({index().version, version(Recap), version(OrderingInput)}, [this] {
+        return m_inputs.isRecap() ? recapOrder(m_index, m_order.value)
+                                  : issueOrder(m_index, m_inputs.ordering, m_order.value);
     });
 }
 
@@ -144,16 +144,20 @@ const Memo<QList<IssueGroup>> &IssueDerivation::listMemo() const
     return m_groups.refreshed(
         {version(Issues), m_visible.version, version(GroupingInput), version(Recap), version(Me),
          version(Projects), version(Statuses), version(Locale)},
-        [this] { return dividedIssues(m_visible.value, m_index, listRules(context())); });
+        [this] {
+            return dividedIssues(m_visible.value, m_index, listRules(context()), m_groups.value);
+        });
 }
 
 const Memo<QList<IssueGroup>> &IssueDerivation::boardMemo() const
 {
     visible();
-    return m_board.refreshed(
-        {version(Issues), m_visible.version, version(Project), version(Closed), version(Statuses),
-         version(Locale)},
-        [this] { return dividedIssues(m_visible.value, m_index, boardRules(context())); });
+    return m_board.refreshed({version(Issues), m_visible.version, version(Project), version(Closed),
+                              version(Statuses), version(Locale)},
+                             [this] {
+                                 return dividedIssues(m_visible.value, m_index,
+                                                      boardRules(context()), m_board.value);
+                             });
 }
 
 const VisiblePath &IssueDerivation::visiblePath() const

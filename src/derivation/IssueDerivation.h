@@ -41,6 +41,8 @@ public:
 
     /// Filtered and sorted.
     const IssueList &visibleIssues() const { return visibleMemo().value; }
+    /// How many issues are visible; cheaper than the list of them.
+    qsizetype visibleCount() const { return qsizetype(visible().value.size()); }
     /// The sections of the list layout, whether or not they are collapsed.
     const QList<IssueGroup> &groups() const { return listMemo().value; }
     /// The columns of the board layout.

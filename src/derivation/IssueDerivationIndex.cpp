@@ -1,6 +1,11 @@
 #include "derivation/IssueDerivationIndex.h"
 
+#include <algorithm>
+#include <ranges>
+
 namespace {
+
+constexpr qsizetype nowhere = -1;
 
 /// Finds the previous record of an issue: first at the same row, which is the usual case, else by its key.
 class EarlierRecords
@@ -68,23 +73,54 @@ void IssueIndex::update(const IssueList &issues)
     if (issues.isEmpty())
         forgetNames();
     EarlierRecords earlier(m_issues);
-    SearchTexts texts;
-    texts.reserve(issues.size(), m_texts.bytes());
+    TextRows textRows;
+    textRows.reserve(issues.size());
     std::vector<IndexedIssue> rows;
     rows.reserve(issues.size());
     for (const auto &issue : issues) {
         const auto old = earlier.rowOf(issue, qsizetype(rows.size()));
         const bool isKnown = old && m_issues.at(*old).isSameObject(issue);
-        if (isKnown || (old && SearchTexts::sameTexts(*m_issues.at(*old), *issue)))
-            texts.append(m_texts, *old);
-        else
-            texts.append(*issue), ++m_foldedIssues;
+        const bool hasTexts =
+            isKnown || (old && SearchTexts::sameTexts(*m_issues.at(*old), *issue));
+        textRows.push_back(hasTexts ? *old : nowhere);
         rows.push_back(isKnown ? m_rows[*old] : indexed(*issue));
     }
+    if (keepsTexts(textRows))
+        referToKeysOf(issues);
+    else
+        updateTexts(issues, textRows);
     m_issues = issues;
     m_rows = std::move(rows);
+}
+
+/// Whether each issue has the texts, and thus the key, that its row has already.
+bool IssueIndex::keepsTexts(const TextRows &rows) const
+{
+    const auto same = std::views::iota(qsizetype(0), m_issues.size());
+    return std::ranges::equal(rows, same);
+}
+
+/// The records that are replaced soon take the memory of their keys with them.
+void IssueIndex::referToKeysOf(const IssueList &issues)
+{
+    for (qsizetype row = 0; row < issues.size(); ++row) {
+        if (!issues[row].isSameObject(m_issues.at(row)))
+            m_keys.setMemory(int(row), issues[row]->key);
+    }
+}
+
+void IssueIndex::updateTexts(const IssueList &issues, const TextRows &rows)
+{
+    SearchTexts texts;
+    texts.reserve(issues.size(), m_texts.bytes());
+    for (qsizetype row = 0; row < issues.size(); ++row) {
+        if (const auto old = rows[std::size_t(row)]; old != nowhere)
+            texts.append(m_texts, old);
+        else
+            texts.append(*issues[row]), ++m_foldedIssues;
+    }
     m_texts = std::move(texts);
-    m_keys = keyIndexOf(m_issues);
+    m_keys = keyIndexOf(issues);
 }
 
 IndexedIssue IssueIndex::indexed(const Issue &issue)
@@ -94,7 +130,9 @@ IndexedIssue IssueIndex::indexed(const Issue &issue)
             m_projects.of(issue.projectKey),
             quint32(issue.priorityLevel()),
             0,
-            ::isClosed(issue.status.category())};
+            ::isClosed(issue.status.category()),
+            issue.updated.toMSecsSinceEpoch(),
+            issue.created.toMSecsSinceEpoch()};
 }
 
 /// Called for an empty list, which occurs between two sessions and between most scopes, so that old names do not

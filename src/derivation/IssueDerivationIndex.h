@@ -18,8 +18,8 @@ private:
     QHash<QString, quint32> m_numbers;
 };
 
-/// The properties of an issue that grouping and filtering read, as numbers, so that they do not need to read the
-/// record.
+/// The properties of an issue that sorting, grouping and filtering read, as numbers, so that they do not need to read
+/// the record.
 struct IndexedIssue
 {
     quint32 status = 0;
@@ -29,13 +29,17 @@ struct IndexedIssue
     /// The same number for all issues.
     quint32 everything = 0;
     bool isClosed = false;
+    /// Milliseconds since 1970.
+    qint64 updated = 0;
+    qint64 created = 0;
 };
 
 /// Returns the `fresh` list, with each record that equals one in `known` replaced by the record in `known`. A later
 /// comparison of the lists finds identical objects and does not need to compare their fields.
 IssueList reusingRecords(IssueList fresh, const IssueList &known);
 
-/// A list of issues prepared for filtering and grouping. An update prepares only the records that have changed.
+/// A list of issues prepared for sorting, filtering and grouping. An update prepares only the records that have
+/// changed.
 class IssueIndex
 {
 public:
@@ -54,7 +58,13 @@ public:
     qsizetype foldedIssues() const { return m_foldedIssues; }
 
 private:
+    /// For each issue the row that has the same texts in the list before; -1 if none has.
+    using TextRows = std::vector<qsizetype>;
+
     IndexedIssue indexed(const Issue &issue);
+    bool keepsTexts(const TextRows &rows) const;
+    void referToKeysOf(const IssueList &issues);
+    void updateTexts(const IssueList &issues, const TextRows &rows);
     void forgetNames();
 
     IssueList m_issues;

@@ -1,6 +1,7 @@
 #include "derivation/IssueDerivationOrder.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -15,27 +16,35 @@ struct SortKey
     auto operator<=>(const SortKey &) const = default;
 };
 
-template <typename MakeKey>
-IssueRows sortedBy(const IssueList &issues, MakeKey makeKey)
+/// Where a sort of `count` rows starts: `earlier`, if it is an order of that many rows, else the service's order.
+IssueRows startOfSort(std::size_t count, const IssueRows &earlier)
 {
+    if (earlier.size() == count)
+        return earlier;
+    IssueRows rows(count);
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
+
+template <typename KeyOf>
+IssueRows sortedBy(const IssueIndex &index, const IssueRows &earlier, KeyOf keyOf)
+{
+    auto rows = startOfSort(index.rows().size(), earlier);
     std::vector<SortKey> keys;
-    keys.reserve(issues.size());
-    for (const auto &issue : issues) {
-        SortKey key = makeKey(*issue);
-        key.row = quint32(keys.size());
-        keys.push_back(key);
+    keys.reserve(rows.size());
+    for (const auto row : rows) {
+        keys.push_back(keyOf(row));
+        keys.back().row = row;
     }
     std::sort(keys.begin(), keys.end());
-    IssueRows rows(keys.size());
-    std::transform(keys.begin(), keys.end(), rows.begin(),
-                   [](const SortKey &key) { return key.row; });
+    std::ranges::transform(keys, rows.begin(), &SortKey::row);
     return rows;
 }
 
 /// Sorts later instants before earlier ones.
-qint64 latestFirst(const QDateTime &instant)
+qint64 latestFirst(qint64 instant)
 {
-    return -instant.toMSecsSinceEpoch();
+    return -instant;
 }
 
 QDateTime lastActivityDate(const Issue &issue)
@@ -57,25 +66,26 @@ QHash<QString, qint64> projectPlaces(const IssueList &issues)
     return places;
 }
 
-IssueRows keyOrder(const IssueList &issues)
+IssueRows keyOrder(const IssueIndex &index, const IssueRows &earlier)
 {
-    const auto places = projectPlaces(issues);
-    return sortedBy(issues, [&places](const Issue &issue) {
-        return SortKey{places.value(issue.projectKey), issue.number()};
+    const auto places = projectPlaces(index.issues());
+    return sortedBy(index, earlier, [&](quint32 row) {
+        const auto &issue = index.issues()[row];
+        return SortKey{places.value(issue->projectKey), issue->number()};
     });
 }
 
 SortKey recapKey(const Issue &issue)
 {
-    return {latestFirst(lastActivityDate(issue))};
+    return {latestFirst(lastActivityDate(issue).toMSecsSinceEpoch())};
 }
 
 /// The sort key for every ordering except the one by issue key, which depends on the projects of the whole list.
-SortKey keyIn(Ordering ordering, const Issue &issue)
+SortKey keyIn(Ordering ordering, const IndexedIssue &issue)
 {
     switch (ordering) {
     case Ordering::Priority:
-        return {qint64(issue.priorityLevel()), latestFirst(issue.updated)};
+        return {qint64(issue.level), latestFirst(issue.updated)};
     case Ordering::Updated:
         return {latestFirst(issue.updated)};
     case Ordering::Created:
@@ -151,14 +161,15 @@ StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, cons
             names.key(status.name())};
 }
 
-IssueRows recapOrder(const IssueList &issues)
+IssueRows recapOrder(const IssueIndex &index, const IssueRows &earlier)
 {
-    return sortedBy(issues, recapKey);
+    return sortedBy(index, earlier, [&](quint32 row) { return recapKey(*index.issues()[row]); });
 }
 
-IssueRows issueOrder(const IssueList &issues, Ordering ordering)
+IssueRows issueOrder(const IssueIndex &index, Ordering ordering, const IssueRows &earlier)
 {
     if (ordering == Ordering::Key)
-        return keyOrder(issues);
-    return sortedBy(issues, [ordering](const Issue &issue) { return keyIn(ordering, issue); });
+        return keyOrder(index, earlier);
+    return sortedBy(index, earlier,
+                    [&](quint32 row) { return keyIn(ordering, index.rows()[row]); });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Issue.h"
+#include "derivation/IssueDerivationIndex.h"
 #include "model/LocalizedComparator.h"
 
 #include <QHash>
@@ -65,7 +65,8 @@ StatusPlace boardPlace(const IssueStatus &status, const StatusRanks &ranks, cons
 using IssueRows = std::vector<quint32>;
 
 /// The issues in the order of their last activity, latest first. An issue without events is sorted by its last update.
-/// The sort is stable.
-IssueRows recapOrder(const IssueList &issues);
-/// The issues in the given order. The sort is stable.
-IssueRows issueOrder(const IssueList &issues, Ordering ordering);
+/// The sort is stable. It starts from `earlier`, an earlier order of the list: this does not change the result, but
+/// sorting is faster when few issues have another place.
+IssueRows recapOrder(const IssueIndex &index, const IssueRows &earlier = {});
+/// The issues in the given order. The sort is stable, and starts from `earlier` as above.
+IssueRows issueOrder(const IssueIndex &index, Ordering ordering, const IssueRows &earlier = {});

@@ -2,6 +2,8 @@
 
 #include "derivation/IssueDerivationSort.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int nowhere = -1;
@@ -37,6 +39,28 @@ std::vector<int> knownSections(std::size_t numbers, const SectionRules &rules)
     return sections;
 }
 
+/// The list of the section `id`; empty if there is none.
+IssueList issuesOf(const QString &id, const QList<IssueGroup> &groups)
+{
+    const auto found = std::ranges::find(groups, id, &IssueGroup::id);
+    return found == groups.end() ? IssueList() : found->issues;
+}
+
+/// The records in the rows; `earlier`, if that list has the same ones.
+IssueList issuesAt(const IssueRows &rows, const IssueList &issues, const IssueList &earlier)
+{
+    const auto isSame = [&issues](quint32 row, const SharedIssue &known) {
+        return issues[row].isSameObject(known);
+    };
+    if (std::ranges::equal(rows, earlier, isSame))
+        return earlier;
+    IssueList found;
+    found.reserve(qsizetype(rows.size()));
+    for (const auto row : rows)
+        found.append(issues[row]);
+    return found;
+}
+
 QList<IssueGroup> sorted(const QList<SectionHead> &sections)
 {
     QList<IssueGroup> groups;
@@ -50,27 +74,32 @@ QList<IssueGroup> sorted(const QList<SectionHead> &sections)
 } // namespace
 
 QList<IssueGroup> dividedIssues(const IssueRows &visible, const IssueIndex &index,
-                                const SectionRules &rules)
+                                const SectionRules &rules, const QList<IssueGroup> &earlier)
 {
     QList<SectionHead> sections;
     for (const auto &fixed : rules.fixed)
         sections.append(fixed.head);
     const auto counts = countsOf(visible, index, rules.number);
     auto known = knownSections(counts.size(), rules);
+    std::vector<IssueRows> rowsOf(std::size_t(sections.size()));
     for (const auto row : visible) {
         const auto number = index.rows()[row].*rules.number;
-        const auto &issue = index.issues()[row];
         auto &section = known[number];
         if (section == hidden)
             continue;
         if (section == nowhere) {
             section = int(sections.size());
-            sections.append(rules.headOf(*issue));
+            sections.append(rules.headOf(*index.issues()[row]));
+            rowsOf.emplace_back();
         }
-        auto &issues = sections[section].group.issues;
-        if (issues.isEmpty())
-            issues.reserve(counts[number]);
-        issues.append(issue);
+        auto &rows = rowsOf[std::size_t(section)];
+        if (rows.empty())
+            rows.reserve(std::size_t(counts[number]));
+        rows.push_back(row);
+    }
+    for (std::size_t section = 0; section < rowsOf.size(); ++section) {
+        auto &group = sections[qsizetype(section)].group;
+        group.issues = issuesAt(rowsOf[section], index.issues(), issuesOf(group.id, earlier));
     }
     return sorted(sections);
 }

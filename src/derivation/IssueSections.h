@@ -39,6 +39,7 @@ struct SectionRules
 
 /// The issues in the rows `visible` of the index, divided into the sections of a list or the columns of a board; within
 /// each section, they have the order of `visible`. Among sections with equal sort keys, the fixed ones come first, in
-/// their order, then the others in the order of their first issues.
+/// their order, then the others in the order of their first issues. A section that has the same records as the section
+/// with its id in `earlier` shares the list of that, which costs less than a copy of the references.
 QList<IssueGroup> dividedIssues(const IssueRows &visible, const IssueIndex &index,
-                                const SectionRules &rules);
+                                const SectionRules &rules, const QList<IssueGroup> &earlier = {});

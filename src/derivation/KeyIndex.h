@@ -16,6 +16,8 @@ public:
 
     /// The first position of the key; nothing if the list does not have it.
     std::optional<int> find(QStringView key) const;
+    /// Refers to other memory for the key at a position; the key itself must be the same.
+    void setMemory(int position, QStringView sameKey) { m_keys[std::size_t(position)] = sameKey; }
     /// The positions whose key also occurs at an earlier position; ascending.
     const std::vector<int> &repeats() const { return m_repeats; }
 

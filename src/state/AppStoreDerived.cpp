@@ -109,7 +109,7 @@ void AppStore::feedSidebar()
 
 void AppStore::refreshCaptions()
 {
-    const int count = int(visibleIssues().size());
+    const int count = int(derivation().visibleCount());
     m_visibleCount.set(count);
     m_scopeTitle.set(::scopeTitle(m_derivation.inputs(), *m_now, m_context.calendar));
     m_listAge.set(listAgeText());

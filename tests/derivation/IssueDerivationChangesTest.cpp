@@ -134,9 +134,10 @@ public:
         m_columnShadow.compare();
         for (const auto &[cards, shadow] : m_cardShadows)
             shadow->compare();
-        ASSERT_EQ(m_list.rows(), issueListRows(Oracle::groups(inputs), inputs.collapsedGroups));
+        ASSERT_EQ(m_list.rows(),
+                  issueListRows(Oracle::groups(inputs), inputs.collapsedGroups).rows);
         for (int row = 0; row < m_list.rowCount(); ++row)
-            ASSERT_EQ(m_list.rowOf(m_list.rows()[row].key), row);
+            ASSERT_EQ(m_list.rowOf(m_list.rows()[row].key()), row);
         expectHeaders();
         const auto columns = Oracle::boardColumns(inputs);
         ASSERT_EQ(m_board.rowCount(), columns.size());

@@ -1,6 +1,7 @@
 #include "derivation/IssueDerivation.h"
 #include "derivation/IssueDerivationSamples.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -114,6 +115,42 @@ TEST_F(IssueDerivationReuse, AnEditComputesEachStepOnceAndFoldsOnlyItsOwnTexts)
     for (const auto step : {Step::Index, Step::Order, Step::Filter, Step::Groups, Step::Keys})
         EXPECT_EQ(derivation.timesComputed(step), 2) << int(step);
     EXPECT_EQ(derivation.foldedIssues(), 201);
+}
+
+TEST_F(IssueDerivationReuse, AnEditedStatusLeavesTheListsOfOtherGroupsShared)
+{
+    const QList<IssueGroup> before = derivation.groups();
+    ASSERT_GE(before.size(), 3);
+    Issue moved = *before[0].issues.first();
+    moved.status = before[1].issues.first()->status;
+    const auto row = derivation.rowOf(moved.key);
+    ASSERT_TRUE(row);
+    inputs.issues[*row] = moved;
+    apply();
+
+    const auto isShared = [&before](const IssueGroup &group) {
+        return std::ranges::any_of(before, [&group](const IssueGroup &other) {
+            return other.id == group.id && other.issues.constData() == group.issues.constData();
+        });
+    };
+    const auto shared = std::ranges::count_if(derivation.groups(), isShared);
+    EXPECT_EQ(shared, before.size() - 2);
+}
+
+TEST_F(IssueDerivationReuse, AKeyIsFoundWhenItsFormerRecordIsGone)
+{
+    QString key;
+    {
+        Issue moved = *inputs.issues.at(7);
+        // Shares no memory with the former record.
+        moved.key = QString(moved.key.constData(), moved.key.size());
+        moved.status = moved.status == done() ? todo() : done();
+        key = moved.key;
+        inputs.issues[7] = moved;
+    }
+    apply();
+    EXPECT_EQ(derivation.foldedIssues(), 200);
+    EXPECT_EQ(derivation.rowOf(key), 7);
 }
 
 TEST_F(IssueDerivationReuse, AVersionGrowsOnlyWithWhatItIsNamedFor)

@@ -19,19 +19,17 @@ void IssueListModel::setGroups(const QList<IssueGroup> &groups, const QSet<QStri
 
 void IssueListModel::setIssues(const IssueList &issues)
 {
-    QList<IssueListRow> rows;
-    rows.reserve(issues.size());
-    for (const auto &issue : issues)
-        rows.append(issueRow(issue));
-    setRows(std::move(rows));
+    setRows(issueListRows(issues));
 }
 
-void IssueListModel::setRows(QList<IssueListRow> rows)
+void IssueListModel::setRows(IssueListRows list)
 {
-    if (rows == this->rows())
+    if (list.rows == rows())
         return;
     Q_EMIT aboutToUpdate();
-    update(std::move(rows));
+    // The rows before the update refer to what was shown until now.
+    update(std::exchange(list.rows, {}));
+    m_shown = std::move(list);
     // The positions in the accessible names may have changed.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {AccessibleNameRole});
@@ -142,7 +140,7 @@ int IssueListModel::rowOfKey(const QString &key) const
 
 QString IssueListModel::keyAt(int row) const
 {
-    return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key : QString();
+    return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key() : QString();
 }
 
 QVariant IssueListModel::data(const QModelIndex &index, int role) const
@@ -150,7 +148,7 @@ QVariant IssueListModel::data(const QModelIndex &index, int role) const
     Q_ASSERT(checkIndex(index, CheckIndexOption::IndexIsValid));
     const auto &row = rows()[index.row()];
     if (role == KeyRole)
-        return row.key;
+        return row.key();
     if (role == AccessibleNameRole && row.issue())
         return accessibleSentence(*row.issue()) + placeWords(index.row());
     return row.issue() ? issueRoleData(*row.issue(), role) : groupData(*row.header(), role);

@@ -94,7 +94,7 @@ Q_SIGNALS:
     void updated();
 
 private:
-    void setRows(QList<IssueListRow> rows);
+    void setRows(IssueListRows list);
     /// The rows that are currently headers, also during an update; ascending.
     const std::vector<int> &headerRows() const;
     QVariant issueRoleData(const Issue &issue, int role) const;
@@ -105,6 +105,8 @@ private:
     bool isOverdue(const Issue &issue) const;
     void moveMark(QString &mark, const QString &key, Role role);
 
+    /// What the rows refer to; its own list of rows is empty.
+    IssueListRows m_shown;
     UserCalendar m_calendar;
     QDateTime m_now;
     QString m_focusedKey;

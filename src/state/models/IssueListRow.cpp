@@ -19,23 +19,27 @@ QString assigneeWords(const Issue &issue)
     return issue.assignee ? u"assigné à "_s + oneLine(issue.assignee->name) : u"non assigné"_s;
 }
 
-} // namespace
-
-IssueListRow issueRow(const SharedIssue &issue)
-{
-    return {issue->key, issue};
-}
-
-IssueListRow headerRow(const IssueGroup &group, bool isCollapsed)
+/// The header of a group, which says how many issues the group has.
+IssueListHeader headerOf(const IssueGroup &group, bool isCollapsed)
 {
     IssueListHeader header;
     header.groupId = group.id;
+    header.rowKey = "h:"_L1 + group.id;
     header.title = oneLine(group.title);
     header.count = int(group.issues.size());
     header.isCollapsed = isCollapsed;
     header.kind = group.kind;
-    return {"h:"_L1 + group.id, Shared<IssueListHeader>(std::move(header))};
+    return header;
 }
+
+void appendRows(IssueListRows &list, const IssueList &issues)
+{
+    list.issues.append(issues);
+    for (const auto &issue : issues)
+        list.rows.append(IssueListRow(&*issue));
+}
+
+} // namespace
 
 QString IssueListHeader::accessibleName() const
 {
@@ -44,34 +48,38 @@ QString IssueListHeader::accessibleName() const
            (isCollapsed ? u", replié"_s : QString());
 }
 
-const Issue *IssueListRow::issue() const
+bool operator==(const IssueListRow &a, const IssueListRow &b)
 {
-    const auto *issue = std::get_if<SharedIssue>(&content);
-    return issue ? &**issue : nullptr;
+    if (a.m_issue && b.m_issue)
+        return a.m_issue == b.m_issue || *a.m_issue == *b.m_issue;
+    if (a.m_header && b.m_header)
+        return a.m_header == b.m_header || *a.m_header == *b.m_header;
+    return false;
 }
 
-const IssueListHeader *IssueListRow::header() const
+IssueListRows issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed)
 {
-    const auto *header = std::get_if<Shared<IssueListHeader>>(&content);
-    return header ? &**header : nullptr;
-}
-
-QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed)
-{
-    QList<IssueListRow> rows;
+    IssueListRows list;
     qsizetype count = groups.size();
     for (const auto &group : groups)
         count += group.issues.size();
-    rows.reserve(count);
+    list.rows.reserve(count);
     for (const auto &group : groups) {
         const bool isCollapsed = collapsed.contains(group.id);
-        rows.append(headerRow(group, isCollapsed));
-        if (isCollapsed)
-            continue;
-        for (const auto &issue : group.issues)
-            rows.append(issueRow(issue));
+        list.headers.append(headerOf(group, isCollapsed));
+        list.rows.append(IssueListRow(&*list.headers.constLast()));
+        if (!isCollapsed)
+            appendRows(list, group.issues);
     }
-    return rows;
+    return list;
+}
+
+IssueListRows issueListRows(const IssueList &issues)
+{
+    IssueListRows list;
+    list.rows.reserve(issues.size());
+    appendRows(list, issues);
+    return list;
 }
 
 QString accessibleSentence(const Issue &issue)

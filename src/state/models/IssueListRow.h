@@ -5,8 +5,6 @@
 #include <QSet>
 #include <QtQml/qqmlregistration.h>
 
-#include <variant>
-
 /// The enumerations of the list's rows, for QML.
 namespace IssueListEnums {
 Q_NAMESPACE
@@ -42,6 +40,8 @@ class IssueListHeader
 public:
     /// The group's id, as in the set of collapsed groups.
     QString groupId;
+    /// "h:" and the group's id.
+    QString rowKey;
     QString title;
     /// The issues of the group, shown or not.
     int count = 0;
@@ -61,28 +61,41 @@ public:
     bool operator==(const IssueListHeader &) const = default;
 };
 
-/// A row of the flat list: a group's header or an issue.
-struct IssueListRow
+/// A row of the flat list: a group's header or an issue. It refers to the record or the header and does not own it, so
+/// that a long list is built and compared without reading its records.
+class IssueListRow
 {
+public:
+    explicit IssueListRow(const Issue *issue) : m_issue(issue) {}
+    explicit IssueListRow(const IssueListHeader *header) : m_header(header) {}
+
     /// The issue's key, or "h:" and the group's id.
-    QString key;
-    std::variant<SharedIssue, Shared<IssueListHeader>> content;
-
+    const QString &key() const { return m_issue ? m_issue->key : m_header->rowKey; }
     /// The issue; null for a header.
-    const Issue *issue() const;
+    const Issue *issue() const { return m_issue; }
     /// The header; null for an issue.
-    const IssueListHeader *header() const;
+    const IssueListHeader *header() const { return m_header; }
 
-    bool operator==(const IssueListRow &) const = default;
+    /// Compares the contents, except when both refer to the same object.
+    friend bool operator==(const IssueListRow &a, const IssueListRow &b);
+
+private:
+    const Issue *m_issue = nullptr;
+    const IssueListHeader *m_header = nullptr;
 };
-Q_DECLARE_TYPEINFO(IssueListRow, Q_RELOCATABLE_TYPE);
 
-/// The row of an issue.
-IssueListRow issueRow(const SharedIssue &issue);
-/// The row of a group's header, which says how many issues the group has.
-IssueListRow headerRow(const IssueGroup &group, bool isCollapsed);
+/// The rows of a list with the records and headers that they refer to.
+struct IssueListRows
+{
+    QList<IssueListRow> rows;
+    QList<IssueList> issues;
+    QList<Shared<IssueListHeader>> headers;
+};
+
 /// Each group's header and, unless it is collapsed, its issues.
-QList<IssueListRow> issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
+IssueListRows issueListRows(const QList<IssueGroup> &groups, const QSet<QString> &collapsed);
+/// Only issues, without any header.
+IssueListRows issueListRows(const IssueList &issues);
 
 /// The text of a row for screen readers: "WEB-203, La recherche globale ignore les accents, À faire, priorité Haute,
 /// assigné à Noam Talvère".

@@ -12,9 +12,21 @@
 
 /// A row of a `KeyedListModel`: a value with a key that is unique in its list.
 template <typename T>
-concept KeyedRow = std::equality_comparable<T> && requires(const T &row) {
+concept KeyedRow = std::equality_comparable<T> && (requires(const T &row) {
     { row.key } -> std::convertible_to<QString>;
-};
+} || requires(const T &row) {
+    { row.key() } -> std::convertible_to<QString>;
+});
+
+/// The key of a row. It refers to the memory of the row, or of what the row refers to.
+template <KeyedRow Row>
+QStringView keyOfRow(const Row &row)
+{
+    if constexpr (requires { row.key(); })
+        return row.key();
+    else
+        return row.key;
+}
 
 /// A list model that takes complete lists and finds by key which rows were removed, moved, inserted and changed. It
 /// never resets, so that a view keeps its delegates and its position, and moves can be animated. Signals are emitted in
@@ -46,7 +58,7 @@ public:
             move({step.first + middle.first, step.count, step.to + middle.first});
         for (const auto &range : diff.insertions)
             insert({range.first + middle.first, range.count}, rows);
-        change(rows);
+        change(std::move(rows));
     }
 
     const QList<Row> &rows() const { return m_rows; }
@@ -88,13 +100,19 @@ private:
     {
         const auto shorter = std::min(m_rows.size(), rows.size());
         qsizetype head = 0;
-        while (head < shorter && m_rows[head].key == rows[head].key)
+        while (head < shorter && hasSameKey(m_rows.at(head), rows.at(head)))
             ++head;
         qsizetype tail = 0;
         while (tail < shorter - head &&
-               m_rows[m_rows.size() - 1 - tail].key == rows[rows.size() - 1 - tail].key)
+               hasSameKey(m_rows.at(m_rows.size() - 1 - tail), rows.at(rows.size() - 1 - tail)))
             ++tail;
         return {int(head), int(rows.size() - head - tail)};
+    }
+
+    /// Rows are compared first, because rows that refer to the same object are equal at once.
+    static bool hasSameKey(const Row &a, const Row &b)
+    {
+        return a == b || keyOfRow(a) == keyOfRow(b);
     }
 
     static int trimmedCount(const QList<Row> &rows, const RowRange &middle)
@@ -107,7 +125,7 @@ private:
         std::vector<QStringView> keys;
         keys.reserve(count);
         for (int row = first; row < first + count; ++row)
-            keys.push_back(rows[row].key);
+            keys.push_back(keyOfRow(rows[row]));
         return keys;
     }
 
@@ -141,7 +159,7 @@ private:
             m_rows.append(source.sliced(range.first, range.count));
         } else {
             const auto tail = m_rows.sliced(range.first);
-            m_rows.resize(range.first);
+            m_rows.remove(range.first, tail.size());
             m_rows.append(source.sliced(range.first, range.count));
             m_rows.append(tail);
         }
@@ -155,18 +173,16 @@ private:
         m_index.reset();
     }
 
-    /// Replaces the values that differ. All rows must already be at their new positions.
-    void change(const QList<Row> &rows)
+    /// Stores the new values. All rows must already be at their new positions.
+    void change(QList<Row> rows)
     {
         std::vector<int> changed;
         for (int row = 0; row < int(rows.size()); ++row) {
-            if (m_rows[row] == rows[row])
-                continue;
-            changed.push_back(row);
+            if (!(m_rows.at(row) == rows.at(row)))
+                changed.push_back(row);
         }
-        if (changed.empty())
-            return;
-        m_rows = rows;
+        // Stored even if nothing has changed, because equal rows may refer to other objects.
+        m_rows = std::move(rows);
         m_index.reset();
         notifyChanged(changed);
     }

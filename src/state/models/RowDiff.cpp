@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -17,20 +18,69 @@ struct KeptRun
     int count = 0;
 };
 
+/// Keys of the same object have the same memory, and need not be read.
+bool isSameKey(QStringView a, QStringView b)
+{
+    return a.size() == b.size() && (a.data() == b.data() || a == b);
+}
+
+/// Rows that have no counterpart yet.
+struct Unmatched
+{
+    std::vector<int> before;
+    std::vector<int> after;
+};
+
+/// Walks through both lists at once and enters the earlier row of each row in `rows`, as long as the lists differ by
+/// single rows that are in only one of them at that place. Most lists consist of long equal parts, for which this is
+/// much faster than a look-up of each key. Returns the other rows.
+Unmatched matchNeighbours(const std::vector<QStringView> &before,
+                          const std::vector<QStringView> &after, std::vector<int> &rows)
+{
+    const auto countBefore = int(before.size());
+    const auto countAfter = int(after.size());
+    Unmatched left;
+    int from = 0;
+    int to = 0;
+    const auto isPair = [&](int a, int b) {
+        return a < countBefore && b < countAfter && isSameKey(before[a], after[b]);
+    };
+    while (from < countBefore && to < countAfter) {
+        if (isPair(from, to)) {
+            rows[to++] = from++;
+            continue;
+        }
+        const bool isExtra = isPair(from, to + 1);
+        const bool isReplaced = !isExtra && isPair(from + 1, to + 1);
+        if (!isExtra && !isReplaced && !isPair(from + 1, to))
+            break;
+        if (!isExtra)
+            left.before.push_back(from++);
+        if (isExtra || isReplaced)
+            left.after.push_back(to++);
+    }
+    for (; from < countBefore; ++from)
+        left.before.push_back(from);
+    for (; to < countAfter; ++to)
+        left.after.push_back(to);
+    return left;
+}
+
 /// For each row of `after` its row in `before`, or `absent`; each row of `before` is used at most once.
 std::vector<int> earlierRows(const std::vector<QStringView> &before,
                              const std::vector<QStringView> &after)
 {
-    const KeyIndex index(before);
-    std::vector<bool> isGiven(before.size(), false);
-    std::vector<int> rows;
-    rows.reserve(after.size());
-    for (const auto key : after) {
-        const int row = index.find(key).value_or(absent);
-        const bool isFree = row != absent && !isGiven[row];
-        rows.push_back(isFree ? row : absent);
-        if (isFree)
-            isGiven[row] = true;
+    std::vector<int> rows(after.size(), absent);
+    auto left = matchNeighbours(before, after, rows);
+    std::vector<QStringView> keys;
+    keys.reserve(left.before.size());
+    for (const int row : left.before)
+        keys.push_back(before[row]);
+    const KeyIndex index(std::move(keys));
+    for (const int to : left.after) {
+        const auto found = index.find(after[to]);
+        if (found)
+            rows[to] = std::exchange(left.before[*found], absent);
     }
     return rows;
 }
@@ -46,7 +96,10 @@ std::vector<int> longestIncreasing(const std::vector<int> &values)
         const auto isSmaller = [&values](int position, int value) {
             return values[position] < value;
         };
-        const auto place = std::lower_bound(ends.begin(), ends.end(), values[at], isSmaller);
+        // Most values are greater than all before them.
+        const bool isLast = ends.empty() || values[ends.back()] < values[at];
+        const auto place =
+            isLast ? ends.end() : std::lower_bound(ends.begin(), ends.end(), values[at], isSmaller);
         previous[at] = place == ends.begin() ? absent : *std::prev(place);
         if (place == ends.end())
             ends.push_back(at);

@@ -40,6 +40,6 @@ struct RowDiff
 /// steps, only the longest runs of kept rows are kept; shorter ones are removed and inserted again.
 constexpr int maxRowDiffSteps = 64;
 
-/// The difference of two lists; O(n log n). As few rows move as possible. A row that repeats an earlier key is removed
-/// and inserted again by every diff.
+/// The difference of two lists; O(n log n). As few rows move as possible. A row that repeats an earlier key may be
+/// removed and inserted again by every diff.
 RowDiff rowDiff(const std::vector<QStringView> &before, const std::vector<QStringView> &after);

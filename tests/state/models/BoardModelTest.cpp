@@ -45,7 +45,7 @@ protected:
     {
         QStringList keys;
         for (const auto &row : cards(column)->rows())
-            keys += row.key;
+            keys += row.key();
         return keys;
     }
 

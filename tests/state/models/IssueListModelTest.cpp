@@ -45,7 +45,7 @@ protected:
     {
         QStringList keys;
         for (const auto &row : model.rows())
-            keys.append(row.key);
+            keys.append(row.key());
         return keys;
     }
 
@@ -253,6 +253,17 @@ TEST_F(IssueListModelTest, EqualRowsSayNothing)
     EXPECT_EQ(model.revision(), revision);
 }
 
+TEST_F(IssueListModelTest, RowsOutliveTheGroupsTheyWereMadeFrom)
+{
+    model.setGroups(twoGroups(), {});
+    const QStringList keys = rowKeys();
+    // Equal groups with other records and headers.
+    model.setGroups(twoGroups(), {});
+    EXPECT_EQ(rowKeys(), keys);
+    for (int row = 0; row < model.rowCount(); ++row)
+        EXPECT_FALSE(at(row, IssueListModel::AccessibleNameRole).toString().isEmpty());
+}
+
 TEST_F(IssueListModelTest, RandomListsReplayExactlyAndNeverReset)
 {
     ShadowList shadow(model, IssueListModel::KeyRole);
@@ -262,7 +273,7 @@ TEST_F(IssueListModelTest, RandomListsReplayExactlyAndNeverReset)
         model.setGroups(derivation.groups(), derivation.inputs().collapsedGroups);
         shadow.compare();
         ASSERT_EQ(model.rows(),
-                  issueListRows(derivation.groups(), derivation.inputs().collapsedGroups));
+                  issueListRows(derivation.groups(), derivation.inputs().collapsedGroups).rows);
         for (int row = 0; row < model.rowCount(); ++row)
             ASSERT_EQ(model.headerRowOf(row) == row, model.rows()[row].header() != nullptr);
     }

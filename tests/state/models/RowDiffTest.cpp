@@ -57,3 +57,15 @@ TEST(RowDiff, AnUnrelatedListReplacesAllRowsInTwoSteps)
 {
     EXPECT_EQ(diff(u"abc"_s, u"xyzw"_s), (RowDiff{.removals = {{0, 3}}, .insertions = {{0, 4}}}));
 }
+
+TEST(RowDiff, ARowInTheMidstOfOthersIsReplaced)
+{
+    EXPECT_EQ(diff(u"abcdef"_s, u"abxdef"_s),
+              (RowDiff{.removals = {{2, 1}}, .insertions = {{2, 1}}}));
+}
+
+TEST(RowDiff, RowsThatGoComeAndChangePlaceAreFoundTogether)
+{
+    EXPECT_EQ(diff(u"abcdefgh"_s, u"acxdefbh"_s),
+              (RowDiff{.removals = {{6, 1}}, .moves = {{1, 1, 5}}, .insertions = {{2, 1}}}));
+}
