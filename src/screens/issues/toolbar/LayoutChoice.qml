@@ -17,4 +17,5 @@ ToolbarCell {
     // The template overwrites these with its own state whenever a screen reader starts.
     Accessible.onCheckableChanged: tell()
     Accessible.onCheckedChanged: tell()
+    Accessible.onToggleAction: activate()
 }

@@ -3,7 +3,7 @@ import Velmora.Kit
 import Velmora.Theme
 
 /// A check box with a label after it. Pressing either toggles it. A long text wraps if the width is set.
-FocusableItem {
+CheckableItem {
     id: root
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
@@ -12,7 +12,6 @@ FocusableItem {
     rightPadding: 6
     topPadding: 2
     bottomPadding: 2
-    checkable: true
     corner: Metrics.radiusSquare
 
     contentItem: CheckBoxLabel {

@@ -6,7 +6,7 @@ import Velmora.Theme
 /// The base of all controls that can be pressed: the pointer, Space, Return, Enter and the press action of a screen
 /// reader all emit `clicked`. The focus is visible only after a key press. Set `text`, or `accessibleName` if no text
 /// is visible, and provide `background` and `contentItem`. `corner` is the radius of the shape. `hint` is shown under
-/// the pointer.
+/// the pointer. Controls that are on or off are a `CheckableItem`.
 T.AbstractButton {
     id: root
 
@@ -35,12 +35,11 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     Keys.onReturnPressed: activate()
     Keys.onEnterPressed: activate()
-    Accessible.role: checkable ? Accessible.CheckBox : Accessible.Button
+    Accessible.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.checkable: checkable
     Accessible.checked: checked
     Accessible.onPressAction: activate()
-    Accessible.onToggleAction: activate()
 
     FocusRing {
         shown: root.ringed

@@ -3,14 +3,13 @@ import Velmora.Kit
 import Velmora.Theme
 
 /// A switch, 34 × 20, in the accent colour while it is on. `name` describes what it switches.
-FocusableItem {
+CheckableItem {
     id: root
 
     required property string name
 
     implicitWidth: 34
     implicitHeight: 20
-    checkable: true
     corner: height / 2
     accessibleName: name
     opacity: enabled ? 1 : 0.45
