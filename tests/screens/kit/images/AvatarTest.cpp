@@ -4,7 +4,6 @@
 #include "screens/kit/images/PictureProvider.h"
 #include "screens/kit/images/SamplePictures.h"
 #include "screens/kit/images/ScriptedFetcher.h"
-#include "screens/kit/overlays/MenuIconCache.h"
 #include "screens/theme/IdentityColors.h"
 
 #include <QTest>
@@ -150,59 +149,4 @@ TEST(RoundPicture, FillsTheDiscFromTheMiddleOfThePicture)
     EXPECT_EQ(disc.pixelColor(15, 15), QColor(Qt::blue));
     EXPECT_EQ(disc.pixelColor(2, 15), QColor(Qt::blue));
     EXPECT_EQ(disc.pixelColor(0, 0).alpha(), 0);
-}
-
-TEST(MenuImages, AreAtScaleTwoWithOneRoundThemAndDrawnOnce)
-{
-    const IssueStatus done(u"1"_s, u"Terminé"_s, u"done"_s);
-    const auto image = statusMenuImage(done, AccentChoice::Indigo);
-    EXPECT_EQ(image.size(), QSize(32, 32));
-    EXPECT_EQ(image.devicePixelRatio(), 2);
-    EXPECT_EQ(image.pixelColor(0, 16).alpha(), 0);
-    EXPECT_EQ(image.cacheKey(), statusMenuImage(done, AccentChoice::Indigo).cacheKey());
-    EXPECT_EQ(avatarMenuImage(std::nullopt).size(), QSize(36, 36));
-}
-
-TEST(MenuImages, AfterAChangeOfAccentFinishedStatusesTakeTheNewColour)
-{
-    const IssueStatus done(u"1"_s, u"Terminé"_s, u"done"_s);
-    const auto indigo = statusMenuImage(done, AccentChoice::Indigo);
-    const auto orange = statusMenuImage(done, AccentChoice::Orange);
-    EXPECT_EQ(indigo.pixelColor(16, 5), IdentityColors::accent(AccentChoice::Indigo));
-    EXPECT_EQ(orange.pixelColor(16, 5), IdentityColors::accent(AccentChoice::Orange));
-    EXPECT_EQ(statusMenuImage(done, AccentChoice::Indigo).cacheKey(), indigo.cacheKey())
-        << "the old one stays";
-}
-
-TEST(MenuImages, NoneIsThreeDashesInNeutral)
-{
-    const auto image = priorityMenuImage(PriorityLevel::None);
-    EXPECT_EQ(image.size(), QSize(32, 32));
-    EXPECT_EQ(image.pixelColor(16, 16), IdentityColors::neutral());
-    EXPECT_EQ(image.pixelColor(16, 8).alpha(), 0);
-    EXPECT_EQ(priorityMenuImage(PriorityLevel::High).pixelColor(7, 26).alpha() > 0, true);
-}
-
-TEST(MenuImages, KeysTellWhatTheDrawingDependsOn)
-{
-    const IssueStatus review(u"1"_s, u"En revue"_s, u"indeterminate"_s);
-    EXPECT_EQ(statusMenuKey(review, AccentChoice::Graphite),
-              u"status-inProgress-%1-graphite"_s.arg(review.progress()));
-    EXPECT_EQ(priorityMenuKey(PriorityLevel::None), u"priority-4"_s);
-    EXPECT_EQ(avatarMenuKey(std::nullopt), u"avatar-none"_s);
-    EXPECT_EQ(avatarMenuKey(person(u"Noam"_s, std::nullopt)), u"avatar-noam"_s);
-}
-
-TEST(MenuImages, ARenderThatGivesNothingIsStoredToo)
-{
-    MenuIconCache cache;
-    int drawn = 0;
-    const auto draw = [&] {
-        ++drawn;
-        return QImage();
-    };
-    EXPECT_TRUE(cache.image(u"a"_s, draw).isNull());
-    EXPECT_TRUE(cache.image(u"a"_s, draw).isNull());
-    EXPECT_EQ(drawn, 1);
-    EXPECT_EQ(cache.count(), 1);
 }
