@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Options
 import Velmora.Theme
@@ -59,10 +58,12 @@ Item {
             onPointed: where => root.list.point(index, where)
             onPicked: root.list.activate(index)
         }
+    }
 
-        T.ScrollBar.vertical: OverlayScrollBar {
-            thickness: 5
-        }
+    Scrolling {
+        view: rows
+        ground: Theme.elevatedGlass
+        thickness: 5
     }
 
     AppText {

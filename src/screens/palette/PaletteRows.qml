@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Palette
 import Velmora.Theme
@@ -45,10 +44,6 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: root.commandPalette.isPicker ? root.commandPalette.title : "Résultats"
 
-        T.ScrollBar.vertical: OverlayScrollBar {
-            thickness: 5
-        }
-
         Repeater {
             model: places
 
@@ -59,6 +54,13 @@ Item {
                 onPicked: root.commandPalette.activate(row)
             }
         }
+    }
+
+    Scrolling {
+        view: list
+        ground: Theme.paletteFill
+        thickness: 5
+        fadesAtBottom: false
     }
 
     // Indicates that there are more rows below.

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Model
 import Velmora.Shell
@@ -115,8 +114,11 @@ FocusScope {
                 }
             }
         }
+    }
 
-        T.ScrollBar.vertical: OverlayScrollBar {}
+    Scrolling {
+        view: list
+        ground: Theme.pane
     }
 
     Item {

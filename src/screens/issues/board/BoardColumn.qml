@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
@@ -149,10 +148,14 @@ Item {
             onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, card, cell)
             onDragBegun: handler => root.dragBegun(issue.key, handler)
         }
+    }
 
-        T.ScrollBar.vertical: OverlayScrollBar {
-            thickness: 5
-        }
+    Scrolling {
+        view: list
+        ground: Qt.tint(Theme.content, Theme.boardColumn)
+        thickness: 5
+        passesOn: true
+        onScrolled: scroller.stop()
     }
 
     HoverHint {

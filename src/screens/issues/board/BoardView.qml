@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
@@ -60,8 +59,6 @@ FocusScope {
         Accessible.role: Accessible.Grouping
         Accessible.name: root.store.scopeTitle + ", " + root.store.subtitle
 
-        T.ScrollBar.horizontal: OverlayScrollBar {}
-
         Row {
             id: columns
             x: root.sidePadding
@@ -93,6 +90,13 @@ FocusScope {
                 }
             }
         }
+    }
+
+    Scrolling {
+        view: board
+        ground: Theme.content
+        isHorizontal: true
+        onScrolled: columnScroller.stop()
     }
 
     // One drop area serves all columns, because the board scrolls below a resting drag and the columns receive no event

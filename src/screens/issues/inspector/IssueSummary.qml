@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 import Velmora.State
@@ -93,14 +92,14 @@ FocusScope {
     }
 
     Flickable {
+        id: content
+
         anchors.top: crumb.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         contentHeight: page.implicitHeight + 2 * Metrics.gap
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-
-        T.ScrollBar.vertical: OverlayScrollBar {}
 
         Column {
             id: page
@@ -124,6 +123,11 @@ FocusScope {
                 issue: open
             }
         }
+    }
+
+    Scrolling {
+        view: content
+        ground: root.inWindow ? Theme.content : Theme.inspector
     }
 
     When {

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Qt.labs.qmlmodels
-import QtQuick.Templates as T
 import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
@@ -121,8 +120,14 @@ FocusScope {
                 }
             }
         }
+    }
 
-        T.ScrollBar.vertical: OverlayScrollBar {}
+    // At the upper edge, the rows disappear under the pinned header.
+    Scrolling {
+        view: list
+        ground: Theme.content
+        fadesAtTop: false
+        onScrolled: scroller.stop()
     }
 
     Glide {

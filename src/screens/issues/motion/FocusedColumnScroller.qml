@@ -49,6 +49,11 @@ Item {
         return left < flickable.contentX + roomBefore && left + columnWidth > flickable.contentX;
     }
 
+    // The user scrolls elsewhere.
+    function stop() {
+        animation.stop();
+    }
+
     // Scrolls without animation, for callers that need the final position now.
     function revealAtOnce() {
         reveal();

@@ -55,6 +55,11 @@ Item {
             reveal();
     }
 
+    // The user scrolls elsewhere.
+    function stop() {
+        animation.stop();
+    }
+
     // Scrolls without animation, for callers that need the final position now.
     function revealAtOnce() {
         reveal();

@@ -3,13 +3,31 @@ import QtQuick.Templates as T
 import Velmora.Theme
 
 /// A scroll bar above the content: visible while scrolling or under the pointer, wider under the pointer, and hidden
-/// shortly afterwards. Attach it with `ScrollBar.vertical: OverlayScrollBar {}` (import QtQuick.Templates or Controls
-/// for the attached property).
+/// shortly afterwards. `Scrolling` places it; it can also be attached with `ScrollBar.vertical: OverlayScrollBar {}`
+/// (import QtQuick.Templates or Controls for the attached property). Screen readers are told the position in percent.
 T.ScrollBar {
     id: root
 
     property int thickness: Metrics.scrollThumbWidth
-    readonly property bool wanted: size < 1 && (active || hovered || pressed)
+    /// The content is moving.
+    property bool scrolls: false
+    property bool isFlashing: false
+    readonly property bool wanted: size < 1 && (active || hovered || pressed || scrolls || isFlashing)
+    // The names under which screen readers look for the value and its range.
+    readonly property real value: size < 1 ? 100 * Math.max(0, Math.min(1, position / (1 - size))) : 0
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 100
+
+    /// The pointer has dragged the bar to a position.
+    signal dragged(share: real)
+
+    /// Shows the bar for a moment.
+    function flash() {
+        isFlashing = true;
+        isFlashing = false;
+    }
+
+    onPositionChanged: if (pressed) dragged(position)
 
     implicitWidth: vertical ? 15 : 40
     implicitHeight: vertical ? 40 : 15
