@@ -3,8 +3,8 @@ import Velmora.State
 import Velmora.Theme
 
 // Scrolls the column of the focused card into view, with a margin beside it. This happens each time the focus moves to
-// another issue, when the board becomes visible, and when the board becomes narrower, for example because the inspector
-// opens.
+// another issue, when the board becomes visible, when the board becomes narrower, for example because the inspector
+// opens, and when a change of the issues moves a visible focused card to another column.
 Item {
     id: root
 
@@ -18,6 +18,8 @@ Item {
 
     readonly property real room: flickable.width
     property real roomBefore: 0
+    // Before the change of the issues that is being made, the column was visible or on its way into view.
+    property bool follows: false
 
     function reveal() {
         const column = root.visible ? board.columnOfKey(focusedKey) : -1;
@@ -62,8 +64,22 @@ Item {
 
     onFocusedKeyChanged: reveal()
     onRoomChanged: keepInSight()
-
     onVisibleChanged: if (visible) coming.restart()
+
+    Connections {
+        target: root.board
+
+        function onAboutToUpdate() {
+            const column = root.board.columnOfKey(root.focusedKey);
+            root.follows = animation.running || column < 0
+                || root.wasInSight(root.firstLeft + column * (root.columnWidth + root.columnGap));
+        }
+
+        function onUpdated() {
+            if (root.follows && root.visible)
+                coming.restart();
+        }
+    }
 
     // Waits until the board has laid out its columns.
     Timer {

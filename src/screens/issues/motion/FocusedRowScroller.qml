@@ -3,7 +3,8 @@ import Velmora.State
 import Velmora.Theme
 
 // Scrolls the focused row into view, clear of the header pinned above, each time the focus moves to another issue and
-// when the list becomes visible.
+// when the list becomes visible. A change of the issues that moves a visible focused row out of view, or brings it in,
+// is followed in the same way.
 Item {
     id: root
 
@@ -13,6 +14,8 @@ Item {
     required property int headerHeight
     // The height that a bar at the list's lower edge covers.
     property int clearance: 0
+    // Before the change of the issues that is being made, the focused row was visible, on its way into view, or absent.
+    property bool follows: false
 
     function reveal() {
         const row = root.visible ? rows.rowOfKey(focusedKey) : -1;
@@ -50,9 +53,18 @@ Item {
 
     // A visible row stays visible when a bar covers part of the list. A row that was scrolled out of view stays there.
     function keepInSight() {
-        const item = list.itemAtIndex(rows.rowOfKey(focusedKey));
-        if (item && item.y < list.contentY + list.height && item.y + item.height > list.contentY)
+        if (isInSight())
             reveal();
+    }
+
+    function isInSight(): bool {
+        const item = list.itemAtIndex(rows.rowOfKey(focusedKey));
+        return item && item.y < list.contentY + list.height && item.y + item.height > list.contentY;
+    }
+
+    function revealAfterLayout() {
+        list.forceLayout();
+        reveal();
     }
 
     // The user scrolls elsewhere.
@@ -68,8 +80,27 @@ Item {
 
     onFocusedKeyChanged: reveal()
     onClearanceChanged: keepInSight()
-
     onVisibleChanged: if (visible) coming.restart()
+
+    Connections {
+        target: root.rows
+
+        function onAboutToUpdate() {
+            root.follows = animation.running || root.rows.rowOfKey(root.focusedKey) < 0 || root.isInSight();
+        }
+
+        function onUpdated() {
+            if (root.follows && root.visible)
+                moved.restart();
+        }
+    }
+
+    // Waits until the change is complete.
+    Timer {
+        id: moved
+        interval: 0
+        onTriggered: root.revealAfterLayout()
+    }
 
     // Waits until the list has laid out its rows.
     Timer {

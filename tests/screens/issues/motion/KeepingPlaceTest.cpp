@@ -58,6 +58,17 @@ private:
     }
 };
 
+TEST_F(KeepingPlace, TheListFollowsTheFocusedRowToItsNewGroup)
+{
+    openWith(u"list"_s);
+    press(Qt::Key_J);
+    press(Qt::Key_J);
+    EXPECT_TRUE(isInView(u"MOB-2"_s));
+    store().setStatus(IssueStatus::guessed(u"À faire"_s), {u"MOB-2"_s});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return y(listView()) > 1000 && isInView(u"MOB-2"_s); }));
+}
+
 TEST_F(KeepingPlace, TheListStaysIfTheUserHasScrolledAwayFromTheFocusedRow)
 {
     openWith(u"list"_s);
@@ -71,6 +82,19 @@ TEST_F(KeepingPlace, TheListStaysIfTheUserHasScrolledAwayFromTheFocusedRow)
     settle();
 
     EXPECT_NEAR(y(listView()), here, 40);
+}
+
+TEST_F(KeepingPlace, TheBoardFollowsTheFocusedCardToItsNewColumn)
+{
+    openWith(u"board"_s);
+    store().setFocusedKey(u"MOB-119"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isInView(u"MOB-119"_s); }));
+    store().setStatus(IssueStatus::guessed(u"En cours"_s), {u"MOB-119"_s});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return store().board()->columnOfKey(u"MOB-119"_s) == 1; }));
+    settle();
+    settle();
+    EXPECT_TRUE(isInView(u"MOB-119"_s));
 }
 
 TEST_F(KeepingPlace, AWheelWhileAltIsHeldDoesNotOpenTheMenuBar)
