@@ -1,0 +1,6 @@
+#include "platform/Compositor.h"
+
+bool composesWindows(QScreen *)
+{
+    return true;
+}
