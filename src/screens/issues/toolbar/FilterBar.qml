@@ -42,6 +42,9 @@ Item {
             height: Metrics.filterChipHeight
             leftPadding: Metrics.gapTiny
             rightPadding: Metrics.gapTiny
+            // The fill extends further than the text's distance from the last chip.
+            leftInset: -Metrics.gapTiny
+            rightInset: -Metrics.gapTiny
             corner: height / 2
             text: "Tout effacer"
             onClicked: root.filters.clear()
@@ -53,6 +56,12 @@ Item {
                 verticalAlignment: Text.AlignVCenter
                 text: clear.text
                 Accessible.ignored: true
+            }
+
+            background: ButtonSurface {
+                corner: clear.corner
+                hovered: clear.lit
+                pressed: clear.down
             }
         }
     }

@@ -35,6 +35,6 @@ FocusableItem {
     background: HoverFill {
         radius: root.corner
         shown: root.lit
-        fill: Theme.ink(0.07)
+        fill: Theme.ink(root.down ? 0.12 : 0.07)
     }
 }
