@@ -7,7 +7,7 @@ import Velmora.State
 import Velmora.Theme
 
 // One line of the sidebar's list: the title of a section, a selectable row, or the text shown in place of projects.
-Item {
+PressArea {
     id: root
 
     required property int kind
@@ -23,8 +23,8 @@ Item {
     readonly property bool isSection: kind === SidebarEnums.Section
 
     signal chosen()
-    signal menuRequested(x: real, y: real)
 
+    acceptedButtons: kind === SidebarEnums.Project ? Qt.RightButton : Qt.NoButton
     implicitHeight: isSection ? 35 : Metrics.sidebarRowHeight
 
     Accessible.role: root.isSection ? Accessible.Heading
@@ -48,6 +48,9 @@ Item {
         accessibleName: root.accessibleName
         Accessible.ignored: true
         onClicked: root.chosen()
+        // With this handler the second press of a double click is no click. The first one may have put another row
+        // under the pointer.
+        onDoubleClicked: {}
 
         When {
             shown: root.kind === SidebarEnums.Project
@@ -86,11 +89,5 @@ Item {
         color: Theme.text2
         text: root.text
         Accessible.ignored: true
-    }
-
-    TapHandler {
-        enabled: root.kind === SidebarEnums.Project
-        acceptedButtons: Qt.RightButton
-        onTapped: point => root.menuRequested(point.position.x, point.position.y)
     }
 }

@@ -127,6 +127,56 @@ TEST_F(Sidebar, OnARowWithoutAMenuTheMenuKeyDoesNothing)
     EXPECT_TRUE(spokenIn(window(), QAccessible::MenuItem).isEmpty());
 }
 
+class SidebarOfTwoProjects : public WindowFixture
+{
+protected:
+    SidebarOfTwoProjects()
+    {
+        beforeOpening = [this] {
+            service->projectsCalls.answerWith(
+                {Project{u"1"_s, u"MOB"_s, u"App mobile"_s, {}, {}, false},
+                 Project{u"2"_s, u"WEB"_s, u"Plateforme web"_s, {}, {}, false}});
+        };
+        serve({});
+        openOnDemo();
+        desktop->setPrefersReducedMotion(true);
+    }
+
+    /// A click that is the second of a double click if the one before was at the same place. The clicks of `QTest` are
+    /// too far apart for that.
+    void clickSoon(QPoint place)
+    {
+        const auto send = [&](Qt::MouseButtons buttons, QEvent::Type type) {
+            qt_handleMouseEvent(&window(), place, window().mapToGlobal(place), buttons,
+                                Qt::LeftButton, type, {}, ++QTest::lastMouseTimestamp);
+            QCoreApplication::processEvents();
+        };
+        send(Qt::LeftButton, QEvent::MouseButtonPress);
+        send(Qt::NoButton, QEvent::MouseButtonRelease);
+    }
+};
+
+TEST_F(SidebarOfTwoProjects, TheSecondPressOfADoubleClickSelectsNoRowThatHasMovedUnderThePointer)
+{
+    click(find(QAccessible::ListItem, u"App mobile"_s));
+    await(QAccessible::ListItem, u"Sprint actif"_s);
+    const QPoint place = find(QAccessible::ListItem, u"Plateforme web"_s).box.center();
+    QTest::mouseMove(&window(), place);
+
+    clickSoon(place);
+    settle();
+    const auto chosen = store().scope();
+    ASSERT_TRUE(chosen.asProject());
+    ASSERT_EQ(chosen.asProject()->key, u"WEB"_s);
+    // The names of the rows below the project contain its name as well.
+    const auto rows = spokenIn(window(), QAccessible::ListItem, u"Plateforme web"_s);
+    ASSERT_FALSE(rows.first().box.contains(place)) << "the click moves the row away";
+    clickSoon(place);
+    settle();
+
+    EXPECT_EQ(store().scope(), chosen);
+}
+
 TEST(NeighbourRow, TitlesAndPlaceholdersAreSteppedOver)
 {
     const QList<SidebarRow> rows = sidebarRows({});
