@@ -48,14 +48,37 @@ class Drag(WindowCase):
         self.assertEqual(velmora.row("WEB-204").name, before)
         wait_until(lambda: velmora.app.running, 1, 0.1, "the program")
 
+    def picture(self, velmora, key):
+        """The box of the picture that is dragged with a card. The button stays down."""
+        before = {window.id for window in velmora.app.windows()}
+        x, y = self.take(velmora, key)
+        self.session.drag((x, y), (x + 150, y + 200), drop=False)
+        picture, = [window for window in velmora.app.windows() if window.override and window.id not in before]
+        return picture.rect
+
     def test_the_dragged_picture_has_no_white_corners_where_nothing_composes_the_windows(self):
         velmora = self.open_board(appearance="dark")
-        before = {window.id for window in velmora.app.windows()}
-        x, y = self.take(velmora, "WEB-204")
-        self.session.drag((x, y), (x + 150, y + 200), drop=False)
         self.addCleanup(self.session.release)
-        picture, = [window for window in velmora.app.windows() if window.override and window.id not in before]
-        left, top, width, height = picture.rect
+        left, top, width, height = self.picture(velmora, "WEB-204")
         self.assertGreater(width, 60)
         for corner in [(left, top), (left + width - 1, top), (left, top + height - 1), (left + width - 1, top + height - 1)]:
             self.assertLess(max(self.session.pixel(*corner)), 100, corner)
+
+    def test_the_dragged_picture_has_room_for_a_shadow_where_the_windows_are_composed(self):
+        self.session.x.claim_composition()
+        velmora = self.open_board()
+        self.addCleanup(self.session.release)
+        _, _, _, height = self.picture(velmora, "WEB-204")
+        self.assertGreater(height, 60)
+
+    def test_the_dragged_picture_counts_the_checked_cards(self):
+        velmora = self.open_board()
+        self.addCleanup(self.session.release)
+        _, _, alone, _ = self.picture(velmora, "WEB-204")
+        self.session.key("Escape")
+        self.session.release()
+        for key in ("WEB-204", "WEB-203"):
+            self.session.click(self.take(velmora, key), mods=("ctrl",))
+        velmora.app.find(name="^2 sélectionnés$")
+        _, _, together, _ = self.picture(velmora, "WEB-204")
+        self.assertGreater(together, alone)

@@ -57,6 +57,8 @@ def _xlibs():
     sig(x11, "XFlush", i, p)
     sig(x11, "XFree", i, p)
     sig(x11, "XInternAtom", ul, p, C.c_char_p, i)
+    sig(x11, "XCreateSimpleWindow", ul, p, ul, i, i, u, u, u, ul, ul)
+    sig(x11, "XSetSelectionOwner", i, p, ul, ul, ul)
     sig(x11, "XStringToKeysym", ul, C.c_char_p)
     sig(x11, "XKeysymToKeycode", C.c_ubyte, p, ul)
     sig(x11, "XDisplayKeycodes", i, p, C.POINTER(i), C.POINTER(i))
@@ -224,6 +226,12 @@ class XDisplay:
             return w, h, data
         finally:
             self.x11.XDestroyImage(img)
+
+    def claim_composition(self):
+        """Announces that the windows are composed, as a compositor does. They are still drawn as without one."""
+        owner = self.x11.XCreateSimpleWindow(self.d, self.root, 0, 0, 1, 1, 0, 0, 0)
+        self.x11.XSetSelectionOwner(self.d, self.atom("_NET_WM_CM_S0"), owner, 0)
+        self.x11.XSync(self.d, 0)
 
     def move(self, x, y):
         self.xtst.XTestFakeMotionEvent(self.d, -1, int(x), int(y), 0)

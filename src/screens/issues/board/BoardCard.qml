@@ -13,41 +13,14 @@ CardBody {
     // The board has the keyboard focus, so screen readers announce the focused card.
     property bool hasKeyboard: false
 
-    signal clicked(modifiers: int)
-    signal menuRequested(x: real, y: real)
-    signal dragBegun(handler: DragHandler)
-
-    function press(x: real, y: real, modifiers: int) {
-        const spot = spotAt(x, y);
-        if (spot.isCell)
-            pickRequested(spot.kind, spot.box);
-        else
-            clicked(modifiers);
-    }
-
+    isDraggable: true
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
     Accessible.focusable: true
     Accessible.focused: root.isFocused && root.visible && root.hasKeyboard
     Accessible.selectable: true
     Accessible.selected: root.isChecked
-    Accessible.onPressAction: root.clicked(0)
-
-    TapHandler {
-        id: tap
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: (point, button) => button === Qt.RightButton
-            ? root.menuRequested(point.position.x, point.position.y)
-            : root.press(point.position.x, point.position.y, tap.point.modifiers)
-    }
-
-    DragHandler {
-        id: drag
-        target: null
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onActiveChanged: if (active) root.dragBegun(drag)
-    }
+    Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
 
     RowCell {
         x: root.assigneeCell.x

@@ -33,7 +33,7 @@ Item {
     signal cardClicked(key: string, modifiers: int)
     signal menuRequested(key: string, card: Item, x: real, y: real)
     signal pickRequested(kind: int, key: string, card: Item, cell: rect)
-    signal dragBegun(key: string, handler: DragHandler)
+    signal dragBegun(key: string, card: PressArea)
     signal newIssueRequested()
 
     function revealFocusedCard() {
@@ -142,11 +142,11 @@ Item {
             style: root.cardStyle
             hasKeyboard: root.hasKeyboard
             hasMenu: root.menuKey === issue.key
-            onClicked: modifiers => root.cardClicked(issue.key, modifiers)
+            onClicked: (position, modifiers) => root.cardClicked(issue.key, modifiers)
             onMenuRequested: (x, y) => root.menuRequested(issue.key, card, x, y)
             onHoverChanged: if (isHovered) root.hotCard = card
             onPickRequested: (kind, cell) => root.pickRequested(kind, issue.key, card, cell)
-            onDragBegun: handler => root.dragBegun(issue.key, handler)
+            onDragBegun: root.dragBegun(issue.key, card)
         }
     }
 

@@ -82,7 +82,7 @@ FocusScope {
                     onCardClicked: (key, modifiers) => root.click(key, modifiers)
                     onMenuRequested: (key, card, x, y) => root.contextMenu.open(key, card, x, y)
                     onPickRequested: (kind, key, card, cell) => root.picker.open(kind, key, card, cell)
-                    onDragBegun: (key, handler) => root.drag.begin(key, handler)
+                    onDragBegun: (key, card) => root.drag.begin(key, card)
                     menuKey: root.contextMenu.key
                     isTargeted: index === drop.column
                     dragY: drop.drag.y - columns.y
@@ -137,7 +137,9 @@ FocusScope {
         view: board
         carrier: flight
         ghost: Component {
-            CardBody {}
+            CardBody {
+                acceptedButtons: Qt.NoButton
+            }
         }
         columns: root.store.board
         duration: Motion.stateDuration

@@ -56,10 +56,11 @@ void CardFace::makePlan()
 HotSpot CardFace::spotAt(double x, double y) const
 {
     const QPointF place(x, y);
-    if (m_plan.assignee.contains(place))
-        return {m_plan.assignee, assigneeHint(), PickerKind::Assignee};
-    if (m_plan.priority.contains(place))
-        return {m_plan.priority, {}, PickerKind::Priority};
+    if (const HotSpot spot{m_plan.assignee, assigneeHint(), PickerKind::Assignee};
+        spot.holds(place))
+        return spot;
+    if (const HotSpot spot{m_plan.priority, {}, PickerKind::Priority}; spot.holds(place))
+        return spot;
     const QRectF type(m_plan.type, CardPlan::margin, typeSide, CardPlan::headHeight);
     if (m_plan.type != CardPlan::absent && issue().type && type.contains(place))
         return {type, issue().type->name};
@@ -107,6 +108,7 @@ QSGNode *CardFace::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
                                             .style = *m_style,
                                             .isOverdue = isOverdue(),
                                             .person = assigneeFace(),
-                                            .hotSpot = hotSpot()}));
+                                            .hotSpot = hotSpot(),
+                                            .isPressed = isSpotPressed()}));
     return node;
 }

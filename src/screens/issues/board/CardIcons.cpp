@@ -31,10 +31,12 @@ PlacedPicture onFoot(const PlacedPicture &picture, double x, const CardPlan &pla
 
 std::vector<PlacedPicture> cardIcons(const CardIconsInput &card)
 {
-    const auto &[issue, plan, style, isOverdue, person, hotSpot] = card;
+    const auto &[issue, plan, style, isOverdue, person, hotSpot, isPressed] = card;
     std::vector<PlacedPicture> pictures;
     if (hotSpot.isCell())
-        pictures.push_back(cellFill(hotSpot.box.size(), style.cellFill).at(hotSpot.box.topLeft()));
+        pictures.push_back(
+            cellFill(hotSpot.box.size(), isPressed ? style.cellPressed : style.cellFill)
+                .at(hotSpot.box.topLeft()));
     if (plan.type != CardPlan::absent && issue.type)
         pictures.push_back(typeAt(*issue.type, plan.type));
     pictures.push_back(inMiddle(assignee(issue.assignee, person), plan.assignee));

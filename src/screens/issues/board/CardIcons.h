@@ -18,6 +18,8 @@ struct CardIconsInput
     QImage person;
     /// The hot spot under the pointer.
     HotSpot hotSpot;
+    /// The hot spot is pressed.
+    bool isPressed = false;
 };
 
 /// All pictures of a card, which are everything except its background and its texts.

@@ -14,6 +14,7 @@ CardStyle {
     late: Theme.redText
     lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
     cellFill: Theme.buttonHoverFill
+    cellPressed: Theme.ink(0.12)
     caption: Component {
         RowText {}
     }

@@ -6,10 +6,10 @@
 
 using namespace Qt::StringLiterals;
 
-IssueFace::IssueFace(QQuickItem *parent) : QQuickItem(parent)
+IssueFace::IssueFace(QQuickItem *parent) : PressArea(parent)
 {
     setFlag(ItemHasContents);
-    setAcceptHoverEvents(true);
+    connect(this, &IssueFace::pressedChanged, this, &IssueFace::showPress);
     connect(this, &IssueFace::contentChanged, this, &IssueFace::planLater);
 }
 
@@ -17,6 +17,8 @@ void IssueFace::setIssue(const Issue &issue)
 {
     if (m_issue == issue)
         return;
+    if (m_issue.key != issue.key)
+        forgetPress();
     m_issue = issue;
     followPicture();
     planLater();
@@ -44,7 +46,7 @@ void IssueFace::planNow()
     if (!isComponentComplete())
         return;
     makePlan();
-    if (m_isHovered)
+    if (isHovered())
         followPointer();
     update();
     Q_EMIT planned();
@@ -98,33 +100,47 @@ void IssueFace::geometryChange(const QRectF &now, const QRectF &before)
 
 void IssueFace::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    QQuickItem::itemChange(change, data);
+    PressArea::itemChange(change, data);
     if (change == ItemDevicePixelRatioHasChanged)
         update();
-    // An item that is kept for reuse receives no leave event from the pointer.
-    if (change == ItemVisibleHasChanged && !data.boolValue)
-        setHovered(false);
 }
 
 void IssueFace::hoverEnterEvent(QHoverEvent *event)
 {
-    QQuickItem::hoverEnterEvent(event);
     m_pointer = event->position();
     followPointer();
-    setHovered(true);
+    PressArea::hoverEnterEvent(event);
 }
 
 void IssueFace::hoverMoveEvent(QHoverEvent *event)
 {
-    QQuickItem::hoverMoveEvent(event);
+    PressArea::hoverMoveEvent(event);
     m_pointer = event->position();
     followPointer();
 }
 
-void IssueFace::hoverLeaveEvent(QHoverEvent *event)
+void IssueFace::setHovered(bool isHovered)
 {
-    QQuickItem::hoverLeaveEvent(event);
-    setHovered(false);
+    if (!isHovered)
+        setHotSpot({});
+    PressArea::setHovered(isHovered);
+}
+
+void IssueFace::takeClick(QPointF pressed, QPointF released, Qt::KeyboardModifiers modifiers)
+{
+    const HotSpot spot = spotAt(pressed.x(), pressed.y());
+    if (!spot.takesClicks())
+        PressArea::takeClick(pressed, released, modifiers);
+    else if (spot.holds(released) && spot.isCheck)
+        Q_EMIT checkToggled();
+    else if (spot.holds(released))
+        Q_EMIT pickRequested(spot.kind(), spot.box);
+}
+
+void IssueFace::followPress(QPointF position)
+{
+    m_pointer = position;
+    followPointer();
 }
 
 void IssueFace::followPointer()
@@ -132,21 +148,23 @@ void IssueFace::followPointer()
     setHotSpot(spotAt(m_pointer.x(), m_pointer.y()));
 }
 
-void IssueFace::setHovered(bool isHovered)
-{
-    if (!isHovered)
-        setHotSpot({});
-    if (m_isHovered == isHovered)
-        return;
-    m_isHovered = isHovered;
-    Q_EMIT hoverChanged();
-}
-
 void IssueFace::setHotSpot(HotSpot spot)
 {
     if (m_hotSpot == spot)
         return;
     m_hotSpot = std::move(spot);
+    showPress();
     update();
     Q_EMIT hotSpotChanged();
+}
+
+void IssueFace::showPress()
+{
+    const QPointF start = pressStart();
+    const bool isPressedThere =
+        isPressed() && m_hotSpot.takesClicks() && spotAt(start.x(), start.y()) == m_hotSpot;
+    if (std::exchange(m_isSpotPressed, isPressedThere) == isPressedThere)
+        return;
+    update();
+    Q_EMIT spotPressedChanged();
 }

@@ -4,15 +4,16 @@
 #include "screens/issues/face/CaptionTexts.h"
 #include "screens/issues/face/HotSpot.h"
 #include "screens/issues/face/IssueStyle.h"
+#include "screens/kit/controls/PressArea.h"
 #include "screens/kit/images/RemotePicture.h"
 
 #include <QPointer>
-#include <QQuickItem>
 
 /// The base class of rows and cards: one item that computes its layout as a value, draws everything except text in
-/// nodes that share the textures of equal pictures, and reports the hot spot under the pointer. An item for each icon
-/// would take several times as long to create.
-class IssueFace : public QQuickItem
+/// nodes that share the textures of equal pictures, reports the hot spot under the pointer, and takes the presses itself.
+/// A press on a cell or a check box acts on it if it is also released there. An item for each icon would take several
+/// times as long to create.
+class IssueFace : public PressArea
 {
     Q_OBJECT
     QML_ELEMENT
@@ -22,15 +23,16 @@ class IssueFace : public QQuickItem
     Q_PROPERTY(QString dueText MEMBER m_dueText NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(QString dueTooltip MEMBER m_dueTooltip NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(bool isOverdue MEMBER m_isOverdue NOTIFY contentChanged REQUIRED FINAL)
-    Q_PROPERTY(bool isHovered READ isHovered NOTIFY hoverChanged FINAL)
     /// The hot spot under the pointer.
     Q_PROPERTY(HotSpot hotSpot READ hotSpot NOTIFY hotSpotChanged FINAL)
+    /// The hot spot takes clicks and is pressed.
+    Q_PROPERTY(bool isSpotPressed READ isSpotPressed NOTIFY spotPressedChanged FINAL)
 
 public:
     const Issue &issue() const { return m_issue; }
     void setIssue(const Issue &issue);
-    bool isHovered() const { return m_isHovered; }
     const HotSpot &hotSpot() const { return m_hotSpot; }
+    bool isSpotPressed() const { return m_isSpotPressed; }
 
     /// The hot spot at a position.
     Q_INVOKABLE virtual HotSpot spotAt(double x, double y) const = 0;
@@ -40,10 +42,12 @@ Q_SIGNALS:
     void styleChanged();
     void contentChanged();
     void planned();
-    void hoverChanged();
     void hotSpotChanged();
+    void spotPressedChanged();
     /// Requests the picker of a kind (`Commands.PickerKind`) at a cell.
     void pickRequested(int kind, QRectF cell);
+    /// Requests that the issue is checked, or no longer checked.
+    void checkToggled();
 
 protected:
     explicit IssueFace(QQuickItem *parent);
@@ -71,20 +75,22 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
     void hoverEnterEvent(QHoverEvent *event) override;
     void hoverMoveEvent(QHoverEvent *event) override;
-    void hoverLeaveEvent(QHoverEvent *event) override;
+    void setHovered(bool isHovered) override;
+    void takeClick(QPointF pressed, QPointF released, Qt::KeyboardModifiers modifiers) override;
+    void followPress(QPointF position) override;
 
 private:
     void followPicture();
     void followPointer();
-    void setHovered(bool isHovered);
+    void showPress();
     void setHotSpot(HotSpot spot);
 
     Issue m_issue;
     QString m_dueText;
     QString m_dueTooltip;
     bool m_isOverdue = false;
-    bool m_isHovered = false;
-    /// The position of the pointer while it is over this item.
+    bool m_isSpotPressed = false;
+    /// The position of the pointer while it is over this item or presses it.
     QPointF m_pointer;
     HotSpot m_hotSpot;
     CaptionTexts m_captions;

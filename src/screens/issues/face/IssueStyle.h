@@ -25,6 +25,8 @@ class IssueStyle : public QObject
     Q_PROPERTY(QColor lateOutline MEMBER lateOutline NOTIFY changed FINAL)
     /// The background of a cell under the pointer.
     Q_PROPERTY(QColor cellFill MEMBER cellFill NOTIFY changed FINAL)
+    /// The background of a cell that is pressed.
+    Q_PROPERTY(QColor cellPressed MEMBER cellPressed NOTIFY changed FINAL)
     /// The component for the text of a caption, a `RowText`.
     Q_PROPERTY(QQmlComponent *caption MEMBER caption NOTIFY changed FINAL)
 
@@ -39,6 +41,7 @@ public:
     QColor late;
     QColor lateOutline;
     QColor cellFill;
+    QColor cellPressed;
     QQmlComponent *caption = nullptr;
 
 Q_SIGNALS:

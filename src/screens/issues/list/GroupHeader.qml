@@ -5,7 +5,7 @@ import Velmora.State
 import Velmora.Theme
 
 // The header of a group. A click anywhere on it folds or unfolds the group.
-Item {
+PressArea {
     id: root
 
     required property issueListHeader header
@@ -25,6 +25,8 @@ Item {
         chevron.rotation = header.isCollapsed ? 0 : 90;
     }
 
+    acceptedButtons: Qt.LeftButton
+    onClicked: root.toggled()
     onHeaderChanged: turnChevron()
     Component.onCompleted: turnChevron()
 
@@ -43,6 +45,13 @@ Item {
         anchors.fill: parent
         radius: Metrics.radiusRow
         color: Theme.hoverFill
+    }
+
+    // Above the fill that a header always has.
+    HoverFill {
+        radius: Metrics.radiusRow
+        shown: root.isHovered
+        fill: root.isPressed ? Theme.openFill : Theme.hoverFill
     }
 
     Item {
@@ -110,10 +119,5 @@ Item {
         symbol: "plus"
         symbolWeight: "semibold"
         onClicked: root.newIssueRequested()
-    }
-
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.toggled()
     }
 }

@@ -110,11 +110,11 @@ FocusScope {
                     hasKeyboard: list.activeFocus
                     hasMenu: root.contextMenu.key === issue.key
                     onHoverChanged: if (isHovered) root.hotRow = row
-                    onClicked: modifiers => root.click(issue.key, modifiers)
+                    onClicked: (position, modifiers) => root.click(issue.key, modifiers)
                     onCheckToggled: root.store.toggleCheck(issue.key)
                     onMenuRequested: (x, y) => root.contextMenu.open(issue.key, row, x, y)
                     onPickRequested: (kind, cell) => root.picker.open(kind, issue.key, row, cell)
-                    onDragBegun: handler => root.drag.begin(issue.key, handler)
+                    onDragBegun: root.drag.begin(issue.key, row)
                     ListView.onPooled: visible = false
                     ListView.onReused: visible = true
                 }

@@ -24,18 +24,7 @@ RowLine {
     property bool hasMenu: false
     readonly property real cellTop: Math.ceil(height / 2) - 11
 
-    signal clicked(modifiers: int)
-    signal checkToggled()
-    signal menuRequested(x: real, y: real)
-    signal dragBegun(handler: DragHandler)
-
-    function press(x: real, modifiers: int) {
-        const cell = childAt(x, cellTop + 1) as RowCell;
-        if (cell)
-            cell.pressed();
-        else
-            clicked(modifiers);
-    }
+    isDraggable: true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -43,7 +32,7 @@ RowLine {
     Accessible.focused: root.isFocused && root.visible && root.hasKeyboard
     Accessible.selectable: true
     Accessible.selected: root.isChecked
-    Accessible.onPressAction: root.clicked(0)
+    Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
 
     Rectangle {
         z: -1
@@ -66,23 +55,8 @@ RowLine {
         color: Theme.accent
     }
 
-    TapHandler {
-        id: tap
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: (point, button) => button === Qt.RightButton
-            ? root.menuRequested(point.position.x, point.position.y)
-            : root.press(point.position.x, tap.point.modifiers)
-    }
-
-    DragHandler {
-        id: drag
-        target: null
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onActiveChanged: if (active) root.dragBegun(drag)
-    }
-
     RowCheck {
+        row: root
         x: root.plan.check - 4
         y: root.cellTop
         spoken: "Sélectionner " + root.issue.key

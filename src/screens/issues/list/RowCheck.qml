@@ -9,6 +9,7 @@ import Velmora.Kit
 RowCell {
     id: root
 
+    required property RowLine row
     required property bool isChecked
     required property bool isShown
 
@@ -28,6 +29,8 @@ RowCell {
             x: 4
             y: 4
             checked: root.isChecked
+            hovered: root.row.hotSpot.isCheck
+            pressed: hovered && root.row.isSpotPressed
             isShown: root.isShown
             onGone: root.isDrawn = false
         }

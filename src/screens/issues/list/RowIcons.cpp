@@ -47,10 +47,12 @@ void addDots(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 
 std::vector<PlacedPicture> rowIcons(const RowIconsInput &row)
 {
-    const auto &[issue, plan, style, isOverdue, person, height, hotSpot] = row;
+    const auto &[issue, plan, style, isOverdue, person, height, hotSpot, isPressed] = row;
     std::vector<PlacedPicture> pictures;
     if (hotSpot.isCell())
-        pictures.push_back(cellFill(hotSpot.box.size(), style.cellFill).at(hotSpot.box.topLeft()));
+        pictures.push_back(
+            cellFill(hotSpot.box.size(), isPressed ? style.cellPressed : style.cellFill)
+                .at(hotSpot.box.topLeft()));
     if (plan.priority != RowPlan::absent)
         pictures.push_back(
             inCell(priority(issue.priorityLevel(), style, iconSide), plan.priority, height));

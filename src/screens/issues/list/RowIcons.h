@@ -20,6 +20,8 @@ struct RowIconsInput
     double height = 0;
     /// The hot spot under the pointer.
     HotSpot hotSpot;
+    /// The hot spot is pressed.
+    bool isPressed = false;
 };
 
 /// All pictures of a row, which are everything except its texts.

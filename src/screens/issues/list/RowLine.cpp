@@ -11,11 +11,6 @@ constexpr double cellSide = IssueIcons::cellSide;
 constexpr double checkOutset = 4;
 constexpr double typeWidth = 14;
 
-bool isWithin(double x, double start, double width)
-{
-    return start != RowPlan::absent && x >= start && x < start + width;
-}
-
 } // namespace
 
 void RowLine::setStyle(RowStyle *style)
@@ -36,26 +31,25 @@ void RowLine::makePlan()
     showCaptions(rowCaptions({contents, m_plan, *m_style, isOverdue(), height()}), *m_style);
 }
 
-HotSpot RowLine::spotAt(double x, double) const
+HotSpot RowLine::spotAt(double x, double y) const
 {
     const double top = IssueIcons::centred(height(), cellSide);
-    const auto spot = [top](double start, double width, const QString &hint,
-                            std::optional<PickerKind> picker = {}) {
-        return HotSpot{{start, top, width, cellSide}, hint, picker};
+    const auto column = [&](double start, double width) {
+        const HotSpot spot{{start, top, width, cellSide}};
+        return start != RowPlan::absent && spot.holds({x, y}) ? spot.box : QRectF();
     };
-    if (isWithin(x, m_plan.check - checkOutset, cellSide))
-        return spot(m_plan.check - checkOutset, cellSide, selectHint());
-    if (isWithin(x, m_plan.priority, cellSide))
-        return spot(m_plan.priority, cellSide, displayName(issue().priorityLevel()),
-                    PickerKind::Priority);
-    if (isWithin(x, m_plan.status, cellSide))
-        return spot(m_plan.status, cellSide, issue().status.displayName(), PickerKind::Status);
-    if (isWithin(x, m_plan.type, typeWidth))
-        return spot(m_plan.type, typeWidth, issue().type ? issue().type->name : QString());
-    if (isWithin(x, m_plan.due, m_plan.dueWidth))
-        return spot(m_plan.due, m_plan.dueWidth, dueTooltip());
-    if (isWithin(x, m_plan.assignee, cellSide))
-        return spot(m_plan.assignee, cellSide, assigneeHint(), PickerKind::Assignee);
+    if (const auto box = column(m_plan.check - checkOutset, cellSide); box.isValid())
+        return {.box = box, .hint = selectHint(), .isCheck = true};
+    if (const auto box = column(m_plan.priority, cellSide); box.isValid())
+        return {box, displayName(issue().priorityLevel()), PickerKind::Priority};
+    if (const auto box = column(m_plan.status, cellSide); box.isValid())
+        return {box, issue().status.displayName(), PickerKind::Status};
+    if (const auto box = column(m_plan.type, typeWidth); box.isValid())
+        return {box, issue().type ? issue().type->name : QString()};
+    if (const auto box = column(m_plan.due, m_plan.dueWidth); box.isValid())
+        return {box, dueTooltip()};
+    if (const auto box = column(m_plan.assignee, cellSide); box.isValid())
+        return {box, assigneeHint(), PickerKind::Assignee};
     return {};
 }
 
@@ -71,6 +65,7 @@ QSGNode *RowLine::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
                                    .isOverdue = isOverdue(),
                                    .person = assigneeFace(),
                                    .height = height(),
-                                   .hotSpot = hotSpot()}));
+                                   .hotSpot = hotSpot(),
+                                   .isPressed = isSpotPressed()}));
     return node;
 }

@@ -12,26 +12,19 @@ Item {
 
     required property AppStore store
 
-    property DragHandler handler: null
+    // The pressed row or card. Null once it is destroyed.
+    property PressArea source: null
 
     // Starts the drag of an issue as soon as its picture is drawn.
-    function begin(key: string, by: DragHandler) {
-        handler = by;
-        picture.shown = drag.take(key);
+    function begin(key: string, by: PressArea) {
+        source = by;
+        picture.shown = drag.take(key, by);
     }
 
-    function start(image: url) {
-        Drag.imageSource = image;
-        Drag.active = handler !== null && handler.active;
+    function start(image: var, hotSpot: point) {
         picture.shown = false;
+        drag.start(source, image, hotSpot);
     }
-
-    Drag.dragType: Drag.Automatic
-    Drag.supportedActions: Qt.CopyAction
-    Drag.proposedAction: Qt.CopyAction
-    Drag.mimeData: drag.content
-    Drag.hotSpot: Qt.point(12, 12)
-    Drag.onDragFinished: Drag.active = false
 
     IssueDrag {
         id: drag
@@ -43,9 +36,13 @@ Item {
         shown: false
 
         DragPreview {
+            id: preview
             visible: false
             issue: drag.issue
-            Component.onCompleted: grabToImage(result => root.start(result.url))
+            count: drag.count
+            isComposed: drag.isComposed
+            Component.onCompleted: grabToImage(result => root.start(result.image, preview.hotSpot),
+                Qt.size(Math.ceil(width * drag.ratio), Math.ceil(height * drag.ratio)))
         }
     }
 }

@@ -4,39 +4,72 @@ import Velmora.Model
 import Velmora.Theme
 
 // The picture of the dragged issue under the pointer.
-GlassPanel {
+Item {
     id: root
 
     required property issue issue
+    // The number of issues that are dragged together.
+    required property int count
+    // The picture may have transparent areas. Without a compositor X11 paints them white.
+    required property bool isComposed
+    // The shadow extends this far around the panel.
+    readonly property int margin: isComposed ? 28 : 0
+    readonly property point hotSpot: Qt.point(margin + 12, margin + 12)
 
-    implicitWidth: Math.ceil(line.implicitWidth) + 24
-    implicitHeight: line.implicitHeight + 16
-    // X11 paints transparent areas white unless a compositor is running, and does not report whether one is.
-    radius: Qt.platform.pluginName === "xcb" ? 0 : Metrics.radiusRow
-    shadow: "none"
-    color: Theme.elevated
+    implicitWidth: panel.width + 2 * margin
+    implicitHeight: panel.height + 2 * margin
 
-    Row {
-        id: line
-        x: 12
-        y: Metrics.gap
-        spacing: Metrics.gap
+    GlassPanel {
+        id: panel
+        x: root.margin
+        y: root.margin
+        width: Math.ceil(line.implicitWidth) + 24
+        height: line.implicitHeight + 16
+        radius: root.isComposed ? Metrics.radiusRow : 0
+        shadow: root.isComposed ? "cardHover" : "none"
+        color: Theme.elevated
 
-        StatusIcon {
-            anchors.verticalCenter: parent.verticalCenter
-            status: root.issue.status
-            size: 13
-        }
+        Row {
+            id: line
+            x: 12
+            y: Metrics.gap
+            spacing: Metrics.gap
 
-        AppText {
-            weight: Font.Medium
-            text: root.issue.key
-        }
+            StatusIcon {
+                anchors.verticalCenter: parent.verticalCenter
+                status: root.issue.status
+                size: 13
+            }
 
-        AppText {
-            width: Math.min(implicitWidth, 300)
-            weight: Font.Medium
-            text: root.issue.summary
+            AppText {
+                weight: Font.Medium
+                text: root.issue.key
+            }
+
+            AppText {
+                width: Math.min(implicitWidth, 300)
+                weight: Font.Medium
+                text: root.issue.summary
+            }
+
+            Rectangle {
+                visible: root.count > 1
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.max(height, number.implicitWidth + 10)
+                height: 16
+                radius: 8
+                color: Theme.accentFill
+
+                AppText {
+                    id: number
+                    anchors.centerIn: parent
+                    role: TypeScale.Micro
+                    weight: Font.DemiBold
+                    tabular: true
+                    color: Theme.textOnAccent
+                    text: root.count
+                }
+            }
         }
     }
 }

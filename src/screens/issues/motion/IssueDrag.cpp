@@ -1,6 +1,11 @@
 #include "screens/issues/motion/IssueDrag.h"
 
 #include "model/OneLineText.h"
+#include "platform/Compositor.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QQuickWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -17,13 +22,38 @@ QVariantMap dragContent(const Issue &issue, const std::optional<QUrl> &address)
     return content;
 }
 
-bool IssueDrag::take(const QString &key)
+bool IssueDrag::take(const QString &key, QQuickItem *source)
 {
     const auto issue = m_store ? m_store->issue(key) : std::nullopt;
-    if (!issue)
+    const auto *window = source ? source->window() : nullptr;
+    if (!issue || !window)
         return false;
     m_issue = withOneLineTexts(**issue);
     m_content = dragContent(m_issue, m_store->browseURL(key));
+    m_count = int(m_store->contextKeys(key).size());
+    m_ratio = window->effectiveDevicePixelRatio();
+    m_isComposed = composesWindows(window->screen());
     Q_EMIT changed();
     return true;
+}
+
+void IssueDrag::start(PressArea *source, const QImage &picture, QPointF hotSpot)
+{
+    if (!source || !source->isDragging())
+        return;
+    auto *content = new QMimeData;
+    for (const auto &[type, text] : m_content.asKeyValueRange())
+        content->setData(type, text.toString().toUtf8());
+    QPixmap pixmap = QPixmap::fromImage(picture);
+    pixmap.setDevicePixelRatio(m_ratio);
+    // Qt deletes the drag once it is finished.
+    auto *drag = new QDrag(this);
+    drag->setMimeData(content);
+    drag->setPixmap(pixmap);
+    drag->setHotSpot(hotSpot.toPoint());
+    const QPointer<PressArea> dragged(source);
+    drag->exec(Qt::CopyAction);
+    // The desktop has taken the release of the button.
+    if (dragged)
+        dragged->cancel();
 }

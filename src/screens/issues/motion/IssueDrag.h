@@ -1,7 +1,9 @@
 #pragma once
 
+#include "screens/kit/controls/PressArea.h"
 #include "state/AppStore.h"
 
+#include <QImage>
 #include <QObject>
 #include <QPointer>
 #include <QVariantMap>
@@ -18,16 +20,26 @@ class IssueDrag : public QObject
     QML_ELEMENT
     Q_PROPERTY(AppStore *store MEMBER m_store NOTIFY storeChanged FINAL REQUIRED)
     Q_PROPERTY(Issue issue READ issue NOTIFY changed FINAL)
-    Q_PROPERTY(QVariantMap content READ content NOTIFY changed FINAL)
+    /// The number of issues that the drag moves: several if the dragged issue is one of several checked ones.
+    Q_PROPERTY(int count READ count NOTIFY changed FINAL)
+    /// The number of pixels of the screen per logical pixel, in which the picture of the drag is drawn.
+    Q_PROPERTY(double ratio READ ratio NOTIFY changed FINAL)
+    /// The picture may have round corners and a shadow.
+    Q_PROPERTY(bool isComposed READ isComposed NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;
 
     const Issue &issue() const { return m_issue; }
-    const QVariantMap &content() const { return m_content; }
+    int count() const { return m_count; }
+    double ratio() const { return m_ratio; }
+    bool isComposed() const { return m_isComposed; }
 
-    /// Selects the issue to drag. False if the issue is not known.
-    Q_INVOKABLE bool take(const QString &key);
+    /// Selects the issue to drag out of the window of an item. False if the issue is not known.
+    Q_INVOKABLE bool take(const QString &key, QQuickItem *source);
+    /// Drags the issue until it is dropped, with a picture of `ratio` pixels per logical pixel that is under the pointer
+    /// at `hotSpot`, in logical pixels. Does nothing if the source was destroyed or is no longer dragged.
+    Q_INVOKABLE void start(PressArea *source, const QImage &picture, QPointF hotSpot);
 
 Q_SIGNALS:
     void storeChanged();
@@ -37,4 +49,7 @@ private:
     QPointer<AppStore> m_store;
     Issue m_issue;
     QVariantMap m_content;
+    int m_count = 0;
+    double m_ratio = 1;
+    bool m_isComposed = false;
 };
