@@ -20,8 +20,10 @@ T.AbstractButton {
     /// A press hides the hint until the pointer enters again, because the hint would cover what the press has opened.
     property bool hushed: false
 
-    /// Performs the action of a press, for callers other than the pointer.
+    /// Performs the action of a press, for callers other than the pointer. Screen readers also press disabled controls.
     function activate() {
+        if (!enabled)
+            return
         if (checkable)
             toggle()
         clicked()

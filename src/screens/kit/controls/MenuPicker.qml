@@ -36,7 +36,7 @@ Item {
     Accessible.description: currentChoice
     Accessible.focusable: true
     Accessible.focused: activeFocus
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled) clicked()
 
     Rectangle {
         anchors.fill: parent

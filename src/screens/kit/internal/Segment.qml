@@ -15,6 +15,12 @@ T.RadioButton {
 
     signal chosen()
 
+    // For screen readers, which also press disabled controls.
+    function choose() {
+        if (enabled)
+            chosen()
+    }
+
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     // The focus ring is drawn above the neighbouring segments.
     z: ringed ? 1 : 0
@@ -31,8 +37,8 @@ T.RadioButton {
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: on
-    Accessible.onPressAction: chosen()
-    Accessible.onToggleAction: chosen()
+    Accessible.onPressAction: choose()
+    Accessible.onToggleAction: choose()
 
     background: Rectangle {
         radius: height / 2

@@ -35,7 +35,7 @@ T.MenuItem {
     Accessible.name: text
     Accessible.checkable: checkable
     Accessible.checked: checked
-    Accessible.onPressAction: activate()
+    Accessible.onPressAction: if (enabled) activate()
 
     contentItem: PopupMenuLabel {
         text: root.text

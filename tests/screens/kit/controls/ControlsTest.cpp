@@ -84,6 +84,19 @@ TEST_P(EveryPressable, ScreenReadersPressItOnce)
     EXPECT_EQ(clicked.count(), 1);
 }
 
+TEST_P(EveryPressable, ScreenReadersDoNotPressADisabledOne)
+{
+    Bench bench;
+    auto *control = bench.show(GetParam());
+    control->setEnabled(false);
+    QSignalSpy clicked(control, SIGNAL(clicked()));
+    auto *actions = Bench::accessible(control)->actionInterface();
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(clicked.count(), 0);
+    EXPECT_FALSE(control->property("checked").toBool());
+}
+
 TEST_P(EveryPressable, RingShowsAfterAKeyAndNotAfterAClick)
 {
     Bench bench;
@@ -248,6 +261,36 @@ TEST(Controls, MenuRowIsTriggeredOnceByReturnAndByAScreenReader)
     Bench::accessible(row)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(triggered.count(), 2);
     EXPECT_EQ(bench.warnings(), "");
+}
+
+TEST(Controls, ScreenReadersDoNotPressADisabledMenuRow)
+{
+    Bench bench;
+    auto *row = bench.show(u"PopupMenuItem { text: 'Copier'; enabled: false }"_s);
+    ASSERT_NE(row, nullptr) << bench.warnings();
+    QSignalSpy triggered(row, SIGNAL(triggered()));
+    Bench::accessible(row)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(triggered.count(), 0);
+}
+
+TEST(Controls, ScreenReadersDoNotChooseASegmentOfADisabledPicker)
+{
+    Bench bench;
+    auto *picker = bench.show(
+        u"SegmentedPicker { name: 'Vue'; choices: ['Liste', 'Tableau']; current: 0; enabled: false }"_s);
+    ASSERT_NE(picker, nullptr) << bench.warnings();
+    QSignalSpy chosen(picker, SIGNAL(chosen(int)));
+    int segments = 0;
+    for (int i = 0; i < Bench::accessible(picker)->childCount(); ++i) {
+        auto *segment = Bench::accessible(picker)->child(i);
+        if (segment->role() != QAccessible::RadioButton)
+            continue;
+        ++segments;
+        segment->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        segment->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    }
+    EXPECT_EQ(segments, 2);
+    EXPECT_EQ(chosen.count(), 0);
 }
 
 TEST(Controls, SidebarRowShowsTheItemItIsGiven)
