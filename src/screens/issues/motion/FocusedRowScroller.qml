@@ -90,7 +90,7 @@ Item {
         }
 
         function onUpdated() {
-            if (root.follows && root.visible)
+            if (root.follows && root.visible && root.rows.rowOfKey(root.focusedKey) >= 0)
                 moved.restart();
         }
     }
