@@ -4,23 +4,45 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// The text of an `InputArea`, with its caret and its placeholder.
+/// The text of an `InputArea` or a `TitleField`, with its caret and its placeholder.
 T.TextArea {
     id: root
 
     required property string name
     required property string problem
     property int role: TypeScale.Body
+    /// Pasted files are reported, and not inserted as text.
+    property bool takesFiles: false
     /// The height of the text with its padding.
     readonly property real wholeHeight: contentHeight + topPadding + bottomPadding
+
+    /// A key press before the editor handles it. An accepted event goes no further.
+    signal keyPressed(event: var)
+    /// Local files were pasted: a list of addresses.
+    signal filesPasted(files: var)
 
     function speak() {
         if (Accessible.description !== problem)
             Accessible.description = Qt.binding(() => root.problem)
     }
 
-    function leave(forwards: bool) {
+    function leave(forwards: bool): bool {
         nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+        return true
+    }
+
+    function handle(event: var) {
+        keyPressed(event)
+        if (!event.accepted && (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab))
+            event.accepted = leave(event.key === Qt.Key_Tab && !(event.modifiers & Qt.ShiftModifier))
+        else if (!event.accepted && takesFiles && event.matches(StandardKey.Paste))
+            event.accepted = report(LocalFiles.onClipboard())
+    }
+
+    function report(files: var): bool {
+        if (files.length > 0)
+            filesPasted(files)
+        return files.length > 0
     }
 
     leftPadding: 9
@@ -37,10 +59,10 @@ T.TextArea {
     selectByMouse: true
     hoverEnabled: true
     focus: true
-    Keys.onTabPressed: leave(true)
-    Keys.onBacktabPressed: leave(false)
+    Keys.onPressed: event => handle(event)
     Accessible.role: Accessible.EditableText
     Accessible.multiLine: true
+    Accessible.readOnly: readOnly
     Accessible.name: name
     Accessible.description: problem
     // The template overwrites the description with its placeholder when the item is complete and whenever a screen
@@ -48,7 +70,7 @@ T.TextArea {
     Accessible.onDescriptionChanged: speak()
 
     cursorDelegate: TextCaret {
-        shown: root.activeFocus && root.selectionStart === root.selectionEnd
+        shown: root.activeFocus && !root.readOnly && root.selectionStart === root.selectionEnd
     }
 
     AppText {

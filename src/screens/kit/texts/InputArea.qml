@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Templates as T
+import Velmora.Kit
+import Velmora.Theme
+
+/// A text field with several lines. It grows with its text from `lowest` to `highest`, and scrolls beyond that. Tab and
+/// Shift+Tab leave the field. `name`, `placeholderText` and `problem` have the same meaning as in an `InputField`. With
+/// `takesFiles`, local files that are pasted or dropped are reported by `filesGiven`.
+FocusScope {
+    id: root
+
+    required property string name
+    property alias text: editor.text
+    property alias placeholderText: editor.placeholderText
+    property alias role: editor.role
+    property alias cursorPosition: editor.cursorPosition
+    property alias selectionStart: editor.selectionStart
+    property alias selectionEnd: editor.selectionEnd
+    property alias readOnly: editor.readOnly
+    property alias takesFiles: editor.takesFiles
+    property real lowest: 76
+    property real highest: 240
+    property real corner: Metrics.radiusRow
+    property string problem
+    /// Under the pointer.
+    property bool lit: enabled && editor.hovered
+    /// Shows the keyboard focus.
+    property bool ringed: activeFocus
+
+    /// A key press before the field handles it. An accepted event goes no further.
+    signal keyPressed(event: var)
+    /// Local files were pasted or dropped: a list of addresses.
+    signal filesGiven(files: var)
+
+    /// Replaces the selection, or inserts at the caret. The caret is then after the new text. One step of undo.
+    function insert(words: string) {
+        replace(selectionStart, selectionEnd, words)
+    }
+
+    /// Replaces the characters from `start` up to `end`. The caret is then after the new text. One step of undo.
+    function replace(start: int, end: int, words: string) {
+        DocumentEdits.replace(editor.textDocument, start, end, words)
+        editor.cursorPosition = start + words.length
+    }
+
+    function select(start: int, end: int) {
+        editor.select(start, end)
+    }
+
+    /// The caret in the coordinates of the window.
+    function caretInWindow(): rect {
+        const caret = editor.cursorRectangle
+        return editor.mapToItem(null, caret.x, caret.y, caret.width, caret.height)
+    }
+
+    implicitWidth: 290
+    implicitHeight: Math.max(lowest, Math.min(highest, editor.wholeHeight + 2))
+
+    FieldSurface {
+        anchors.fill: parent
+        corner: root.corner
+        hovered: root.lit
+        focused: root.ringed
+        invalid: root.enabled && root.problem.length > 0
+    }
+
+    Flickable {
+        id: view
+
+        anchors.fill: parent
+        anchors.margins: 1
+        clip: true
+        // Without overflow the wheel events are left to the page.
+        interactive: editor.wholeHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        T.TextArea.flickable: InputAreaEditor {
+            id: editor
+
+            name: root.name
+            problem: root.problem
+            onKeyPressed: event => root.keyPressed(event)
+            onFilesPasted: files => root.filesGiven(files)
+        }
+
+        T.ScrollBar.vertical: OverlayScrollBar {
+            thickness: 5
+        }
+    }
+
+    DropArea {
+        anchors.fill: parent
+        enabled: root.takesFiles && !root.readOnly
+        onEntered: drag => drag.accepted = LocalFiles.among(drag.urls).length > 0
+        onDropped: drop => {
+            root.filesGiven(LocalFiles.among(drop.urls))
+            drop.accept(Qt.CopyAction)
+        }
+    }
+}
