@@ -125,6 +125,15 @@ TEST_F(Windows, SettingsHaveOneWindowThatShowsTheShortcuts)
     EXPECT_FALSE(scenes().settingsWindow());
 }
 
+TEST_F(Windows, TheTabsOfTheSettingsAreSpokenAsPageTabs)
+{
+    Q_EMIT store().settingsRequested();
+    auto *settings = scenes().settingsWindow();
+    ASSERT_TRUE(settings);
+    EXPECT_EQ(spokenIn(*settings, QAccessible::PageTabList, u"Réglages"_s).size(), 1);
+    EXPECT_EQ(spokenIn(*settings, QAccessible::PageTab, u"Raccourcis"_s).size(), 1);
+}
+
 TEST_F(Windows, ThePaletteOpensAnIssueInAWindow)
 {
     press(Qt::Key_K, Qt::ControlModifier);

@@ -3,6 +3,7 @@
 #include "platform/Wording.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +38,18 @@ void SettingsTabs::setTab(const QString &tab)
         return;
     m_preferences.setText(TabKey, tab);
     Q_EMIT tabChanged();
+}
+
+int SettingsTabs::index() const
+{
+    const auto known = tabs();
+    const auto found = std::ranges::find(known, tab(), &SettingsTab::value);
+    return static_cast<int>(std::distance(known.begin(), found));
+}
+
+void SettingsTabs::setIndex(int index)
+{
+    setTab(tabs().at(index).value);
 }
 
 QList<ShortcutGroup> SettingsTabs::shortcuts() const

@@ -32,6 +32,7 @@ class SettingsTabs : public QObject
     QML_UNCREATABLE("Made with the windows")
     Q_PROPERTY(QList<SettingsTab> tabs READ tabs CONSTANT FINAL)
     Q_PROPERTY(QString tab READ tab WRITE setTab NOTIFY tabChanged FINAL)
+    Q_PROPERTY(int index READ index WRITE setIndex NOTIFY tabChanged FINAL)
     Q_PROPERTY(QList<ShortcutGroup> shortcuts READ shortcuts CONSTANT FINAL)
 
 public:
@@ -41,6 +42,9 @@ public:
     /// The stored tab if it exists, otherwise the first one.
     QString tab() const;
     void setTab(const QString &tab);
+    /// The position of the chosen tab in `tabs`.
+    int index() const;
+    void setIndex(int index);
     /// The title in the terms of this system.
     QList<ShortcutGroup> shortcuts() const;
 

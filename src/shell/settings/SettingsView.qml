@@ -40,20 +40,20 @@ Window {
         onActivated: Qt.quit()
     }
 
-    Row {
-        id: bar
+    TabList {
         anchors.horizontalCenter: parent.horizontalCenter
         y: Metrics.gapMedium
-        spacing: Metrics.gapTiny
-        Accessible.role: Accessible.PageTabList
-        Accessible.name: "Réglages"
+        name: "Réglages"
+        count: root.tabs.tabs.length
+        current: root.tabs.index
+        onChosen: index => root.tabs.index = index
 
         Repeater {
             model: root.tabs.tabs
 
             SettingsTabButton {
-                isChosen: root.tabs.tab === modelData.value
-                onClicked: root.tabs.tab = modelData.value
+                on: root.tabs.tab === modelData.value
+                onChosen: root.tabs.tab = modelData.value
             }
         }
     }

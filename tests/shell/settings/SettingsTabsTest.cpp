@@ -32,6 +32,17 @@ TEST_F(SettingsTabsTest, AChosenTabIsStored)
     EXPECT_EQ(tabs.tab(), u"shortcuts"_s);
 }
 
+TEST_F(SettingsTabsTest, ATabIsAlsoChosenByItsPosition)
+{
+    preferences.setText(u"settingsTab"_s, u"ailleurs"_s);
+    SettingsTabs tabs(preferences);
+    for (int i = 0; i < tabs.tabs().size(); ++i) {
+        tabs.setIndex(i);
+        EXPECT_EQ(tabs.index(), i);
+        EXPECT_EQ(tabs.tab(), tabs.tabs()[i].value);
+    }
+}
+
 TEST_F(SettingsTabsTest, ShortcutsReadAsOnThisSystem)
 {
     const SettingsTabs tabs(preferences);

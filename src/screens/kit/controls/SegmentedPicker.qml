@@ -4,8 +4,8 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// A choice among a few words, side by side. Each segment is a radio button. `name` is the name of the group. The left
-/// and right keys choose the previous and the next segment.
+/// A choice among a few words, side by side. Each segment is a radio button, and the picker is one stop of the Tab key:
+/// the arrow keys choose the previous and the next segment. `name` is the name of the group.
 Rectangle {
     id: root
 
@@ -15,27 +15,21 @@ Rectangle {
 
     signal chosen(index: int)
 
-    function step(by: int) {
-        if (choices[current + by] === undefined)
-            return
-        chosen(current + by)
-        segments.children[current].forceActiveFocus(Qt.TabFocusReason)
-    }
-
     implicitWidth: segments.implicitWidth + 4
     implicitHeight: 28
     radius: height / 2
     color: Theme.ink(0.06)
     Accessible.role: Accessible.Grouping
     Accessible.name: name
-    Keys.onLeftPressed: step(-1)
-    Keys.onRightPressed: step(1)
 
-    Row {
+    ChoiceRow {
         id: segments
 
         x: 2
         y: 2
+        count: root.choices.length
+        current: root.current
+        onChosen: index => root.chosen(index)
 
         Repeater {
             model: root.choices
@@ -47,6 +41,7 @@ Rectangle {
                 height: root.height - 4
                 text: modelData
                 on: index === root.current
+                isTabStop: index === Math.max(0, root.current)
                 onChosen: root.chosen(index)
             }
         }

@@ -1,44 +1,14 @@
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// One segment of a `SegmentedPicker`. It is not a `FocusableItem`, because a template fixes its role, and this one is
-/// a radio button.
-T.RadioButton {
+/// One segment of a `SegmentedPicker`.
+RadioChoice {
     id: root
 
-    required property bool on
-    property bool lit: enabled && (hovered || down)
-    /// Shows the keyboard focus.
-    property bool ringed: visualFocus
-
-    signal chosen()
-
-    // For screen readers, which also press disabled controls.
-    function choose() {
-        if (enabled)
-            chosen()
-    }
-
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
-    // The focus ring is drawn above the neighbouring segments.
-    z: ringed ? 1 : 0
     leftPadding: 12
     rightPadding: 12
-    // The picker decides which segment is chosen.
-    checkable: false
-    hoverEnabled: true
-    focusPolicy: Qt.TabFocus
-    onClicked: chosen()
-    Keys.onReturnPressed: chosen()
-    Keys.onEnterPressed: chosen()
-    Accessible.role: Accessible.RadioButton
-    Accessible.name: text
-    Accessible.checkable: true
-    Accessible.checked: on
-    Accessible.onPressAction: choose()
-    Accessible.onToggleAction: choose()
+    corner: height / 2
 
     background: Rectangle {
         radius: height / 2
@@ -63,10 +33,5 @@ T.RadioButton {
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
-    }
-
-    FocusRing {
-        shown: root.ringed
-        corner: root.height / 2
     }
 }
