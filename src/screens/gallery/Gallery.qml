@@ -10,8 +10,8 @@ Window {
     required property string page
     required property bool dark
     required property int accent
-    readonly property list<string> pages: ["icons", "symbols", "states", "fields", "controls", "panels", "overlays", "sheets"]
-    readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Commandes", "Panneaux",
+    readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays", "sheets"]
+    readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Formulaires", "Commandes", "Panneaux",
         "Menus et bulles", "Feuille"]
 
     width: 1320

@@ -34,7 +34,8 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.addHelpOption();
     parser.addOptions(
-        {{u"page"_s, u"icons, symbols, states, fields, controls, panels, overlays or sheets"_s,
+        {{u"page"_s,
+          u"icons, symbols, states, fields, forms, controls, panels, overlays or sheets"_s,
           u"name"_s, u"icons"_s},
          {u"dark"_s, u"in the dark appearance"_s},
          {u"accent"_s, u"from 0, indigo, to 6, graphite"_s, u"number"_s, u"0"_s},
