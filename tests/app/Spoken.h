@@ -23,3 +23,6 @@ QList<Spoken> spokenIn(QQuickWindow &window);
 /// The elements of a role whose name contains a text.
 QList<Spoken> spokenIn(QQuickWindow &window, QAccessible::Role role,
                        const QString &nameContains = {});
+/// Performs the press action of the first visible element of a role whose name contains a text, as a screen reader
+/// does. False if the element does not exist or offers no such action.
+bool pressAction(QQuickWindow &window, QAccessible::Role role, const QString &nameContains);

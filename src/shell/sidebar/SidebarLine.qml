@@ -27,46 +27,48 @@ PressArea {
     acceptedButtons: kind === SidebarEnums.Project ? Qt.RightButton : Qt.NoButton
     implicitHeight: isSection ? 35 : Metrics.sidebarRowHeight
 
-    Accessible.role: root.isSection ? Accessible.Heading
-        : root.isSelectable ? Accessible.ListItem : Accessible.StaticText
-    Accessible.name: root.accessibleName
-    Accessible.selectable: root.isSelectable
-    Accessible.selected: root.isSelected
-    Accessible.focusable: root.isSelectable
-    Accessible.focused: root.isFocused
-    Accessible.onPressAction: root.chosen()
-
-    SidebarRow {
+    Item {
         anchors.fill: parent
         visible: root.isSelectable
-        focusPolicy: Qt.NoFocus
-        text: root.text
-        symbol: root.symbol
-        count: root.badgeText
-        selected: root.isSelected
-        nested: root.kind === SidebarEnums.View
-        accessibleName: root.accessibleName
-        Accessible.ignored: true
-        onClicked: root.chosen()
-        // With this handler the second press of a double click is no click. The first one may have put another row
-        // under the pointer.
-        onDoubleClicked: {}
+        Accessible.role: Accessible.ListItem
+        Accessible.name: root.accessibleName
+        Accessible.selectable: true
+        Accessible.selected: root.isSelected
+        Accessible.focusable: true
+        Accessible.focused: root.isFocused
+        Accessible.onPressAction: root.chosen()
 
-        When {
-            shown: root.kind === SidebarEnums.Project
+        SidebarRow {
+            anchors.fill: parent
+            focusPolicy: Qt.NoFocus
+            text: root.text
+            symbol: root.symbol
+            count: root.badgeText
+            selected: root.isSelected
+            nested: root.kind === SidebarEnums.View
+            Accessible.ignored: true
+            onClicked: root.chosen()
+            // With this handler the second press of a double click is no click. The first one may have put another row
+            // under the pointer.
+            onDoubleClicked: {}
 
-            ProjectBadge {
-                x: 9
-                y: (root.height - height) / 2
-                project: root.project
-                Accessible.ignored: true
+            When {
+                shown: root.kind === SidebarEnums.Project
+
+                ProjectBadge {
+                    x: 9
+                    y: (root.height - height) / 2
+                    project: root.project
+                    Accessible.ignored: true
+                }
             }
-        }
 
-        FocusRing {
-            shown: root.isFocused
-            corner: Metrics.radiusRow
-            anchors.margins: -2
+            // Inside the row, because the list clips what is drawn beside it.
+            FocusRing {
+                shown: root.isFocused
+                corner: Metrics.radiusRow - 4
+                anchors.margins: 0
+            }
         }
     }
 
@@ -79,7 +81,8 @@ PressArea {
         weight: Font.DemiBold
         color: Theme.text3
         text: root.text
-        Accessible.ignored: true
+        Accessible.role: Accessible.Heading
+        Accessible.name: root.accessibleName
     }
 
     AppText {
@@ -88,6 +91,5 @@ PressArea {
         anchors.verticalCenter: parent.verticalCenter
         color: Theme.text2
         text: root.text
-        Accessible.ignored: true
     }
 }

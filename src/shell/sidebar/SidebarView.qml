@@ -133,7 +133,7 @@ FocusScope {
             id: badge
             width: parent.width
             visible: root.store.isDemo
-            onClicked: root.store.signOut()
+            onClicked: root.store.run(Commands.Command.OpenSettings)
         }
     }
 }

@@ -17,6 +17,19 @@ protected:
         openOnDemo();
     }
 
+    /// The visible focus ring below an item.
+    static const QQuickItem *ringBelow(const QQuickItem &parent)
+    {
+        for (const QQuickItem *child : parent.childItems()) {
+            if (child->isVisible() &&
+                QString::fromLatin1(child->metaObject()->className()).startsWith(u"FocusRing"_s))
+                return child;
+            if (const auto *found = ringBelow(*child))
+                return found;
+        }
+        return nullptr;
+    }
+
     /// The focus is on a list that handles the arrow keys itself, or on one of its rows.
     bool isWalking()
     {
@@ -49,6 +62,33 @@ TEST_F(Sidebar, TabReachesTheRowsAndTheArrowsWalkThem)
     press(Qt::Key_Down);
     EXPECT_EQ(store().scope(), IssueScope::activity({ActivityRange::Week, 0, false}));
     press(Qt::Key_Up);
+    EXPECT_EQ(store().scope(), IssueScope::reported());
+}
+
+TEST_F(Sidebar, TheFocusRingOfARowIsCutNowhere)
+{
+    for (int i = 0; i < 20 && !isWalking(); ++i)
+        press(Qt::Key_Tab);
+    ASSERT_TRUE(isWalking());
+    settle();
+
+    const auto *ring = ringBelow(*window().activeFocusItem());
+    ASSERT_TRUE(ring);
+    const QRectF box = ring->mapRectToScene(ring->boundingRect());
+    for (const auto *item = ring->parentItem(); item; item = item->parentItem()) {
+        if (item->clip())
+            EXPECT_TRUE(item->mapRectToScene(item->boundingRect()).contains(box));
+    }
+}
+
+TEST_F(Sidebar, TheTitleOfASectionCannotBePressedAndARowCan)
+{
+    ASSERT_EQ(find(QAccessible::Heading, u"Projets"_s).name, u"Projets"_s);
+    store().select(IssueScope::recent());
+
+    EXPECT_FALSE(pressAction(window(), QAccessible::Heading, u"Projets"_s));
+    EXPECT_EQ(store().scope(), IssueScope::recent());
+    EXPECT_TRUE(pressAction(window(), QAccessible::ListItem, u"Créés par moi"_s));
     EXPECT_EQ(store().scope(), IssueScope::reported());
 }
 
@@ -114,6 +154,16 @@ TEST_F(Sidebar, TheKeyboardOpensTheMenuOfTheProjectThatIsShown)
     press(Qt::Key_Return);
 
     EXPECT_EQ(store().favoriteProjects(), QStringList{u"MOB"_s});
+}
+
+TEST_F(Sidebar, TheBadgeOfTheDemoOpensTheSettingsAndKeepsTheDemo)
+{
+    QSignalSpy settings(&store(), &AppStore::settingsRequested);
+    click(find(QAccessible::Button, u"Mode démo, connecter Jira"_s));
+
+    EXPECT_EQ(settings.count(), 1);
+    EXPECT_TRUE(store().isDemo());
+    EXPECT_EQ(store().phase(), AppStore::Phase::Ready);
 }
 
 TEST_F(Sidebar, OnARowWithoutAMenuTheMenuKeyDoesNothing)
