@@ -173,6 +173,11 @@ TEST_F(Accessibility, AStepBeyondTheLastIssueLeavesTheButtonToo)
     EXPECT_TRUE(store().showInspector());
 }
 
+TEST_F(Accessibility, TheSwitchOfTheLayoutsIsNamed)
+{
+    find(QAccessible::Grouping, u"Disposition"_s);
+}
+
 TEST_F(Accessibility, AReaderThatStartsLaterHearsWhichLayoutIsChosen)
 {
     QAccessible::setActive(false);

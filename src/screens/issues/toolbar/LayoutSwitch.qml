@@ -13,6 +13,8 @@ GlassCapsule {
     signal chosen(layout: int)
 
     width: cells.width + 4
+    Accessible.role: Accessible.Grouping
+    Accessible.name: "Disposition"
 
     Row {
         id: cells
