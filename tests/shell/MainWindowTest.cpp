@@ -255,7 +255,7 @@ TEST_F(MainWindow, WithIssuesCheckedTheToastsStandOverTheMiddleOfTheIssues)
     store().setInspectorKey(u"MOB-1"_s);
     settle();
     store().cycleAppearance();
-    const auto toast = await(QAccessible::Button, u"Apparence"_s);
+    const auto toast = await(QAccessible::Notification, u"Apparence"_s);
 
     // Halfway between the sidebar, which ends at 240, and the inspector, which begins at 820.
     EXPECT_NEAR(toast.box.center().x(), 530, 1);

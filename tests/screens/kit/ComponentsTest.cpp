@@ -82,7 +82,7 @@ const Component components[]{
     {"Symbol", u"Symbol { name: 'lock.fill'; meaning: 'Note interne' }"_s, QAccessible::Graphic,
      u"Note interne"_s},
     {"ToastCard", u"ToastCard { message: 'Lien copié'; symbol: 'link'; isError: false }"_s,
-     QAccessible::Button, u"Lien copié"_s},
+     QAccessible::Notification, u"Lien copié"_s},
     {"ToggleSwitch", u"ToggleSwitch { name: 'Afficher'; checked: true }"_s, QAccessible::CheckBox,
      u"Afficher"_s},
     {"ToolbarCell", u"ToolbarCell { name: 'Liste'; symbol: 'list.bullet'; on: true }"_s,

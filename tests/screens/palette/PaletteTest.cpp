@@ -180,7 +180,7 @@ TEST_F(Palette, WithoutAFocusedIssueItAsksForOne)
 
     EXPECT_FALSE(store().palette());
     EXPECT_TRUE(QTest::qWaitFor([&] {
-        return !spokenIn(window(), QAccessible::Button, u"Sélectionne d'abord un ticket"_s)
+        return !spokenIn(window(), QAccessible::Notification, u"Sélectionne d'abord un ticket"_s)
                     .isEmpty();
     }));
 }

@@ -2,37 +2,62 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-/// One toast: a symbol and a message on glass, at most 460 wide. A longer message wraps. A press emits `clicked`.
-FocusableItem {
+/// One toast: a symbol and a message on glass, at most 460 wide. A longer message wraps. A press emits `clicked`. For
+/// screen readers it is a notification, or an alert if it is an error. (It contains a `FocusableItem` and is none,
+/// because screen readers always see that as a button.)
+FocusScope {
     id: root
 
     required property string message
     required property string symbol
     required property bool isError
+    property alias lit: button.lit
+    property alias ringed: button.ringed
+    // Screen readers announce a notification when it is shown after its creation.
+    property bool isShown: false
 
-    leftPadding: 16
-    rightPadding: 16
-    topPadding: 10
-    bottomPadding: 10
-    implicitWidth: Math.min(Metrics.toastMaxWidth, implicitContentWidth + leftPadding + rightPadding)
-    corner: Math.min(Metrics.radiusToast, height / 2)
-    accessibleName: message
+    signal clicked()
 
-    contentItem: ToastLabel {
-        message: root.message
-        symbol: root.symbol
-        isError: root.isError
-    }
+    implicitWidth: button.implicitWidth
+    implicitHeight: button.implicitHeight
+    visible: isShown
+    Component.onCompleted: isShown = true
+    Accessible.role: isError ? Accessible.AlertMessage : Accessible.Notification
+    Accessible.name: message
+    Accessible.focusable: true
+    Accessible.focused: button.activeFocus
+    Accessible.onPressAction: clicked()
 
-    background: GlassPanel {
-        radius: root.corner
-        color: Theme.glassStrong
-        shadow: "bar"
+    FocusableItem {
+        id: button
 
-        HoverFill {
-            radius: root.corner
-            shown: root.lit
-            fill: root.down ? Theme.openFill : Theme.hoverFill
+        anchors.fill: parent
+        focus: true
+        leftPadding: 16
+        rightPadding: 16
+        topPadding: 10
+        bottomPadding: 10
+        implicitWidth: Math.min(Metrics.toastMaxWidth, implicitContentWidth + leftPadding + rightPadding)
+        corner: Math.min(Metrics.radiusToast, height / 2)
+        Accessible.ignored: true
+        onClicked: root.clicked()
+
+        contentItem: ToastLabel {
+            message: root.message
+            symbol: root.symbol
+            isError: root.isError
+        }
+
+        background: GlassPanel {
+            radius: button.corner
+            color: Theme.glassStrong
+            shadow: "bar"
+
+            HoverFill {
+                radius: button.corner
+                shown: button.lit
+                fill: button.down ? Theme.openFill : Theme.hoverFill
+            }
         }
     }
 }

@@ -95,7 +95,7 @@ TEST_F(SelectionBar, CopyCopiesTheKeysInOrder)
     click(await(QAccessible::Button, u"Copier"_s));
 
     EXPECT_EQ(lastCopied(), u"MOB-1, MOB-3"_s);
-    await(QAccessible::Button, u"Clés copié"_s);
+    await(QAccessible::Notification, u"Clés copié"_s);
 }
 
 TEST_F(SelectionBar, AReloadTakesIssuesThatWentOutOfTheCount)
