@@ -19,73 +19,82 @@ FocusScope {
         still: Motion.reduced
     }
 
-    GlassPanel {
-        width: 460
-        height: content.height + 2 * 36
-        anchors.centerIn: parent
-        radius: Metrics.radiusOnboarding
-        shadow: "onboarding"
-        color: Theme.onboardingCard
-        hairline: "#38FFFFFF"
-        edgeLight: "#80FFFFFF"
+    CardScroller {
+        id: scroller
+        anchors.fill: parent
+        card: panel
+        scope: root
 
-        Column {
-            id: content
-            x: 36
-            y: 36
-            width: parent.width - 72
+        GlassPanel {
+            id: panel
+            width: Math.min(460, scroller.width - 2 * Metrics.gap)
+            height: content.height + 2 * 36
+            x: (scroller.width - width) / 2
+            y: (scroller.contentHeight - height) / 2
+            radius: Metrics.radiusOnboarding
+            shadow: "onboarding"
+            color: Theme.onboardingCard
+            hairline: "#38FFFFFF"
+            edgeLight: "#80FFFFFF"
 
-            AppGlyph {
-                anchors.horizontalCenter: parent.horizontalCenter
-                size: 76
-            }
+            Column {
+                id: content
+                x: 36
+                y: 36
+                width: parent.width - 72
 
-            Item { width: 1; height: 18 }
+                AppGlyph {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    size: 76
+                }
 
-            AppText {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                role: TypeScale.Display
-                text: "Jira au bout des doigts"
-                Accessible.role: Accessible.Heading
-            }
+                Item { width: 1; height: 18 }
 
-            Item { width: 1; height: Metrics.gap }
+                AppText {
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    role: TypeScale.Display
+                    text: "Jira au bout des doigts"
+                    Accessible.role: Accessible.Heading
+                }
 
-            AppText {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                role: TypeScale.Body14
-                color: Theme.text2
-                wrapMode: Text.Wrap
-                text: "Connecte ton espace Atlassian pour retrouver tes tickets dans une app native, rapide et pensée pour le clavier."
-            }
+                Item { width: 1; height: Metrics.gap }
 
-            Item { width: 1; height: 22 }
+                AppText {
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    role: TypeScale.Body14
+                    color: Theme.text2
+                    wrapMode: Text.Wrap
+                    text: "Connecte ton espace Atlassian pour retrouver tes tickets dans une app native, rapide et pensée pour le clavier."
+                }
 
-            ConnectFormView {
-                id: form
-                width: parent.width
-                focus: true
-                store: root.store
-            }
+                Item { width: 1; height: 22 }
 
-            Item { width: 1; height: 18 }
+                ConnectFormView {
+                    id: form
+                    width: parent.width
+                    focus: true
+                    store: root.store
+                }
 
-            SeparatorWord {
-                width: parent.width
-                text: "ou"
-            }
+                Item { width: 1; height: 18 }
 
-            Item { width: 1; height: 16 }
+                SeparatorWord {
+                    width: parent.width
+                    text: "ou"
+                }
 
-            PushButton {
-                width: parent.width
-                large: true
-                look: PushButton.Glass
-                symbol: "sparkles"
-                text: "Explorer en mode démo"
-                onClicked: root.store.openDemo()
+                Item { width: 1; height: 16 }
+
+                PushButton {
+                    width: parent.width
+                    large: true
+                    look: PushButton.Glass
+                    symbol: "sparkles"
+                    text: "Explorer en mode démo"
+                    onClicked: root.store.openDemo()
+                }
             }
         }
     }

@@ -20,7 +20,7 @@ class SignIn(SiteCase):
         self.assertEqual(velmora.app.all(role="list item", name=ISSUE.pattern), [])
 
     def fields(self, velmora):
-        return [velmora.app.find(role="text", name=name).text for name in ("^mon-equipe", "^E-mail du compte")]
+        return [velmora.app.find(role="text", name=name).text for name in ("^Site Jira", "^E-mail du compte")]
 
     def test_in_and_out_with_an_email(self):
         velmora = self.open_card()

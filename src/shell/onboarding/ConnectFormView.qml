@@ -41,6 +41,7 @@ FocusScope {
             id: siteField
             width: parent.width
             symbol: "globe"
+            name: "Site Jira"
             placeholder: "mon-equipe.atlassian.net"
             typed: connectForm.site
             onEdited: text => connectForm.site = text
@@ -49,7 +50,7 @@ FocusScope {
         GlassField {
             width: parent.width
             symbol: "at"
-            placeholder: "E-mail du compte Atlassian"
+            name: "E-mail du compte Atlassian"
             typed: connectForm.email
             onEdited: text => connectForm.email = text
         }
@@ -58,7 +59,7 @@ FocusScope {
             id: tokenField
             width: parent.width
             symbol: "key.fill"
-            placeholder: "Token API"
+            name: "Token API"
             secure: true
             typed: connectForm.token
             onEdited: text => connectForm.token = text

@@ -25,8 +25,16 @@ Item {
         role: TypeScale.Small
         weight: Font.Medium
         color: Theme.accentText
-        font.underline: root.lit
         text: "Créer un token API"
         Accessible.ignored: true
+    }
+
+    Rectangle {
+        x: words.x
+        y: root.height - 2
+        width: words.width
+        height: 1
+        visible: root.lit
+        color: words.color
     }
 }

@@ -54,6 +54,30 @@ protected:
         }
         return {};
     }
+    void resizeTo(const QSize &size)
+    {
+        window().setMinimumSize({});
+        window().resize(size);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window().size() == size; }));
+        settle();
+    }
+    /// The card with the notice of a session that could not be opened.
+    void openWithNotice()
+    {
+        saveCredentials(Site, u"noam@exemple.fr"_s, u"jeton"_s);
+        beforeOpening = [this] {
+            keychain->reads.answerWith(Keychain::Failed{-1, u"le trousseau est verrouillé"_s});
+        };
+        openSignedOut();
+    }
+    void turnWheel(int steps)
+    {
+        const QPointF middle(window().width() / 2.0, 4);
+        QWheelEvent turn(middle, window().mapToGlobal(middle), {}, {0, 120 * steps}, {}, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window(), &turn);
+    }
+    bool isInWindow(const QRectF &box) { return QRectF(QPointF(), window().size()).contains(box); }
     void fill(const QString &site, const QString &email, const QString &token)
     {
         type(site);
@@ -69,7 +93,8 @@ TEST_F(Onboarding, TheCardNamesAllThatItOffers)
     openSignedOut();
 
     find(QAccessible::Heading, u"Jira au bout des doigts"_s);
-    find(QAccessible::EditableText, u"mon-equipe.atlassian.net"_s);
+    EXPECT_EQ(find(QAccessible::EditableText, u"Site Jira"_s).description,
+              u"Par exemple mon-equipe.atlassian.net"_s);
     find(QAccessible::EditableText, u"E-mail du compte Atlassian"_s);
     find(QAccessible::EditableText, u"Token API"_s);
     find(QAccessible::Button, u"Se connecter"_s);
@@ -158,9 +183,60 @@ TEST_F(Onboarding, TabWalksTheCardFromTopToBottom)
         walk += focused();
     }
 
-    EXPECT_EQ(walk,
-              (QStringList{u"mon-equipe.atlassian.net"_s, u"E-mail du compte Atlassian"_s,
-                           u"Token API"_s, u"Créer un token API"_s, u"Explorer en mode démo"_s}));
+    EXPECT_EQ(walk, (QStringList{u"Site Jira"_s, u"E-mail du compte Atlassian"_s, u"Token API"_s,
+                                 u"Créer un token API"_s, u"Explorer en mode démo"_s}));
+}
+
+TEST_F(Onboarding, TypedTextHasTheFontOfTheProgram)
+{
+    openSignedOut();
+    type(u"exemple"_s);
+    for (int field = 0; field < 3; ++field) {
+        const auto font = window().activeFocusItem()->property("font").value<QFont>();
+        EXPECT_EQ(font.families().value(0), u"Velmora"_s) << field;
+        EXPECT_EQ(font.pixelSize(), 14) << field;
+        press(Qt::Key_Tab);
+    }
+}
+
+TEST_F(Onboarding, TabBringsWhatIsFocusedIntoASmallWindow)
+{
+    // The smallest window, and its logical size where everything is 1.5 and 2 times as large.
+    openWithNotice();
+    for (const QSize size : {QSize(940, 580), QSize(626, 386), QSize(470, 290)}) {
+        resizeTo(size);
+        QSet<QString> reached;
+        for (int i = 0; i < 6; ++i) {
+            press(Qt::Key_Tab);
+            settle();
+            const auto *item = window().activeFocusItem();
+            EXPECT_TRUE(isInWindow(item->mapRectToScene(QRectF(QPointF(), item->size()))))
+                << focused().toStdString() << " at " << size.width();
+            reached += focused();
+        }
+        EXPECT_TRUE(reached.contains(u"Explorer en mode démo"_s));
+        EXPECT_TRUE(reached.contains(u"Réessayer"_s));
+    }
+}
+
+TEST_F(Onboarding, TheWheelShowsTheWholeCardInASmallWindow)
+{
+    openWithNotice();
+    for (const QSize size : {QSize(940, 580), QSize(470, 290)}) {
+        resizeTo(size);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            turnWheel(-1);
+            return isInWindow(find(QAccessible::Button, u"Explorer en mode démo"_s).box);
+        })) << size.width();
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            turnWheel(1);
+            return isInWindow(find(QAccessible::Graphic, u"Velmora"_s).box);
+        })) << size.width();
+        for (const auto &thing : spokenIn(window())) {
+            EXPECT_GE(thing.box.left(), 0) << thing.name.toStdString();
+            EXPECT_LE(thing.box.right(), window().width()) << thing.name.toStdString();
+        }
+    }
 }
 
 TEST_F(Onboarding, ARefusedSignInSaysWhyUnderTheFieldsAndKeepsTheToken)
@@ -227,7 +303,7 @@ TEST_F(Onboarding, AfterASignOutTheFormIsFilledAndTheTokenGone)
 
     store().signOut();
 
-    EXPECT_EQ(find(QAccessible::EditableText, u"mon-equipe"_s).value, u"exemple.atlassian.net"_s);
+    EXPECT_EQ(find(QAccessible::EditableText, u"Site Jira"_s).value, u"exemple.atlassian.net"_s);
     EXPECT_EQ(find(QAccessible::EditableText, u"E-mail"_s).value, u"noam@exemple.fr"_s);
     EXPECT_FALSE(isEnabled(u"Se connecter"_s)) << "the token is empty";
     EXPECT_EQ(focused(), u"Token API"_s);
@@ -262,11 +338,7 @@ TEST_F(Onboarding, TheWindowIsPaintedBeforeTheStoreOfSecretsIsAsked)
 
 TEST_F(Onboarding, ARefusedReadShowsItsNoticeUntilARetrySucceeds)
 {
-    saveCredentials(Site, u"noam@exemple.fr"_s, u"jeton"_s);
-    beforeOpening = [this] {
-        keychain->reads.answerWith(Keychain::Failed{-1, u"le trousseau est verrouillé"_s});
-    };
-    openSignedOut();
+    openWithNotice();
     const auto notice = find(QAccessible::AlertMessage, u"Session enregistrée inaccessible"_s);
     EXPECT_TRUE(notice.name.contains(u"(le trousseau est verrouillé)"_s));
 
@@ -286,17 +358,6 @@ TEST_F(Onboarding, TheLinkOpensThePageOfTokens)
     click(find(QAccessible::Link, u"Créer un token API"_s));
 
     EXPECT_EQ(desktop->opened.value(0).path(), u"/manage-profile/security/api-tokens"_s);
-}
-
-TEST_F(Onboarding, TheBadgeOfTheDemoLeadsToTheForm)
-{
-    serve({});
-    openOnDemo();
-
-    click(find(QAccessible::Button, u"Mode démo, connecter Jira"_s));
-
-    find(QAccessible::Button, u"Se connecter"_s);
-    EXPECT_EQ(keychain->asked(), 0);
 }
 
 TEST_F(Onboarding, TheFieldOfColoursMovesAtMostThirtyTimesASecond)
