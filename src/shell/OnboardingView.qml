@@ -98,4 +98,12 @@ FocusScope {
             }
         }
     }
+
+    Scrolling {
+        view: scroller
+        ground: Theme.content
+        // The background has many colours, so nothing can fade into it.
+        fadesAtTop: false
+        fadesAtBottom: false
+    }
 }

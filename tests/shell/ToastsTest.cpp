@@ -4,20 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// What screen readers are told to have appeared, with its role.
-QList<std::pair<QAccessible::Role, QString>> announced;
-
-void keepShown(QAccessibleEvent *event)
-{
-    auto *shown = event->type() == QAccessible::ObjectShow ? event->accessibleInterface() : nullptr;
-    if (shown)
-        announced.append({shown->role(), shown->text(QAccessible::Name)});
-}
-
-} // namespace
-
 class Toasts : public WindowFixture
 {
 protected:
@@ -56,20 +42,6 @@ TEST_F(Toasts, WithIssuesCheckedTheyStandAboveTheSelectionBar)
     EXPECT_TRUE(QTest::qWaitFor([&] { return gap() == 84; }));
     store().setChecked({});
     EXPECT_TRUE(QTest::qWaitFor([&] { return gap() == 24; }));
-}
-
-TEST_F(Toasts, ScreenReadersAreToldOfThemAndErrorsAreAlerts)
-{
-    announced.clear();
-    QAccessible::setActive(true);
-    const auto before = QAccessible::installUpdateHandler(keepShown);
-    store().toast(u"Clé copié"_s, u"doc.on.doc.fill"_s);
-    store().toast(u"Jira a refusé"_s, u"exclamationmark.triangle.fill"_s, ToastKind::Error);
-    settle();
-    QAccessible::installUpdateHandler(before);
-
-    EXPECT_TRUE(announced.contains({QAccessible::Notification, u"Clé copié"_s}));
-    EXPECT_TRUE(announced.contains({QAccessible::AlertMessage, u"Jira a refusé"_s}));
 }
 
 TEST_F(Toasts, ThePressActionOfAScreenReaderDismissesThem)

@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
-import Velmora.Kit
 import Velmora.Theme
 
 // Shows one card in the middle of the window. A card that does not fit is scrolled by the wheel, and so that the item
@@ -27,11 +25,8 @@ Flickable {
     }
 
     contentHeight: Math.max(height, card.height + 2 * margin)
-    interactive: contentHeight > height
     boundsBehavior: Flickable.StopAtBounds
     onContentHeightChanged: Qt.callLater(revealFocus)
     onHeightChanged: Qt.callLater(revealFocus)
     Window.onActiveFocusItemChanged: revealFocus()
-
-    T.ScrollBar.vertical: OverlayScrollBar {}
 }

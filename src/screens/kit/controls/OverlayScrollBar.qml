@@ -11,8 +11,7 @@ T.ScrollBar {
     property int thickness: Metrics.scrollThumbWidth
     /// The content is moving.
     property bool scrolls: false
-    property bool isFlashing: false
-    readonly property bool wanted: size < 1 && (active || hovered || pressed || scrolls || isFlashing)
+    readonly property bool wanted: size < 1 && (active || hovered || pressed || scrolls || flashing.running)
     // The names under which screen readers look for the value and its range.
     readonly property real value: size < 1 ? 100 * Math.max(0, Math.min(1, position / (1 - size))) : 0
     readonly property real minimumValue: 0
@@ -23,8 +22,7 @@ T.ScrollBar {
 
     /// Shows the bar for a moment.
     function flash() {
-        isFlashing = true;
-        isFlashing = false;
+        flashing.restart();
     }
 
     onPositionChanged: if (pressed) dragged(position)
@@ -71,5 +69,10 @@ T.ScrollBar {
                 }
             }
         }
+    }
+
+    Timer {
+        id: flashing
+        interval: 100
     }
 }

@@ -13,20 +13,17 @@ FocusScope {
     required property bool isError
     property alias lit: button.lit
     property alias ringed: button.ringed
-    // Screen readers announce a notification when it is shown after its creation.
-    property bool isShown: false
+    property alias down: button.down
 
     signal clicked()
 
     implicitWidth: button.implicitWidth
     implicitHeight: button.implicitHeight
-    visible: isShown
-    Component.onCompleted: isShown = true
     Accessible.role: isError ? Accessible.AlertMessage : Accessible.Notification
     Accessible.name: message
     Accessible.focusable: true
     Accessible.focused: button.activeFocus
-    Accessible.onPressAction: clicked()
+    Accessible.onPressAction: if (enabled) clicked()
 
     FocusableItem {
         id: button

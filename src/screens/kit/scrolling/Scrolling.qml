@@ -36,7 +36,7 @@ Item {
         view: root.view
         isReduced: Motion.reduced
         onScrolled: {
-            bar.flash();
+            Qt.callLater(bar.flash);
             root.scrolled();
         }
     }

@@ -118,7 +118,7 @@ TEST_F(BoardDrag, ARefusedTransitionPutsTheCardBackAndShowsTheToast)
 
     await(QAccessible::List, u"À faire, 3 tickets"_s);
     EXPECT_EQ(status(u"MOB-1"_s), u"À faire"_s);
-    await(QAccessible::Button, u"Le workflow refuse."_s);
+    await(QAccessible::AlertMessage, u"Le workflow refuse."_s);
 }
 
 TEST_F(BoardDrag, ATextThatIsNoKnownKeyDoesNothing)
