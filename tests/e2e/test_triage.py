@@ -38,7 +38,7 @@ class RefusedByTheWorkflow(SiteCase):
         x, y, width, _ = velmora.row(first).rect
         to = velmora.app.find(role="list", name="^En revue, ").rect
         self.session.drag((x + width // 2, y + 45), (to[0] + to[2] // 2, to[1] + 200))
-        velmora.app.find(role="push button", name=re.escape(self.REFUSAL))
+        velmora.app.find(role="alert", name=re.escape(self.REFUSAL))
         see_row(velmora, first, "À faire")
         self.assertEqual(self.to_do(velmora)[0], first)
 
@@ -54,7 +54,7 @@ class RefusedByTheWorkflow(SiteCase):
         self.session.type("en revue")
         velmora.app.find(role="list item", name="^En revue$", states=("focused",))
         self.session.key("Return")
-        velmora.app.find(role="push button", name=re.escape(self.REFUSAL))
+        velmora.app.find(role="alert", name=re.escape(self.REFUSAL))
         for key in two:
             see_row(velmora, key, "À faire")
         velmora.wait_focus(two[1])
