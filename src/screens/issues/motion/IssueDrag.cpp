@@ -7,6 +7,8 @@
 #include <QMimeData>
 #include <QQuickWindow>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 QVariantMap dragContent(const Issue &issue, const std::optional<QUrl> &address)
@@ -41,14 +43,14 @@ void IssueDrag::start(PressArea *source, const QImage &picture, QPointF hotSpot)
 {
     if (!source || !source->isDragging())
         return;
-    auto *content = new QMimeData;
+    auto content = std::make_unique<QMimeData>();
     for (const auto &[type, text] : m_content.asKeyValueRange())
         content->setData(type, text.toString().toUtf8());
     QPixmap pixmap = QPixmap::fromImage(picture);
     pixmap.setDevicePixelRatio(m_ratio);
     // Qt deletes the drag once it is finished.
-    auto *drag = new QDrag(this);
-    drag->setMimeData(content);
+    auto *drag = std::make_unique<QDrag>(this).release();
+    drag->setMimeData(content.release());
     drag->setPixmap(pixmap);
     drag->setHotSpot(hotSpot.toPoint());
     const QPointer<PressArea> dragged(source);
