@@ -26,7 +26,14 @@ Flickable {
 
     contentHeight: Math.max(height, card.height + 2 * margin)
     boundsBehavior: Flickable.StopAtBounds
-    onContentHeightChanged: Qt.callLater(revealFocus)
-    onHeightChanged: Qt.callLater(revealFocus)
+    onContentHeightChanged: resized.restart()
+    onHeightChanged: resized.restart()
     Window.onActiveFocusItemChanged: revealFocus()
+
+    // Waits until the card is laid out.
+    Timer {
+        id: resized
+        interval: 0
+        onTriggered: root.revealFocus()
+    }
 }

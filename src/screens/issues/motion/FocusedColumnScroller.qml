@@ -20,6 +20,8 @@ Item {
     property real roomBefore: 0
     // Before the change of the issues that is being made, the column was visible or on its way into view.
     property bool follows: false
+    // Not of the model's type, because qmllint does not know that the base class of the models is an object.
+    readonly property var observed: board
 
     function reveal() {
         const column = root.visible ? board.columnOfKey(focusedKey) : -1;
@@ -67,7 +69,7 @@ Item {
     onVisibleChanged: if (visible) coming.restart()
 
     Connections {
-        target: root.board
+        target: root.observed
 
         function onAboutToUpdate() {
             const column = root.board.columnOfKey(root.focusedKey);

@@ -16,6 +16,8 @@ Item {
     property int clearance: 0
     // Before the change of the issues that is being made, the focused row was visible, on its way into view, or absent.
     property bool follows: false
+    // Not of the model's type, because qmllint does not know that the base class of the models is an object.
+    readonly property var observed: rows
 
     function reveal() {
         const row = root.visible ? rows.rowOfKey(focusedKey) : -1;
@@ -83,7 +85,7 @@ Item {
     onVisibleChanged: if (visible) coming.restart()
 
     Connections {
-        target: root.rows
+        target: root.observed
 
         function onAboutToUpdate() {
             root.follows = animation.running || root.rows.rowOfKey(root.focusedKey) < 0 || root.isInSight();

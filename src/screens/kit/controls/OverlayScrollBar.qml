@@ -22,7 +22,7 @@ T.ScrollBar {
 
     /// Shows the bar for a moment.
     function flash() {
-        flashing.restart();
+        asked.restart();
     }
 
     onPositionChanged: if (pressed) dragged(position)
@@ -69,6 +69,13 @@ T.ScrollBar {
                 }
             }
         }
+    }
+
+    // The request may come while `wanted` is being evaluated.
+    Timer {
+        id: asked
+        interval: 0
+        onTriggered: flashing.restart()
     }
 
     Timer {

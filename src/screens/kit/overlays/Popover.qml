@@ -35,6 +35,12 @@ T.Popup {
         onCloseRequested: root.close()
     }
 
+    // The items below get their new places after the size of the window has changed.
+    readonly property Timer resized: Timer {
+        interval: 0
+        onTriggered: root.follow()
+    }
+
     readonly property Item shield: LayerShield {
         parent: holder.parent
         anchors.fill: parent
@@ -82,8 +88,7 @@ T.Popup {
     closePolicy: T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
     onSpotChanged: if (visible) follow()
-    // The items below get their new places after the size of the window has changed.
-    onRoomSizeChanged: if (visible) Qt.callLater(follow)
+    onRoomSizeChanged: if (visible) resized.restart()
     onAboutToShow: begin()
     onAboutToHide: leave()
 

@@ -36,7 +36,7 @@ Item {
         view: root.view
         isReduced: Motion.reduced
         onScrolled: {
-            Qt.callLater(bar.flash);
+            bar.flash();
             root.scrolled();
         }
     }
