@@ -20,8 +20,11 @@ Item {
     property real roomBefore: 0
     // Before the change of the issues that is being made, the column was visible or on its way into view.
     property bool follows: false
-    // Not of the model's type, because qmllint does not know that the base class of the models is an object.
-    readonly property var observed: board
+
+    // The model as what Connections needs; the linter does not know the base class of the models.
+    function asObject(model) {
+        return model;
+    }
 
     function reveal() {
         const column = root.visible ? board.columnOfKey(focusedKey) : -1;
@@ -69,7 +72,7 @@ Item {
     onVisibleChanged: if (visible) coming.restart()
 
     Connections {
-        target: root.observed
+        target: root.asObject(root.board)
 
         function onAboutToUpdate() {
             const column = root.board.columnOfKey(root.focusedKey);

@@ -16,8 +16,11 @@ Item {
     property int clearance: 0
     // Before the change of the issues that is being made, the focused row was visible, on its way into view, or absent.
     property bool follows: false
-    // Not of the model's type, because qmllint does not know that the base class of the models is an object.
-    readonly property var observed: rows
+
+    // The model as what Connections needs; the linter does not know the base class of the models.
+    function asObject(model) {
+        return model;
+    }
 
     function reveal() {
         const row = root.visible ? rows.rowOfKey(focusedKey) : -1;
@@ -85,7 +88,7 @@ Item {
     onVisibleChanged: if (visible) coming.restart()
 
     Connections {
-        target: root.observed
+        target: root.asObject(root.rows)
 
         function onAboutToUpdate() {
             root.follows = animation.running || root.rows.rowOfKey(root.focusedKey) < 0 || root.isInSight();
