@@ -1,15 +1,19 @@
 #pragma once
 
+#include "screens/theme/Metrics.h"
+
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
+
+#include <algorithm>
 
 /// The inputs for the layout of the main window's panes. Lengths are in logical pixels.
 struct MainWishes
 {
     int window = 0;
     /// The widths that the user chose.
-    int sidebar = 240;
-    int inspector = 500;
+    int sidebar = Metrics::sidebarWidth;
+    int inspector = Metrics::inspectorWidth;
     bool hasInspector = false;
 };
 
@@ -27,7 +31,7 @@ public:
     /// There is enough width for the sidebar. Otherwise it is shown above the other panes on request.
     bool hasSidebar = true;
     /// The width of the sidebar, in either position.
-    int sidebar = 240;
+    int sidebar = Metrics::sidebarWidth;
     /// The width of the inspector. 0 if it is not shown.
     int inspector = 0;
     /// The inspector replaces the list.
@@ -44,9 +48,9 @@ MainPlan mainPlan(const MainWishes &wishes);
 /// The widths that the user can choose.
 constexpr int boundedSidebar(int width)
 {
-    return width < 210 ? 210 : width > 320 ? 320 : width;
+    return std::clamp(width, Metrics::sidebarMinWidth, Metrics::sidebarMaxWidth);
 }
 constexpr int boundedInspector(int width)
 {
-    return width < 380 ? 380 : width > 780 ? 780 : width;
+    return std::clamp(width, Metrics::inspectorMinWidth, Metrics::inspectorMaxWidth);
 }

@@ -3,6 +3,7 @@
 #include "screens/issues/face/IssueCaptions.h"
 #include "screens/issues/face/IssueIcons.h"
 #include "screens/issues/list/RowFit.h"
+#include "screens/kit/painters/ChipPainter.h"
 
 using namespace IssueCaptions;
 
@@ -18,9 +19,10 @@ Caption onFoot(double x, const CardPlan &plan, const Caption &caption)
 
 Caption labelOn(const CardLabel &place, const QString &name, const CardCaptionsInput &card)
 {
-    Caption caption = onFoot(place.x + nameInset, card.plan, label(name, card.style.quiet));
+    Caption caption =
+        onFoot(place.x + ChipLayout::labelText, card.plan, label(name, card.style.quiet));
     if (place.width < RowFitting::labelsWidth({name}))
-        caption.width = place.width - chipFrame;
+        caption.width = place.width - ChipLayout::labelFrame;
     return caption;
 }
 
@@ -33,7 +35,7 @@ QList<Caption> cardCaptions(const CardCaptionsInput &card)
                                      key(card.key, card.style.quiet))};
     if (plan.due != CardPlan::absent) {
         const QColor color = card.isOverdue ? card.style.late : card.style.quiet;
-        captions += onFoot(plan.due + dateInset, plan, due(card.contents.dueText, color));
+        captions += onFoot(plan.due + ChipLayout::dueText, plan, due(card.contents.dueText, color));
     }
     for (qsizetype i = 0; i < plan.labels.size(); ++i)
         captions += labelOn(plan.labels[i], card.contents.labels.value(i), card);

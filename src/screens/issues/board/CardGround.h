@@ -2,6 +2,7 @@
 
 #include "screens/kit/drawn/PictureTexture.h"
 #include "screens/kit/painters/FramePainter.h"
+#include "screens/theme/Metrics.h"
 
 #include <QColor>
 
@@ -11,7 +12,7 @@ struct CardGround
     /// At rest, or raised under the pointer.
     enum Shadow { None, Rest, Raised };
 
-    static constexpr double radius = 11;
+    static constexpr double radius = Metrics::radiusCard;
 
     QColor fill;
     QColor edge;

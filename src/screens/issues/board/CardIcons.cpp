@@ -4,7 +4,7 @@ using namespace IssueIcons;
 
 namespace {
 
-constexpr double prioritySide = 12;
+constexpr double prioritySide = Metrics::cardPriority;
 /// The height of the line with type and key, which is centred in the upper line.
 constexpr double keyLine = 14;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "screens/issues/board/CardGround.h"
-#include "screens/issues/face/PictureNode.h"
+#include "screens/kit/drawn/PictureNode.h"
 
 class NinePatchNode;
 

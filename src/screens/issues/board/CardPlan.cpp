@@ -9,12 +9,10 @@ using namespace IssueIcons;
 
 namespace {
 
-constexpr double gap = 6;
-constexpr double partGap = 8;
+constexpr double gap = Metrics::cardGap;
 /// The assignee's picture is aligned with the right end of the card's text. The cell around it extends further.
 constexpr double cellOutset = (cellSide - avatarSide) / 2;
-constexpr double narrowestLabel = 26;
-constexpr qsizetype labelsShown = 2;
+constexpr double narrowestLabel = Metrics::cardLabelMinimum;
 
 void placeHead(CardPlan &plan, const CardContents &contents, double width)
 {
@@ -33,7 +31,7 @@ void placeHead(CardPlan &plan, const CardContents &contents, double width)
 QList<CardLabel> labelPlaces(const QStringList &labels, double start, double end)
 {
     QList<CardLabel> places;
-    const qsizetype shown = std::min(labelsShown, labels.size());
+    const qsizetype shown = std::min(RowFitting::labelsShown, labels.size());
     for (qsizetype i = 0; i < shown; ++i) {
         const double rest = double(shown - i - 1) * (gap + narrowestLabel);
         const double room = std::max(narrowestLabel, end - rest - start);
@@ -61,7 +59,7 @@ void placeFoot(CardPlan &plan, const CardContents &contents, double width)
 CardPlan cardPlan(const CardContents &contents, double width)
 {
     CardPlan plan;
-    plan.foot = CardPlan::titleTop + contents.titleHeight + partGap;
+    plan.foot = CardPlan::titleTop + contents.titleHeight + Metrics::cardPartGap;
     plan.height = plan.foot + CardPlan::footHeight + CardPlan::margin;
     placeHead(plan, contents, width);
     placeFoot(plan, contents, width);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/theme/Metrics.h"
+
 #include <QList>
 #include <QRectF>
 #include <QString>
@@ -32,13 +34,13 @@ struct CardPlan
 {
     static constexpr double absent = -1;
     /// The distance of all parts from the edge of the card.
-    static constexpr double margin = 12;
+    static constexpr double margin = Metrics::cardPadding;
     /// The heights of the upper line, with type, key and assignee, and of the lower line, with priority, due date and
     /// labels.
-    static constexpr double headHeight = 18;
-    static constexpr double footHeight = 20;
+    static constexpr double headHeight = Metrics::cardHead;
+    static constexpr double footHeight = Metrics::cardFoot;
     /// The top of the summary's first line.
-    static constexpr double titleTop = margin + headHeight + 8;
+    static constexpr double titleTop = margin + headHeight + Metrics::cardPartGap;
 
     double type = absent;
     double key = 0;

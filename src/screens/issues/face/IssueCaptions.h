@@ -6,12 +6,6 @@
 /// The captions of rows and cards.
 namespace IssueCaptions {
 
-/// The space before the name in its chip, the space before the date in its badge, and the total space on both sides of
-/// a name in its chip, in logical pixels.
-inline constexpr double nameInset = 19;
-inline constexpr double dateInset = 23;
-inline constexpr double chipFrame = 26;
-
 /// Places a caption in the vertical middle of an area that starts at `corner` and is `height` high.
 Caption inMiddle(QPointF corner, double height, const Caption &caption);
 /// The caption of a label, without a position.

@@ -1,7 +1,9 @@
 #include "screens/issues/face/IssueIcons.h"
 
+#include "screens/kit/drawn/ChipPictures.h"
 #include "screens/kit/images/PictureProvider.h"
 #include "screens/kit/painters/AvatarPainter.h"
+#include "screens/kit/painters/ChipPainter.h"
 #include "screens/kit/painters/PriorityPainter.h"
 #include "screens/kit/painters/StatusPainter.h"
 #include "screens/kit/painters/SymbolPainter.h"
@@ -19,14 +21,12 @@ namespace IssueIcons {
 
 namespace {
 
-enum Kind { Priority, Status, Type, Chip, Dot, Due, Nobody, Initials, Person, CellFill, CellEdge };
+enum Kind { Priority, Status, Type, Dot, Nobody, Initials, Person, CellFill, CellEdge };
 
 constexpr double typeFont = 11;
-constexpr double chipPadding = 7;
-constexpr double calendarFont = 10;
 /// The radii of a cell's fill and of the outline of a card's cell.
-constexpr double fillRadius = 6;
-constexpr double edgeRadius = 5;
+constexpr double fillRadius = Metrics::radiusSquare;
+constexpr double edgeRadius = Metrics::radiusKeyCap;
 
 void strokeRounded(QPainter &painter, QSizeF size, double radius, const QColor &color)
 {
@@ -34,18 +34,6 @@ void strokeRounded(QPainter &painter, QSizeF size, double radius, const QColor &
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5,
                             radius - 0.5);
-}
-
-void strokeCapsule(QPainter &painter, double width, const QColor &color)
-{
-    strokeRounded(painter, {width, chipHeight}, chipHeight / 2, color);
-}
-
-void fillDot(QPainter &painter, QPointF corner, const QColor &color)
-{
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawEllipse(QRectF(corner, QSizeF(dotSide, dotSide)));
 }
 
 PlacedPicture initials(const JiraUser &user)
@@ -124,44 +112,21 @@ PlacedPicture type(const IssueType &type)
 
 PlacedPicture chip(const QString &label, double width, const IssueStyle &style)
 {
-    const QColor dot = IdentityColors::label(label);
-    const QColor outline = style.outline;
-    const PictureKey key{.kind = Chip,
-                         .value = width,
-                         .color = dot,
-                         .secondColor = outline,
-                         .size = {width, chipHeight}};
-    const auto paint = [=](QPainter &painter) {
-        strokeCapsule(painter, width, outline);
-        fillDot(painter, {chipPadding, (chipHeight - dotSide) / 2}, dot);
-    };
-    return {key, paint, {}};
+    return labelChipPicture({width, chipHeight}, style.outline, IdentityColors::label(label));
 }
 
 PlacedPicture dot(const QString &label)
 {
     const QColor color = IdentityColors::label(label);
     return {{.kind = Dot, .color = color, .size = {dotSide, dotSide}},
-            [=](QPainter &painter) { fillDot(painter, {}, color); },
+            [=](QPainter &painter) { paintLabelDot(painter, {}, color); },
             {}};
 }
 
 PlacedPicture due(double width, bool isOverdue, const IssueStyle &style)
 {
-    const QColor ink = isOverdue ? style.late : style.quiet;
-    const QColor outline = isOverdue ? style.lateOutline : style.outline;
-    const PictureKey key{.kind = Due,
-                         .value = width,
-                         .color = ink,
-                         .secondColor = outline,
-                         .size = {width, chipHeight}};
-    const auto paint = [=](QPainter &painter) {
-        strokeCapsule(painter, width, outline);
-        const double side = symbolSide(calendarFont);
-        paintSymbol(painter, {u"calendar"_s, ink},
-                    {chipPadding, centred(chipHeight, side), side, side});
-    };
-    return {key, paint, {}};
+    return dueBadgePicture({width, chipHeight}, isOverdue ? style.lateOutline : style.outline,
+                           isOverdue ? style.late : style.quiet);
 }
 
 PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face)

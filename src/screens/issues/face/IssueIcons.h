@@ -2,31 +2,21 @@
 
 #include "model/Issue.h"
 #include "screens/issues/face/IssueStyle.h"
-#include "screens/kit/drawn/PictureTexture.h"
+#include "screens/kit/drawn/PictureNode.h"
+#include "screens/theme/Metrics.h"
 
 #include <QImage>
 #include <QPointF>
-
-/// A picture and the position of its upper left corner, in logical pixels.
-struct PlacedPicture
-{
-    PictureKey key;
-    PicturePainter paint;
-    QPointF place;
-
-    /// The same picture at another position.
-    PlacedPicture at(QPointF corner) const { return {key, paint, corner}; }
-};
 
 /// The pictures of rows and cards, without positions. Sizes are in logical pixels.
 namespace IssueIcons {
 
 /// The side of an editable cell, the side of a person's picture, the height of a due date and of a label's chip, and
 /// the side of a label's dot.
-inline constexpr double cellSide = 22;
-inline constexpr double avatarSide = 18;
-inline constexpr double chipHeight = 19;
-inline constexpr double dotSide = 7;
+inline constexpr double cellSide = Metrics::rowPicker;
+inline constexpr double avatarSide = Metrics::avatar;
+inline constexpr double chipHeight = Metrics::chipHeight;
+inline constexpr double dotSide = Metrics::labelDot;
 
 /// The offset that centres a length in the available length, rounded to a whole pixel as Qt Quick does.
 double centred(double room, double length);
@@ -34,7 +24,7 @@ double centred(double room, double length);
 PlacedPicture priority(PriorityLevel level, const IssueStyle &style, double side);
 PlacedPicture status(const IssueStatus &status, const IssueStyle &style, double side);
 /// The side of the square of a type. The picture from `type` is larger by `typeBorder` on each side.
-inline constexpr double typeSide = 13;
+inline constexpr double typeSide = Metrics::typeIcon;
 double typeBorder();
 PlacedPicture type(const IssueType &type);
 /// The outline and the dot of a label, without its name.

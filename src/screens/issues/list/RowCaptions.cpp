@@ -2,11 +2,9 @@
 
 #include "screens/issues/face/IssueCaptions.h"
 #include "screens/issues/list/RowFit.h"
+#include "screens/kit/painters/ChipPainter.h"
 
 namespace {
-
-constexpr qsizetype namesShown = 2;
-constexpr double chipGap = 4;
 
 void addNames(QList<Caption> &captions, const RowCaptionsInput &row)
 {
@@ -15,12 +13,13 @@ void addNames(QList<Caption> &captions, const RowCaptionsInput &row)
         return IssueCaptions::inMiddle({x, 0}, row.height, caption);
     };
     double x = row.plan.labels;
-    for (const auto &label : labels.first(std::min(namesShown, labels.size()))) {
-        captions += at(x + IssueCaptions::nameInset, IssueCaptions::label(label, row.style.quiet));
-        x += RowFitting::labelsWidth({label}) + chipGap;
+    for (const auto &label : labels.first(std::min(RowFitting::labelsShown, labels.size()))) {
+        captions += at(x + ChipLayout::labelText, IssueCaptions::label(label, row.style.quiet));
+        x += RowFitting::labelsWidth({label}) + Metrics::chipGap;
     }
-    if (labels.size() > namesShown)
-        captions += at(x, IssueCaptions::more(labels.size() - namesShown, row.style.quiet));
+    if (labels.size() > RowFitting::labelsShown)
+        captions +=
+            at(x, IssueCaptions::more(labels.size() - RowFitting::labelsShown, row.style.quiet));
 }
 
 } // namespace
@@ -32,9 +31,8 @@ QList<Caption> rowCaptions(const RowCaptionsInput &row)
         addNames(captions, row);
     if (row.plan.due != RowPlan::absent && row.plan.showsDueText) {
         const QColor color = row.isOverdue ? row.style.late : row.style.quiet;
-        captions +=
-            IssueCaptions::inMiddle({row.plan.due + IssueCaptions::dateInset, 0}, row.height,
-                                    IssueCaptions::due(row.contents.dueText, color));
+        captions += IssueCaptions::inMiddle({row.plan.due + ChipLayout::dueText, 0}, row.height,
+                                            IssueCaptions::due(row.contents.dueText, color));
     }
     return captions;
 }

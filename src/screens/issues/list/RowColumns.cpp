@@ -9,12 +9,6 @@
 
 namespace {
 
-constexpr int narrowestKey = 36;
-constexpr int widestKey = 150;
-constexpr int keyMargin = 4;
-constexpr int dateWidth = 54;
-constexpr int activityWidth = 132;
-
 int measuredKeyWidth(const KeyShapes &keys)
 {
     const QFontMetricsF metrics(TypeScale().font(TypeScale::Small, TypeScale::roleWeight, true));
@@ -26,17 +20,19 @@ int measuredKeyWidth(const KeyShapes &keys)
 int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance)
 {
     if (keys.shapes().empty())
-        return narrowestKey;
+        return Metrics::rowKeyMinimum;
     qreal width = 0;
     for (const auto &shape : keys.shapes())
         width = std::max(width, advance(shape.example));
-    return std::clamp(int(std::ceil(width)) + keyMargin, narrowestKey, widestKey);
+    return std::clamp(int(std::ceil(width)) + Metrics::rowKeySpare, Metrics::rowKeyMinimum,
+                      Metrics::rowKeyMaximum);
 }
 
 int updatedColumnWidth(const IssueScope &scope, const IssueList &issues)
 {
     const auto hasEvent = [](const SharedIssue &issue) { return !issue->activity.isEmpty(); };
-    return scope.asActivity() && std::ranges::any_of(issues, hasEvent) ? activityWidth : dateWidth;
+    return scope.asActivity() && std::ranges::any_of(issues, hasEvent) ? Metrics::rowEvent
+                                                                       : Metrics::rowDate;
 }
 
 void RowColumns::setStore(AppStore *store)
@@ -59,10 +55,10 @@ void RowColumns::setStore(AppStore *store)
 void RowColumns::measure()
 {
     const int keyWidth =
-        m_store ? measuredKeyWidth(m_store->derivation().keyShapes()) : narrowestKey;
+        m_store ? measuredKeyWidth(m_store->derivation().keyShapes()) : Metrics::rowKeyMinimum;
     const int updatedWidth =
         m_store ? updatedColumnWidth(m_store->scope(), m_store->derivation().visibleIssues())
-                : dateWidth;
+                : Metrics::rowDate;
     if (m_keyWidth == keyWidth && m_updatedWidth == updatedWidth)
         return;
     m_keyWidth = keyWidth;

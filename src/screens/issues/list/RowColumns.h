@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/theme/Metrics.h"
 #include "state/AppStore.h"
 
 #include <QObject>
@@ -37,8 +38,8 @@ private:
     void measure();
 
     QPointer<AppStore> m_store;
-    int m_keyWidth = 36;
-    int m_updatedWidth = 54;
+    int m_keyWidth = Metrics::rowKeyMinimum;
+    int m_updatedWidth = Metrics::rowDate;
 };
 
 /// The width of a column that holds all the keys: the widest one plus 4, rounded up, between 36 and 150. `advance`

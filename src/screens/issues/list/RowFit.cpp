@@ -1,5 +1,6 @@
 #include "screens/issues/list/RowFit.h"
 
+#include "screens/kit/painters/ChipPainter.h"
 #include "screens/theme/TypeScale.h"
 
 #include <QFontMetricsF>
@@ -11,12 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype chipsShown = 2;
-constexpr int chipGap = 4;
-/// The total horizontal space around the text of a chip and of a due badge.
-constexpr int chipFrame = 26;
-constexpr int dueFrame = 30;
 
 /// Measures widths in one font, and each text only once.
 class Ruler
@@ -40,7 +35,7 @@ private:
 double chipWidth(const QString &label)
 {
     static Ruler ruler(TypeScale().font(TypeScale::Caption, QFont::Medium));
-    return ruler.width(label) + chipFrame;
+    return ruler.width(label) + ChipLayout::labelFrame;
 }
 
 double moreWidth(qsizetype count)
@@ -63,15 +58,22 @@ RowFit RowFitting::fit(double room, double labelNames, double labelDots, double 
 
 double RowFitting::labelsWidth(const QStringList &labels)
 {
-    const qsizetype shown = std::min(chipsShown, labels.size());
+    const qsizetype shown = std::min(labelsShown, labels.size());
     double width = 0;
     for (qsizetype i = 0; i < shown; ++i)
-        width += chipWidth(labels[i]) + (i > 0 ? chipGap : 0);
-    return labels.size() > shown ? width + chipGap + moreWidth(labels.size() - shown) : width;
+        width += chipWidth(labels[i]) + (i > 0 ? Metrics::chipGap : 0);
+    return labels.size() > shown ? width + Metrics::chipGap + moreWidth(labels.size() - shown)
+                                 : width;
+}
+
+double RowFitting::dotsWidth(const QStringList &labels)
+{
+    const auto count = double(std::min(dotsShown, labels.size()));
+    return count > 0 ? count * Metrics::labelDot + (count - 1) * Metrics::labelDotGap : 0;
 }
 
 double RowFitting::dueWidth(const QString &text)
 {
     static Ruler ruler(TypeScale().font(TypeScale::Badge, TypeScale::roleWeight, true));
-    return ruler.width(text) + dueFrame;
+    return ruler.width(text) + ChipLayout::dueFrame;
 }

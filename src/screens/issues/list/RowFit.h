@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/issues/face/HotSpot.h"
+#include "screens/theme/Metrics.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -33,7 +34,10 @@ public:
     using QObject::QObject;
 
     /// The minimum width of the summary's cell, in logical pixels.
-    static constexpr double summaryMinimum = 170;
+    static constexpr double summaryMinimum = Metrics::rowSummaryMinimum;
+    /// How many labels are shown by name, and how many as dots if their names do not fit.
+    static constexpr qsizetype labelsShown = 2;
+    static constexpr qsizetype dotsShown = 4;
 
     /// `room` is the width that the row leaves to summary, labels and due date together. The four widths include the
     /// gap before their cell and are 0 for a cell that is not shown.
@@ -41,6 +45,8 @@ public:
                                   double dueIcon);
     /// The width of the chips of the first two labels and of the number of further labels. 0 without labels.
     Q_INVOKABLE static double labelsWidth(const QStringList &labels);
+    /// The width of the dots that stand for at most the first four labels. 0 without labels.
+    static double dotsWidth(const QStringList &labels);
     /// The width of the badge of a due date with this text.
     Q_INVOKABLE static double dueWidth(const QString &text);
     /// An empty hot spot.

@@ -6,10 +6,6 @@ using namespace IssueIcons;
 
 namespace {
 
-constexpr double iconSide = 14;
-constexpr double dotStep = 10;
-constexpr double chipGap = 4;
-
 /// Centres a picture in a cell that starts at `x`.
 PlacedPicture inCell(const PlacedPicture &picture, double x, double height)
 {
@@ -26,10 +22,10 @@ void addNames(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 {
     const auto &labels = row.issue.labels;
     double x = row.plan.labels;
-    for (const auto &label : labels.first(std::min(qsizetype(2), labels.size()))) {
+    for (const auto &label : labels.first(std::min(RowFitting::labelsShown, labels.size()))) {
         const double width = RowFitting::labelsWidth({label});
         pictures.push_back(atX(chip(label, width, row.style), x, row.height));
-        x += width + chipGap;
+        x += width + Metrics::chipGap;
     }
 }
 
@@ -37,9 +33,9 @@ void addDots(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 {
     const auto &labels = row.issue.labels;
     double x = row.plan.labels;
-    for (const auto &label : labels.first(std::min(qsizetype(4), labels.size()))) {
+    for (const auto &label : labels.first(std::min(RowFitting::dotsShown, labels.size()))) {
         pictures.push_back(atX(dot(label), x, row.height));
-        x += dotStep;
+        x += Metrics::labelDot + Metrics::labelDotGap;
     }
 }
 
@@ -54,9 +50,10 @@ std::vector<PlacedPicture> rowIcons(const RowIconsInput &row)
             cellFill(hotSpot.box.size(), isPressed ? style.cellPressed : style.cellFill)
                 .at(hotSpot.box.topLeft()));
     if (plan.priority != RowPlan::absent)
-        pictures.push_back(
-            inCell(priority(issue.priorityLevel(), style, iconSide), plan.priority, height));
-    pictures.push_back(inCell(status(issue.status, style, iconSide), plan.status, height));
+        pictures.push_back(inCell(priority(issue.priorityLevel(), style, Metrics::statusIcon),
+                                  plan.priority, height));
+    pictures.push_back(
+        inCell(status(issue.status, style, Metrics::statusIcon), plan.status, height));
     if (plan.type != RowPlan::absent && issue.type)
         pictures.push_back(atX(type(*issue.type), plan.type - typeBorder(), height));
     if (plan.labels != RowPlan::absent)

@@ -1,15 +1,15 @@
 #include "screens/issues/list/RowLine.h"
 
 #include "commands/ShortcutHints.h"
-#include "screens/issues/face/PictureNode.h"
 #include "screens/issues/list/RowCaptions.h"
 #include "screens/issues/list/RowIcons.h"
+#include "screens/kit/drawn/PictureNode.h"
 
 namespace {
 
 constexpr double cellSide = IssueIcons::cellSide;
-constexpr double checkOutset = 4;
-constexpr double typeWidth = 14;
+constexpr double checkOutset = (Metrics::rowPicker - Metrics::checkBox) / 2.0;
+constexpr double typeWidth = Metrics::rowType;
 
 } // namespace
 

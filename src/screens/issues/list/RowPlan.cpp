@@ -1,26 +1,14 @@
 #include "screens/issues/list/RowPlan.h"
 
 #include "screens/issues/list/RowFit.h"
+#include "screens/theme/Metrics.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr double margin = 12;
-constexpr double gap = 10;
-constexpr double checkWidth = 14;
-constexpr double cellWidth = 22;
-constexpr double typeWidth = 14;
-constexpr double compactDueWidth = 26;
-constexpr double dotWidth = 7;
-constexpr double dotGap = 3;
-constexpr qsizetype mostDots = 4;
-
-double dotsWidth(const QStringList &labels)
-{
-    const auto count = double(std::min(mostDots, labels.size()));
-    return count > 0 ? count * dotWidth + (count - 1) * dotGap : 0;
-}
+constexpr double margin = Metrics::rowPadding;
+constexpr double gap = Metrics::rowGap;
 
 double withGap(double width)
 {
@@ -52,24 +40,24 @@ private:
 double trailingWidth(const RowContents &contents)
 {
     Places places(0);
-    places.take(contents.display.assignee, cellWidth);
+    places.take(contents.display.assignee, Metrics::rowPicker);
     places.take(contents.display.updated, contents.updatedWidth);
     return places.end();
 }
 
 void placeLeading(RowPlan &plan, Places &places, const RowContents &contents)
 {
-    plan.check = places.take(true, checkWidth);
-    plan.priority = places.take(contents.display.priority, cellWidth);
+    plan.check = places.take(true, Metrics::checkBox);
+    plan.priority = places.take(contents.display.priority, Metrics::rowPicker);
     plan.key = places.take(contents.display.key, contents.keyWidth);
-    plan.status = places.take(true, cellWidth);
-    plan.type = places.take(contents.display.type, typeWidth);
+    plan.status = places.take(true, Metrics::rowPicker);
+    plan.type = places.take(contents.display.type, Metrics::rowType);
 }
 
 void placeTrailing(RowPlan &plan, double start, const RowContents &contents)
 {
     Places places(start);
-    plan.assignee = places.take(contents.display.assignee, cellWidth);
+    plan.assignee = places.take(contents.display.assignee, Metrics::rowPicker);
     plan.updated = places.take(contents.display.updated, contents.updatedWidth);
     plan.updatedWidth = contents.updatedWidth;
 }
@@ -80,15 +68,16 @@ void placeMiddle(RowPlan &plan, const RowContents &contents, double start, doubl
     const bool hasDue = contents.display.dueDate && !contents.dueText.isEmpty();
     const bool hasLabels = contents.display.labels && !contents.labels.isEmpty();
     const double namesWidth = hasLabels ? RowFitting::labelsWidth(contents.labels) : 0;
-    const double dots = hasLabels ? dotsWidth(contents.labels) : 0;
+    const double dots = hasLabels ? RowFitting::dotsWidth(contents.labels) : 0;
     const double dueWidth = hasDue ? RowFitting::dueWidth(contents.dueText) : 0;
-    const auto fit = RowFitting::fit(end - start, withGap(namesWidth), withGap(dots),
-                                     withGap(dueWidth), hasDue ? withGap(compactDueWidth) : 0);
+    const auto fit =
+        RowFitting::fit(end - start, withGap(namesWidth), withGap(dots), withGap(dueWidth),
+                        hasDue ? withGap(Metrics::rowDueCompact) : 0);
     plan.showsLabelNames = fit.showsLabelNames;
     plan.showsDueText = fit.showsDueText;
     double right = end;
     if (hasDue) {
-        plan.dueWidth = fit.showsDueText ? dueWidth : compactDueWidth;
+        plan.dueWidth = fit.showsDueText ? dueWidth : Metrics::rowDueCompact;
         plan.due = right - plan.dueWidth;
         right = plan.due - gap;
     }

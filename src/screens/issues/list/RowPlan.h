@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/DisplayProperties.h"
+#include "screens/theme/Metrics.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,7 +17,7 @@ struct RowContents
     /// Empty without a due date.
     QString dueText;
     /// The width of the last column, which all rows of a list share.
-    double updatedWidth = 54;
+    double updatedWidth = Metrics::rowDate;
 };
 
 /// The layout of a row: the positions of its columns in logical pixels from its left edge, or `absent` for a column
@@ -38,13 +39,13 @@ class RowPlan
 public:
     static constexpr double absent = -1;
 
-    /// The check box, 14 wide.
+    /// The check box.
     double check = absent;
-    /// The priority cell, 22 wide.
+    /// The priority cell.
     double priority = absent;
     double key = absent;
     double status = absent;
-    /// The type, 14 wide.
+    /// The type.
     double type = absent;
     double summary = absent;
     double summaryWidth = 0;

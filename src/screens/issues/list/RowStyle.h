@@ -2,6 +2,7 @@
 
 #include "model/DisplayProperties.h"
 #include "screens/issues/face/IssueStyle.h"
+#include "screens/theme/Metrics.h"
 #include "screens/theme/TypeScale.h"
 
 /// The style that all rows of a list share.
@@ -33,5 +34,5 @@ public:
 
     DisplayProperties display;
     int keyWidth = 0;
-    int updatedWidth = 54;
+    int updatedWidth = Metrics::rowDate;
 };

@@ -1,40 +1,29 @@
 import QtQuick
+import Velmora.Kit
 import Velmora.Theme
 
 /// A label: its dot and its name in an outlined capsule.
-Rectangle {
+ChipGround {
     id: root
 
     required property string name
 
-    implicitWidth: Math.ceil(label.implicitWidth) + 26
-    implicitHeight: Metrics.chipHeight
-    radius: height / 2
-    color: "transparent"
-    border.color: Theme.chipOutline
+    kind: ChipGround.Label
+    outline: Theme.chipOutline
+    ink: Theme.labelColor(name)
+    implicitWidth: Math.ceil(label.implicitWidth) + frame
     Accessible.role: Accessible.StaticText
     Accessible.name: name
 
-    Row {
+    AppText {
+        id: label
+        x: root.textStart
+        width: Math.min(implicitWidth, root.width - root.frame)
         anchors.verticalCenter: parent.verticalCenter
-        x: 7
-        spacing: 5
-
-        LabelDot {
-            anchors.verticalCenter: parent.verticalCenter
-            name: root.name
-            Accessible.ignored: true
-        }
-
-        AppText {
-            id: label
-
-            width: Math.min(implicitWidth, root.width - 26)
-            text: root.name
-            role: TypeScale.Caption
-            weight: Font.Medium
-            color: Theme.text2
-            Accessible.ignored: true
-        }
+        text: root.name
+        role: TypeScale.Caption
+        weight: Font.Medium
+        color: Theme.text2
+        Accessible.ignored: true
     }
 }

@@ -1,10 +1,22 @@
 #pragma once
 
-#include "screens/issues/face/IssueIcons.h"
+#include "screens/kit/drawn/PictureTexture.h"
 
+#include <QPointF>
 #include <QSGTransformNode>
 
 #include <vector>
+
+/// A picture and the position of its upper left corner, in logical pixels.
+struct PlacedPicture
+{
+    PictureKey key;
+    PicturePainter paint;
+    QPointF place;
+
+    /// The same picture at another position.
+    PlacedPicture at(QPointF corner) const { return {key, paint, corner}; }
+};
 
 /// A set of pictures, each with a texture that is shared by all equal pictures. It is a transform node, although it
 /// moves nothing, because the software renderer loses the position of a plain node.

@@ -1,8 +1,10 @@
-#include "screens/issues/face/PictureNode.h"
+#include "screens/kit/drawn/PictureNode.h"
 
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
+
+#include <cmath>
 
 void PictureNode::show(QQuickWindow *window, const std::vector<PlacedPicture> &pictures)
 {
