@@ -155,7 +155,7 @@ FocusScope {
     SelectionBar {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 20
+        anchors.bottomMargin: Metrics.selectionBarBottom
         store: root.store
     }
 

@@ -12,6 +12,9 @@ Item {
     required property string action
     property bool isProminent: false
     property bool isActionEnabled: true
+    readonly property int textMaximum: 520
+    // The part of the height by which the text stands above the geometric centre.
+    readonly property real lift: 0.03
 
     signal actionChosen()
 
@@ -20,10 +23,10 @@ Item {
     Accessible.description: root.description
 
     Column {
-        width: Math.min(root.width - 2 * Metrics.pageMargin, 520)
+        width: Math.min(root.width - 2 * Metrics.pageMargin, root.textMaximum)
         anchors.horizontalCenter: parent.horizontalCenter
         // Slightly above the geometric centre, where the centre is perceived to be.
-        y: (root.height - height) / 2 - root.height * 0.03
+        y: (root.height - height) / 2 - root.height * root.lift
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -32,7 +35,7 @@ Item {
             color: Theme.text3
         }
 
-        Item { width: 1; height: 14 }
+        Item { width: 1; height: Metrics.gapLarge }
 
         AppText {
             width: parent.width
@@ -53,7 +56,7 @@ Item {
             wrapMode: Text.Wrap
         }
 
-        Item { width: 1; height: 18 }
+        Item { width: 1; height: Metrics.gapSection }
 
         PushButton {
             anchors.horizontalCenter: parent.horizontalCenter

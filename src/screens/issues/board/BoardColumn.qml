@@ -66,7 +66,7 @@ Item {
         x: root.padding
         y: root.padding
         width: parent.width - 2 * root.padding
-        height: 28
+        height: Metrics.boardColumnHead
 
         StatusIcon {
             id: icon
@@ -123,7 +123,7 @@ Item {
         model: root.cards
         spacing: Metrics.gap
         // Lets the last card be scrolled clear of the bar at the board's lower edge.
-        bottomMargin: 90
+        bottomMargin: Metrics.selectionBarRoom + Metrics.gapSmall
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 400
         pixelAligned: true
@@ -167,7 +167,7 @@ Item {
         x: list.x
         y: list.y
         width: list.width
-        height: 64
+        height: Metrics.boardEmptyBox
     }
 
     FocusedRowScroller {

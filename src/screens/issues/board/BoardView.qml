@@ -15,9 +15,9 @@ FocusScope {
     required property PickerHost picker
     required property DragHost drag
 
-    readonly property int columnWidth: 296
-    readonly property int columnGap: 12
-    readonly property int sidePadding: 16
+    readonly property int columnWidth: Metrics.boardColumnWidth
+    readonly property int columnGap: Metrics.boardColumnGap
+    readonly property int sidePadding: Metrics.boardPadding
 
     function openFocusedMenu() {
         columnScroller.revealAtOnce();

@@ -7,10 +7,12 @@ Rectangle {
 
     required property bool isTargeted
 
+    readonly property real outline: 1.5
+
     opacity: isTargeted ? 1 : 0
     visible: opacity > 0
     color: Theme.accentAt(0.1)
-    border.width: 1.5
+    border.width: root.outline
     border.pixelAligned: false
     border.color: Theme.accentAt(0.5)
 

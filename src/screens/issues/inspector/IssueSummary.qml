@@ -14,6 +14,10 @@ FocusScope {
     required property string key
     property bool inWindow: false
     readonly property string title: open.title
+    // The top and the height of the breadcrumb, and the space between its parts.
+    readonly property int crumbTop: 46
+    readonly property int crumbHeight: 36
+    readonly property int crumbGap: 7
 
     signal closed()
 
@@ -26,8 +30,8 @@ FocusScope {
     SummaryToolbar {
         id: tools
         anchors.right: parent.right
-        anchors.rightMargin: 12
-        y: 6
+        anchors.rightMargin: Metrics.panelPadding
+        y: Metrics.gapSmall
         visible: open.isKnown
         inWindow: root.inWindow
         issue: open
@@ -36,16 +40,16 @@ FocusScope {
     GlassPanel {
         id: crumb
         x: Metrics.gapMedium
-        y: 46
+        y: root.crumbTop
         width: parent.width - 2 * x
-        height: 36
+        height: root.crumbHeight
         shadow: "capsule"
         color: Theme.glass
 
         Row {
-            x: 14
+            x: Metrics.gapLarge
             height: parent.height
-            spacing: 7
+            spacing: root.crumbGap
 
             When {
                 shown: open.hasProject

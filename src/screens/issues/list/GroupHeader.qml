@@ -12,6 +12,12 @@ PressArea {
     // The header is drawn above rows that scroll below it.
     property bool isPinned: false
 
+    // The centres of the columns of check boxes and of priorities, and the title begins where the keys begin.
+    readonly property real checkCentre: Metrics.rowPadding + Metrics.checkBox / 2
+    readonly property real iconCentre: Metrics.rowPadding + Metrics.checkBox + Metrics.rowGap + Metrics.rowPicker / 2
+    readonly property int chevronBox: 12
+    // The width of the count and of the button behind the title.
+    readonly property int titleClearance: 60
     // The group whose state the chevron shows.
     property string shownGroup
 
@@ -55,9 +61,9 @@ PressArea {
     }
 
     Item {
-        x: 13
-        width: 12
-        height: 14
+        x: root.checkCentre - width / 2
+        width: root.chevronBox
+        height: Metrics.checkBox
         anchors.verticalCenter: parent.verticalCenter
 
         Symbol {
@@ -81,16 +87,16 @@ PressArea {
 
     GroupIcon {
         // Aligned with the centre of the rows' priority column.
-        x: 47 - width / 2
+        x: root.iconCentre - width / 2
         anchors.verticalCenter: parent.verticalCenter
         header: root.header
     }
 
     AppText {
         id: title
-        x: 68
+        x: root.iconCentre + Metrics.rowPicker / 2 + Metrics.rowGap
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, root.width - x - 60)
+        width: Math.min(implicitWidth, root.width - x - root.titleClearance)
         role: TypeScale.Body
         weight: Font.Medium
         text: root.header.title
@@ -111,7 +117,7 @@ PressArea {
 
     IconButton {
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Metrics.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         focusPolicy: Qt.NoFocus
         enabled: CreateScreen.isAvailable

@@ -11,8 +11,8 @@ Item {
 
     required property issueListHeader header
 
-    implicitWidth: 16
-    implicitHeight: 16
+    implicitWidth: Metrics.avatarSmall
+    implicitHeight: Metrics.avatarSmall
 
     When {
         shown: root.header.kind === IssueListEnums.Status
@@ -32,7 +32,7 @@ Item {
             Accessible.ignored: true
             user: root.header.userOrEmpty
             hasUser: root.header.hasUser
-            size: 16
+            size: Metrics.avatarSmall
         }
     }
 

@@ -22,7 +22,7 @@ RowLine {
     property bool hasKeyboard: false
     // The menu of the row is open. The row then looks as if it were under the pointer, which is above the menu.
     property bool hasMenu: false
-    readonly property real cellTop: Math.ceil(height / 2) - 11
+    readonly property real cellTop: Math.ceil(height / 2) - Metrics.rowPicker / 2
 
     isDraggable: true
 
@@ -36,9 +36,9 @@ RowLine {
 
     Rectangle {
         z: -1
-        y: 1
+        y: Metrics.rowFillInset
         width: root.width
-        height: root.height - 2
+        height: root.height - 2 * Metrics.rowFillInset
         radius: Metrics.radiusRow
         color: root.isChecked ? Theme.checkedFill
             : root.isOpen ? Theme.openFill
@@ -48,16 +48,16 @@ RowLine {
     Rectangle {
         visible: root.isFocused
         z: -1
-        y: 9
-        width: 2
-        height: root.height - 18
-        radius: 1
+        y: Metrics.focusBarInset
+        width: Metrics.focusBarWidth
+        height: root.height - 2 * Metrics.focusBarInset
+        radius: width / 2
         color: Theme.accent
     }
 
     RowCheck {
         row: root
-        x: root.plan.check - 4
+        x: root.plan.check - (width - Metrics.checkBox) / 2
         y: root.cellTop
         spoken: "Sélectionner " + root.issue.key
         isChecked: root.isChecked

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Velmora.Kit
+import Velmora.Theme
 
 // The placeholder of the list until the first rows arrive.
 SkeletonPulse {
@@ -9,7 +10,7 @@ SkeletonPulse {
 
     Column {
         width: parent.width
-        topPadding: 8
+        topPadding: Metrics.gap
 
         Repeater {
             model: 12
@@ -18,27 +19,28 @@ SkeletonPulse {
                 id: line
 
                 required property int index
+                // Uneven, so that it reads as text.
+                readonly property int summaryWidth: (index * 53) % 260 + 180
 
                 width: root.width
-                height: 38
+                height: Metrics.rowHeight
 
                 Row {
-                    x: 20
+                    x: Metrics.contentInset
                     anchors.verticalCenter: parent.verticalCenter
-                    spacing: 14
+                    spacing: Metrics.gapLarge
 
-                    SkeletonBar { width: 14; height: 14; anchors.verticalCenter: parent.verticalCenter }
-                    SkeletonBar { width: 54; anchors.verticalCenter: parent.verticalCenter }
-                    SkeletonBar { width: 14; height: 14; anchors.verticalCenter: parent.verticalCenter }
-                    // Uneven, so that it reads as text.
-                    SkeletonBar { width: (line.index * 53) % 260 + 180; anchors.verticalCenter: parent.verticalCenter }
+                    SkeletonBar { width: Metrics.checkBox; height: width; anchors.verticalCenter: parent.verticalCenter }
+                    SkeletonBar { width: Metrics.rowDate; anchors.verticalCenter: parent.verticalCenter }
+                    SkeletonBar { width: Metrics.checkBox; height: width; anchors.verticalCenter: parent.verticalCenter }
+                    SkeletonBar { width: line.summaryWidth; anchors.verticalCenter: parent.verticalCenter }
                 }
 
                 SkeletonBar {
-                    width: 18
-                    height: 18
+                    width: Metrics.avatar
+                    height: width
                     anchors.right: parent.right
-                    anchors.rightMargin: 20
+                    anchors.rightMargin: Metrics.contentInset
                     anchors.verticalCenter: parent.verticalCenter
                 }
             }

@@ -32,7 +32,7 @@ Item {
             y: (root.height - height) / 2
             user: root.badge.userOrEmpty
             hasUser: true
-            size: 16
+            size: Metrics.avatarSmall
             Accessible.ignored: true
         }
     }
@@ -46,7 +46,7 @@ Item {
     }
 
     AppText {
-        x: 20
+        x: Metrics.avatarSmall + Metrics.gapTiny
         width: date.x - x - Metrics.gapSmall
         anchors.verticalCenter: parent.verticalCenter
         role: TypeScale.Small

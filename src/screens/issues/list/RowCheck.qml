@@ -26,8 +26,8 @@ RowCell {
         shown: root.isDrawn
 
         RowCheckMark {
-            x: 4
-            y: 4
+            x: (root.width - width) / 2
+            y: (root.height - height) / 2
             checked: root.isChecked
             hovered: root.row.hotSpot.isCheck
             pressed: hovered && root.row.isSpotPressed

@@ -8,7 +8,10 @@ Row {
 
     required property string summary
 
-    spacing: 3
+    // The space between the chevron and the summary.
+    readonly property int markGap: 3
+
+    spacing: root.markGap
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter

@@ -14,7 +14,8 @@ Item {
     required property bool isComposed
     // The shadow extends this far around the panel.
     readonly property int margin: isComposed ? 28 : 0
-    readonly property point hotSpot: Qt.point(margin + 12, margin + 12)
+    readonly property int summaryMaximum: 300
+    readonly property point hotSpot: Qt.point(margin + Metrics.panelPadding, margin + Metrics.panelPadding)
 
     implicitWidth: panel.width + 2 * margin
     implicitHeight: panel.height + 2 * margin
@@ -23,15 +24,15 @@ Item {
         id: panel
         x: root.margin
         y: root.margin
-        width: Math.ceil(line.implicitWidth) + 24
-        height: line.implicitHeight + 16
+        width: Math.ceil(line.implicitWidth) + 2 * Metrics.panelPadding
+        height: line.implicitHeight + 2 * Metrics.gap
         radius: root.isComposed ? Metrics.radiusRow : 0
         shadow: root.isComposed ? "cardHover" : "none"
         color: Theme.elevated
 
         Row {
             id: line
-            x: 12
+            x: Metrics.panelPadding
             y: Metrics.gap
             spacing: Metrics.gap
 
@@ -47,7 +48,7 @@ Item {
             }
 
             AppText {
-                width: Math.min(implicitWidth, 300)
+                width: Math.min(implicitWidth, root.summaryMaximum)
                 weight: Font.Medium
                 text: root.issue.summary
             }

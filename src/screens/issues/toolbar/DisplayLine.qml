@@ -8,8 +8,9 @@ Item {
     required property string text
 
     default property alias control: slot.data
+    readonly property int lineHeight: 32
 
-    implicitHeight: 32
+    implicitHeight: root.lineHeight
 
     AppText {
         anchors.verticalCenter: parent.verticalCenter

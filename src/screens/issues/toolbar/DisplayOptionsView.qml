@@ -13,13 +13,18 @@ Item {
 
     required property AppStore store
 
+    readonly property int sideMargin: 16
+    // The heights of a line with a picker and of the title of the columns.
+    readonly property int pickerLine: 34
+    readonly property int titleLine: 24
+
     // Moves the focus to the first control, for users of the keyboard.
     function focusFirst() {
         const first = grouping.enabled ? grouping : ordering;
         first.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    implicitHeight: lines.implicitHeight + 2 * 12
+    implicitHeight: lines.implicitHeight + 2 * Metrics.panelPadding
 
     DisplayOptions {
         id: options
@@ -28,13 +33,13 @@ Item {
 
     Column {
         id: lines
-        x: 16
-        y: 12
+        x: root.sideMargin
+        y: Metrics.panelPadding
         width: root.width - 2 * x
 
         DisplayLine {
             width: parent.width
-            height: 34
+            height: root.pickerLine
             text: "Regrouper par"
 
             MenuPicker {
@@ -49,7 +54,7 @@ Item {
 
         DisplayLine {
             width: parent.width
-            height: 34
+            height: root.pickerLine
             text: "Trier par"
 
             MenuPicker {
@@ -74,10 +79,10 @@ Item {
 
         Item {
             width: parent.width
-            height: 17
+            height: 2 * Metrics.gap + 1
 
             Rectangle {
-                y: 8
+                y: Metrics.gap
                 width: parent.width
                 height: 1
                 color: Theme.divider
@@ -85,8 +90,8 @@ Item {
         }
 
         AppText {
-            height: 24
-            topPadding: 4
+            height: root.titleLine
+            topPadding: Metrics.gapTiny
             role: TypeScale.Caption
             weight: Font.DemiBold
             color: Theme.text2

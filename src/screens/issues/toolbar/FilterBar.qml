@@ -20,7 +20,7 @@ Item {
 
     Flow {
         id: flow
-        x: 20
+        x: Metrics.contentInset
         width: parent.width - x - Metrics.gap
         spacing: Metrics.gap
 

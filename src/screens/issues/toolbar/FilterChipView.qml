@@ -10,17 +10,21 @@ GlassCapsule {
     required property string value
     required property real maximumWidth
 
+    // The space before the name of the filter, and the side of the button.
+    readonly property int padding: 11
+    readonly property int crossSide: 20
+
     signal removed()
 
     width: Math.min(implicitWidth, maximumWidth)
-    implicitWidth: Math.ceil(words.x + words.implicitWidth + Metrics.gapSmall + 20 + 4)
+    implicitWidth: Math.ceil(words.x + words.implicitWidth + Metrics.gapSmall + cross.width + Metrics.gapTiny)
     implicitHeight: Metrics.filterChipHeight
     Accessible.role: Accessible.Grouping
     Accessible.name: root.field + " : " + root.value
 
     AppText {
         id: label
-        x: 11
+        x: root.padding
         anchors.verticalCenter: parent.verticalCenter
         role: TypeScale.Small
         color: Theme.text2
@@ -42,14 +46,14 @@ GlassCapsule {
     IconButton {
         id: cross
         anchors.right: parent.right
-        anchors.rightMargin: 4
+        anchors.rightMargin: Metrics.gapTiny
         anchors.verticalCenter: parent.verticalCenter
         name: "Retirer le filtre " + root.field
         symbol: "xmark"
         symbolSize: 8
         symbolWeight: "semibold"
-        side: 20
-        corner: 10
+        side: root.crossSide
+        corner: side / 2
         onClicked: root.removed()
     }
 }

@@ -13,6 +13,8 @@ Item {
     required property AppStore store
     required property Filters filters
     property bool hasSidebarButton: false
+    // The top of the title.
+    readonly property int titleTop: 11
 
     signal sidebarWanted()
     signal searchLeft()
@@ -29,7 +31,7 @@ Item {
         x: Metrics.gap
         anchors.verticalCenter: parent.top
         anchors.verticalCenterOffset: Metrics.toolbarCentre
-        width: Metrics.capsuleCellWidth + 4
+        width: Metrics.capsuleCellWidth + 2 * Metrics.capsuleInset
 
         ToolbarCell {
             anchors.centerIn: parent
@@ -41,10 +43,10 @@ Item {
 
     Column {
         anchors.left: parent.left
-        anchors.leftMargin: root.hasSidebarButton ? sidebarButton.x + sidebarButton.width + Metrics.gapMedium : 20
+        anchors.leftMargin: root.hasSidebarButton ? sidebarButton.x + sidebarButton.width + Metrics.gapMedium : Metrics.contentInset
         anchors.right: commands.left
         anchors.rightMargin: Metrics.gap
-        y: 11
+        y: root.titleTop
         visible: !search.coversTitle
 
         AppText {
@@ -65,7 +67,7 @@ Item {
     Row {
         id: commands
         anchors.right: parent.right
-        anchors.rightMargin: 8
+        anchors.rightMargin: Metrics.gap
         anchors.verticalCenter: parent.top
         anchors.verticalCenterOffset: Metrics.toolbarCentre
         spacing: Metrics.gap
@@ -76,7 +78,7 @@ Item {
         }
 
         GlassCapsule {
-            width: cells.width + 4
+            width: cells.width + 2 * Metrics.capsuleInset
 
             Row {
                 id: cells

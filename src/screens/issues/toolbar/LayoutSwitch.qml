@@ -3,6 +3,7 @@ import Velmora.Issues
 import Velmora.Kit
 import Velmora.Model
 import Velmora.State
+import Velmora.Theme
 
 // The switch between list and board.
 GlassCapsule {
@@ -12,7 +13,7 @@ GlassCapsule {
 
     signal chosen(layout: int)
 
-    width: cells.width + 4
+    width: cells.width + 2 * Metrics.capsuleInset
     Accessible.role: Accessible.Grouping
     Accessible.name: "Disposition"
 

@@ -13,9 +13,18 @@ GlassPanel {
     required property AppStore store
 
     readonly property activityHeaderData content: store.activityHeader
+    // Between the parts of the header.
+    readonly property int partGap: 16
+    // Between two counters, and above and below them.
+    readonly property int pillGap: 20
+    readonly property int pillMargin: 5
+    // The buttons for the previous and the next period.
+    readonly property int periodButton: 26
+    readonly property int periodGap: 2
+    readonly property int controlHeight: 28
 
-    implicitHeight: flow.implicitHeight + 2 * 12
-    radius: 16
+    implicitHeight: flow.implicitHeight + 2 * Metrics.panelPadding
+    radius: Metrics.radiusRecap
     color: Theme.glass
     shadow: "capsule"
 
@@ -24,14 +33,14 @@ GlassPanel {
         anchors.left: parent.left
         anchors.right: copy.left
         anchors.top: parent.top
-        anchors.leftMargin: 12
+        anchors.leftMargin: Metrics.panelPadding
         anchors.rightMargin: Metrics.gapLarge
-        anchors.topMargin: 12
-        spacing: 16
-        lineSpacing: 12
+        anchors.topMargin: Metrics.panelPadding
+        spacing: root.partGap
+        lineSpacing: Metrics.panelPadding
 
         Row {
-            height: 28
+            height: root.controlHeight
             spacing: Metrics.gap
 
             AppText {
@@ -48,8 +57,8 @@ GlassPanel {
         }
 
         Row {
-            height: 28
-            spacing: 2
+            height: root.controlHeight
+            spacing: root.periodGap
 
             PeriodButton {
                 name: root.content.previousHelp
@@ -80,9 +89,9 @@ GlassPanel {
         }
 
         Row {
-            topPadding: 5
-            bottomPadding: 5
-            spacing: 20
+            topPadding: root.pillMargin
+            bottomPadding: root.pillMargin
+            spacing: root.pillGap
 
             Repeater {
                 // The model is a number, so that a counter keeps its item and animates when its value changes.
@@ -103,11 +112,11 @@ GlassPanel {
     PushButton {
         id: copy
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Metrics.gapLarge
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 12
-        height: 28
-        leftPadding: 12
+        anchors.bottomMargin: Metrics.panelPadding
+        height: root.controlHeight
+        leftPadding: Metrics.panelPadding
         symbol: "doc.on.clipboard"
         text: "Copier le récap"
         hint: "Copie un résumé Markdown, prêt pour Slack ou un compte rendu"
@@ -116,8 +125,8 @@ GlassPanel {
 
     component PeriodButton: IconButton {
         anchors.verticalCenter: parent?.verticalCenter
-        side: 26
-        corner: 13
+        side: root.periodButton
+        corner: side / 2
         symbolSize: 10
         symbolWeight: "bold"
         ink: Theme.text1
@@ -125,7 +134,7 @@ GlassPanel {
         Rectangle {
             z: -1
             anchors.fill: parent
-            radius: 13
+            radius: root.periodButton / 2
             color: Theme.ink(0.05)
         }
     }

@@ -8,14 +8,18 @@ FocusableItem {
 
     required property string symbol
 
-    implicitWidth: 64
-    implicitHeight: 44
+    readonly property int cellWidth: 64
+    // Between the symbol and the label.
+    readonly property int lineGap: 3
+
+    implicitWidth: root.cellWidth
+    implicitHeight: Metrics.selectionBarHeight - 2 * Metrics.gapTiny
     corner: height / 2
 
     contentItem: Item {
         Column {
             anchors.centerIn: parent
-            spacing: 3
+            spacing: root.lineGap
 
             Symbol {
                 anchors.horizontalCenter: parent.horizontalCenter

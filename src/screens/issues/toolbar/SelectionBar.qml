@@ -14,9 +14,11 @@ Item {
 
     // How far the bar has slid in, from 0 (hidden) to 1 (shown).
     property real presence: actions.isShown ? 1 : 0
+    // The space before the number.
+    readonly property int countInset: 20
 
     implicitWidth: line.width
-    implicitHeight: 52
+    implicitHeight: Metrics.selectionBarHeight
     visible: presence > 0
     enabled: actions.isShown
 
@@ -30,20 +32,20 @@ Item {
 
     Row {
         id: line
-        y: (1 - root.presence) * (parent.height + 20)
+        y: (1 - root.presence) * (parent.height + Metrics.selectionBarBottom)
         opacity: Math.min(1, root.presence)
         spacing: Metrics.gap
 
         GlassPanel {
             width: count.x + count.width + Metrics.gap + clear.width + Metrics.gap
-            height: 52
-            radius: 26
+            height: Metrics.selectionBarHeight
+            radius: height / 2
             shadow: "bar"
             color: Theme.glassStrong
 
             Row {
                 id: count
-                x: 20
+                x: root.countInset
                 width: Math.ceil(implicitWidth)
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: blank.advanceWidth
@@ -83,16 +85,16 @@ Item {
         }
 
         GlassPanel {
-            width: cells.width + 8
-            height: 52
-            radius: 26
+            width: cells.width + 2 * cells.x
+            height: Metrics.selectionBarHeight
+            radius: height / 2
             shadow: "bar"
             color: Theme.glassStrong
 
             Row {
                 id: cells
-                x: 4
-                y: 4
+                x: Metrics.gapTiny
+                y: Metrics.gapTiny
 
                 SelectionAction {
                     text: "Statut"

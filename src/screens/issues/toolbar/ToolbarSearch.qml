@@ -12,9 +12,14 @@ Item {
     // The width of the toolbar.
     required property real room
 
-    readonly property bool isFolded: room < 500 && !field.activeFocus && store.filterText === ""
+    readonly property bool isFolded: room < root.leastRoom && !field.activeFocus && store.filterText === ""
     // The expanded field covers the title.
-    readonly property bool coversTitle: room < 500 && !isFolded
+    readonly property bool coversTitle: room < root.leastRoom && !isFolded
+    // The widths of the toolbar below which the field is short, and a symbol.
+    readonly property int narrowRoom: 892
+    readonly property int leastRoom: 500
+    readonly property int shortWidth: 120
+    readonly property int fullWidth: 190
 
     // The focus goes back to the list. The text is kept.
     signal finished()
@@ -23,7 +28,7 @@ Item {
         field.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
-    implicitWidth: isFolded ? Metrics.capsuleHeight : room < 892 ? 120 : 190
+    implicitWidth: isFolded ? Metrics.capsuleHeight : room < root.narrowRoom ? root.shortWidth : root.fullWidth
     implicitHeight: Metrics.capsuleHeight
 
     SearchField {
