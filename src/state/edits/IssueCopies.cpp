@@ -36,6 +36,23 @@ std::optional<IssueList> changedInList(const IssueList &issues, const IssueChang
     return result;
 }
 
+std::optional<IssueList>
+changedInList(const IssueList &issues, const IssueChanges &changes,
+              const std::function<std::optional<int>(const QString &)> &rowOf)
+{
+    std::optional<IssueList> result;
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        const auto row = rowOf(change.key());
+        auto replacement = row ? changed(issues[*row], *change) : std::nullopt;
+        if (!replacement)
+            continue;
+        if (!result)
+            result = issues;
+        (*result)[*row] = *std::move(replacement);
+    }
+    return result;
+}
+
 std::optional<QHash<QString, SharedIssue>>
 changedInDetails(const QHash<QString, SharedIssue> &details, const IssueChanges &changes)
 {

@@ -17,6 +17,11 @@ std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &
 /// The list with the changes applied; nothing if `changes` has none of its issues or all remain deeply equal. Unchanged
 /// issues remain the same objects.
 std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes);
+/// The same for a list without repeated keys whose rows are known: `rowOf` returns the row of a key. A long list is not
+/// searched.
+std::optional<IssueList>
+changedInList(const IssueList &issues, const IssueChanges &changes,
+              const std::function<std::optional<int>(const QString &)> &rowOf);
 /// The same for records by issue key.
 std::optional<QHash<QString, SharedIssue>>
 changedInDetails(const QHash<QString, SharedIssue> &details, const IssueChanges &changes);

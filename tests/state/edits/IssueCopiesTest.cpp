@@ -44,6 +44,18 @@ TEST(IssueCopies, EveryCopyOfAnIssueThatAListHoldsTwiceIsChanged)
     EXPECT_EQ(after->at(3)->summary, u"Autre");
 }
 
+TEST(IssueCopies, AListWhoseRowsAreKnownIsChangedAtThese)
+{
+    const IssueList before = threeIssues();
+    const auto rowOf = [](const QString &key) {
+        return key == u"A-3"_s ? std::optional(2) : std::nullopt;
+    };
+    const auto after = changedInList(before, {{u"A-3"_s, retitle}, {u"B-1"_s, retitle}}, rowOf);
+    EXPECT_EQ(after, changedInList(before, {{u"A-3"_s, retitle}}));
+    EXPECT_NE(after, std::nullopt);
+    EXPECT_EQ(changedInList(before, {{u"A-3"_s, leave}}, rowOf), std::nullopt);
+}
+
 TEST(IssueCopies, AKeyThatIsNowhereIsNoError)
 {
     EXPECT_EQ(changedInList(threeIssues(), {{u"B-1"_s, retitle}}), std::nullopt);
