@@ -1,40 +1,19 @@
 // The store on a simulated site whose search lags behind what was written, over real HTTP.
-#include "jira/JiraClient.h"
-#include "simulator/SimulatedSite.h"
-#include "simulator/SiteSeed.h"
-#include "state/AppStore.h"
-#include "state/ScriptedSessions.h"
-#include "support/FakeDesktop.h"
-#include "support/ManualCalendar.h"
-#include "support/ManualClock.h"
-#include "support/RunUntil.h"
-#include "support/TaskResult.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "jira/matrix/SimulatedStore.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
 
-class LaggingSearchTest : public testing::Test
+class LaggingSearchTest : public SimulatedStore
 {
 protected:
     void SetUp() override
     {
         simulated.site().now = [this] { return clock.now(); };
         simulated.site().searchLag = 60s;
-        const TaskResult<void> started(store->startDemo());
-        ASSERT_TRUE(runUntil([&] { return started.isDone(); }));
-        ASSERT_GE(store->issues().size(), 2);
-        key = store->issues().first()->key;
-    }
-    void TearDown() override
-    {
-        store.reset();
-        EXPECT_TRUE(runUntil([&] { return clock.pending() == 0; })) << "a request never ended";
+        SimulatedStore::SetUp();
     }
 
     void reload()
@@ -54,29 +33,6 @@ protected:
         }
         return {};
     }
-
-    std::shared_ptr<IssueService> newSession()
-    {
-        const Site &site = simulated.site();
-        return std::make_shared<JiraClient>(JiraCredentials{site.address, site.email, site.token},
-                                            clock, calendar, folder.filePath(u"attachments"_s));
-    }
-
-    QTemporaryDir folder;
-    ManualClock clock;
-    SimulatedSite simulated{SiteSeed::company(60, clock.now())};
-    Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
-    FakeDesktop desktop;
-    ScriptedSessions sessions;
-    ManualCalendar calendar;
-    std::optional<AppStore> store{std::in_place,
-                                  AppStoreContext{.clock = clock,
-                                                  .preferences = preferences,
-                                                  .desktop = desktop,
-                                                  .sessions = sessions,
-                                                  .calendar = calendar.current(),
-                                                  .makeDemo = [this] { return newSession(); }}};
-    QString key;
 };
 
 TEST_F(LaggingSearchTest, AConfirmedEditStaysOnTheScreen)

@@ -1,21 +1,8 @@
-#include "jira/JiraClient.h"
 #include "jira/matrix/Fault.h"
 #include "jira/matrix/Moment.h"
+#include "jira/matrix/SimulatedStore.h"
 #include "jira/matrix/Spoken.h"
 #include "jira/matrix/StoreAction.h"
-#include "platform/Preferences.h"
-#include "simulator/SimulatedSite.h"
-#include "simulator/SiteSeed.h"
-#include "state/ScriptedSessions.h"
-#include "support/FakeDesktop.h"
-#include "support/ManualCalendar.h"
-#include "support/ManualClock.h"
-#include "support/RunUntil.h"
-#include "support/TaskResult.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -66,25 +53,16 @@ struct Known
 };
 
 /// The effect of a faulty response on a user action, in a complete session on a simulated site.
-class StoreMatrix : public testing::TestWithParam<std::tuple<StoreAction, Fault>>
+class StoreMatrix : public SimulatedStore,
+                    public testing::WithParamInterface<std::tuple<StoreAction, Fault>>
 {
 protected:
     void SetUp() override
     {
-        const TaskResult<void> started(store->startDemo());
-        ASSERT_TRUE(runUntil([&] { return started.isDone(); }));
-        ASSERT_FALSE(store->issues().isEmpty());
-        key = store->issues().first()->key;
+        SimulatedStore::SetUp();
         const TaskResult<void> opened(store->loadDetails(key));
         ASSERT_TRUE(runUntil([&] { return opened.isDone(); }));
         ASSERT_FALSE(store->transitions().value(key).isEmpty());
-    }
-
-    /// Running operations continue without the store. They are completed here, before the clock is destroyed.
-    void TearDown() override
-    {
-        store.reset();
-        EXPECT_TRUE(runUntil([&] { return clock.pending() == 0; })) << "a request never ended";
     }
 
     static const StoreAction &action() { return std::get<StoreAction>(GetParam()); }
@@ -112,29 +90,6 @@ protected:
             return route && route->operation == action().operation;
         });
     }
-
-    std::shared_ptr<IssueService> newSession()
-    {
-        const Site &site = simulated.site();
-        return std::make_shared<JiraClient>(JiraCredentials{site.address, site.email, site.token},
-                                            clock, calendar, folder.filePath(u"attachments"_s));
-    }
-
-    QTemporaryDir folder;
-    ManualClock clock;
-    SimulatedSite simulated{SiteSeed::company(60, clock.now())};
-    Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
-    FakeDesktop desktop;
-    ScriptedSessions sessions;
-    ManualCalendar calendar;
-    std::optional<AppStore> store{std::in_place,
-                                  AppStoreContext{.clock = clock,
-                                                  .preferences = preferences,
-                                                  .desktop = desktop,
-                                                  .sessions = sessions,
-                                                  .calendar = calendar.current(),
-                                                  .makeDemo = [this] { return newSession(); }}};
-    QString key;
 };
 
 /// The faults that can affect a single response within a running session. Faults of certificates and names prevent a
