@@ -17,9 +17,7 @@ QCoro::Task<> AppStore::fetchDetails(QString key, std::stop_token stop)
     std::stop_source commentsStop;
     const std::stop_callback stopsComments(stop, [commentsStop] {
         // A copy, because the stop request may destroy this task and what it captured.
-        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-        const auto kept = commentsStop;
-        kept.request_stop();
+        std::stop_source(commentsStop).request_stop();
     });
     auto issueTask = settled(service, service->issue(key, stop));
     auto commentsTask = settled(service, service->comments(key, commentsStop.get_token()));

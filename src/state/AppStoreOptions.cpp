@@ -37,9 +37,7 @@ OptionInputs AppStore::optionInputs(const QStringList &keys) const
 void AppStore::run(const OptionAction &action)
 {
     using A = OptionAction;
-    // A copy, because the action may belong to rows that it changes.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const OptionAction kept = action;
+    // A copy is visited, because the action may belong to rows that it changes.
     std::visit(Overloaded{[](const A::None &) {},
                           [this](const A::SetStatus &a) { setStatus(a.status, a.keys); },
                           [this](const A::SetPriority &a) { setPriority(a.priority, a.keys); },
@@ -50,5 +48,5 @@ void AppStore::run(const OptionAction &action)
                               carryOut(a.command, a.keys, FocusMove::Plain);
                           },
                           [this](const A::Select &a) { select(a.scope); }},
-               kept.value);
+               OptionAction(action).value);
 }

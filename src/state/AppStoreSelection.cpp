@@ -26,12 +26,11 @@ void AppStore::toggleCheck(const QString &key)
 
 void AppStore::openInInspector(const QString &key)
 {
-    // A copy, because the key may refer to a field that changes below.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const QString opened = key;
-    const Batch batch(*this);
-    m_focusedKey.set(opened);
-    m_inspectorKey.set(opened);
+    // Both are copies, because the key may refer to a field that changes.
+    Selection opened = selection();
+    opened.focusedKey = key;
+    opened.inspectorKey = key;
+    setSelection(opened);
 }
 
 void AppStore::togglePeek()
