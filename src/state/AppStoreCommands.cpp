@@ -71,16 +71,19 @@ bool AppStore::carryOutOnIssues(Command command, const TargetKeys &keys)
         assignToMe(keys);
         return true;
     case Command::CopyKeys:
-        copyKeys(keys);
+        copyKeys(targetsOrToast(keys));
         return true;
     case Command::CopyBranch:
-        copyBranch(firstOf(keys));
+        if (const auto key = firstOf(targetsOrToast(keys)))
+            copyBranch(key);
         return true;
     case Command::CopyLink:
-        copyLink(firstOf(keys));
+        if (const auto key = firstOf(targetsOrToast(keys)))
+            copyLink(key);
         return true;
     case Command::OpenInBrowser:
-        openInBrowser(firstOf(keys));
+        if (const auto key = firstOf(targetsOrToast(keys)))
+            openInBrowser(key);
         return true;
     default:
         return false;

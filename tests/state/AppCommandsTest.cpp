@@ -57,6 +57,17 @@ TEST_F(AppCommandsTest, ADisabledCommandDoesNothing)
     EXPECT_FALSE(store->isCreating());
 }
 
+TEST_F(AppCommandsTest, WithNoIssueChosenCopyingAndOpeningAskForOneToo)
+{
+    startSession();
+    for (const auto command : {Command::CopyKeys, Command::CopyBranch, Command::CopyLink,
+                               Command::OpenInBrowser, Command::AssignToMe})
+        choose(command);
+    EXPECT_EQ(toasts(), QStringList(5, u"Sélectionne d'abord un ticket"_s));
+    EXPECT_TRUE(desktop.copied.isEmpty());
+    EXPECT_TRUE(desktop.opened.isEmpty());
+}
+
 TEST_F(AppCommandsTest, WithNoIssueChosenAPickerAsksForOne)
 {
     startSession();
