@@ -56,6 +56,22 @@ TEST_F(MainWindow, TheInspectorShowsTitleAndPropertiesAndClosesByItsCross)
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
 }
 
+TEST_F(MainWindow, LongLabelsStayInsideTheInspector)
+{
+    Issue labelled = issueWithKey(u"MOB-1"_s);
+    for (int i = 0; i < 12; ++i)
+        labelled.labels += u"une-longue-etiquette-%1"_s.arg(i);
+    serveIssues({labelled});
+    reload();
+    click(await(QAccessible::ListItem, u"MOB-1,"_s));
+
+    const auto pane = inspector();
+    const auto chips = spokenIn(window(), QAccessible::Button, u"Étiquettes : "_s);
+    ASSERT_FALSE(chips.isEmpty());
+    for (const auto &chip : chips)
+        EXPECT_LE(chip.box.right(), pane.right());
+}
+
 TEST_F(MainWindow, TheInspectorComesInFromTheEdgeAndGoesOutWithItsIssueInIt)
 {
     desktop->setPrefersReducedMotion(false);

@@ -43,6 +43,7 @@ FlowLayout {
     }
 
     PropertyChip {
+        implicitWidth: Math.min(root.width, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
         title: root.issue.assigneeTitle
         accessibleName: "Assigné : " + title
         store: root.store
@@ -57,6 +58,7 @@ FlowLayout {
     }
 
     PropertyChip {
+        implicitWidth: Math.min(root.width, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
         title: root.issue.labelsTitle
         accessibleName: "Étiquettes : " + title
         store: root.store
