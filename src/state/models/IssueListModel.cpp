@@ -7,6 +7,19 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The due date for screen readers, such as ", échéance le 3 mars", with the year if it is another one.
+QString dueWords(const std::optional<QDate> &due, const QDate &today, const QLocale &locale)
+{
+    if (!due)
+        return {};
+    return u", échéance le "_s + (due->year() == today.year() ? dayAndMonth(*due, locale)
+                                                              : dayMonthAndYear(*due, locale));
+}
+
+} // namespace
+
 IssueListModel::IssueListModel(UserCalendar calendar, QDateTime now, QObject *parent)
     : KeyedListModel(parent), m_calendar(std::move(calendar)), m_now(std::move(now))
 {
@@ -79,18 +92,21 @@ void IssueListModel::setNow(const QDateTime &now)
 {
     if (m_now == now)
         return;
+    QList<int> changed{UpdatedTextRole, DueTextRole, IsOverdueRole};
+    if (m_calendar.day(m_now) != m_calendar.day(now))
+        changed.append(AccessibleNameRole);
     m_now = now;
     if (!rows().isEmpty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
-                           {UpdatedTextRole, DueTextRole, IsOverdueRole});
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), changed);
 }
 
 void IssueListModel::setCalendar(const UserCalendar &calendar)
 {
     m_calendar = calendar;
     if (!rows().isEmpty())
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1),
-                           {UpdatedTextRole, DueTextRole, IsOverdueRole, DueTooltipRole});
+        Q_EMIT dataChanged(
+            index(0), index(rowCount() - 1),
+            {UpdatedTextRole, DueTextRole, IsOverdueRole, DueTooltipRole, AccessibleNameRole});
 }
 
 void IssueListModel::refreshBadges()
@@ -150,7 +166,9 @@ QVariant IssueListModel::data(const QModelIndex &index, int role) const
     if (role == KeyRole)
         return row.key();
     if (role == AccessibleNameRole && row.issue())
-        return accessibleSentence(*row.issue()) + placeWords(index.row());
+        return accessibleSentence(*row.issue()) +
+               dueWords(row.issue()->dueDate, m_calendar.day(m_now), m_calendar.locale) +
+               (isOverdue(*row.issue()) ? u", en retard"_s : QString()) + placeWords(index.row());
     return row.issue() ? issueRoleData(*row.issue(), role) : groupData(*row.header(), role);
 }
 

@@ -19,6 +19,17 @@ QString assigneeWords(const Issue &issue)
     return issue.assignee ? u"assigné à "_s + oneLine(issue.assignee->name) : u"non assigné"_s;
 }
 
+QString labelWords(const QStringList &labels)
+{
+    QStringList shown;
+    for (const auto &label : labels)
+        shown += oneLine(label);
+    if (shown.size() == 1)
+        return u"étiquette "_s + shown.front();
+    const QString last = shown.takeLast();
+    return u"étiquettes "_s + shown.join(", "_L1) + u" et "_s + last;
+}
+
 /// The header of a group, which says how many issues the group has.
 IssueListHeader headerOf(const IssueGroup &group, bool isCollapsed)
 {
@@ -84,7 +95,9 @@ IssueListRows issueListRows(const IssueList &issues)
 
 QString accessibleSentence(const Issue &issue)
 {
-    const QStringList words{issue.key, oneLine(issue.summary), issue.status.displayName(),
-                            priorityWords(issue), assigneeWords(issue)};
+    QStringList words{issue.key, oneLine(issue.summary), issue.status.displayName(),
+                      priorityWords(issue), assigneeWords(issue)};
+    if (!issue.labels.isEmpty())
+        words.append(labelWords(issue.labels));
     return words.join(", "_L1);
 }

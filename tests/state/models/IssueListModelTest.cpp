@@ -188,6 +188,33 @@ TEST_F(IssueListModelTest, ARowSaysAWholeSentence)
     EXPECT_EQ(at(0, IssueListModel::AccessibleNameRole), u"À faire, 1 ticket"_s);
 }
 
+TEST_F(IssueListModelTest, ARowSaysItsLabelsItsDueDateAndThatItIsLate)
+{
+    Issue issue = issueOf(u"W-1"_s, todo());
+    issue.summary = u"Résumé"_s;
+    issue.labels = {u"auth"_s};
+    issue.dueDate = QDate(2026, 11, 3);
+    model.setGroups(groupsOf({issue}), {});
+    model.setNow(QDateTime({2026, 11, 2}, {12, 0}, QTimeZone::utc()));
+    const QString start = u"W-1, Résumé, À faire, aucune priorité, non assigné, "_s;
+    EXPECT_EQ(at(1, IssueListModel::AccessibleNameRole),
+              start + u"étiquette auth, échéance le 3 novembre, 1 sur 1"_s);
+
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    model.setNow(QDateTime({2026, 11, 4}, {12, 0}, QTimeZone::utc()));
+    EXPECT_EQ(at(1, IssueListModel::AccessibleNameRole),
+              start + u"étiquette auth, échéance le 3 novembre, en retard, 1 sur 1"_s);
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_TRUE(
+        changed[0][2].value<QList<int>>().contains(int(IssueListModel::AccessibleNameRole)));
+
+    issue.labels = {u"auth"_s, u"ios"_s};
+    issue.dueDate = QDate(2027, 1, 5);
+    model.setGroups(groupsOf({issue}), {});
+    EXPECT_EQ(at(1, IssueListModel::AccessibleNameRole),
+              start + u"étiquettes auth et ios, échéance le 5 janvier 2027, 1 sur 1"_s);
+}
+
 TEST_F(IssueListModelTest, DatesAreToldFromNow)
 {
     Issue issue = issueOf(u"W-1"_s, todo());
