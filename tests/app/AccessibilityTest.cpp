@@ -94,7 +94,7 @@ TEST_F(Accessibility, RowsAndCardsSpeakOneSentenceWithTheirPlaceInTheirGroup)
 {
     const QString first =
         u"MOB-1, Résumé de MOB-1, À faire, aucune priorité, assigné à Noam Talvère, "
-        "1 sur 2"_s;
+        "étiquettes auth, ios et web, échéance le 3 novembre, 1 sur 2"_s;
     const QString second =
         u"MOB-2, Résumé de MOB-2, À faire, aucune priorité, non assigné, 2 sur 2"_s;
     find(QAccessible::ListItem, first);

@@ -9,6 +9,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString namesOf(const QList<Spoken> &things)
+{
+    QStringList names;
+    for (const auto &thing : things)
+        names += thing.name;
+    return names.join(u" | "_s);
+}
+
 QStringList &warnings()
 {
     static QStringList list;
@@ -193,7 +201,8 @@ bool WindowFixture::isGone(QAccessible::Role role, const QString &nameContains)
 Spoken WindowFixture::find(QAccessible::Role role, const QString &nameContains)
 {
     const auto found = spokenIn(window(), role, nameContains);
-    EXPECT_EQ(found.size(), 1) << "things named like " << nameContains.toStdString();
+    EXPECT_EQ(found.size(), 1) << "things named like " << nameContains.toStdString() << ", of "
+                               << namesOf(spokenIn(window(), role, {})).toStdString();
     return found.isEmpty() ? Spoken() : found.first();
 }
 

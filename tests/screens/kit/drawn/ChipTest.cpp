@@ -45,7 +45,7 @@ TEST(Chips, ALabelIsDrawnAsOnRowsAndCards)
     auto *chip = bench.show(u"LabelChip { name: 'ios' }"_s);
     ASSERT_NE(chip, nullptr) << bench.warnings();
     const QImage window = bench.window().grabWindow();
-    const QColor outline = bench.token("Theme", "chipOutline").value<QColor>();
+    const QColor outline = bench.token("theme", "chipOutline").value<QColor>();
     const QColor dot = chip->property("ink").value<QColor>();
     const QImage picture = expected(window, chip->size(), [&](QPainter &painter) {
         paintLabelChip(painter, chip->size(), outline, dot);
@@ -61,8 +61,8 @@ TEST(Chips, ADueDateIsDrawnAsOnRowsAndCards)
     auto *badge = bench.show(u"DueBadge { text: 'Hier' }"_s);
     ASSERT_NE(badge, nullptr) << bench.warnings();
     const QImage window = bench.window().grabWindow();
-    const QColor outline = bench.token("Theme", "chipOutline").value<QColor>();
-    const QColor ink = bench.token("Theme", "text2").value<QColor>();
+    const QColor outline = bench.token("theme", "chipOutline").value<QColor>();
+    const QColor ink = bench.token("theme", "text2").value<QColor>();
     const QImage picture = expected(window, badge->size(), [&](QPainter &painter) {
         paintDueBadge(painter, badge->size(), outline, ink);
     });
