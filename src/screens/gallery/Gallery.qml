@@ -10,9 +10,10 @@ Window {
     required property string page
     required property bool dark
     required property int accent
-    readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays", "sheets"]
+    readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays",
+        "menus", "sheets"]
     readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Formulaires", "Commandes", "Panneaux",
-        "Menus et bulles", "Feuille"]
+        "Menus et bulles", "Longs menus", "Feuille"]
 
     width: 1320
     height: 1060

@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Chooses the page by its name: icons, symbols, states, fields, forms, controls, panels, overlays or sheets.
+/// Chooses the page by its name: icons, symbols, states, fields, forms, controls, panels, overlays, menus or sheets.
 Loader {
     id: root
 

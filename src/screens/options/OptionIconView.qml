@@ -7,12 +7,19 @@ import Velmora.Model
 import Velmora.Theme
 
 /// The icon of an option, centred in a square of 20. Most kinds share one image, whose address changes with the icon,
-/// because lists reassign their rows while the user types.
+/// because lists reassign their rows while the user types. `initialsOnly` shows people without photographs, at the size
+/// of icons in menus.
 Item {
     id: root
 
     required property optionIcon icon
+    property bool initialsOnly: false
+    readonly property bool isPerson: icon.kind === OptionIcons.User
     readonly property string meaning: OptionIconAddresses.meaning(icon)
+
+    function initials(): url {
+        return icon.hasUser ? IconAddresses.avatar(icon.user, 16) : IconAddresses.nobody(16);
+    }
 
     function ink(): color {
         if (root.icon.kind === OptionIcons.Status)
@@ -29,15 +36,15 @@ Item {
         anchors.centerIn: parent
         width: sourceSize.width
         height: sourceSize.height
-        sourceSize: OptionIconAddresses.size(root.icon)
-        source: OptionIconAddresses.source(root.icon, root.ink())
+        sourceSize: root.isPerson && root.initialsOnly ? Qt.size(16, 16) : OptionIconAddresses.size(root.icon)
+        source: root.isPerson && root.initialsOnly ? root.initials() : OptionIconAddresses.source(root.icon, root.ink())
         Accessible.role: Accessible.Graphic
         Accessible.name: root.meaning
         Accessible.ignored: root.meaning === ""
     }
 
     When {
-        shown: root.icon.kind === OptionIcons.User
+        shown: root.isPerson && !root.initialsOnly
 
         Avatar {
             anchors.centerIn: parent

@@ -47,6 +47,7 @@ class Metrics : public QObject
     Q_PROPERTY(int optionRowHeight MEMBER optionRowHeight CONSTANT FINAL)
     Q_PROPERTY(int optionSearchHeight MEMBER optionSearchHeight CONSTANT FINAL)
     Q_PROPERTY(int menuRowHeight MEMBER menuRowHeight CONSTANT FINAL)
+    Q_PROPERTY(int menuMaxWidth MEMBER menuMaxWidth CONSTANT FINAL)
     Q_PROPERTY(int propertyChipHeight MEMBER propertyChipHeight CONSTANT FINAL)
     Q_PROPERTY(int buttonHeight MEMBER buttonHeight CONSTANT FINAL)
     Q_PROPERTY(int largeButtonHeight MEMBER largeButtonHeight CONSTANT FINAL)
@@ -174,6 +175,8 @@ public:
     static constexpr int optionRowHeight = 32;
     static constexpr int optionSearchHeight = 38;
     static constexpr int menuRowHeight = 26;
+    /// Wider titles in menus are elided.
+    static constexpr int menuMaxWidth = 360;
     static constexpr int propertyChipHeight = 28;
     static constexpr int buttonHeight = 30;
     static constexpr int largeButtonHeight = 40;

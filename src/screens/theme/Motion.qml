@@ -37,10 +37,12 @@ QtObject {
     /// For hover fills that disappear (they appear at once), and for every fade that replaces a movement.
     readonly property int fadeDuration: 120
 
-    // Scroll bars and tooltips
+    // Scroll bars, menus and tooltips
     readonly property int scrollBarLinger: 800
     readonly property int scrollBarFade: 200
     readonly property int tooltipDelay: 600
+    /// The speed at which a menu scrolls while the pointer rests on its scroll sign, in logical pixels per second.
+    readonly property int menuScrollSpeed: 400
     /// One direction of the skeleton's pulse, down to `skeletonLow`.
     readonly property int skeletonDuration: 900
     readonly property real skeletonLow: 0.55

@@ -35,27 +35,35 @@ PopupMenu {
 
             text: modelData.title
             symbol: modelData.symbol
-            leading: modelData.hasIcon ? picture : null
+            hasLeading: modelData.hasIcon || modelData.symbol !== ""
+            isNear: false
             checked: modelData.isOn
             topPadding: modelData.startsGroup ? 11 : 0
             topInset: topPadding
             implicitHeight: Metrics.menuRowHeight + topPadding
             onTriggered: root.chosen(modelData)
 
-            Rectangle {
-                visible: row.modelData.startsGroup
-                x: 9
-                y: 5
-                width: parent.width - 18
-                height: 1
-                color: Theme.divider
+            When {
+                shown: row.isNear && row.modelData.startsGroup
+
+                Rectangle {
+                    x: 9
+                    y: 5
+                    width: row.width - 18
+                    height: 1
+                    color: Theme.divider
+                }
             }
 
-            OptionIconView {
-                id: picture
-                visible: row.modelData.hasIcon
-                icon: row.modelData.icon
-                Accessible.ignored: true
+            When {
+                shown: row.isNear && row.modelData.hasIcon
+
+                OptionIconView {
+                    icon: row.modelData.icon
+                    initialsOnly: true
+                    Accessible.ignored: true
+                    Component.onCompleted: row.leading = this
+                }
             }
         }
     }

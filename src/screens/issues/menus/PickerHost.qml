@@ -42,6 +42,8 @@ Item {
                 name: options.placeholder
                 width: 260
                 alignment: root.alignment
+                // As the design shows it.
+                overhang: root.alignment === PopoverPlacement.Trailing ? 30 : 0
                 onClosed: root.isOpen = false
                 Component.onCompleted: open()
 

@@ -3,9 +3,16 @@ import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
-/// The bubble of a hint, centred below its parent item.
+/// The bubble of a hint, centred below its parent item. A text that is wider than `maxWidth` is broken into lines.
 T.ToolTip {
     id: root
+
+    property real maxWidth: 360
+    readonly property bool isLong: metrics.width > maxWidth
+    readonly property TextMetrics metrics: TextMetrics {
+        font: TypeScale.font(TypeScale.Badge, Font.Normal)
+        text: root.text
+    }
 
     function showAt(owner: Item, words: string, wait: int) {
         parent = owner
@@ -19,14 +26,15 @@ T.ToolTip {
     margins: 6
     leftPadding: 9
     rightPadding: 9
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
-    implicitHeight: Metrics.tooltipHeight
+    implicitWidth: (isLong ? maxWidth : Math.ceil(implicitContentWidth)) + leftPadding + rightPadding
+    implicitHeight: isLong ? implicitContentHeight + 12 : Metrics.tooltipHeight
     onAboutToHide: HintWarmth.restart()
 
     contentItem: AppText {
         text: root.text
         role: TypeScale.Badge
         weight: Font.Normal
+        wrapMode: root.isLong ? Text.Wrap : Text.NoWrap
         verticalAlignment: Text.AlignVCenter
         Accessible.role: Accessible.ToolTip
     }

@@ -1,8 +1,10 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Theme
 import Velmora.Kit
 
-/// The content of a row of a menu. `hasMarkRoom` reserves space for a check mark before everything else.
+/// The content of a row of a menu. `hasMarkRoom` reserves space for a check mark before everything else. The title is
+/// one line, which begins at the left even if its text runs from right to left.
 Item {
     id: root
 
@@ -11,24 +13,26 @@ Item {
     required property Item leading
     required property string shortcut
     required property bool hasMarkRoom
+    required property bool hasLeading
     required property bool isMarked
     required property bool opensMenu
+    required property bool isHighlighted
     required property color ink
     required property color quietInk
-    readonly property bool hasLeading: symbol.length > 0 || leading !== null
     readonly property real start: hasMarkRoom ? 21 : 0
 
-    implicitWidth: title.x + title.implicitWidth + (tail.width > 0 ? tail.width + 16 : 0)
-    implicitHeight: title.implicitHeight
 
-    Symbol {
-        anchors.verticalCenter: parent.verticalCenter
-        width: 12
-        visible: root.isMarked
-        name: "checkmark"
-        size: 9.5
-        weight: "medium"
-        color: root.ink
+    When {
+        shown: root.isMarked
+
+        Symbol {
+            y: Math.floor((root.height - height) / 2)
+            width: 12
+            name: "checkmark"
+            size: 9.5
+            weight: "medium"
+            color: root.ink
+        }
     }
 
     ItemSlot {
@@ -50,11 +54,18 @@ Item {
         id: title
 
         x: root.start + (root.hasLeading ? 25 : 0)
-        width: parent.width - x - tail.width
+        width: parent.width - x - (tail.width > 0 ? tail.width + 8 : 0)
         anchors.verticalCenter: parent.verticalCenter
+        horizontalAlignment: Text.AlignLeft
+        maximumLineCount: 1
         text: root.text
         color: root.ink
         Accessible.ignored: true
+    }
+
+    HintTip {
+        shown: root.isHighlighted && title.truncated
+        text: root.text
     }
 
     Row {
@@ -64,21 +75,27 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 8
 
-        AppText {
-            visible: text.length > 0
-            text: root.shortcut
-            role: TypeScale.Small
-            color: root.quietInk
-            Accessible.ignored: true
+        When {
+            shown: root.shortcut.length > 0
+
+            AppText {
+                text: root.shortcut
+                role: TypeScale.Small
+                color: root.quietInk
+                Accessible.ignored: true
+            }
         }
 
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.opensMenu
-            name: "chevron.right"
-            size: 8
-            weight: "bold"
-            color: root.quietInk
+        When {
+            shown: root.opensMenu
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.right"
+                size: 8
+                weight: "bold"
+                color: root.quietInk
+            }
         }
     }
 }

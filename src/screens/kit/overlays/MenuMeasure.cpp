@@ -1,50 +1,42 @@
 #include "screens/kit/overlays/MenuMeasure.h"
 
-#include <QQuickItem>
+#include "screens/theme/TypeScale.h"
 
-#include <algorithm>
+#include <QFontMetricsF>
+
+#include <cmath>
 
 namespace {
 
-QList<QQuickItem *> rowsOf(QObject *menu)
+qreal widthOf(const QString &text, TypeScale::Role role)
 {
-    QList<QQuickItem *> rows;
-    const int count = menu->property("count").toInt();
-    for (int i = 0; i < count; ++i) {
-        QQuickItem *row = nullptr;
-        QMetaObject::invokeMethod(menu, "itemAt", Q_RETURN_ARG(QQuickItem *, row), Q_ARG(int, i));
-        if (row)
-            rows.append(row);
-    }
-    return rows;
+    return std::ceil(QFontMetricsF(TypeScale::fontOf(role)).horizontalAdvance(text));
 }
 
-bool isTicked(const QQuickItem *row)
+bool endsOrDisturbsALine(QChar c)
 {
-    return row->property("checked").toBool();
-}
-
-bool canBeTicked(const QQuickItem *row)
-{
-    return row->property("hasMarkRoom").isValid();
+    return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+           c.category() == QChar::Separator_Paragraph;
 }
 
 } // namespace
 
-qreal MenuMeasure::widest(QObject *menu) const
+QString MenuMeasure::oneLine(const QString &text) const
 {
-    qreal width = 0;
-    for (const auto *row : rowsOf(menu))
-        width = std::max(width, row->implicitWidth());
-    return width;
+    QString line = text;
+    for (QChar &c : line) {
+        if (endsOrDisturbsALine(c))
+            c = u' ';
+    }
+    return line;
 }
 
-void MenuMeasure::alignMarks(QObject *menu) const
+qreal MenuMeasure::titleWidth(const QString &text) const
 {
-    const auto rows = rowsOf(menu);
-    const bool hasMarks = std::any_of(rows.begin(), rows.end(), isTicked);
-    for (auto *row : rows) {
-        if (canBeTicked(row))
-            row->setProperty("hasMarkRoom", hasMarks);
-    }
+    return widthOf(text, TypeScale::Body);
+}
+
+qreal MenuMeasure::shortcutWidth(const QString &text) const
+{
+    return widthOf(text, TypeScale::Small);
 }

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// Measures menus, in which all rows have the width of the menu.
+/// Measures the texts of menus, so that a row need not be drawn to know its width.
 class MenuMeasure : public QObject
 {
     Q_OBJECT
@@ -11,8 +11,10 @@ class MenuMeasure : public QObject
     QML_SINGLETON
 
 public:
-    /// The implicit width of the widest row of a menu, in logical pixels.
-    Q_INVOKABLE qreal widest(QObject *menu) const;
-    /// Makes all rows reserve space for a check mark if one of them has a check mark.
-    Q_INVOKABLE void alignMarks(QObject *menu) const;
+    /// A title as one line: line breaks and other control characters become spaces.
+    Q_INVOKABLE QString oneLine(const QString &text) const;
+    /// The width of a title that is one line, in logical pixels.
+    Q_INVOKABLE qreal titleWidth(const QString &text) const;
+    /// The width of a shortcut, in logical pixels.
+    Q_INVOKABLE qreal shortcutWidth(const QString &text) const;
 };

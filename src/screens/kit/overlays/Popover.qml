@@ -17,6 +17,8 @@ T.Popup {
     property bool leavesFocus: false
     /// A `PopoverPlacement.Alignment`.
     property int alignment: PopoverPlacement.Leading
+    /// The distance by which a popover with trailing alignment reaches beyond its parent item.
+    property real overhang: 0
     /// True while the popover is open, opening or closing.
     readonly property bool isShown: visible
     /// True while the popover closes. Its content then receives no clicks.
@@ -26,7 +28,7 @@ T.Popup {
     property rect spot: parent ? Qt.rect(0, 0, parent.width, parent.height) : Qt.rect(0, 0, 0, 0)
     property rect anchor: Qt.rect(0, 0, 0, 0)
     readonly property size roomSize: room ? Qt.size(room.width, room.height) : Qt.size(0, 0)
-    readonly property point place: PopoverPlacement.place(anchor, Qt.size(width, height), roomSize, alignment)
+    readonly property point place: PopoverPlacement.place(Qt.rect(anchor.x, anchor.y, anchor.width + overhang, anchor.height), Qt.size(width, height), roomSize, alignment)
 
     readonly property Layer layer: Layer {
         item: holder.parent

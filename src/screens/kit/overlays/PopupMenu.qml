@@ -6,26 +6,56 @@ import Velmora.Kit
 /// A menu that the program draws itself. Its rows are `PopupMenuItem`, `PopupMenuSeparator` and nested `PopupMenu`s
 /// with a title. Escape and a press outside close it, and that press has no other effect. The focus then returns to the
 /// item that had it before.
+///
+/// A menu is at most `Metrics.menuMaxWidth` wide and never higher than its window. If it is too small for its rows, a
+/// sign at its edge says that there are more and scrolls to them.
 T.Menu {
     id: root
 
-    property real widest: 0
     // The menu or the menu bar that has opened this menu must stay reachable.
     readonly property bool isSubmenu: parent instanceof T.MenuItem || parent instanceof T.MenuBarItem
+    readonly property Item overlay: T.Overlay.overlay
+    readonly property real availableMenuWidth: overlay ? overlay.width - 2 * margins : Metrics.menuMaxWidth
+    readonly property real availableMenuHeight: overlay ? overlay.height - 2 * margins : Infinity
     readonly property Layer layer: Layer {
         item: root.contentItem.parent
         isOpen: false
         onCloseRequested: root.close()
     }
+    // Declared as properties, because the children of a menu become rows.
+    readonly property MenuRows rows: MenuRows {
+        id: scroller
+
+        parent: view.parent
+        x: view.x
+        y: view.y
+        width: view.width
+        height: view.height
+        z: 1
+        menu: root
+        list: view
+        signHeight: 20
+    }
+    readonly property list<Item> signs: [
+        MenuScrollSign {
+            parent: view.parent
+            rows: scroller
+            isAbove: true
+        },
+        MenuScrollSign {
+            parent: view.parent
+            rows: scroller
+            isAbove: false
+        }
+    ]
 
     function begin() {
-        MenuMeasure.alignMarks(root)
-        widest = MenuMeasure.widest(root)
+        scroller.begin()
         layer.isOpen = true
     }
 
-    implicitWidth: Math.max(140, widest + leftPadding + rightPadding)
-    implicitHeight: contentHeight + topPadding + bottomPadding
+    implicitWidth: Math.min(Math.max(140, scroller.implicitWidth + leftPadding + rightPadding), Metrics.menuMaxWidth, availableMenuWidth)
+    implicitHeight: Math.min(scroller.implicitHeight + topPadding + bottomPadding, availableMenuHeight)
     padding: 5
     margins: 8
     overlap: 4
@@ -37,16 +67,23 @@ T.Menu {
     onAboutToHide: layer.isOpen = false
     T.Overlay.modal: LayerShield {}
 
+    // The menu's own item is the menu, so that screen readers find only one.
+    Component.onCompleted: view.parent.Accessible.name = Qt.binding(() => root.title)
+
     delegate: PopupMenuItem {}
 
     contentItem: ListView {
-        implicitHeight: contentHeight
+        id: view
+
+        // All rows stay in the layout, so that their places are exact.
+        displayMarginBeginning: 1000000
+        displayMarginEnd: 1000000
         model: root.contentModel
-        interactive: contentHeight > height
-        clip: interactive
-        currentIndex: root.currentIndex
-        Accessible.role: Accessible.PopupMenu
-        Accessible.name: root.title
+        // The list would give its current row the focus.
+        currentIndex: -1
+        focus: true
+        interactive: false
+        clip: true
     }
 
     background: GlassPanel {

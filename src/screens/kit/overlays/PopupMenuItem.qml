@@ -1,10 +1,11 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Velmora.Kit
 import Velmora.Theme
 
 /// A row of a menu: a check mark and a symbol or a drawn icon before the title, and the shortcut or the submenu chevron
-/// after it.
+/// after it. A title that is too long is elided, and the whole title is shown as a hint while the row is highlighted.
 T.MenuItem {
     id: root
 
@@ -13,6 +14,14 @@ T.MenuItem {
     property string shortcut
     /// Set by the menu if one of its rows has a check mark, so that all titles are aligned.
     property bool hasMarkRoom: checked
+    property bool hasLeading: symbol.length > 0 || leading !== null
+    /// Creates the content of the row. In a menu of many rows, set it to false: the menu sets it once the row is in
+    /// view.
+    property bool isNear: true
+    readonly property string line: MenuMeasure.oneLine(text)
+    readonly property bool opensMenu: subMenu !== null
+    /// The width of the shortcut or the submenu chevron, with its distance from the title.
+    readonly property real tailWidth: opensMenu ? 20 : shortcut.length > 0 ? 16 + MenuMeasure.shortcutWidth(shortcut) : 0
     readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
     readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2
 
@@ -24,7 +33,7 @@ T.MenuItem {
             menu?.dismiss()
     }
 
-    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitWidth: leftPadding + (hasMarkRoom ? 21 : 0) + (hasLeading ? 25 : 0) + MenuMeasure.titleWidth(line) + tailWidth + rightPadding
     implicitHeight: Metrics.menuRowHeight
     leftPadding: 9
     rightPadding: 9
@@ -37,27 +46,43 @@ T.MenuItem {
     Accessible.checked: checked
     Accessible.onPressAction: if (enabled) activate()
 
-    contentItem: PopupMenuLabel {
-        text: root.text
-        symbol: root.symbol
-        leading: root.leading
-        shortcut: root.shortcut
-        hasMarkRoom: root.hasMarkRoom
-        isMarked: root.checked
-        opensMenu: root.subMenu !== null
-        ink: root.ink
-        quietInk: root.quietInk
+    contentItem: Item {
+        When {
+            shown: root.isNear
+
+            PopupMenuLabel {
+                anchors.fill: parent
+                text: root.line
+                symbol: root.symbol
+                leading: root.leading
+                shortcut: root.shortcut
+                hasMarkRoom: root.hasMarkRoom
+                hasLeading: root.hasLeading
+                isMarked: root.checked
+                opensMenu: root.opensMenu
+                isHighlighted: root.highlighted
+                ink: root.ink
+                quietInk: root.quietInk
+            }
+        }
     }
 
-    background: Rectangle {
-        radius: 7
-        color: root.highlighted ? Theme.accentFill : "transparent"
+    background: Item {
+        When {
+            shown: root.highlighted
 
-        PressShade {
-            radius: 7
-            accented: true
-            hovered: root.highlighted && root.down
-            pressed: true
+            Rectangle {
+                anchors.fill: parent
+                radius: 7
+                color: Theme.accentFill
+
+                PressShade {
+                    radius: 7
+                    accented: true
+                    hovered: root.down
+                    pressed: true
+                }
+            }
         }
     }
 }

@@ -68,6 +68,16 @@ TEST_F(InlinePicker, ItStandsAtItsCell)
     EXPECT_EQ(panel.box.width(), 260);
 }
 
+TEST_F(InlinePicker, ThatOfTheAssigneeReachesBeyondItsCell)
+{
+    const auto anchor = cell(u"MOB-2"_s, u"Assigné :"_s);
+    click(anchor);
+    const auto panel = await(QAccessible::Dialog, u"Assigner…"_s);
+
+    EXPECT_EQ(panel.box.right(), anchor.box.right() + 30);
+    EXPECT_EQ(panel.box.width(), 260);
+}
+
 TEST_F(InlinePicker, IsWorkedByKeysAlone)
 {
     openAssignee(u"MOB-2"_s);

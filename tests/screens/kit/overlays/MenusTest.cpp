@@ -12,7 +12,8 @@ namespace {
 qreal titleOf(const QQuickItem *menuHolder, const char *row, const QString &text)
 {
     auto *item = menuHolder->property(row).value<QQuickItem *>();
-    for (auto *part : item->property("contentItem").value<QQuickItem *>()->childItems()) {
+    auto *label = item->property("contentItem").value<QQuickItem *>()->childItems().value(0);
+    for (auto *part : label ? label->childItems() : QList<QQuickItem *>()) {
         if (part->property("text").toString() == text)
             return part->mapToItem(item, QPointF()).x();
     }
