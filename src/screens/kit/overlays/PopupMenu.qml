@@ -26,24 +26,24 @@ T.Menu {
     readonly property MenuRows rows: MenuRows {
         id: scroller
 
-        parent: view.parent
-        x: view.x
-        y: view.y
-        width: view.width
-        height: view.height
+        parent: root.contentItem.parent
+        x: root.contentItem.x
+        y: root.contentItem.y
+        width: root.contentItem.width
+        height: root.contentItem.height
         z: 1
         menu: root
-        list: view
+        list: root.contentItem
         signHeight: 20
     }
     readonly property list<Item> signs: [
         MenuScrollSign {
-            parent: view.parent
+            parent: root.contentItem.parent
             rows: scroller
             isAbove: true
         },
         MenuScrollSign {
-            parent: view.parent
+            parent: root.contentItem.parent
             rows: scroller
             isAbove: false
         }
@@ -68,13 +68,11 @@ T.Menu {
     T.Overlay.modal: LayerShield {}
 
     // The menu's own item is the menu, so that screen readers find only one.
-    Component.onCompleted: view.parent.Accessible.name = Qt.binding(() => root.title)
+    Component.onCompleted: root.contentItem.parent.Accessible.name = Qt.binding(() => root.title)
 
     delegate: PopupMenuItem {}
 
     contentItem: ListView {
-        id: view
-
         // All rows stay in the layout, so that their places are exact.
         displayMarginBeginning: 1000000
         displayMarginEnd: 1000000
