@@ -25,6 +25,12 @@ enum class Command {
     Escape,
     MoveDown,
     MoveUp,
+    MovePageDown,
+    MovePageUp,
+    MoveToFirst,
+    MoveToLast,
+    /// Add all visible issues to the multi-selection.
+    CheckVisible,
     /// Add the focused issue to the multi-selection, or remove it.
     ToggleCheck,
     PickStatus,
@@ -43,6 +49,8 @@ enum class Command {
     CycleAppearance,
     Reload,
     OpenSettings,
+    /// Open the settings at the reference of shortcuts.
+    OpenShortcuts,
 };
 Q_ENUM_NS(Command)
 

@@ -15,9 +15,9 @@ constexpr KeyBinding onKey(Qt::Key key, Flags flags, Command command)
     return {.key = key, .flags = flags, .command = command};
 }
 
-constexpr KeyBinding onLetter(char16_t letter, Command command)
+constexpr KeyBinding onLetter(char16_t letter, Command command, Flags flags = Flags::None)
 {
-    return {.character = letter, .command = command};
+    return {.character = letter, .flags = flags, .command = command};
 }
 
 constexpr KeyBinding onDigit(char16_t digit, Command command)
@@ -36,6 +36,11 @@ constexpr std::array bindings{
     onLetter(u'j', Command::MoveDown),
     onKey(Qt::Key_Up, Flags::None, Command::MoveUp),
     onLetter(u'k', Command::MoveUp),
+    onKey(Qt::Key_PageDown, Flags::None, Command::MovePageDown),
+    onKey(Qt::Key_PageUp, Flags::None, Command::MovePageUp),
+    onKey(Qt::Key_Home, Flags::None, Command::MoveToFirst),
+    onKey(Qt::Key_End, Flags::None, Command::MoveToLast),
+    onLetter(u'a', Command::CheckVisible, Flags::ControlOnly),
     onLetter(u'c', Command::NewIssue),
     onLetter(u's', Command::PickStatus),
     onLetter(u'p', Command::PickPriority),
@@ -45,6 +50,7 @@ constexpr std::array bindings{
     onLetter(u'x', Command::ToggleCheck),
     onDigit(u'1', Command::ShowList),
     onDigit(u'2', Command::ShowBoard),
+    onLetter(u'?', Command::OpenShortcuts),
 };
 
 /// With Shift, some layouts type a wider or a non-breaking space, for which Qt reports another key code.
@@ -90,6 +96,21 @@ bool takes(const KeyBinding &binding, const KeyPress &press)
 std::span<const KeyBinding> keyBindings()
 {
     return bindings;
+}
+
+bool isMovement(Command command)
+{
+    switch (command) {
+    case Command::MoveDown:
+    case Command::MoveUp:
+    case Command::MovePageDown:
+    case Command::MovePageUp:
+    case Command::MoveToFirst:
+    case Command::MoveToLast:
+        return true;
+    default:
+        return false;
+    }
 }
 
 std::optional<Command> route(const KeyPress &press)

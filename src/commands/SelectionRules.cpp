@@ -72,14 +72,22 @@ Selection afterMove(Selection selection, int delta, FocusMove move, const Visibl
     const qsizetype row = targetRow(selection.focusedKey, delta, visibleKeys);
     const QString target = visibleKeys[std::clamp<qsizetype>(row, 0, visibleKeys.size() - 1)];
     if (move == FocusMove::Extending) {
-        if (selection.focusedKey)
-            selection.checked.insert(*selection.focusedKey);
-        selection.checked.insert(target);
+        const QString from = selection.focusedKey.value_or(target);
+        selection = afterCheckRange(std::move(selection), from, target, visibleKeys);
+        selection.checked += {from, target};
     }
     selection.focusedKey = target;
     if (selection.inspectorKey)
         selection.inspectorKey = target;
     return selection;
+}
+
+Selection afterCheckVisible(Selection selection, const VisiblePath &visibleKeys)
+{
+    if (visibleKeys.isEmpty())
+        return selection;
+    return afterCheckRange(std::move(selection), visibleKeys[0],
+                           visibleKeys[visibleKeys.size() - 1], visibleKeys);
 }
 
 std::optional<Selection> afterOpen(Selection selection)

@@ -22,12 +22,15 @@ Selection afterToggleCheck(Selection selection, const QString &key);
 Selection afterCheckRange(Selection selection, const QString &from, const QString &to,
                           const VisiblePath &visibleKeys);
 
-/// Whether a move of the focus checks the issue that it leaves and the issue that it reaches.
+/// Whether a move of the focus checks the issue that it leaves, the issue that it reaches, and those between them.
 enum class FocusMove { Plain, Extending };
 
 /// Moves the focus by `delta` rows, but not beyond the ends. If the focused issue is not visible or there is none, a
 /// move down starts before the first row and a move up after the last. An open inspector shows the newly focused issue.
 Selection afterMove(Selection selection, int delta, FocusMove move, const VisiblePath &visibleKeys);
+
+/// Checks all visible issues, besides those that are checked already.
+Selection afterCheckVisible(Selection selection, const VisiblePath &visibleKeys);
 
 /// The Return key: focuses the target and shows it in the inspector. Nothing if there is no target.
 std::optional<Selection> afterOpen(Selection selection);

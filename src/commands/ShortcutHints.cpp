@@ -21,6 +21,14 @@ QString nameOf(Qt::Key key)
         return u"↓"_s;
     case Qt::Key_Up:
         return u"↑"_s;
+    case Qt::Key_PageDown:
+        return u"Page suiv."_s;
+    case Qt::Key_PageUp:
+        return u"Page préc."_s;
+    case Qt::Key_Home:
+        return u"Début"_s;
+    case Qt::Key_End:
+        return u"Fin"_s;
     default:
         return {};
     }

@@ -31,11 +31,6 @@ bool isInWalkedList(const QQuickItem &row)
     return item != nullptr;
 }
 
-bool isStep(Command command)
-{
-    return command == Command::MoveDown || command == Command::MoveUp;
-}
-
 } // namespace
 
 bool KeyMonitor::takes(const QKeyEvent &event)
@@ -52,7 +47,7 @@ bool KeyMonitor::takes(const QKeyEvent &event)
 bool KeyMonitor::repeats(const QKeyEvent &event) const
 {
     const auto command = route(KeyPress::from(event));
-    return command && isStep(*command);
+    return command && isMovement(*command);
 }
 
 bool KeyMonitor::give(const KeyPress &press)
@@ -60,7 +55,7 @@ bool KeyMonitor::give(const KeyPress &press)
     const auto command = route(press);
     const auto before = m_store->focusedKey();
     const bool isTaken = m_store->handleKey(press);
-    if ((command && isStep(*command)) || m_store->focusedKey() != before)
+    if ((command && isMovement(*command)) || m_store->focusedKey() != before)
         Q_EMIT walked();
     return isTaken;
 }

@@ -34,6 +34,7 @@ Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Fa
     connect(&m_farewell, &Farewell::windowWanted, this, &Scenes::showMain);
     connect(&m_store, &AppStore::openWindowRequested, this, &Scenes::showIssue);
     connect(&m_store, &AppStore::settingsRequested, this, &Scenes::showSettings);
+    connect(&m_store, &AppStore::shortcutsRequested, this, &Scenes::showShortcuts);
 }
 
 Scenes::~Scenes()
@@ -81,6 +82,12 @@ void Scenes::showSettings()
         watch(m_settings);
     }
     bringForward(m_settings);
+}
+
+void Scenes::showShortcuts()
+{
+    m_tabs.setTab(u"shortcuts"_s);
+    showSettings();
 }
 
 bool Scenes::isAllClosed() const

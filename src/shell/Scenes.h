@@ -37,6 +37,8 @@ public:
     bool showMain();
     void showIssue(const QString &key);
     void showSettings();
+    /// Shows the settings at the reference of shortcuts.
+    void showShortcuts();
 
 Q_SIGNALS:
     /// The last visible window was closed.

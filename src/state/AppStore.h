@@ -53,6 +53,8 @@ class AppStore : public AppStorePreferences
     Q_PROPERTY(BoardModel *board READ board CONSTANT FINAL)
     Q_PROPERTY(SidebarModel *sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(ToastModel *toasts READ toastModel CONSTANT FINAL)
+    /// The number of issues by which Page Up and Page Down move the focus, at least 1. The visible layout sets it.
+    Q_PROPERTY(int pageLength READ pageLength WRITE setPageLength FINAL)
 
 public:
     explicit AppStore(AppStoreContext context, QObject *parent = nullptr);
@@ -177,6 +179,8 @@ public:
     void deleteAttachment(const Attachment &attachment, const QString &key);
 
     // Selection -------------------------------------------------------------------------------------------------------
+    int pageLength() const { return m_pageLength; }
+    void setPageLength(int issues) { m_pageLength = qMax(1, issues); }
     Q_INVOKABLE void toggleGroup(const QString &id);
     /// Moves the focus by `delta` rows, without wrapping; an open inspector follows.
     void moveFocus(int delta, FocusMove move = FocusMove::Plain);
@@ -255,6 +259,8 @@ Q_SIGNALS:
     void openWindowRequested(const QString &key);
     /// Requests the settings window.
     void settingsRequested();
+    /// Opens the settings at the reference of shortcuts.
+    void shortcutsRequested();
 
 private:
     // The private operations run in the current session and await through it. When it ends, `OwnerGone` ends them, and
@@ -327,6 +333,7 @@ private:
     using TargetKeys = std::optional<QStringList>;
     /// Returns false if there was nothing to do.
     bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
+    std::optional<int> stepOf(Command command) const;
     bool carryOutOnIssues(Command command, const TargetKeys &keys);
     void carryOutInWindow(Command command);
     void openPicker(PickerKind kind, const TargetKeys &keys);
@@ -369,6 +376,7 @@ private:
 
     AppStoreContext m_context;
     bool m_didBootstrap = false;
+    int m_pageLength = 1;
     /// Attempts to open a session. Only the newest one is valid, until a session begins or ends.
     Newest m_openings;
     PendingWrites m_writes;

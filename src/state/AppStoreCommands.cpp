@@ -44,16 +44,34 @@ bool AppStore::carryOut(Command command, const TargetKeys &keys, FocusMove move)
         return escape();
     case Command::ToggleCheck:
         return toggleFocusedCheck();
-    case Command::MoveDown:
-        moveFocus(1, move);
-        return true;
-    case Command::MoveUp:
-        moveFocus(-1, move);
-        return true;
     default:
-        if (!carryOutOnIssues(command, keys))
+        if (const auto delta = stepOf(command))
+            moveFocus(*delta, move);
+        else if (!carryOutOnIssues(command, keys))
             carryOutInWindow(command);
         return true;
+    }
+}
+
+/// The number of rows by which a command moves the focus. Nothing for other commands.
+std::optional<int> AppStore::stepOf(Command command) const
+{
+    const int all = int(visiblePath().size());
+    switch (command) {
+    case Command::MoveDown:
+        return 1;
+    case Command::MoveUp:
+        return -1;
+    case Command::MovePageDown:
+        return m_pageLength;
+    case Command::MovePageUp:
+        return -m_pageLength;
+    case Command::MoveToFirst:
+        return -all;
+    case Command::MoveToLast:
+        return all;
+    default:
+        return std::nullopt;
     }
 }
 
@@ -96,6 +114,8 @@ void AppStore::carryOutInWindow(Command command)
     switch (command) {
     case Command::NewIssue:
         return newIssue();
+    case Command::CheckVisible:
+        return setSelection(afterCheckVisible(selection(), visiblePath()));
     case Command::ToggleInspector:
         return togglePeek();
     case Command::ShowList:
@@ -112,6 +132,9 @@ void AppStore::carryOutInWindow(Command command)
         return refresh();
     case Command::OpenSettings:
         Q_EMIT settingsRequested();
+        return;
+    case Command::OpenShortcuts:
+        Q_EMIT shortcutsRequested();
         return;
     default:
         return;

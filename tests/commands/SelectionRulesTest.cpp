@@ -36,6 +36,19 @@ TEST(SelectionMove, UpAtTheFirstRowStaysThere)
     EXPECT_EQ(afterMove(focusedOn(u"A-1"_s), -1, FocusMove::Plain, rows), focusedOn(u"A-1"_s));
 }
 
+TEST(SelectionMove, ALongExtendingMoveChecksAllBetween)
+{
+    const auto moved = afterMove(focusedOn(u"A-2"_s), 10, FocusMove::Extending, rows);
+    EXPECT_EQ(moved.checked, (QSet<QString>{u"A-2"_s, u"A-3"_s, u"A-4"_s}));
+}
+
+TEST(SelectionMove, CheckingTheVisibleIssuesKeepsTheOthersThatAreChecked)
+{
+    const auto checked = afterCheckVisible({.checked = {u"Z-1"_s}}, rows).checked;
+    EXPECT_EQ(checked, (QSet<QString>{u"Z-1"_s, u"A-1"_s, u"A-2"_s, u"A-3"_s, u"A-4"_s}));
+    EXPECT_TRUE(afterCheckVisible({}, QStringList()).checked.isEmpty());
+}
+
 TEST(SelectionMove, LongMovesStopAtTheEnds)
 {
     EXPECT_EQ(afterMove(focusedOn(u"A-2"_s), 10, FocusMove::Plain, rows), focusedOn(u"A-4"_s));

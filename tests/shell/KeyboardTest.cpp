@@ -1,5 +1,7 @@
 #include "app/WindowFixture.h"
 
+#include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,83 @@ TEST_F(Keyboard, TheArrowsAndJAndKMoveTheFocus)
     EXPECT_EQ(focus(), "MOB-2");
     press(Qt::Key_Up);
     EXPECT_EQ(focus(), "MOB-1");
+}
+
+TEST_F(Keyboard, HomeEndAndThePageKeysMoveTheFocusInListAndBoard)
+{
+    QStringList many;
+    for (int i = 1; i <= 100; ++i)
+        many += u"MOB-%1"_s.arg(i);
+    serve(many);
+    reload();
+    const auto place = [&] { return store().focusedKey().value_or(QString()).mid(4).toInt(); };
+    for (const Qt::Key layout : {Qt::Key_1, Qt::Key_2}) {
+        press(layout);
+        settle();
+        press(Qt::Key_End);
+        EXPECT_EQ(place(), 100);
+        press(Qt::Key_Home);
+        EXPECT_EQ(place(), 1);
+        press(Qt::Key_PageDown);
+        const int page = place() - 1;
+        EXPECT_GT(page, 2);
+        EXPECT_LT(page, 30);
+        const QString reached = u"MOB-%1,"_s.arg(place());
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return spokenIn(window(), QAccessible::ListItem, reached).size() == 1; }));
+        press(Qt::Key_PageDown);
+        EXPECT_EQ(place(), 1 + 2 * page);
+        press(Qt::Key_PageUp);
+        EXPECT_EQ(place(), 1 + page);
+    }
+    EXPECT_TRUE(store().checked().isEmpty());
+}
+
+TEST_F(Keyboard, ShiftEndChecksAllFromTheFocusOn)
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(store().checked(), (QSet<QString>{u"MOB-2"_s, u"MOB-3"_s}));
+}
+
+TEST_F(Keyboard, ControlAChecksWhatIsShownAndSelectsTextInAField)
+{
+    store().setFilterText(u"mob"_s);
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(store().checked(), (QSet<QString>{u"MOB-1"_s, u"MOB-2"_s, u"MOB-3"_s}));
+    press(Qt::Key_Escape);
+    click(searchField());
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(store().checked().isEmpty());
+    type(u"x"_s);
+    EXPECT_EQ(store().filterText(), u"x"_s);
+}
+
+TEST_F(Keyboard, TheQuestionMarkAsksForTheReferenceOfShortcuts)
+{
+    QSignalSpy asked(&store(), &AppStore::shortcutsRequested);
+    press(Qt::Key_Question, Qt::ShiftModifier);
+    EXPECT_EQ(asked.count(), 1);
+}
+
+TEST_F(Keyboard, AListWithoutAFocusedIssueShowsThatTabHasReachedIt)
+{
+    const auto rings = [&] {
+        const auto *list = window().activeFocusItem();
+        for (const auto *item : list->parentItem()->childItems()) {
+            if (QByteArray(item->metaObject()->className()).startsWith("ListFocusRing"))
+                return item->isVisible();
+        }
+        ADD_FAILURE() << "no ring";
+        return false;
+    };
+    EXPECT_FALSE(rings()) << "at first";
+    press(Qt::Key_Tab);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(rings());
+    press(Qt::Key_Down);
+    EXPECT_FALSE(rings()) << "the row shows it";
 }
 
 TEST_F(Keyboard, WhileTypingNoLetterReachesTheKeyMap)

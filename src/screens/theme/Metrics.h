@@ -89,6 +89,7 @@ class Metrics : public QObject
     Q_PROPERTY(int cardPartGap MEMBER cardPartGap CONSTANT FINAL)
     Q_PROPERTY(int cardPriority MEMBER cardPriority CONSTANT FINAL)
     Q_PROPERTY(int cardLabelMinimum MEMBER cardLabelMinimum CONSTANT FINAL)
+    Q_PROPERTY(int boardCardTypical MEMBER boardCardTypical CONSTANT FINAL)
     Q_PROPERTY(int boardColumnWidth MEMBER boardColumnWidth CONSTANT FINAL)
     Q_PROPERTY(int boardColumnGap MEMBER boardColumnGap CONSTANT FINAL)
     Q_PROPERTY(int boardPadding MEMBER boardPadding CONSTANT FINAL)
@@ -259,6 +260,8 @@ public:
 
     // The board
 
+    /// The height of a card with a title of two lines, with the gap below it.
+    static constexpr int boardCardTypical = 114;
     static constexpr int boardColumnWidth = 296;
     static constexpr int boardColumnGap = 12;
     /// Between the edge of the board and the first column.

@@ -42,6 +42,14 @@ FocusScope {
         store: root.store
     }
 
+    Binding {
+        target: root.store
+        property: "pageLength"
+        value: Math.floor(columns.height / Metrics.boardCardTypical)
+        when: root.visible
+        restoreMode: Binding.RestoreNone
+    }
+
     Flickable {
         id: board
         anchors.fill: parent
@@ -90,6 +98,11 @@ FocusScope {
                 }
             }
         }
+    }
+
+    ListFocusRing {
+        list: board
+        focusedKey: root.store.focusedKey
     }
 
     Scrolling {

@@ -52,6 +52,14 @@ FocusScope {
         updatedWidth: columns.updatedWidth
     }
 
+    Binding {
+        target: root.store
+        property: "pageLength"
+        value: Math.floor((list.height - root.headerHeight) / root.rowHeight)
+        when: root.visible
+        restoreMode: Binding.RestoreNone
+    }
+
     ListView {
         id: list
         anchors.fill: parent
@@ -161,6 +169,11 @@ FocusScope {
         header: root.store.issueList.headerAt(root.store.issueList.headerRowOf(topRow))
         onToggled: root.store.toggleGroup(header.groupId)
         onNewIssueRequested: root.newIssueIn(header)
+    }
+
+    ListFocusRing {
+        list: list
+        focusedKey: root.store.focusedKey
     }
 
     FocusedRowScroller {
