@@ -54,7 +54,7 @@ class AppStore : public AppStorePreferences
     Q_PROPERTY(SidebarModel *sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(ToastModel *toasts READ toastModel CONSTANT FINAL)
     /// The number of issues by which Page Up and Page Down move the focus, at least 1. The visible layout sets it.
-    Q_PROPERTY(int pageLength READ pageLength WRITE setPageLength FINAL)
+    Q_PROPERTY(int pageLength MEMBER m_pageLength WRITE setPageLength FINAL)
 
 public:
     explicit AppStore(AppStoreContext context, QObject *parent = nullptr);
@@ -179,7 +179,6 @@ public:
     void deleteAttachment(const Attachment &attachment, const QString &key);
 
     // Selection -------------------------------------------------------------------------------------------------------
-    int pageLength() const { return m_pageLength; }
     void setPageLength(int issues) { m_pageLength = qMax(1, issues); }
     Q_INVOKABLE void toggleGroup(const QString &id);
     /// Moves the focus by `delta` rows, without wrapping; an open inspector follows.
@@ -257,9 +256,8 @@ Q_SIGNALS:
     void writeRefused(const QString &reason);
     /// Requests a separate window for the issue.
     void openWindowRequested(const QString &key);
-    /// Requests the settings window.
+    /// Request the settings window, the second one with the reference of shortcuts.
     void settingsRequested();
-    /// Opens the settings at the reference of shortcuts.
     void shortcutsRequested();
 
 private:
@@ -331,9 +329,9 @@ private:
     // AppStoreCommands.cpp
     /// Absent means the chosen issues.
     using TargetKeys = std::optional<QStringList>;
+    std::optional<int> stepOf(Command command) const;
     /// Returns false if there was nothing to do.
     bool carryOut(Command command, const TargetKeys &keys, FocusMove move);
-    std::optional<int> stepOf(Command command) const;
     bool carryOutOnIssues(Command command, const TargetKeys &keys);
     void carryOutInWindow(Command command);
     void openPicker(PickerKind kind, const TargetKeys &keys);
