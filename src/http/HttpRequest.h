@@ -25,8 +25,8 @@ struct HttpRequest
         /// Changes nothing. It uses connections that are kept open, and if such a connection turns out to be closed,
         /// the network stack sends the request again over another one.
         Read,
-        /// Changes data. It uses a connection of its own and reaches the server at most once. If the connection breaks
-        /// before the response, the request fails, and it is unknown whether the change was made.
+        /// Changes data. It uses a connection of its own and follows no redirect. If the connection breaks before the
+        /// response, it is unknown whether the change was made.
         Write
     };
 

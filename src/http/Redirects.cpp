@@ -6,10 +6,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+bool onlyReads(const QByteArray &verb)
+{
+    return verb == "GET" || verb == "HEAD";
+}
+
 bool becomesGet(const QByteArray &verb, int status)
 {
     if (status == 303)
-        return verb != "GET" && verb != "HEAD";
+        return !onlyReads(verb);
     return (status == 301 || status == 302) && verb == "POST";
 }
 
@@ -41,6 +46,8 @@ std::expected<HttpRequest, TransportError::Kind>
 Redirects::next(const HttpRequest &request, int status, const QByteArray &location)
 {
     using Kind = TransportError::Kind;
+    if (request.purpose == HttpRequest::Purpose::Write)
+        return std::unexpected(Kind::RedirectedWrite);
     HttpRequest next = becomesGet(request.verb, status) ? asGet(request) : request;
     next.url = request.url.resolved(QUrl::fromEncoded(location));
     next.url.setFragment(QString());
@@ -48,7 +55,8 @@ Redirects::next(const HttpRequest &request, int status, const QByteArray &locati
         return std::unexpected(Kind::UnsafeRedirect);
     if (!isAddress(next.url))
         return std::unexpected(Kind::Broken);
-    if (next.body && Origin::of(next.url) != Origin::of(request.url))
+    const bool mayChange = next.body || !onlyReads(next.verb);
+    if (mayChange && Origin::of(next.url) != Origin::of(request.url))
         return std::unexpected(Kind::ForeignRedirect);
     return next;
 }

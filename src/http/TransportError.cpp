@@ -55,6 +55,8 @@ QString textOf(TransportError::Kind kind)
         return u"Le serveur redirige vers une adresse non sécurisée."_s;
     case Kind::ForeignRedirect:
         return u"Le serveur redirige l'envoi vers un autre site."_s;
+    case Kind::RedirectedWrite:
+        return u"Le site n'a pas fait la modification : il redirige vers une autre page."_s;
     case Kind::TooLarge:
         return u"La réponse du serveur est trop volumineuse."_s;
     case Kind::Broken:

@@ -35,8 +35,10 @@ public:
         TooManyRedirects,
         /// A redirect from https to another scheme.
         UnsafeRedirect,
-        /// A redirect to another origin of a request with a body, which is not followed.
+        /// A redirect to another origin of a request with a body or a method that may change data, which is not followed.
         ForeignRedirect,
+        /// A redirect of a request that changes data, which is not followed.
+        RedirectedWrite,
         /// The response is larger than the maximum size kept in memory.
         TooLarge,
         /// The response cannot be decompressed or is not valid HTTP.

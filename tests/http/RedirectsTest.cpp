@@ -107,6 +107,25 @@ TEST(Redirects, OnlyHttpIsFollowed)
         EXPECT_EQ(refusal(plain, 302, location), Kind::Broken) << location;
 }
 
+TEST(Redirects, AWriteFollowsNone)
+{
+    for (const char *verb : {"POST", "PUT", "DELETE"}) {
+        HttpRequest change = request(verb);
+        change.purpose = HttpRequest::Purpose::Write;
+        for (const int status : {301, 302, 303, 307, 308}) {
+            EXPECT_EQ(refusal(change, status, "/d"), Kind::RedirectedWrite) << verb << status;
+            EXPECT_EQ(refusal(change, status, "https://other.fr/"), Kind::RedirectedWrite);
+        }
+    }
+}
+
+TEST(Redirects, AMethodThatMayChangeSomethingGoesToNoOtherOrigin)
+{
+    EXPECT_EQ(refusal(request("DELETE"), 307, "https://other.fr/"), Kind::ForeignRedirect);
+    EXPECT_EQ(refusal(request("DELETE"), 302, "https://other.fr/"), Kind::ForeignRedirect);
+    EXPECT_EQ(refusal(request("HEAD"), 302, "https://other.fr/"), std::nullopt);
+}
+
 TEST(Redirects, ABodyGoesToNoOtherOrigin)
 {
     for (const char *location :

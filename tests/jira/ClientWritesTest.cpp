@@ -1,4 +1,5 @@
 #include "ClientTest.h"
+#include "http/TransportError.h"
 #include "model/ADFNode.h"
 #include "model/IssueEdits.h"
 
@@ -45,6 +46,34 @@ TEST_F(ClientWrites, WhateverASuccessSaysIsIgnored)
 {
     server.answer(RawAnswer::html("<html>", 200));
     EXPECT_EQ(failureOf(client->assign(u"ABC-1"_s, std::nullopt)), QString());
+}
+
+/// A site whose session has ended, or a proxy in front of it, redirects every request to a page for signing in.
+TEST_F(ClientWrites, AChangeThatIsRedirectedToAPageIsAFailureAndSentOnce)
+{
+    for (const int status : {301, 302, 303, 307, 308}) {
+        server.answerBy([status](const RawRequest &request) {
+            return request.target == "/login" ? RawAnswer::html("<html>Connecte-toi</html>")
+                                              : RawAnswer::redirect("/login", status);
+        });
+        server.clearJournal();
+        const QString refused = TransportError(TransportError::Kind::RedirectedWrite).message();
+        EXPECT_EQ(failureOf(client->assign(u"ABC-1"_s, std::nullopt)), refused) << status;
+        EXPECT_EQ(failureOf(client->perform({.id = u"31"_s, .name = {}, .to = {}}, u"ABC-1"_s)),
+                  refused);
+        EXPECT_EQ(failureOf(client->deleteAttachment(u"7"_s)), refused);
+        EXPECT_EQ(failureOf(client->addComment(u"ABC-1"_s, document(), false)), refused);
+        EXPECT_EQ(server.journal().size(), 4);
+    }
+}
+
+TEST_F(ClientWrites, ADeletionReachesNoOtherSite)
+{
+    RawServer other;
+    other.answer(RawAnswer::http(204, {}));
+    server.answer(RawAnswer::redirect(other.url().toEncoded() + "/rest/api/3/attachment/7", 307));
+    EXPECT_NE(failureOf(client->deleteAttachment(u"7"_s)), QString());
+    EXPECT_EQ(other.connections(), 0);
 }
 
 TEST_F(ClientWrites, AnInternalCommentIsInternalThoughTheAnswerDoesNotSay)

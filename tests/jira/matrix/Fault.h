@@ -32,6 +32,8 @@ struct Fault
         std::optional<std::optional<QString>> ignoring;
         std::optional<std::optional<QString>> upload;
         std::optional<std::optional<QString>> download;
+        /// For every operation that changes the site.
+        std::optional<std::optional<QString>> changing = {};
     };
 
     const char *name;

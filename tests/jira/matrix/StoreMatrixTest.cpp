@@ -52,6 +52,15 @@ struct Known
     bool operator==(const Known &) const = default;
 };
 
+bool changesSite(SiteOperation operation)
+{
+    constexpr SiteOperation changes[] = {SiteOperation::Perform,         SiteOperation::Update,
+                                         SiteOperation::Assign,          SiteOperation::AddComment,
+                                         SiteOperation::Create,          SiteOperation::Upload,
+                                         SiteOperation::DeleteAttachment};
+    return std::ranges::find(changes, operation) != std::end(changes);
+}
+
 /// The effect of a faulty response on a user action, in a complete session on a simulated site.
 class StoreMatrix : public SimulatedStore,
                     public testing::WithParamInterface<std::tuple<StoreAction, Fault>>
@@ -71,6 +80,8 @@ protected:
     /// The text that the user should read; nothing if the response is sufficient for the action.
     static std::optional<QString> expected()
     {
+        if (fault().texts.changing && changesSite(action().operation))
+            return *fault().texts.changing;
         return action().kind == Operation::Kind::IgnoresAnswer
                    ? fault().texts.ignoring.value_or(fault().texts.reading)
                    : fault().texts.reading;

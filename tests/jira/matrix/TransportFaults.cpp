@@ -103,7 +103,8 @@ QList<Fault> brokenAnswers()
          RawAnswer::large(100LL << 20, 100LL << 20, "application/json")},
         {"RedirectLoop",
          Place::Answer,
-         {u"Le serveur redirige sans fin."_s},
+         {.reading = u"Le serveur redirige sans fin."_s,
+          .changing = u"Le site n'a pas fait la modification : il redirige vers une autre page."_s},
          RawAnswer::redirect("/rest/api/3/again")},
     };
 }
