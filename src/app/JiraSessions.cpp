@@ -1,15 +1,10 @@
 #include "app/JiraSessions.h"
 
-#include "model/JiraError.h"
-
 namespace {
 
 JiraCredentials credentialsOf(const SignIn &signIn)
 {
-    const auto site = JiraCredentials::normalizeSite(signIn.site);
-    if (!site)
-        throw JiraError(JiraError::InvalidSite{});
-    return {*site, signIn.email, signIn.token};
+    return JiraCredentials::typed(signIn.site, signIn.email, signIn.token);
 }
 
 } // namespace

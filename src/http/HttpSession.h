@@ -23,7 +23,7 @@ class QNetworkAccessManager;
 ///   breaks before any response.
 /// - Follows at most ten redirects, never from https to http, and sends a body to no other origin.
 /// - Sends the identity's `Authorization` header only to the identity's own origin, whatever an address or a redirect
-///   says.
+///   says, and never to an address that contains a user name.
 /// - Trusts the certificate authorities of the system and uses its proxies.
 /// - Applies two time limits: 30 seconds without a byte sent or received, and the request's own limit from its start to
 ///   the last byte, redirects included.

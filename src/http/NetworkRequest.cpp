@@ -29,7 +29,10 @@ QNetworkRequest networkRequest(const HttpRequest &request, const Identity &ident
     result.setRawHeader("Accept-Encoding", request.saveAs ? "identity" : "gzip");
     for (const HttpHeader &header : request.headers)
         result.setRawHeader(header.name, header.value);
-    if (!identity.authorization.isEmpty() && Origin::of(request.url) == identity.origin)
+    // An address with a user name was not meant for these credentials: somebody typed an e-mail instead of a site.
+    const bool isFor =
+        request.url.userInfo().isEmpty() && Origin::of(request.url) == identity.origin;
+    if (isFor && !identity.authorization.isEmpty())
         result.setRawHeader("Authorization", identity.authorization);
     return result;
 }

@@ -33,7 +33,8 @@ CredentialsStore::CredentialsStore(Preferences &preferences, Keychain &keychain)
 
 QString CredentialsStore::site() const
 {
-    return m_preferences.text(SiteKey).value_or(QString());
+    const auto address = siteURL();
+    return address ? absoluteText(*address) : m_preferences.text(SiteKey).value_or(QString());
 }
 
 QString CredentialsStore::email() const
@@ -43,13 +44,16 @@ QString CredentialsStore::email() const
 
 std::optional<QUrl> CredentialsStore::siteURL() const
 {
-    return webAddress(m_preferences.text(SiteKey));
+    auto address = webAddress(m_preferences.text(SiteKey));
+    if (address)
+        address->setPassword({});
+    return address;
 }
 
 QCoro::Task<CredentialsStore::Stored> CredentialsStore::load()
 {
     const auto site = siteURL();
-    if (!site)
+    if (!site || !site->userInfo().isEmpty())
         co_return None();
     const Keychain::Lookup lookup = co_await m_keychain.read(absoluteText(*site));
     if (const auto *failed = std::get_if<Keychain::Failed>(&lookup))

@@ -1,5 +1,9 @@
 #include "jira/JiraCredentials.h"
 
+#include "model/JiraError.h"
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -13,7 +17,34 @@ bool isShortName(const QString &host)
     return !host.contains(u'.') && !host.contains(u':');
 }
 
+/// True for a text with a control or formatting character, which neither an e-mail nor a token contains. A line break
+/// would end the header that contains the token.
+bool hasInvisible(const QString &text)
+{
+    return std::ranges::any_of(text, [](QChar character) {
+        return character.category() == QChar::Other_Control ||
+               character.category() == QChar::Other_Format ||
+               character.category() == QChar::Separator_Line ||
+               character.category() == QChar::Separator_Paragraph;
+    });
+}
+
 } // namespace
+
+JiraCredentials JiraCredentials::typed(const QString &site, const QString &email,
+                                       const QString &token)
+{
+    const auto address = normalizeSite(site);
+    if (!address || !address->userInfo().isEmpty())
+        throw JiraError(JiraError::InvalidSite{});
+    const JiraCredentials result{*address, email.trimmed(), token.trimmed()};
+    if (hasInvisible(result.email))
+        throw Failure(
+            u"L'e-mail contient un caractère invisible. Efface-le et saisis-le à nouveau."_s);
+    if (hasInvisible(result.token))
+        throw Failure(u"Le token contient un caractère invisible. Copie-le à nouveau."_s);
+    return result;
+}
 
 QByteArray JiraCredentials::authorizationHeader() const
 {
@@ -38,6 +69,7 @@ std::optional<QUrl> JiraCredentials::normalizeSite(const QString &text)
         return std::nullopt;
     if (isShortName(site.host()))
         site.setHost(site.host() + CloudSuffix);
+    site.setPassword({});
     site.setPath({});
     site.setQuery(QString());
     site.setFragment(QString());

@@ -22,7 +22,12 @@ struct JiraCredentials
     /// The name of the site to display: its host, or its whole address if it has no host.
     QString siteName() const;
 
-    /// The address of a site from a text that the user typed. Surrounding blanks, path, query and fragment are removed;
+    /// The credentials from the texts that the user typed, without surrounding blanks. Fails with
+    /// `JiraError::InvalidSite` for an address that is none or that contains a user name, such as an e-mail in the place
+    /// of the site, and with `Failure` for an e-mail or a token with invisible characters.
+    static JiraCredentials typed(const QString &site, const QString &email, const QString &token);
+    /// The address of a site from a text that the user typed. Surrounding blanks, password, path, query and fragment are
+    /// removed;
     /// https is added if there is no scheme; a name without a dot gets the domain of Jira Cloud. Nothing if the result
     /// has no host.
     static std::optional<QUrl> normalizeSite(const QString &text);
