@@ -41,7 +41,7 @@ void HttpExchange::transmit()
     m_decoder.reset();
     m_received = 0;
     m_certificateErrors.clear();
-    m_reply = m_request.purpose == HttpRequest::Purpose::Write ? sentOnce() : sent();
+    m_reply = sentOnce();
     connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::progressed);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
@@ -50,28 +50,28 @@ void HttpExchange::transmit()
     connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::completeReply);
 }
 
-QNetworkReply *HttpExchange::sent()
-{
-    const QNetworkRequest request = networkRequest(m_request, m_identity);
-    if (m_request.body)
-        return m_shared->sendCustomRequest(request, m_request.verb, *m_request.body);
-    return m_shared->sendCustomRequest(request, m_request.verb);
-}
-
 QNetworkReply *HttpExchange::sentOnce()
 {
-    m_own = std::make_unique<QNetworkAccessManager>();
-    m_own->setProxyFactory(std::make_unique<SystemProxies>().release());
     QNetworkRequest request = networkRequest(m_request, m_identity);
     // Only a body that cannot be read twice keeps the network stack from sending a request twice, so a request without
     // a body gets an empty one.
     auto body = std::make_unique<OneWayBody>(m_request.body.value_or(QByteArray()));
     request.setHeader(QNetworkRequest::ContentLengthHeader, body->bytesAvailable());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    request.setRawHeader("Connection", "close");
-    QNetworkReply *reply = m_own->sendCustomRequest(request, m_request.verb, body.get());
+    if (m_request.purpose == HttpRequest::Purpose::Write)
+        request.setRawHeader("Connection", "close");
+    QNetworkReply *reply = manager().sendCustomRequest(request, m_request.verb, body.get());
     body.release()->setParent(reply);
     return reply;
+}
+
+QNetworkAccessManager &HttpExchange::manager()
+{
+    if (m_request.purpose == HttpRequest::Purpose::Read)
+        return *m_shared;
+    m_own = std::make_unique<QNetworkAccessManager>();
+    m_own->setProxyFactory(std::make_unique<SystemProxies>().release());
+    return *m_own;
 }
 
 void HttpExchange::takeBytes()

@@ -39,8 +39,8 @@ Q_SIGNALS:
 
 private:
     void transmit();
-    QNetworkReply *sent();
     QNetworkReply *sentOnce();
+    QNetworkAccessManager &manager();
     void takeBytes();
     bool store(QByteArrayView piece);
     bool storeInFile(QByteArrayView piece);

@@ -22,8 +22,7 @@ struct HttpRequest
 {
     /// The effect of the request on the server.
     enum class Purpose {
-        /// Changes nothing. It uses connections that are kept open, and if such a connection turns out to be closed,
-        /// the network stack sends the request again over another one.
+        /// Changes nothing. It shares connections that are kept open for a short time.
         Read,
         /// Changes data. It uses a connection of its own and follows no redirect. If the connection breaks before the
         /// response, it is unknown whether the change was made.

@@ -18,10 +18,10 @@ class QNetworkAccessManager;
 /// session;
 /// results are returned on the thread of the caller.
 ///
-/// - Sends a request once, whatever the response is, over HTTP/1.1, without cookies and without a cache. It does not
-///   respond to authentication challenges. Only a request with `Purpose::Read` may be sent again, if a connection
-///   breaks before any response.
-/// - Follows at most ten redirects, never from https to http, and sends a body to no other origin.
+/// - Sends a request once, whatever happens to its connection and whatever the response is, over HTTP/1.1, without
+///   cookies and without a cache. It does not respond to authentication challenges.
+/// - Follows at most ten redirects of a read, never from https to http, and no redirect of a write. Sends a body to no
+///   other origin.
 /// - Sends the identity's `Authorization` header only to the identity's own origin, whatever an address or a redirect
 ///   says, and never to an address that contains a user name.
 /// - Trusts the certificate authorities of the system and uses its proxies.

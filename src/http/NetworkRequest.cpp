@@ -2,6 +2,10 @@
 
 namespace {
 
+/// How long a connection without requests is kept. A server or a router that drops an idle connection may do so
+/// unnoticed, and then the next request on it fails, because it is not sent again. They wait longer than this.
+constexpr int KeptOpenSeconds = 5;
+
 void switchOffWhatTheStackDoesByItself(QNetworkRequest &request)
 {
     using Request = QNetworkRequest;
@@ -12,6 +16,7 @@ void switchOffWhatTheStackDoesByItself(QNetworkRequest &request)
     request.setAttribute(Request::CookieLoadControlAttribute, Request::Manual);
     request.setAttribute(Request::CookieSaveControlAttribute, Request::Manual);
     request.setAttribute(Request::AuthenticationReuseAttribute, Request::Manual);
+    request.setAttribute(Request::ConnectionCacheExpiryTimeoutSecondsAttribute, KeptOpenSeconds);
 }
 
 } // namespace

@@ -89,18 +89,54 @@ TEST_F(SessionTest, AWriteGoesThroughThoughEveryOpenConnectionIsDead)
     EXPECT_EQ(server.journal().size(), 2);
 }
 
-/// Documents the behaviour that the other tests protect against: the network stack itself repeats a request whose body
-/// it can read again.
-TEST_F(SessionTest, AReadMayBeSentAgainWhenItsConnectionIsDead)
+class ReadOnce : public SessionTest, public testing::WithParamInterface<Ending>
+{
+protected:
+    /// Sends a GET and a search, which is a POST that changes nothing.
+    void sendBoth()
+    {
+        HttpRequest search = request("/search", "POST");
+        search.body = "{}";
+        EXPECT_EQ(failureOf(request("/read")), Kind::ConnectionLost);
+        EXPECT_EQ(failureOf(search), Kind::ConnectionLost);
+    }
+    qsizetype arrivals(const QByteArray &target) const
+    {
+        return std::ranges::count(server.journal(), target, &RawRequest::target);
+    }
+};
+
+TEST_P(ReadOnce, WhenItsConnectionBreaksBeforeTheAnswer)
+{
+    server.answer(RawAnswer::nothing(GetParam()));
+    sendBoth();
+    // A further request shows that no other request was still pending.
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/last"));
+    EXPECT_EQ(arrivals("/read"), 1);
+    EXPECT_EQ(arrivals("/search"), 1);
+}
+
+TEST_P(ReadOnce, WhenTheConnectionWasKeptAlive)
 {
     server.answer(RawAnswer::json("{}"));
-    answerTo(request("/read"));
-    server.answerNext(RawAnswer::nothing(Ending::Close));
-    HttpRequest search = request("/search", "POST");
-    search.body = "{}";
-    EXPECT_EQ(answerTo(search).status, 200);
+    answerTo(request("/first"));
+    server.answerNext(RawAnswer::nothing(GetParam()));
+    EXPECT_EQ(failureOf(request("/read")), Kind::ConnectionLost);
+    answerTo(request("/last"));
     EXPECT_EQ(server.journal().size(), 3);
 }
+
+TEST_P(ReadOnce, WhenTheAnswerBreaksOffInItsHead)
+{
+    server.answer(RawAnswer::json("{}").cut(20, GetParam()));
+    EXPECT_TRUE(failureOf(request("/read")).has_value());
+    server.answer(RawAnswer::json("{}"));
+    answerTo(request("/last"));
+    EXPECT_EQ(arrivals("/read"), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Endings, ReadOnce, testing::Values(Ending::Close, Ending::Reset));
 
 TEST_F(SessionTest, ALargeWriteArrivesWhole)
 {
