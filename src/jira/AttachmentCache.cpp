@@ -1,5 +1,7 @@
 #include "jira/AttachmentCache.h"
 
+#include "http/Origin.h"
+
 #include <QCryptographicHash>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -14,10 +16,20 @@ constexpr qsizetype MaximumBytes = 200;
 /// The maximum length of an extension, including its dot. Longer ones are not file types known to programs.
 constexpr qsizetype MaximumEnding = 20;
 
+constexpr int HttpsPort = 443;
+
 bool isPlainWord(const QString &id)
 {
     static const QRegularExpression plain(u"\\A[A-Za-z0-9_-]{1,64}\\z"_s);
     return plain.match(id).hasMatch();
+}
+
+/// True for a host name with at least one dot inside, so that it is neither "." or ".." nor the name that a folder of an
+/// attachment has.
+bool isPlainHost(const QString &host)
+{
+    static const QRegularExpression plain(u"\\A[a-z0-9-]+(\\.[a-z0-9-]+)+\\z"_s);
+    return host.size() <= MaximumBytes && plain.match(host).hasMatch();
 }
 
 /// Starts with a character that no plain word contains, so that a hash never equals another identifier.
@@ -60,10 +72,20 @@ QString AttachmentCache::systemFolder()
            u"/Velmora/attachments"_s;
 }
 
-QString AttachmentCache::folder(const QString &cache, const Attachment &attachment)
+QString AttachmentCache::siteFolder(const QString &cache, const QUrl &site)
+{
+    const Origin origin = Origin::of(site);
+    const bool isUsual = origin.scheme == "https"_L1 && origin.port == HttpsPort;
+    if (isUsual && isPlainHost(origin.host))
+        return cache + u'/' + origin.host;
+    return cache + u'/' +
+           wordFor(origin.scheme + u"://"_s + origin.host + u':' + QString::number(origin.port));
+}
+
+QString AttachmentCache::folder(const QString &siteFolder, const Attachment &attachment)
 {
     const QString &id = attachment.id;
-    return cache + u'/' + (isPlainWord(id) ? id : wordFor(id));
+    return siteFolder + u'/' + (isPlainWord(id) ? id : wordFor(id));
 }
 
 QString AttachmentCache::fileName(const Attachment &attachment)
@@ -77,7 +99,7 @@ QString AttachmentCache::fileName(const Attachment &attachment)
     return isUsable ? withinLength(name) : u"fichier"_s;
 }
 
-QString AttachmentCache::file(const QString &cache, const Attachment &attachment)
+QString AttachmentCache::file(const QString &siteFolder, const Attachment &attachment)
 {
-    return folder(cache, attachment) + u'/' + fileName(attachment);
+    return folder(siteFolder, attachment) + u'/' + fileName(attachment);
 }

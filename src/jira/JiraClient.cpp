@@ -1,6 +1,7 @@
 #include "jira/JiraClient.h"
 
 #include "async/Settled.h"
+#include "jira/AttachmentCache.h"
 #include "jira/IssueSearch.h"
 #include "jira/ProjectPages.h"
 #include "jira/SearchPages.h"
@@ -12,11 +13,11 @@
 // No operation uses the client after its first `co_await`, because the client may have been destroyed by then.
 
 JiraClient::JiraClient(const JiraCredentials &credentials, Clock &clock,
-                       const SystemCalendar &calendar, QString attachmentFolder)
+                       const SystemCalendar &calendar, const QString &attachmentFolder)
     : m_credentials(credentials),
       m_clock(clock),
       m_calendar(calendar),
-      m_attachmentFolder(std::move(attachmentFolder)),
+      m_attachmentFolder(AttachmentCache::siteFolder(attachmentFolder, credentials.site)),
       m_connection(std::make_shared<SiteConnection>(credentials, clock))
 {
 }

@@ -19,9 +19,9 @@ class JiraClient final : public IssueService
 {
 public:
     /// Opens no connection. The clock and the calendar must outlive the client. `calendar` determines periods and the order of names;
-    /// `attachmentFolder` is the folder for downloads, for example `AttachmentCache::systemFolder()`.
+    /// `attachmentFolder` is the folder for the downloads of all sites, for example `AttachmentCache::systemFolder()`.
     JiraClient(const JiraCredentials &credentials, Clock &clock, const SystemCalendar &calendar,
-               QString attachmentFolder);
+               const QString &attachmentFolder);
     /// Cancels the running operations.
     ~JiraClient() override;
 

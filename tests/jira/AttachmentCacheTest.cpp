@@ -36,6 +36,29 @@ TEST(AttachmentCache, EachAttachmentHasAFolderOfItsOwn)
     EXPECT_EQ(AttachmentCache::file(u"/c"_s, named(u"a.txt"_s, u"11"_s)), u"/c/11/a.txt"_s);
 }
 
+QString siteFolder(const QString &site)
+{
+    return AttachmentCache::siteFolder(u"/c"_s, QUrl(site));
+}
+
+TEST(AttachmentCache, EachSiteHasAFolderOfItsOwn)
+{
+    EXPECT_EQ(siteFolder(u"https://exemple.atlassian.net"_s), u"/c/exemple.atlassian.net"_s);
+    EXPECT_EQ(siteFolder(u"https://EXEMPLE.atlassian.net:443/x"_s),
+              siteFolder(u"https://exemple.atlassian.net"_s));
+    const QStringList sites = {u"https://jira.fr"_s,      u"http://jira.fr"_s,
+                               u"https://jira.fr:8443"_s, u"http://jira.fr:8443"_s,
+                               u"https://sub.jira.fr"_s,  u"https://[::1]"_s,
+                               u"http://localhost"_s,     u"https://jira_fr"_s};
+    QSet<QString> folders;
+    for (const QString &site : sites) {
+        folders.insert(siteFolder(site));
+        EXPECT_EQ(QDir::cleanPath(siteFolder(site)), siteFolder(site));
+        EXPECT_EQ(siteFolder(site).count(u'/'), 2);
+    }
+    EXPECT_EQ(folders.size(), sites.size());
+}
+
 TEST(AttachmentCache, ANameWithASlashIsStoredWithADash)
 {
     EXPECT_EQ(nameOf(u"a/b:c.txt"_s), u"a-b-c.txt"_s);

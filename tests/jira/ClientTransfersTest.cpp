@@ -1,5 +1,6 @@
 #include "ClientTest.h"
 #include "http/TransportError.h"
+#include "jira/AttachmentCache.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,10 +39,15 @@ protected:
         result.contentURL = server.url().resolved(QUrl(u"/rest/api/3/attachment/content/10"_s));
         return result;
     }
-    /// The paths of all files in the cache, relative to its folder.
+    /// The folder in which the attachments of the site are kept.
+    QString siteFolder() const
+    {
+        return AttachmentCache::siteFolder(cache.filePath(u"attachments"_s), server.url());
+    }
+    /// The paths of all files in the folder of the site, relative to it.
     QStringList cached() const
     {
-        const QDir folder(cache.filePath(u"attachments"_s));
+        const QDir folder(siteFolder());
         QStringList files;
         for (const QString &sub :
              folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden)) {
@@ -161,7 +167,7 @@ TEST_F(ClientTransfers, ADownloadIsKeptUnderItsName)
 {
     server.answer(RawAnswer::http(200, "%PDF", {{"Content-Type", "application/pdf"}}));
     const QUrl url = resultOf(client->download(attachment()));
-    EXPECT_EQ(url, QUrl::fromLocalFile(cache.filePath(u"attachments/10/rapport.pdf"_s)));
+    EXPECT_EQ(url, QUrl::fromLocalFile(siteFolder() + u"/10/rapport.pdf"_s));
     EXPECT_EQ(contentOf(url), "%PDF");
     EXPECT_EQ(cached(), QStringList{u"10/rapport.pdf"_s});
     EXPECT_EQ(asked(), QStringList{u"GET /rest/api/3/attachment/content/10"_s});
@@ -343,9 +349,22 @@ TEST_F(ClientTransfers, ACacheThatCannotBeWrittenIsAFailure)
 
 TEST_F(ClientTransfers, WhatStandsInTheWayIsReplaced)
 {
-    QDir().mkpath(cache.filePath(u"attachments/10/rapport.pdf/x"_s));
+    QDir().mkpath(siteFolder() + u"/10/rapport.pdf/x"_s);
     server.answer(RawAnswer::http(200, "%PDF"));
     EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+}
+
+TEST_F(ClientTransfers, TwoSitesWithOneIdAndOneNameKeepTheirOwnFiles)
+{
+    server.answer(RawAnswer::http(200, "mine"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "mine");
+    RawServer other;
+    other.answer(RawAnswer::http(200, "your"));
+    connectAs({other.url(), u"alice@exemple.fr"_s, u"s3cret"_s});
+    Attachment namesake = attachment();
+    namesake.contentURL = other.url().resolved(QUrl(u"/rest/api/3/attachment/content/10"_s));
+    EXPECT_EQ(contentOf(resultOf(client->download(namesake))), "your");
+    EXPECT_EQ(other.journal().size(), 1);
 }
 
 } // namespace
