@@ -20,10 +20,6 @@ struct HttpAnswer
     /// was moved.
     std::shared_ptr<QTemporaryFile> file;
 
-    /// True if the server announced the length of the body and sent that many bytes. Without an announced length, a
-    /// truncated body cannot be detected.
-    bool hasKnownLength = false;
-
     bool operator==(const HttpAnswer &) const = default;
 
     bool isSuccess() const { return status >= 200 && status < 300; }

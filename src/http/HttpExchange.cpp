@@ -1,5 +1,6 @@
 #include "http/HttpExchange.h"
 
+#include "http/AnnouncedLength.h"
 #include "http/NetworkRequest.h"
 #include "http/OneWayBody.h"
 #include "http/Redirects.h"
@@ -40,10 +41,12 @@ void HttpExchange::transmit()
     m_answer = {};
     m_decoder.reset();
     m_received = 0;
+    m_stored = 0;
+    m_announced.reset();
     m_certificateErrors.clear();
     m_reply = sentOnce();
     connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
-    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::progressed);
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::readHead);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
     connect(m_reply, &QNetworkReply::sslErrors, this,
             [this](const QList<QSslError> &errors) { m_certificateErrors += errors; });
@@ -74,6 +77,15 @@ QNetworkAccessManager &HttpExchange::manager()
     return *m_own;
 }
 
+void HttpExchange::readHead()
+{
+    Q_EMIT progressed();
+    const auto length = announcedLength(*m_reply);
+    if (!length)
+        return finish(std::unexpected(length.error()));
+    m_announced = *length;
+}
+
 void HttpExchange::takeBytes()
 {
     Q_EMIT progressed();
@@ -92,18 +104,27 @@ bool HttpExchange::store(QByteArrayView piece)
         return true;
     if (m_request.saveAs && status() >= 200 && status() < 300)
         return storeInFile(piece);
-    if (std::max(announcedSize(), m_answer.body.size() + piece.size()) > m_request.mostInMemory) {
-        m_refusal = TransportError::Kind::TooLarge;
+    if (!isWithinBounds(m_answer.body.size() + piece.size(), m_request.mostInMemory))
         return false;
-    }
     if (m_answer.body.isEmpty())
-        m_answer.body.reserve(announcedSize() + RoomBehind);
+        m_answer.body.reserve(m_announced.value_or(0) + RoomBehind);
     m_answer.body.append(piece);
     return true;
 }
 
+bool HttpExchange::isWithinBounds(qint64 size, qint64 most)
+{
+    if (std::max(m_announced.value_or(0), size) <= most)
+        return true;
+    m_refusal = TransportError::Kind::TooLarge;
+    return false;
+}
+
 bool HttpExchange::storeInFile(QByteArrayView piece)
 {
+    m_stored += piece.size();
+    if (!isWithinBounds(m_stored, m_request.mostStored))
+        return false;
     const bool isStored = (m_answer.file || openFile()) &&
                           m_answer.file->write(piece.data(), piece.size()) == piece.size();
     if (!isStored)
@@ -128,10 +149,9 @@ void HttpExchange::completeReply()
         return follow(target);
     m_answer.status = status();
     m_answer.mediaType = mediaType(m_reply->rawHeader("Content-Type"));
-    m_answer.hasKnownLength = m_reply->hasRawHeader("Content-Length");
     // An empty body is stored as an empty file.
     if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
-        return finish(std::unexpected(TransportError::Kind::NotStored));
+        return finish(std::unexpected(m_refusal.value_or(TransportError::Kind::NotStored)));
     finish(std::move(m_answer));
 }
 
@@ -140,7 +160,7 @@ std::optional<TransportError::Kind> HttpExchange::flaw() const
     if (const auto failure = replyFailure(*m_reply, m_certificateErrors))
         return failure;
     // For a response with an error status, the stack reports the status and not that the body is incomplete.
-    if (m_received < m_reply->rawHeader("Content-Length").toLongLong())
+    if (m_received < m_announced.value_or(0))
         return TransportError::Kind::ConnectionLost;
     return m_decoder->isComplete() ? std::nullopt : std::optional(TransportError::Kind::Broken);
 }
@@ -175,11 +195,6 @@ void HttpExchange::dropReply()
     m_reply = nullptr;
     if (m_own)
         m_own.release()->deleteLater();
-}
-
-qsizetype HttpExchange::announcedSize() const
-{
-    return std::max<qsizetype>(m_reply->rawHeader("Content-Length").toLongLong(), 0);
 }
 
 int HttpExchange::status() const

@@ -41,6 +41,7 @@ private:
     void transmit();
     QNetworkReply *sentOnce();
     QNetworkAccessManager &manager();
+    void readHead();
     void takeBytes();
     bool store(QByteArrayView piece);
     bool storeInFile(QByteArrayView piece);
@@ -50,7 +51,7 @@ private:
     void follow(const QByteArray &location);
     void finish(HttpOutcome outcome);
     void dropReply();
-    qsizetype announcedSize() const;
+    bool isWithinBounds(qint64 size, qint64 most);
     int status() const;
     QByteArray location() const;
 
@@ -64,6 +65,10 @@ private:
     std::unique_ptr<BodyDecoder> m_decoder;
     /// The number of bytes of the body as received, before decompression.
     qint64 m_received = 0;
+    /// The number of bytes of the body that were stored in the file.
+    qint64 m_stored = 0;
+    /// The length of the body as announced, before decompression; absent if it is not known in advance.
+    std::optional<qint64> m_announced;
     /// Why the response was rejected; absent if it was not.
     std::optional<TransportError::Kind> m_refusal;
     HttpAnswer m_answer;

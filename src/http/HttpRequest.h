@@ -40,9 +40,14 @@ struct HttpRequest
 
         bool operator==(const TimeLimits &) const = default;
     };
-    /// The limits for the transfer of a file. A server may process an uploaded file for a long time, and a slow
-    /// connection is not an error.
-    static constexpr TimeLimits transferLimits() { return {std::chrono::seconds(300), {}}; }
+    /// The limits for the transfer of a file with this size. A server may process an uploaded file for a long time, and
+    /// a slow connection is not an error, unless it is slower than `SlowestTransfer` on average.
+    static constexpr TimeLimits transferLimits(qint64 bytes)
+    {
+        return {std::chrono::seconds(300), std::chrono::seconds(600 + bytes / SlowestTransfer)};
+    }
+    /// In bytes per second.
+    static constexpr qint64 SlowestTransfer = 4096;
     /// The default maximum size in bytes of a response kept in memory, after decompression. About ten times the size of
     /// a page of a hundred issues with long histories.
     static constexpr qint64 MaximumInMemory = 64LL * 1024 * 1024;
@@ -60,6 +65,8 @@ struct HttpRequest
     /// Where the body of a 2xx response is stored: the template of a temporary file's path, ending in "XXXXXX". Missing
     /// folders are created. If absent, the body is kept in memory.
     std::optional<QString> saveAs;
+    /// The maximum size in bytes of a stored body, after decompression.
+    qint64 mostStored = MaximumInMemory;
 
     bool operator==(const HttpRequest &) const = default;
 };

@@ -35,7 +35,7 @@ public:
         TooManyRedirects,
         /// A redirect from https to another scheme.
         UnsafeRedirect,
-        /// A redirect to another origin of a request with a body or a method that may change data, which is not followed.
+        /// A redirect to another origin of a request with a body or a changing method, which is not followed.
         ForeignRedirect,
         /// A redirect of a request that changes data, which is not followed.
         RedirectedWrite,

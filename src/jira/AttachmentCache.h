@@ -6,15 +6,15 @@
 #include <QUrl>
 
 /// The paths under which downloaded attachments are stored. Each attachment has its own folder, so that attachments
-/// with the same name do not conflict. The content of an attachment never changes, so a stored file stays valid. Files
-/// are never deleted.
+/// with the same name do not conflict. The content of an attachment never changes, so a stored file of the announced
+/// size stays valid. Files are never deleted.
 namespace AttachmentCache {
 
 /// "Velmora/attachments" in the user's cache folder.
 QString systemFolder();
 
-/// The folder of a site below `cache`. Attachments of different sites may have the same identifier, so each scheme, host
-/// and port has a folder of its own.
+/// The folder of a site below `cache`. Attachments of different sites may have the same identifier, so each scheme,
+/// host and port has a folder of its own.
 QString siteFolder(const QString &cache, const QUrl &site);
 
 /// The folder of one attachment below the folder of its site, named after its identifier, or after a hash of it if the

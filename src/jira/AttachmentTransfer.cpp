@@ -41,14 +41,15 @@ HttpRequest uploadRequest(const QUrl &url, const QList<QUrl> &files)
     for (const QUrl &file : files)
         read.append(readFile(file));
     const QByteArray boundary = MultipartForm::newBoundary();
+    const QByteArray body = MultipartForm::body(read, boundary);
     return {.verb = "POST",
             .url = url,
             .purpose = HttpRequest::Purpose::Write,
             .headers = {{"Accept", "application/json"},
                         {"X-Atlassian-Token", "no-check"},
                         {"Content-Type", "multipart/form-data; boundary=" + boundary}},
-            .body = MultipartForm::body(read, boundary),
-            .limits = HttpRequest::transferLimits(),
+            .body = body,
+            .limits = HttpRequest::transferLimits(body.size()),
             .saveAs = {}};
 }
 
@@ -72,14 +73,22 @@ bool isPage(const QByteArray &mediaType)
     return mediaType == "text/html" || mediaType == "application/xhtml+xml";
 }
 
-/// True if the response is not the attachment: a web page such as a sign-in page, or a truncated file. If the
-/// attachment is a web page itself, only its size shows the difference.
-bool isOtherThan(const Attachment &attachment, const HttpAnswer &answer)
+/// True if the stored response is the attachment. A web page, for example one for signing in, is one only if a web page
+/// was attached.
+bool isAttachment(const HttpAnswer &answer, const Attachment &attachment)
 {
-    const bool hasOtherSize = attachment.size > 0 && answer.file->size() != attachment.size;
-    if (isPage(answer.mediaType))
-        return hasOtherSize || !isPage(mediaType(attachment.mimeType.toLatin1()));
-    return hasOtherSize && !answer.hasKnownLength;
+    const bool hasItsSize = attachment.size == 0 || answer.file->size() == attachment.size;
+    return hasItsSize &&
+           (!isPage(answer.mediaType) || isPage(mediaType(attachment.mimeType.toLatin1())));
+}
+
+/// The path of an earlier download. A file of another size, or of a size that nobody knows, may be anything.
+std::optional<QString> kept(const QString &path, const Attachment &attachment)
+{
+    const QFileInfo file(path);
+    const bool isOurs = file.isFile();
+    return isOurs && attachment.size > 0 && file.size() == attachment.size ? std::optional(path)
+                                                                           : std::nullopt;
 }
 
 /// Moves a complete file to its final path and replaces whatever exists there.
@@ -97,6 +106,18 @@ QUrl moveIntoPlace(QTemporaryFile &file, const QString &target)
         throw TransportError(TransportError::Kind::NotStored);
     file.setAutoRemove(false);
     return QUrl::fromLocalFile(target);
+}
+
+HttpRequest downloadRequest(const Attachment &attachment, const QUrl &address,
+                            const QString &folder)
+{
+    const qint64 most = attachment.size > 0 ? attachment.size : HttpRequest::MaximumInMemory;
+    return {.url = address,
+            .headers = {},
+            .body = {},
+            .limits = HttpRequest::transferLimits(most),
+            .saveAs = folder + u"/.download-XXXXXX"_s,
+            .mostStored = most};
 }
 
 JiraError downloadError(const HttpAnswer &answer, const Attachment &attachment)
@@ -125,18 +146,22 @@ QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment
                              std::stop_token stop)
 {
     const QString target = AttachmentCache::file(folder, attachment);
-    if (co_await offThread([target] { return QFileInfo(target).isFile(); }))
-        co_return QUrl::fromLocalFile(target);
+    auto lookUp = [target, attachment] { return kept(target, attachment); };
+    if (const auto stored = co_await offThread(std::move(lookUp)))
+        co_return QUrl::fromLocalFile(*stored);
     if (!attachment.contentURL)
         throw JiraError(JiraError::InvalidResponse());
-    HttpRequest request{.url = *attachment.contentURL,
-                        .headers = {},
-                        .body = {},
-                        .limits = HttpRequest::transferLimits(),
-                        .saveAs = folder + u"/.download-XXXXXX"_s};
-    const HttpAnswer answer =
-        co_await exchange(std::move(connection), std::move(request), std::move(stop));
-    if (!answer.isSuccess() || isOtherThan(attachment, answer))
+    HttpRequest request = downloadRequest(attachment, *attachment.contentURL, folder);
+    HttpAnswer answer;
+    try {
+        answer = co_await exchange(std::move(connection), std::move(request), std::move(stop));
+    } catch (const TransportError &error) {
+        if (error.kind() != TransportError::Kind::TooLarge)
+            throw;
+        // The response is longer than the attachment, so it is something else, and its status was a success.
+        throw downloadError(HttpAnswer{.status = 200}, attachment);
+    }
+    if (!answer.isSuccess() || !isAttachment(answer, attachment))
         throw downloadError(answer, attachment);
     auto move = [file = answer.file, target] { return moveIntoPlace(*file, target); };
     co_return co_await offThread(std::move(move));

@@ -11,7 +11,8 @@
 QCoro::Task<QList<Attachment>> uploaded(SiteConnectionPtr connection, QString key,
                                         QList<QUrl> files, QDateTime now, std::stop_token stop);
 
-/// The local file of an attachment below `folder`: an earlier download if there is one, otherwise a new one. The file
-/// exists only once it is complete. A response that is a web page instead of the file is a failure.
+/// The local file of an attachment below `folder`, the folder of its site: an earlier download of the announced size if
+/// there is one, otherwise a new one. The file exists only once it is complete. A response of another size than the
+/// announced one, or that is a web page instead of the file, is a failure.
 QCoro::Task<QUrl> downloaded(SiteConnectionPtr connection, Attachment attachment, QString folder,
                              std::stop_token stop);

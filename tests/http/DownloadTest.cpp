@@ -73,8 +73,12 @@ TEST_F(DownloadTest, AFileMayBeLongerThanWhatIsHeldInMemory)
 {
     constexpr qint64 size = HttpRequest::MaximumInMemory + 1024LL * 1024;
     server.answer(RawAnswer::large(size, size, "application/zip"));
-    const HttpAnswer answer = answerTo(download());
-    EXPECT_EQ(answer.file->size(), size);
+    HttpRequest large = download();
+    large.mostStored = size;
+    EXPECT_EQ(answerTo(large).file->size(), size);
+    large.mostStored = size - 1;
+    EXPECT_EQ(failureOf(large), Kind::TooLarge);
+    EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
 }
 
 TEST_F(DownloadTest, AFolderThatCannotBeMadeIsAFailure)

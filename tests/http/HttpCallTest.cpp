@@ -103,20 +103,45 @@ TEST_F(HttpCallTest, AStopEndsItWithoutAFailureToShow)
     EXPECT_EQ(clock.pending(), 0);
 }
 
-TEST(HttpLimits, ATransferGoesOnAsLongAsBytesCome)
+class TransferLimits : public testing::Test
 {
-    ManualClock clock;
-    const auto call = std::make_shared<HttpCall>(clock, HttpRequest::transferLimits());
-    auto followed = std::make_unique<HttpExchange>(HttpRequest(), Identity());
-    HttpExchange *const exchange = followed.get();
-    call->follow(std::move(followed));
-    const TaskResult<HttpAnswer> result(answerOf(call, {}));
-    for (int i = 0; i < 10; ++i) {
-        clock.advance(299s);
-        Q_EMIT exchange->progressed();
+protected:
+    explicit TransferLimits()
+    {
+        auto followed = std::make_unique<HttpExchange>(HttpRequest(), Identity());
+        exchange = followed.get();
+        call->follow(std::move(followed));
     }
+
+    /// Lets a byte come now and then, at most `times` times, and returns how often one came.
+    int trickle(int times)
+    {
+        int count = 0;
+        for (; count < times && !result.isDone(); ++count) {
+            clock.advance(299s);
+            Q_EMIT exchange->progressed();
+        }
+        return count;
+    }
+
+    ManualClock clock;
+    std::shared_ptr<HttpCall> call = std::make_shared<HttpCall>(
+        clock, HttpRequest::transferLimits(2900 * HttpRequest::SlowestTransfer));
+    QPointer<HttpExchange> exchange;
+    TaskResult<HttpAnswer> result{answerOf(call, {})};
+};
+
+TEST_F(TransferLimits, ATransferGoesOnWhileBytesCome)
+{
+    trickle(10);
     EXPECT_FALSE(result.isDone());
     clock.advance(300s);
+    EXPECT_TRUE(result.isDone());
+}
+
+TEST_F(TransferLimits, ATransferSlowerThanAnyLineEnds)
+{
+    EXPECT_EQ(trickle(100), 12);
     EXPECT_TRUE(result.isDone());
 }
 

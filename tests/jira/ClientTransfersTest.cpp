@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <zlib.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,9 +32,11 @@ protected:
             return result.isDone();
         });
     }
-    Attachment attachment(const QString &name = u"rapport.pdf"_s) const
+    /// An attachment whose record says that it has `size` bytes.
+    Attachment attachment(const QString &name = u"rapport.pdf"_s, qint64 size = 4) const
     {
         Attachment result;
+        result.size = size;
         result.id = u"10"_s;
         result.filename = name;
         result.mimeType = u"application/pdf"_s;
@@ -43,6 +47,16 @@ protected:
     QString siteFolder() const
     {
         return AttachmentCache::siteFolder(cache.filePath(u"attachments"_s), server.url());
+    }
+    /// Puts a file where the download of `attachment` is kept.
+    QString store(const Attachment &attachment, const QByteArray &content) const
+    {
+        const QString path = AttachmentCache::file(siteFolder(), attachment);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return path;
     }
     /// The paths of all files in the folder of the site, relative to it.
     QStringList cached() const
@@ -187,9 +201,10 @@ TEST_F(ClientTransfers, AttachmentsOfOneNameNeverMeet)
 {
     server.answerNext(RawAnswer::http(200, "a"));
     server.answerNext(RawAnswer::http(200, "b"));
-    Attachment other = attachment();
+    const Attachment first = attachment(u"rapport.pdf"_s, 1);
+    Attachment other = first;
     other.id = u"11"_s;
-    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "a");
+    EXPECT_EQ(contentOf(resultOf(client->download(first))), "a");
     EXPECT_EQ(contentOf(resultOf(client->download(other))), "b");
 }
 
@@ -207,14 +222,14 @@ TEST_F(ClientTransfers, TwoDownloadsOfOneAttachmentMayRace)
 TEST_F(ClientTransfers, AnAttachmentNamedWithASlashIsStoredWithADash)
 {
     server.answer(RawAnswer::http(200, "x"));
-    resultOf(client->download(attachment(u"a/b.pdf"_s)));
+    resultOf(client->download(attachment(u"a/b.pdf"_s, 1)));
     EXPECT_EQ(cached(), QStringList{u"10/a-b.pdf"_s});
 }
 
 TEST_F(ClientTransfers, AnAttachmentWithAnEmptyNameIsStoredAsFichier)
 {
     server.answer(RawAnswer::http(200, "x"));
-    resultOf(client->download(attachment({})));
+    resultOf(client->download(attachment({}, 1)));
     EXPECT_EQ(cached(), QStringList{u"10/fichier"_s});
 }
 
@@ -288,13 +303,12 @@ TEST_F(ClientTransfers, APageOfAnotherSizeThanTheAttachedOneIsNoFile)
 
 TEST_F(ClientTransfers, AFileCutShortIsNotKept)
 {
+    const Attachment longer = attachment(u"rapport.pdf"_s, 8);
     server.answer(RawAnswer::http(200, "%PDF-1.7").cut(3, Ending::Close));
-    EXPECT_EQ(failureOf(client->download(attachment())),
+    EXPECT_EQ(failureOf(client->download(longer)),
               TransportError(TransportError::Kind::ConnectionLost).message());
     // The server does not announce the length of this file, but the attachment's record contains it.
     server.answer(RawAnswer{"HTTP/1.1 200 OK\r\n\r\n%PDF-", Ending::Close});
-    Attachment longer = attachment();
-    longer.size = 8;
     EXPECT_EQ(failureOf(client->download(longer)), impossible(u"rapport.pdf"_s));
     EXPECT_EQ(cached(), QStringList());
 }
@@ -352,6 +366,81 @@ TEST_F(ClientTransfers, WhatStandsInTheWayIsReplaced)
     QDir().mkpath(siteFolder() + u"/10/rapport.pdf/x"_s);
     server.answer(RawAnswer::http(200, "%PDF"));
     EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+}
+
+/// A response with status 200 that is not the file.
+class WrongFile : public ClientTransfers, public testing::WithParamInterface<RawAnswer>
+{
+};
+
+TEST_P(WrongFile, IsNotKept)
+{
+    server.answer(GetParam());
+    EXPECT_EQ(failureOf(client->download(attachment())), impossible(u"rapport.pdf"_s));
+    EXPECT_EQ(cached(), QStringList());
+    // The next attempt asks the site again.
+    server.answer(RawAnswer::http(200, "%PDF"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Answers, WrongFile,
+    testing::Values(RawAnswer::http(200, "no", {{"Content-Type", "text/plain"}}),
+                    RawAnswer::http(200, "<html>Connecte-toi</html>"),
+                    RawAnswer::json(R"({"errorMessages":["x"]})"), RawAnswer::http(200, {}),
+                    RawAnswer::http(200, "%PDF and more"),
+                    RawAnswer{"HTTP/1.1 200 OK\r\n\r\n%PD", Ending::Close}));
+
+TEST_F(ClientTransfers, AFileCutUnderALengthThatCannotBeReadIsNotKept)
+{
+    server.answer(
+        RawAnswer::http(200, "%PD", {{"Content-Length", "four"}}).withEnding(Ending::Close));
+    EXPECT_NE(failureOf(client->download(attachment())), QString());
+    EXPECT_EQ(cached(), QStringList());
+}
+
+TEST_F(ClientTransfers, AStoredFileOfAnotherSizeIsFetchedAgain)
+{
+    store(attachment(), "<html>Connecte-toi</html>");
+    server.answer(RawAnswer::http(200, "%PDF"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+    EXPECT_EQ(server.journal().size(), 1);
+}
+
+TEST_F(ClientTransfers, AFileWhoseSizeNobodyKnowsIsFetchedEachTime)
+{
+    server.answer(RawAnswer::http(200, "%PDF"));
+    const Attachment unknown = attachment(u"rapport.pdf"_s, 0);
+    EXPECT_EQ(contentOf(resultOf(client->download(unknown))), "%PDF");
+    EXPECT_EQ(contentOf(resultOf(client->download(unknown))), "%PDF");
+    EXPECT_EQ(server.journal().size(), 2);
+}
+
+/// The body stalls behind its first megabyte, so only an end at the announced size ends the download.
+TEST_F(ClientTransfers, ADownloadEndsWhereItExceedsTheAnnouncedSize)
+{
+    RawAnswer endless = RawAnswer::largeOfUnknownLength(1 << 20, "application/pdf");
+    endless.ending = Ending::Stall;
+    server.answer(endless);
+    EXPECT_EQ(failureOf(client->download(attachment())), impossible(u"rapport.pdf"_s));
+    EXPECT_EQ(cached(), QStringList());
+}
+
+TEST_F(ClientTransfers, APackedDownloadEndsWhereItExceedsTheAnnouncedSize)
+{
+    QByteArray packed(4096, Qt::Uninitialized);
+    auto length = uLongf(packed.size());
+    const QByteArray content(1 << 20, ' ');
+    ASSERT_EQ(compress(reinterpret_cast<Bytef *>(packed.data()), &length,
+                       reinterpret_cast<const Bytef *>(content.data()), uLong(content.size())),
+              Z_OK);
+    packed.truncate(qsizetype(length));
+    server.answer(RawAnswer::http(200, packed.first(packed.size() / 2),
+                                  {{"Content-Encoding", "deflate"},
+                                   {"Content-Length", QByteArray::number(packed.size())}})
+                      .withEnding(Ending::Stall));
+    EXPECT_EQ(failureOf(client->download(attachment())), impossible(u"rapport.pdf"_s));
+    EXPECT_EQ(cached(), QStringList());
 }
 
 TEST_F(ClientTransfers, TwoSitesWithOneIdAndOneNameKeepTheirOwnFiles)
