@@ -36,6 +36,47 @@ QByteArray documentOfDepth(int depth)
     return json;
 }
 
+class HugeNumber : public testing::TestWithParam<QByteArray>
+{
+};
+
+TEST_P(HugeNumber, InAMemberThatNobodyReadsIsNoFault)
+{
+    EXPECT_EQ(failureOf(R"({"total":)" + GetParam() + R"(,"issues":[]})"), QString());
+    EXPECT_EQ(failureOf(issueWith(R"("customfield_1":[1,)" + GetParam() + R"(],"summary":"x")")),
+              QString());
+}
+
+TEST_P(HugeNumber, InAMemberThatIsReadNamesItsPlace)
+{
+    EXPECT_EQ(failureOf(issueWith(R"("attachment":[{"id":"1","filename":"a","size":)" + GetParam() +
+                                  "}]")),
+              u"issues[0].fields.attachment[0].size : nombre trop grand"_s);
+    EXPECT_EQ(failureOf(issueWith(R"("summary":)" + GetParam())),
+              u"issues[0].fields.summary : texte attendu"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(WireDecoding, HugeNumber,
+                         testing::Values("1e400", "-1E+999", "18446744073709551616",
+                                         "-18446744073709551617",
+                                         QByteArray("1") + QByteArray(500, '0'),
+                                         QByteArray("-1") + QByteArray(400, '7') + ".5e2"));
+
+TEST(WireDecoding, HugeNumbersMakeNoBrokenTextWhole)
+{
+    for (const QByteArray number : {"1e400x", "01e400", "1e", "1.e400", "--1e400", "1e400.5"})
+        EXPECT_NE(failureOf(R"({"total":)" + number + R"(,"issues":[]})"), QString())
+            << number.constData();
+}
+
+TEST(WireDecoding, DigitsInATextAreNoNumber)
+{
+    const auto page = decodeWire<SearchResponseDTO>(
+        R"({"total":1e400,"issues":[],"nextPageToken":"1e999 \" 123456789012345678901234"})");
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->nextPageToken, u"1e999 \" 123456789012345678901234"_s);
+}
+
 TEST(WireDecoding, AnEmptyBodyIsNoAnswer)
 {
     EXPECT_FALSE(failureOf({}).isEmpty());

@@ -5,6 +5,7 @@
 #include "jira/wire/CreatedIssueDTO.h"
 #include "jira/wire/IssueDTO.h"
 #include "jira/wire/JiraErrorDTO.h"
+#include "jira/wire/LargeNumbers.h"
 #include "jira/wire/PriorityDTO.h"
 #include "jira/wire/ProjectDTO.h"
 #include "jira/wire/SearchResponseDTO.h"
@@ -50,6 +51,23 @@ std::unique_ptr<simdjson::dom::parser> parserForOne(qsizetype size)
     return size > UsualSize ? std::make_unique<simdjson::dom::parser>() : nullptr;
 }
 
+simdjson::error_code parseOnce(simdjson::dom::parser &parser, const QByteArray &json,
+                               simdjson::dom::element &root)
+{
+    // If there is not enough space after the text, the parser works on a copy.
+    const bool hasRoom = json.capacity() - json.size() >= qsizetype(simdjson::SIMDJSON_PADDING);
+    return parser.parse(json.constData(), size_t(json.size()), !hasRoom).get(root);
+}
+
+/// The parser keeps its own copies of texts and numbers, so the root may be used without the text.
+simdjson::error_code parse(simdjson::dom::parser &parser, const QByteArray &json,
+                           simdjson::dom::element &root)
+{
+    const auto error = parseOnce(parser, json, root);
+    const bool isNumber = error == simdjson::NUMBER_ERROR || error == simdjson::NUMBER_OUT_OF_RANGE;
+    return isNumber ? parseOnce(parser, LargeNumbers::bounded(json), root) : error;
+}
+
 JiraError::Decoding errorOf(const DecodingError &error)
 {
     return {shortened(error.description())};
@@ -63,10 +81,7 @@ std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
     const std::unique_ptr<simdjson::dom::parser> ownParser = parserForOne(json.size());
     simdjson::dom::parser &parser = ownParser ? *ownParser : keptParser();
     simdjson::dom::element root;
-    // If there is not enough space after the text, the parser works on a copy.
-    const bool hasRoom = json.capacity() - json.size() >= qsizetype(simdjson::SIMDJSON_PADDING);
-    const auto size = size_t(json.size());
-    if (const auto error = parser.parse(json.constData(), size, !hasRoom).get(root))
+    if (const auto error = parse(parser, json, root))
         return std::unexpected(errorOf(syntaxError(error)));
     DTO record;
     if (const auto done = WireReader::read(root, record); !done)
