@@ -77,6 +77,41 @@ TEST(WireDecoding, DigitsInATextAreNoNumber)
     EXPECT_EQ(page->nextPageToken, u"1e999 \" 123456789012345678901234"_s);
 }
 
+QByteArray pageOf(int count, const QByteArray &issue)
+{
+    return R"({"issues":[)" + (issue + ",").repeated(count - 1) + issue + "]}";
+}
+
+TEST(WireDecoding, APageMayHoldSomewhatMoreThanWasAskedFor)
+{
+    EXPECT_EQ(failureOf(pageOf(1000, R"({"id":"","key":"","fields":{}})")), QString());
+}
+
+TEST(WireDecoding, APageThatHoldsManyTimesWhatWasAskedForIsRefused)
+{
+    EXPECT_EQ(failureOf(pageOf(1001, R"({"id":"","key":"","fields":{}})")),
+              u"issues : trop d'éléments"_s);
+}
+
+/// The limit of a page says nothing about what is inside of its issues.
+TEST(WireDecoding, TheRecordsOfAPageAreBoundedTogether)
+{
+    const QByteArray subtasks = R"({"subtasks":[)" +
+                                QByteArray(R"({"id":"","key":""},)").repeated(9999) +
+                                R"({"id":"","key":""}]})";
+    EXPECT_EQ(failureOf(pageOf(1, R"({"id":"","key":"","fields":)" + subtasks + "}")), QString());
+    EXPECT_TRUE(failureOf(pageOf(100, R"({"id":"","key":"","fields":)" + subtasks + "}"))
+                    .endsWith(u"fields.subtasks : trop d'éléments"_s));
+}
+
+TEST(WireDecoding, SoAreThePartsOfItsDocuments)
+{
+    const QByteArray text = R"({"type":"doc","content":[)" +
+                            QByteArray(R"({"type":""},)").repeated(2000000) + R"({"type":""}]})";
+    EXPECT_EQ(failureOf(issueWith(R"("description":)" + text)),
+              u"issues[0].fields.description : trop d'éléments"_s);
+}
+
 TEST(WireDecoding, AnEmptyBodyIsNoAnswer)
 {
     EXPECT_FALSE(failureOf({}).isEmpty());

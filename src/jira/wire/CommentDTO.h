@@ -59,6 +59,6 @@ struct CommentsDTO
 
     static constexpr auto wireMembers()
     {
-        return std::tuple(WireMember{"comments", &CommentsDTO::comments});
+        return std::tuple(WireMember{"comments", &CommentsDTO::comments, MostInPage});
     }
 };

@@ -30,6 +30,6 @@ struct PrioritySearchDTO
 
     static constexpr auto wireMembers()
     {
-        return std::tuple(WireMember{"values", &PrioritySearchDTO::values});
+        return std::tuple(WireMember{"values", &PrioritySearchDTO::values, MostInPage});
     }
 };

@@ -44,7 +44,7 @@ struct ProjectSearchDTO
 
     static constexpr auto wireMembers()
     {
-        return std::tuple(WireMember{"values", &ProjectSearchDTO::values},
+        return std::tuple(WireMember{"values", &ProjectSearchDTO::values, MostInPage},
                           WireMember{"isLast", &ProjectSearchDTO::isLast});
     }
 };

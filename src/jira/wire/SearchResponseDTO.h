@@ -19,7 +19,7 @@ struct SearchResponseDTO
 
     static constexpr auto wireMembers()
     {
-        return std::tuple(WireMember{"issues", &SearchResponseDTO::issues},
+        return std::tuple(WireMember{"issues", &SearchResponseDTO::issues, MostInPage},
                           WireMember{"nextPageToken", &SearchResponseDTO::nextPageToken},
                           WireMember{"isLast", &SearchResponseDTO::isLast});
     }

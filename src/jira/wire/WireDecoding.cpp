@@ -84,6 +84,7 @@ std::expected<DTO, JiraError::Decoding> decodeWire(const QByteArray &json)
     if (const auto error = parse(parser, json, root))
         return std::unexpected(errorOf(syntaxError(error)));
     DTO record;
+    WireReader::beginResponse();
     if (const auto done = WireReader::read(root, record); !done)
         return std::unexpected(errorOf(done.error()));
     return record;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QtGlobal>
+
+#include <limits>
 #include <string_view>
 
 /// Maps the member of a JSON object to the field that stores it. A `std::optional` field may be missing or null in the
@@ -9,7 +12,15 @@ struct WireMember
 {
     std::string_view name;
     Field DTO::*field;
+    /// The maximum length of a list. Pages of results are refused beyond ten times the largest page that is requested,
+    /// before their records are created.
+    qsizetype most = std::numeric_limits<qsizetype>::max();
 };
 
 template <typename DTO, typename Field>
 WireMember(const char *, Field DTO::*) -> WireMember<DTO, Field>;
+template <typename DTO, typename Field>
+WireMember(const char *, Field DTO::*, qsizetype) -> WireMember<DTO, Field>;
+
+/// The `most` of a page of results.
+inline constexpr qsizetype MostInPage = 1000;

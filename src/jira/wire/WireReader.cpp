@@ -7,7 +7,48 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+thread_local std::size_t memoryLeft = 0;
+
+/// The number of values inside of a value, at any depth.
+std::size_t partsOf(const WireReader::Element &element)
+{
+    std::size_t count = 0;
+    simdjson::dom::array items;
+    simdjson::dom::object members;
+    if (!element.get(items)) {
+        for (const auto item : items)
+            count += 1 + partsOf(item);
+    } else if (!element.get(members)) {
+        for (const auto &[name, value] : members)
+            count += 1 + partsOf(value);
+    }
+    return count;
+}
+
+} // namespace
+
 namespace WireReader {
+
+void beginResponse()
+{
+    memoryLeft = MostMemory;
+}
+
+Result claim(std::size_t count, std::size_t itemSize)
+{
+    if (count > memoryLeft / itemSize)
+        return failure("trop d'éléments");
+    memoryLeft -= count * itemSize;
+    return {};
+}
+
+bool isWithin(const Element &element, qsizetype most)
+{
+    simdjson::dom::array items;
+    return element.get(items) || qsizetype(items.size()) <= most;
+}
 
 QString textOf(std::string_view utf8)
 {
@@ -18,7 +59,7 @@ QString textOf(std::string_view utf8)
 
 Result failure(const char *message)
 {
-    return std::unexpected(DecodingError{{}, QString::fromLatin1(message)});
+    return std::unexpected(DecodingError{{}, QString::fromUtf8(message)});
 }
 
 Result inMember(std::string_view name, Result failed)
@@ -67,6 +108,8 @@ Result read(const Element &element, qint64 &number)
 
 Result read(const Element &element, ADFNode &document)
 {
+    if (auto claimed = claim(partsOf(element), sizeof(ADFNode)); !claimed)
+        return claimed;
     auto decoded = ADFCoding::decodeNode(element);
     if (!decoded)
         return std::unexpected(std::move(decoded.error()));

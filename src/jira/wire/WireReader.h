@@ -42,6 +42,16 @@ template <typename DTO>
     requires requires { DTO::wireMembers(); }
 Result read(const Element &element, DTO &record);
 
+/// The memory in bytes that the lists of one response may need: twice the size of the longest response. A small text
+/// can stand for many times its size in records.
+inline constexpr std::size_t MostMemory = 128ULL * 1024 * 1024;
+/// Starts counting the memory of a response, which is read by one thread.
+void beginResponse();
+/// Counts the memory of a list before it is created; fails beyond `MostMemory`.
+Result claim(std::size_t count, std::size_t itemSize);
+/// True unless the element is an array of more than `most` items.
+bool isWithin(const Element &element, qsizetype most);
+
 QString textOf(std::string_view utf8);
 /// An error with this message and no position yet.
 Result failure(const char *message);
@@ -70,6 +80,8 @@ Result read(const Element &element, QList<T> &list)
     simdjson::dom::array items;
     if (element.get(items))
         return failure("liste attendue");
+    if (auto claimed = claim(items.size(), sizeof(T)); !claimed)
+        return claimed;
     list.clear();
     list.reserve(qsizetype(items.size()));
     for (const Element item : items) {
@@ -85,6 +97,8 @@ Result read(const Element &element, QMap<QString, T> &map)
     simdjson::dom::object members;
     if (element.get(members))
         return failure("objet attendu");
+    if (auto claimed = claim(members.size(), 2 * sizeof(std::pair<QString, T>)); !claimed)
+        return claimed;
     map.clear();
     for (const auto &[name, value] : members) {
         if (auto done = read(value, map[textOf(name)]); !done)
@@ -104,7 +118,8 @@ Result readMember(DTO &record, std::string_view name, const Element &value,
         if (member.name != name)
             return false;
         found[index] = true;
-        done = read(value, record.*member.field);
+        done = isWithin(value, member.most) ? read(value, record.*member.field)
+                                            : failure("trop d'éléments");
         return true;
     };
     (readAs(std::get<Index>(members), Index) || ...);
