@@ -61,11 +61,9 @@ QUrl addressOf(const JiraRequest &request, const QUrl &site)
     return *url;
 }
 
-JiraError uploadError(const HttpAnswer &answer)
+QString uploadMessage(int status, const QByteArray &body)
 {
-    if (answer.status == TooLargeStatus)
-        return JiraError(JiraError::Http{TooLargeStatus, u"Fichier trop volumineux pour Jira."_s});
-    return JiraError(JiraError::Http{answer.status, errorMessage(answer.body)});
+    return status == TooLargeStatus ? u"Fichier trop volumineux pour Jira."_s : errorMessage(body);
 }
 
 bool isPage(const QByteArray &mediaType)
@@ -135,8 +133,13 @@ QCoro::Task<QList<Attachment>> uploaded(SiteConnectionPtr connection, QString ke
     auto build = [url, files = std::move(files)] { return uploadRequest(url, files); };
     HttpRequest request = co_await offThread(std::move(build));
     const HttpAnswer answer = co_await exchange(std::move(connection), std::move(request), stop);
-    if (!answer.isSuccess())
-        throw uploadError(answer);
+    if (!answer.isSuccess()) {
+        auto reading = [status = answer.status, body = answer.body] {
+            return uploadMessage(status, body);
+        };
+        const QString message = co_await offThread(std::move(reading));
+        throw JiraError(JiraError::Http{answer.status, message});
+    }
     auto mapping = [now](const QList<AttachmentDTO> &stored) { return modelsOf(stored, now); };
     co_return co_await mapped<QList<AttachmentDTO>>(answer.body, std::move(mapping),
                                                     std::move(stop));

@@ -26,9 +26,11 @@ QCoro::Task<QByteArray> bodyOf(SiteConnectionPtr connection, JiraRequest request
     HttpRequest outgoing = httpRequest(request, connection->site, purpose);
     const HttpAnswer answer =
         co_await exchange(std::move(connection), std::move(outgoing), std::move(stop));
-    if (!answer.isSuccess())
-        throw JiraError(JiraError::Http{answer.status, errorMessage(answer.body)});
-    co_return answer.body;
+    if (answer.isSuccess())
+        co_return answer.body;
+    auto reading = [body = answer.body] { return errorMessage(body); };
+    const QString message = co_await offThread(std::move(reading));
+    throw JiraError(JiraError::Http{answer.status, message});
 }
 
 } // namespace

@@ -82,6 +82,15 @@ TEST(ErrorMessage, OfALongTextTheFirst300BytesAreShown)
     EXPECT_EQ(errorMessage(QByteArray(301, 'a')), QString(300, u'a'));
 }
 
+TEST(ErrorMessage, OfALongMessageTheStartIsShown)
+{
+    const QByteArray message(30LL * 1024 * 1024, 'a');
+    const QString shown = QString(1000, u'a') + u'…';
+    EXPECT_EQ(errorMessage("{\"message\":\"" + message + "\"}"), shown);
+    EXPECT_EQ(errorMessage("{\"errors\":{\"" + message + "\":\"b\"}}"), shown);
+    EXPECT_EQ(errorMessage("{\"message\":\"" + QByteArray(1000, 'a') + "\"}"), QString(1000, u'a'));
+}
+
 TEST(ErrorMessage, ACharacterCutAtByte300EmptiesTheMessage)
 {
     EXPECT_EQ(errorMessage(QByteArray(299, 'a') + "é"), QString());
