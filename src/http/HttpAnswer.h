@@ -1,9 +1,12 @@
 #pragma once
 
+#include "http/HttpRequest.h"
+
 #include <QByteArray>
 #include <QTemporaryFile>
 #include <QUrl>
 
+#include <algorithm>
 #include <memory>
 
 /// The response of a server, with any status except a redirect, since redirects are followed.
@@ -14,6 +17,8 @@ struct HttpAnswer
     /// The media type of the body, in lower case and without parameters: "application/json". Empty if the server sent
     /// none.
     QByteArray mediaType;
+    /// All header fields of the response.
+    QList<HttpHeader> headers;
     /// The decompressed body. Empty if the body was stored in a file.
     QByteArray body;
     /// The file with the complete body, if it was stored. It is deleted with the last copy of the response unless it
@@ -22,5 +27,13 @@ struct HttpAnswer
 
     bool operator==(const HttpAnswer &) const = default;
 
+    /// The value of a header field, whose name may be in any case; empty if the response does not have it.
+    QByteArray header(const QByteArray &name) const
+    {
+        const auto found = std::ranges::find_if(headers, [&](const HttpHeader &header) {
+            return header.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        return found == headers.end() ? QByteArray() : found->value;
+    }
     bool isSuccess() const { return status >= 200 && status < 300; }
 };

@@ -149,6 +149,8 @@ void HttpExchange::completeReply()
         return follow(target);
     m_answer.status = status();
     m_answer.mediaType = mediaType(m_reply->rawHeader("Content-Type"));
+    for (const auto &[name, value] : m_reply->rawHeaderPairs())
+        m_answer.headers.append(HttpHeader{name, value});
     // An empty body is stored as an empty file.
     if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
         return finish(std::unexpected(m_refusal.value_or(TransportError::Kind::NotStored)));

@@ -1,6 +1,7 @@
 #include "jira/SearchPages.h"
 
 #include "async/Settled.h"
+#include "http/TransportError.h"
 #include "jira/IssueSearch.h"
 #include "jira/SiteAnswers.h"
 #include "jira/SiteRequests.h"
@@ -9,6 +10,8 @@
 #include <vector>
 
 namespace {
+
+constexpr int Unauthorized = 401;
 
 /// The parameters of the mapping of a page.
 struct Reading
@@ -71,6 +74,29 @@ QCoro::Task<IssueList> allPages(SiteConnectionPtr connection, IssueSearch search
     co_return issues;
 }
 
+/// Not every site reports that it responded as to anybody, which gives an empty list. Fails if the site does not know
+/// the account; any other failure says nothing about the list.
+QCoro::Task<> assureAccount(SiteConnectionPtr connection, std::stop_token stop)
+{
+    try {
+        co_await read(std::move(connection), SiteRequests::currentUser(), std::move(stop));
+    } catch (const JiraError &error) {
+        const auto *http = std::get_if<JiraError::Http>(&error.value());
+        if (http && http->status == Unauthorized)
+            throw;
+    } catch (const TransportError &) {
+        co_return;
+    }
+}
+
+QCoro::Task<IssueList> believed(SiteConnectionPtr connection, IssueList issues,
+                                std::stop_token stop)
+{
+    if (issues.isEmpty())
+        co_await assureAccount(std::move(connection), std::move(stop));
+    co_return issues;
+}
+
 std::optional<DateInterval> periodOf(const IssueScope &scope, const QDateTime &now,
                                      const UserCalendar &calendar)
 {
@@ -84,15 +110,17 @@ std::optional<DateInterval> periodOf(const IssueScope &scope, const QDateTime &n
 QCoro::Task<IssueList> scopeIssues(SiteConnectionPtr connection, IssueScope scope, QDateTime now,
                                    UserCalendar calendar, std::stop_token stop)
 {
-    const ScopeSearch search = searchFor(scope, now, calendar);
+    const ScopeSearch searches = searchFor(scope, now, calendar);
     const Reading reading{now, periodOf(scope, now, calendar)};
     try {
-        co_return co_await allPages(connection, search.search, reading, stop);
+        IssueList issues = co_await allPages(connection, searches.search, reading, stop);
+        co_return co_await believed(connection, std::move(issues), stop);
     } catch (const JiraError &error) {
-        if (!search.fallback || !isRejectedQuery(error))
+        if (!searches.fallback || !isRejectedQuery(error))
             throw;
     }
-    co_return co_await allPages(connection, *search.fallback, reading, stop);
+    IssueList issues = co_await allPages(connection, *searches.fallback, reading, stop);
+    co_return co_await believed(connection, std::move(issues), stop);
 }
 
 QCoro::Task<IssueList> textIssues(SiteConnectionPtr connection, QString text, QDateTime now,

@@ -20,6 +20,17 @@ HttpRequest httpRequest(const JiraRequest &request, const QUrl &site, HttpReques
     return result;
 }
 
+constexpr int Unauthorized = 401;
+
+/// True if the site did not accept the credentials and responded as to anybody, with whatever anybody may see. Many
+/// operations may be requested anonymously, so an expired token gives empty lists and status 200.
+bool isForAnybody(const HttpAnswer &answer)
+{
+    const QByteArray reason = answer.header("X-Seraph-LoginReason");
+    return reason.contains("AUTHENTICATED_FAILED") || reason.contains("AUTHENTICATION_DENIED") ||
+           answer.header("X-AUSERNAME") == "anonymous";
+}
+
 QCoro::Task<QByteArray> bodyOf(SiteConnectionPtr connection, JiraRequest request,
                                HttpRequest::Purpose purpose, std::stop_token stop)
 {
@@ -59,5 +70,8 @@ QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest reque
                                  std::stop_token stop)
 {
     // The coroutine keeps the connection alive while the request runs.
-    co_return co_await connection->session.send(std::move(request), std::move(stop));
+    HttpAnswer answer = co_await connection->session.send(std::move(request), std::move(stop));
+    if (answer.isSuccess() && isForAnybody(answer))
+        throw JiraError(JiraError::Http{Unauthorized, {}});
+    co_return answer;
 }

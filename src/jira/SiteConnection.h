@@ -35,12 +35,13 @@ DTO decoded(const QByteArray &body)
 
 /// `read` sends a request that changes nothing, `write` one that changes data. Both return the body of a 2xx response.
 /// They fail with `JiraError::Http` for any other status, with `JiraError::InvalidSite` if the site's address is
-/// invalid, and with the failures of `HttpSession::send`.
+/// invalid, and with the failures of `exchange`.
 QCoro::Task<QByteArray> read(SiteConnectionPtr connection, JiraRequest request,
                              std::stop_token stop);
 QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
                               std::stop_token stop);
-/// Sends a request whose body or response is not JSON. Fails as `HttpSession::send` does.
+/// Sends a request whose body or response is not JSON. Fails as `HttpSession::send` does, and with `JiraError::Http`
+/// and status 401 if the site ignored the credentials and responded as to anybody.
 QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
                                  std::stop_token stop);
 
