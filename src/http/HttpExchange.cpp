@@ -14,6 +14,7 @@ namespace {
 
 /// Parsers read slightly beyond the end of their input, and copy a body that has no reserved space after it.
 constexpr qsizetype RoomBehind = 64;
+constexpr int FirstFinalStatus = 200;
 
 } // namespace
 
@@ -145,6 +146,12 @@ void HttpExchange::completeReply()
         return;
     if (const auto found = flaw())
         return finish(std::unexpected(*found));
+    // Qt 6.4 ends a reply at an informational response other than 100. The final one may still arrive on the
+    // connection, so no other request may use it.
+    if (status() < FirstFinalStatus) {
+        m_shared->clearConnectionCache();
+        return finish(std::unexpected(TransportError::Kind::Broken));
+    }
     if (const QByteArray target = location(); Redirects::isRedirect(status(), target))
         return follow(target);
     m_answer.status = status();

@@ -96,6 +96,16 @@ TEST_F(HttpFaults, ChunksOutrankALength)
     EXPECT_EQ(answerTo(request("/a")).body, "{}");
 }
 
+/// Qt 6.4 ends a reply at an informational response other than 100, so the final one can no longer be read.
+TEST_F(HttpFaults, AnInformationalAnswerIsNotTheAnswer)
+{
+    server.answerNext(RawAnswer{"HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n"
+                                "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nfirst"});
+    server.answer(RawAnswer::json("next"));
+    EXPECT_EQ(failureOf(request("/a")), Kind::Broken);
+    EXPECT_EQ(answerTo(request("/b")).body, "next");
+}
+
 TEST_F(HttpFaults, AnAnswerThatIsNoHTTP)
 {
     server.answer(RawAnswer{"220 mail.exemple.fr ready\r\n", Ending::Close});
