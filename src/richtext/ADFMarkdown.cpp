@@ -3,6 +3,7 @@
 #include "richtext/ADFNodes.h"
 #include "richtext/markdown/BlockKinds.h"
 #include "richtext/markdown/InlineNodes.h"
+#include "richtext/writing/BlockWriter.h"
 
 #include <QUuid>
 
@@ -45,4 +46,16 @@ QList<ADFNode> ADFMarkdown::inlineNodes(const QString &text)
     for (const QStringView line : QStringView(text).tokenize(u'\n'))
         lines.push_back(line);
     return Markdown::inlineNodes(lines);
+}
+
+QString ADFMarkdown::markdown(const ADFNode &document, const UserCalendar &calendar)
+{
+    BlockWriter writer(calendar);
+    writer.write(ADF::children(document));
+    return writer.take();
+}
+
+QString ADFMarkdown::markdown(const std::optional<ADFNode> &document, const UserCalendar &calendar)
+{
+    return document ? markdown(*document, calendar) : QString();
 }

@@ -1,15 +1,16 @@
 #pragma once
 
 #include "model/ADFNode.h"
+#include "model/dates/UserCalendar.h"
 
 #include <QStringList>
 
 #include <functional>
 
-/// Converts Markdown, as users type it, to documents. The grammar is small: headings, rules, quotes, nested lists, task
-/// lists, fenced code and paragraphs; inside a line, the rules of CommonMark with "~~" for strikethrough. The
-/// conversion never fails: text that is not valid markup stays text. Mentions are not part of it; see
-/// `ADF::linkingMentions`.
+/// Converts Markdown, as users type it, to documents, and documents to Markdown for editing. The grammar is small:
+/// headings, rules, quotes, nested lists, task lists, fenced code and paragraphs; inside a line, the rules of CommonMark
+/// with "~~" for strikethrough. The conversions never fail: text that is not valid markup stays text. Mentions are not
+/// part of the grammar; see `ADF::linkingMentions`.
 namespace ADFMarkdown {
 
 /// Returns the local id of a task list or of a task, a new one at each call.
@@ -31,5 +32,12 @@ QList<ADFNode> parseBlocks(const QStringList &lines, const LocalIDSource &localI
 /// Converts a text of any number of lines to inline nodes; each line break becomes a hard break. Empty for an empty
 /// text.
 QList<ADFNode> inlineNodes(const QString &text);
+
+/// Converts a document to Markdown for editing. What the grammar cannot represent is reduced to text: a table to lines
+/// with vertical bars, a picture to "[pièce jointe]", a panel to its content. Dates are printed
+/// as days of the calendar. Literal text is not escaped.
+QString markdown(const ADFNode &document, const UserCalendar &calendar);
+/// The same for a document that may be absent; an absent one gives an empty text.
+QString markdown(const std::optional<ADFNode> &document, const UserCalendar &calendar);
 
 } // namespace ADFMarkdown

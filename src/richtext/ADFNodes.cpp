@@ -31,3 +31,9 @@ ADFNode ADF::document(QList<ADFNode> content)
     node.version = 1;
     return node;
 }
+
+const QList<ADFNode> &ADF::children(const ADFNode &node)
+{
+    static const QList<ADFNode> none;
+    return node.content ? *node.content : none;
+}

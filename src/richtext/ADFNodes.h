@@ -4,7 +4,7 @@
 
 #include <QStringView>
 
-/// Constructors for the nodes that the program creates.
+/// Constructors for the nodes that the program creates, and access to the children of any node.
 namespace ADF {
 
 /// A node of the given kind without other members, such as a rule or a hard break.
@@ -15,5 +15,8 @@ ADFNode container(QStringView type, QList<ADFNode> content);
 ADFNode text(QString text, QList<ADFMark> marks = {});
 /// The root of a document, in the version that Jira expects.
 ADFNode document(QList<ADFNode> content);
+
+/// The children of a node; empty if its content is absent. The list is valid as long as the node is.
+const QList<ADFNode> &children(const ADFNode &node);
 
 } // namespace ADF

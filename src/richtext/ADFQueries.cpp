@@ -107,6 +107,12 @@ std::optional<QString> ADF::attribute(const ADFNode &node, const QString &name)
     return read(node.attrs, name);
 }
 
+bool ADF::hasMark(const ADFNode &node, QStringView type)
+{
+    const auto isOfType = [type](const ADFMark &mark) { return mark.type == type; };
+    return node.marks && std::ranges::any_of(*node.marks, isOfType);
+}
+
 QString ADF::plainText(const ADFNode &node)
 {
     QString text;

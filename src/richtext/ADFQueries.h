@@ -14,6 +14,9 @@ bool isInlineContainer(QStringView type);
 /// The attribute as text (a number in its decimal form), or nothing if it is absent.
 std::optional<QString> attribute(const ADFNode &node, const QString &name);
 
+/// True if the node has a mark of the given kind.
+bool hasMark(const ADFNode &node, QStringView type);
+
 /// The text of the document: each block on a line of its own, inline nodes joined without a separator.
 QString plainText(const ADFNode &node);
 

@@ -181,6 +181,14 @@ TEST(ADFQueries, AnnotationLeavesTheOriginalAlone)
     EXPECT_EQ(before, ADF::document({media()}));
 }
 
+TEST(ADFQueries, MarksAreFoundByTheirKind)
+{
+    const ADFNode node = ADF::text(u"a"_s, {{u"em"_s, {}}, {u"strong"_s, {}}});
+    EXPECT_TRUE(ADF::hasMark(node, u"strong"));
+    EXPECT_FALSE(ADF::hasMark(node, u"code"));
+    EXPECT_FALSE(ADF::hasMark(ADF::text(u"a"_s), u"strong"));
+}
+
 TEST(ADFQueries, TreesAsDeepAsTheDecoderAdmitsAreWalked)
 {
     const int depth = ADFCoding::maximumDepth - 1;

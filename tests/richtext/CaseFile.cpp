@@ -35,7 +35,7 @@ struct Reader
         while (!lines.isEmpty() && lines.last().isEmpty())
             lines.removeLast();
         if (!cases.isEmpty())
-            cases.last().expected = lines.join(u'\n').replace(u'⍽', u'\u00A0');
+            cases.last().expected = spelledOut(lines.join(u'\n'));
         lines.clear();
     }
     void read(const QString &line)

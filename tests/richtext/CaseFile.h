@@ -16,8 +16,7 @@ struct Case
 
 /// Reads the cases of a file under tests/cases. Each case begins with a line "=== name". Its input ends at a line
 /// "--->", and its expected outcome ends at the next case. Characters that an editor would hide or change are written
-/// as symbols: in the input ␠ (space), ␉ (tab), ␍ (carriage return) and ␀ (U+0000), in the input and the outcome ⍽
-/// (no-break space).
+/// as symbols: ␠ (space), ␉ (tab), ␍ (carriage return), ␀ (U+0000) and ⍽ (no-break space).
 QList<Case> casesOf(const QString &path);
 
 /// The cases of all files in a folder under tests/cases whose name begins with `prefix`.

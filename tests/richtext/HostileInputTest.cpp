@@ -3,12 +3,11 @@
 #include "richtext/ADFMentions.h"
 #include "richtext/ADFNodes.h"
 #include "richtext/ADFQueries.h"
+#include "richtext/LinearTime.h"
 
 #include <algorithm>
-#include <ctime>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -16,43 +15,12 @@ namespace {
 
 using Work = std::function<void(const QString &)>;
 
-/// The processor time of this thread, which excludes the work of other programs.
-double processorSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
-}
-
-double seconds(const Work &work, const QString &text)
-{
-    const double start = processorSeconds();
-    work(text);
-    return processorSeconds() - start;
-}
-
-/// For a text four times as long, a linear algorithm takes 4 times the time and a quadratic one 16 times; the limit is
-/// between the two. Both are measured in turn, and the shortest times count, because caches, the allocator and a busy
-/// machine can only lengthen them.
 void expectLinear(const Work &work, const std::function<QString(qsizetype)> &textOf, qsizetype size)
 {
-    constexpr double bound = 8;
-    constexpr double measurable = 0.0005;
-    constexpr int fewest = 4;
-    constexpr int most = 12;
-    const QString text = textOf(size);
-    const QString longText = textOf(4 * size);
-    double once = std::numeric_limits<double>::infinity();
-    double longer = once;
-    double ratio = once;
-    for (int round = 0; round < most && (round < fewest || ratio >= bound); ++round) {
-        once = std::min(once, seconds(work, text));
-        longer = std::min(longer, seconds(work, longText));
-        ratio = longer / std::max(once, measurable);
-    }
-    if (ratio < bound)
-        return;
-    ADD_FAILURE() << "four times the text takes " << ratio << " times as long";
+    const PreparedWork prepare = [&](qsizetype length) {
+        return [&work, text = textOf(length)] { work(text); };
+    };
+    ::expectLinear(prepare, size);
 }
 
 void parse(const QString &text)

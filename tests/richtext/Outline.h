@@ -7,3 +7,6 @@
 /// then its attributes in JSON if there are any, `[]` if its content is present and empty, and its children on the
 /// following lines.
 QString outline(const QList<ADFNode> &nodes);
+
+/// Reads nodes from lines that `outline` has written. The program is aborted if it cannot.
+QList<ADFNode> nodesOf(const QString &outline);
