@@ -34,7 +34,7 @@ QList<ADFNode> parseBlocks(const QStringList &lines, const LocalIDSource &localI
 QList<ADFNode> inlineNodes(const QString &text);
 
 /// Converts a document to Markdown for editing. What the grammar cannot represent is reduced to text: a table to lines
-/// with vertical bars, a picture to "[pièce jointe]", a panel to its content. Dates are printed
+/// with vertical bars, a picture to "[pièce jointe]", a panel to its content; see `MarkdownLosses`. Dates are printed
 /// as days of the calendar. Literal text is not escaped.
 QString markdown(const ADFNode &document, const UserCalendar &calendar);
 /// The same for a document that may be absent; an absent one gives an empty text.

@@ -3,6 +3,7 @@
 #include "richtext/LinearTime.h"
 #include "richtext/RandomDocuments.h"
 #include "richtext/WritingOracle.h"
+#include "richtext/losses/MarkdownLosses.h"
 
 #include <QStringList>
 
@@ -123,6 +124,28 @@ TEST(HostileDocuments, WithAMegabyteInOneTextAreComplete)
     const ADFNode paragraph = ADF::container(u"paragraph", {ADF::text(megabyte, {{u"em"_s, {}}})});
     EXPECT_EQ(ADFMarkdown::markdown(ADF::document({paragraph}), calendar()),
               u'*' + megabyte + u'*');
+}
+
+TEST(HostileDocuments, AreCountedInLinearTime)
+{
+    const ADFNode item = ADF::container(
+        u"listItem", {ADF::container(u"paragraph", {ADF::text(u"*a_ [b"_s), ADF::plain(u"mention"),
+                                                    ADF::plain(u"emoji")})});
+    for (const QString &kind : kinds) {
+        const PreparedWork prepare = [&](qsizetype count) {
+            return [document = ADF::document({repeated(kind, item, count)})] {
+                ADFMarkdown::losses(document, {});
+            };
+        };
+        expectLinear(prepare, 500);
+    }
+}
+
+TEST(HostileDocuments, OfThousandLevelsAreCounted)
+{
+    Random random(6);
+    for (int i = 0; i < 20; ++i)
+        EXPECT_FALSE(ADFMarkdown::losses(deepDocument(random, 1'000), {}).isEmpty());
 }
 
 TEST(HostileDocuments, QuotedLinesTakeTimeInProportionToTheText)

@@ -3,6 +3,9 @@
 #include "model/dates/DateParts.h"
 #include "richtext/ADFQueries.h"
 
+#include <cmath>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -76,10 +79,17 @@ private:
         const Nodes items = contentOf(node);
         QStringList texts;
         for (qsizetype i = 0; i < items.size(); ++i) {
-            const QString marker = isOrdered ? QString::number(start + i) + u". "_s : u"- "_s;
+            const QString marker =
+                isOrdered ? QString::number(numberOf(start, i)) + u". "_s : u"- "_s;
             texts.append(listItem(items[i], marker, indent));
         }
         return texts.join(u'\n');
+    }
+
+    static qint64 numberOf(qint64 start, qsizetype index)
+    {
+        constexpr qint64 largest = std::numeric_limits<qint64>::max();
+        return start > largest - index ? largest : start + index;
     }
 
     QString listItem(const ADFNode &item, const QString &marker, const QString &indent) const
@@ -193,9 +203,10 @@ private:
     {
         bool isNumber = false;
         const double milliseconds = timestamp.toDouble(&isNumber);
-        if (!isNumber || !(std::abs(milliseconds) <= 8.64e15))
+        if (!isNumber || timestamp != timestamp.trimmed() || !(std::abs(milliseconds) <= 8.64e15))
             return {};
-        const QDateTime time = QDateTime::fromMSecsSinceEpoch(qint64(milliseconds), Qt::UTC);
+        const auto whole = qint64(std::floor(milliseconds));
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(whole, Qt::UTC);
         return dayShortMonthAndYear(m_calendar.day(time), m_calendar.locale);
     }
 
