@@ -24,6 +24,9 @@ struct HttpAnswer
     /// The file with the complete body, if it was stored. It is deleted with the last copy of the response unless it
     /// was moved.
     std::shared_ptr<QTemporaryFile> file;
+    /// The SHA-256 of the stored body, computed while it arrived, as 64 lower-case hexadecimal digits. Empty if the body
+    /// was kept in memory.
+    QByteArray sha256;
 
     bool operator==(const HttpAnswer &) const = default;
 

@@ -44,6 +44,7 @@ void HttpExchange::transmit()
     m_received = 0;
     m_stored = 0;
     m_announced.reset();
+    m_storedHash.reset();
     m_certificateErrors.clear();
     m_reply = sentOnce();
     connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
@@ -130,6 +131,7 @@ bool HttpExchange::storeInFile(QByteArrayView piece)
                           m_answer.file->write(piece.data(), piece.size()) == piece.size();
     if (!isStored)
         m_refusal = TransportError::Kind::NotStored;
+    m_storedHash.addData(piece);
     return isStored;
 }
 
@@ -161,6 +163,8 @@ void HttpExchange::completeReply()
     // An empty body is stored as an empty file.
     if (m_request.saveAs && m_answer.isSuccess() && !(storeInFile({}) && m_answer.file->flush()))
         return finish(std::unexpected(m_refusal.value_or(TransportError::Kind::NotStored)));
+    if (m_answer.file)
+        m_answer.sha256 = m_storedHash.result().toHex();
     finish(std::move(m_answer));
 }
 

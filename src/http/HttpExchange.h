@@ -6,6 +6,7 @@
 #include "http/Origin.h"
 #include "http/TransportError.h"
 
+#include <QCryptographicHash>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QObject>
@@ -72,6 +73,8 @@ private:
     /// Why the response was rejected; absent if it was not.
     std::optional<TransportError::Kind> m_refusal;
     HttpAnswer m_answer;
+    /// The hash of what is in the file.
+    QCryptographicHash m_storedHash{QCryptographicHash::Sha256};
     int m_redirects = 0;
     bool m_isOver = false;
 };

@@ -39,7 +39,7 @@ public:
         ForeignRedirect,
         /// A redirect of a request that changes data, which is not followed.
         RedirectedWrite,
-        /// The response is larger than the maximum size kept in memory.
+        /// The response is larger than the request permits.
         TooLarge,
         /// The response cannot be decompressed or is not valid HTTP.
         Broken,

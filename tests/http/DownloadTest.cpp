@@ -81,6 +81,47 @@ TEST_F(DownloadTest, AFileMayBeLongerThanWhatIsHeldInMemory)
     EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
 }
 
+TEST_F(DownloadTest, TheHashIsThatOfTheStoredBytes)
+{
+    server.answer(RawAnswer::http(200, "content"));
+    EXPECT_EQ(answerTo(download()).sha256,
+              "ed7002b439e9ac845f22357d822bac1444730fbdb6016d3ec9432297b9ec9f73");
+    EXPECT_TRUE(answerTo(request("/file")).sha256.isEmpty());
+}
+
+TEST_F(DownloadTest, TheHashOfARedirectIsNotCounted)
+{
+    server.answerNext(RawAnswer::http(302, "moved", {{"Location", "/there"}}));
+    server.answerNext(RawAnswer::http(200, "content"));
+    EXPECT_TRUE(answerTo(download()).sha256.startsWith("ed7002b4"));
+}
+
+TEST_F(DownloadTest, AnAnnouncedSizeAboveTheLimitIsRefused)
+{
+    HttpRequest sent = download();
+    sent.mostStored = 100;
+    server.answer(RawAnswer::large(101, 1, "application/zip"));
+    EXPECT_EQ(failureOf(sent), Kind::TooLarge);
+    EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
+}
+
+TEST_F(DownloadTest, ABodyWithoutALengthIsEndedAtTheLimit)
+{
+    HttpRequest sent = download();
+    sent.mostStored = 100'000;
+    server.answer(RawAnswer::largeOfUnknownLength(100LL * 1024 * 1024, "application/zip"));
+    EXPECT_EQ(failureOf(sent), Kind::TooLarge);
+    EXPECT_TRUE(runUntil([&] { return files().isEmpty(); }));
+}
+
+TEST_F(DownloadTest, AFileOfExactlyTheLimitIsStored)
+{
+    HttpRequest sent = download();
+    sent.mostStored = 7;
+    server.answer(RawAnswer::http(200, "content"));
+    EXPECT_EQ(answerTo(sent).file->size(), 7);
+}
+
 TEST_F(DownloadTest, AFolderThatCannotBeMadeIsAFailure)
 {
     QFile blocking(folder.filePath(u"file"_s));
