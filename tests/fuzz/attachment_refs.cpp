@@ -1,7 +1,7 @@
 /// Searches arbitrary HTML for attachments.
 #include "fuzz/Input.h"
 #include "fuzz/Promise.h"
-#include "jira/AttachmentRefs.h"
+#include "richtext/AttachmentRefs.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {

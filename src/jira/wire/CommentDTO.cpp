@@ -1,8 +1,8 @@
 #include "jira/wire/CommentDTO.h"
 
-#include "jira/AttachmentRefs.h"
 #include "jira/JiraDate.h"
 #include "jira/wire/Models.h"
+#include "richtext/AttachmentRefs.h"
 
 Comment CommentDTO::model(const QDateTime &now) const
 {

@@ -1,8 +1,8 @@
 #include "jira/wire/IssueDTO.h"
 
-#include "jira/AttachmentRefs.h"
 #include "jira/JiraDate.h"
 #include "jira/wire/Models.h"
+#include "richtext/AttachmentRefs.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "jira/AttachmentRefs.h"
+#include "richtext/AttachmentRefs.h"
 
 #include "richtext/ADFNodes.h"
 #include "richtext/ADFQueries.h"
