@@ -37,7 +37,8 @@ Attachment attachmentOn(const JiraClient &client)
     return {.id = u"7"_s,
             .filename = u"plan.txt"_s,
             .mimeType = u"text/plain"_s,
-            .size = 5,
+            // That of the response with which the faults begin.
+            .size = 46,
             .created = {},
             .author = {},
             .contentURL = contentOn(client),

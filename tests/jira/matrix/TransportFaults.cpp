@@ -69,7 +69,7 @@ QList<Fault> brokenAnswers()
     return {
         {"WrongLength",
          Place::Answer,
-         {.reading = unreadable(u"…"_s), .ignoring = succeeds, .download = succeeds},
+         {.reading = unreadable(u"…"_s), .ignoring = succeeds, .download = noDownload},
          withHeader("Content-Length", "5", R"({"values":[]})")},
         {"BrokenGzip",
          Place::Answer,
