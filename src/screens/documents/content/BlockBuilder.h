@@ -34,6 +34,12 @@ public:
 private:
     using Surroundings = BlockSurroundings;
 
+    static const QList<ADFNode> &childrenOf(const ADFNode &node)
+    {
+        static const QList<ADFNode> none;
+        return node.content ? *node.content : none;
+    }
+
     void addChildren(const ADFNode &node, double spacing, const Surroundings &around);
     template <typename Each>
     void stack(const QList<ADFNode> &nodes, double spacing, const Each &each);

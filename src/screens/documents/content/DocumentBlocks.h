@@ -194,10 +194,15 @@ constexpr double codeSidePadding = 12;
 constexpr double cellPadding = 6;
 constexpr double cellSidePadding = 8;
 constexpr double narrowestColumn = 90;
-/// Texts of a cell wrap at this width.
+/// Texts of a cell wrap at this width. Columns that are wider than `shrunkColumn` shrink down to it before a table
+/// scrolls.
 constexpr double widestColumn = 320;
+constexpr double shrunkColumn = 150;
 constexpr double expandIndent = 18;
 constexpr double rulePadding = 4;
+/// Further space above a heading of the first two sizes, and above the third.
+constexpr double headingSpace = 4;
+constexpr double smallHeadingSpace = 2;
 /// The radius of code blocks, and that of panels.
 constexpr double codeRadius = 8;
 constexpr double panelRadius = 10;
