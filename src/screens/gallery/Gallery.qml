@@ -11,9 +11,9 @@ Window {
     required property bool dark
     required property int accent
     readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays",
-        "menus", "sheets"]
+        "menus", "sheets", "documents"]
     readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Formulaires", "Commandes", "Panneaux",
-        "Menus et bulles", "Longs menus", "Feuille"]
+        "Menus et bulles", "Longs menus", "Feuille", "Documents"]
 
     width: 1320
     height: 1060

@@ -1,6 +1,7 @@
 import QtQuick
 
-/// Chooses the page by its name: icons, symbols, states, fields, forms, controls, panels, overlays, menus or sheets.
+/// Chooses the page by its name: icons, symbols, states, fields, forms, controls, panels, overlays, menus, sheets or
+/// documents.
 Loader {
     id: root
 

@@ -19,11 +19,11 @@ struct Page
     QSize size;
 };
 
-const Page pages[]{{u"icons"_s, {1150, 900}}, {u"symbols"_s, {1270, 960}},
-                   {u"states"_s, {930, 960}}, {u"fields"_s, {930, 960}},
-                   {u"forms"_s, {940, 680}},  {u"controls"_s, {1270, 420}},
-                   {u"panels"_s, {930, 680}}, {u"overlays"_s, {870, 530}},
-                   {u"menus"_s, {870, 420}},  {u"sheets"_s, {620, 440}}};
+const Page pages[]{
+    {u"icons"_s, {1150, 900}}, {u"symbols"_s, {1270, 960}}, {u"states"_s, {930, 960}},
+    {u"fields"_s, {930, 960}}, {u"forms"_s, {940, 680}},    {u"controls"_s, {1270, 420}},
+    {u"panels"_s, {930, 680}}, {u"overlays"_s, {870, 530}}, {u"menus"_s, {870, 420}},
+    {u"sheets"_s, {620, 440}}, {u"documents"_s, {960, 870}}};
 
 int scale()
 {

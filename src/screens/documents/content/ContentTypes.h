@@ -4,7 +4,8 @@
 
 #include <QtQml/qqml.h>
 
-/// Registers the node of a document with QML, which passes it on and cannot look into it.
+/// Registers the node of a document with QML, which passes it from one property of C++ to another and cannot look into
+/// it. QML cannot declare properties of this type, because the record is not a gadget.
 struct ADFNodeValue
 {
     Q_GADGET
