@@ -97,9 +97,13 @@ void TextShape::format(const TextBlock &text, const DocumentStyle &style, double
         QFont font = style.font(text.role, bodySize, run);
         if (text.isStruck)
             font.setStrikeOut(true);
-        range.format.setFont(font, QTextCharFormat::FontPropertiesAll);
-        range.format.setForeground(style.textColor(text, run));
-        formats.append(range);
+        // Plain text is laid out without formats, which is faster.
+        if (font != m_layout.font())
+            range.format.setFont(font, QTextCharFormat::FontPropertiesAll);
+        if (const QColor color = style.textColor(text, run); color != m_color)
+            range.format.setForeground(color);
+        if (!range.format.isEmpty())
+            formats.append(range);
         if (const QColor ground = groundOf(run, style); ground.isValid())
             m_grounds.push_back({start, start + range.length, ground});
         start += range.length;
