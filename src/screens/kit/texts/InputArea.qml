@@ -22,6 +22,8 @@ FocusScope {
     property real lowest: 76
     property real highest: 240
     property real corner: Metrics.radiusRow
+    /// Without a frame, the text stands on the surface around the field, and starts at its edges.
+    property bool framed: true
     property string problem
     /// Under the pointer.
     property bool lit: enabled && editor.hovered
@@ -55,10 +57,11 @@ FocusScope {
     }
 
     implicitWidth: 290
-    implicitHeight: Math.max(lowest, Math.min(highest, editor.wholeHeight + 2))
+    implicitHeight: Math.max(lowest, Math.min(highest, editor.wholeHeight + (framed ? 2 : 0)))
 
     FieldSurface {
         anchors.fill: parent
+        visible: root.framed
         corner: root.corner
         hovered: root.lit
         focused: root.ringed
@@ -69,7 +72,7 @@ FocusScope {
         id: view
 
         anchors.fill: parent
-        anchors.margins: 1
+        anchors.margins: root.framed ? 1 : 0
         clip: true
         // Without overflow the wheel events are left to the page.
         interactive: editor.wholeHeight > height
@@ -80,6 +83,10 @@ FocusScope {
 
             name: root.name
             problem: root.problem
+            leftPadding: root.framed ? 9 : 0
+            rightPadding: leftPadding
+            topPadding: root.framed ? 6 : 0
+            bottomPadding: topPadding
             onKeyPressed: event => root.keyPressed(event)
             onFilesPasted: files => root.filesGiven(files)
         }
