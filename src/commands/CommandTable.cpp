@@ -1,7 +1,5 @@
 #include "commands/CommandTable.h"
 
-#include "commands/IssueCreation.h"
-
 #include <algorithm>
 #include <array>
 
@@ -81,11 +79,6 @@ QString shortcutText(const ShortcutKey &key)
     if (key.shift == ShortcutKey::Shift::Held)
         text += u'⇧';
     return text + QChar(key.character).toUpper();
-}
-
-bool isOffered(Command command)
-{
-    return command != Command::NewIssue || issueCreation == IssueCreation::Offered;
 }
 
 std::optional<PickerKind> pickerOf(Command command)

@@ -25,9 +25,6 @@ QString commandShortcut(Command command);
 /// A key of the table of shortcuts as text, such as "⌘⌥1".
 QString shortcutText(const ShortcutKey &key);
 
-/// Whether the program offers the command. `NewIssue` is not offered while `issueCreation` is withheld.
-bool isOffered(Command command);
-
 /// The picker that the command opens; nothing for other commands.
 std::optional<PickerKind> pickerOf(Command command);
 /// The command that opens the picker.

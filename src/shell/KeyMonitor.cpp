@@ -1,6 +1,5 @@
 #include "shell/KeyMonitor.h"
 
-#include "commands/CommandTable.h"
 #include "commands/KeyPress.h"
 #include "commands/KeyRouting.h"
 #include "screens/kit/layers/OwnKeys.h"
@@ -38,10 +37,7 @@ bool KeyMonitor::takes(const QKeyEvent &event)
     if (!m_store || !m_window)
         return false;
     const auto press = KeyPress::from(event);
-    const auto command = route(press);
-    if ((command && !isOffered(*command)) || isLeftToFocusItem(press.key))
-        return false;
-    return give(press);
+    return !isLeftToFocusItem(press.key) && give(press);
 }
 
 bool KeyMonitor::repeats(const QKeyEvent &event) const

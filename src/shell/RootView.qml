@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Create
 import Velmora.Kit
 import Velmora.Palette
 import Velmora.Shell
@@ -63,6 +64,10 @@ Window {
         id: layer
 
         anchors.fill: parent
+        store: root.store
+    }
+
+    CreateLayer {
         store: root.store
     }
 

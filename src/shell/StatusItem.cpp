@@ -42,7 +42,7 @@ StatusItem::StatusItem(AppStore &store) : m_store(store)
 
 void StatusItem::refresh()
 {
-    m_entries = statusMenu(m_store.phase(), m_store.myOpenIssues(), issueCreation);
+    m_entries = statusMenu(m_store.phase(), m_store.myOpenIssues());
     m_menu.clear();
     for (const auto &entry : m_entries)
         append(entry);

@@ -28,12 +28,11 @@ QList<StatusMenuEntry> issueLines(const IssueList &issues)
     return lines;
 }
 
-QList<StatusMenuEntry> sessionLines(const IssueList &issues, IssueCreation creation)
+QList<StatusMenuEntry> sessionLines(const IssueList &issues)
 {
     QList<StatusMenuEntry> lines = issueLines(issues);
     lines.append(line(Kind::Divider));
-    if (creation == IssueCreation::Offered)
-        lines.append(line(Kind::NewIssue, u"Nouveau ticket…"_s));
+    lines.append(line(Kind::NewIssue, u"Nouveau ticket…"_s));
     lines.append(line(Kind::Refresh, u"Actualiser"_s));
     lines.append(line(Kind::Divider));
     return lines;
@@ -41,12 +40,11 @@ QList<StatusMenuEntry> sessionLines(const IssueList &issues, IssueCreation creat
 
 } // namespace
 
-QList<StatusMenuEntry> statusMenu(AppStore::Phase phase, const IssueList &openIssues,
-                                  IssueCreation creation)
+QList<StatusMenuEntry> statusMenu(AppStore::Phase phase, const IssueList &openIssues)
 {
     QList<StatusMenuEntry> lines;
     if (phase == AppStore::Phase::Ready)
-        lines = sessionLines(openIssues, creation);
+        lines = sessionLines(openIssues);
     lines.append(line(Kind::ShowMain, u"Ouvrir Velmora"_s));
     lines.append(line(Kind::Quit, u"Quitter"_s));
     return lines;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/IssueCreation.h"
 #include "state/AppStore.h"
 
 /// One line of the status item's menu.
@@ -20,5 +19,4 @@ struct StatusMenuEntry
 
 /// The menu from top to bottom: during a session the first twelve open issues of the user, and in every phase the
 /// entries that show the main window and quit the program.
-QList<StatusMenuEntry> statusMenu(AppStore::Phase phase, const IssueList &openIssues,
-                                  IssueCreation creation);
+QList<StatusMenuEntry> statusMenu(AppStore::Phase phase, const IssueList &openIssues);

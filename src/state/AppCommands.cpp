@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 bool isCommandEnabled(Command command, AppStore::Phase phase)
 {
-    return isOffered(command) && (command != Command::NewIssue || phase == AppStore::Phase::Ready);
+    return command != Command::NewIssue || phase == AppStore::Phase::Ready;
 }
 
 bool isOfIssueWindows(Command command)

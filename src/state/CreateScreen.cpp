@@ -2,6 +2,6 @@
 
 void CreateScreen::open(AppStore *store, const QString &projectKey)
 {
-    if (store && isAvailable())
+    if (store)
         store->newIssue(projectKey.isEmpty() ? std::nullopt : std::optional(projectKey));
 }

@@ -236,9 +236,9 @@ protected:
     void pressAKey()
     {
         static const QList<Qt::Key> keys{
-            Qt::Key_J,    Qt::Key_K,      Qt::Key_X,      Qt::Key_S,   Qt::Key_P,   Qt::Key_A,
-            Qt::Key_L,    Qt::Key_1,      Qt::Key_2,      Qt::Key_Tab, Qt::Key_Up,  Qt::Key_Down,
-            Qt::Key_Left, Qt::Key_Escape, Qt::Key_Escape, Qt::Key_F10, Qt::Key_Menu};
+            Qt::Key_J,    Qt::Key_K,      Qt::Key_X,      Qt::Key_S,   Qt::Key_P,    Qt::Key_A,
+            Qt::Key_L,    Qt::Key_1,      Qt::Key_2,      Qt::Key_Tab, Qt::Key_Up,   Qt::Key_Down,
+            Qt::Key_Left, Qt::Key_Escape, Qt::Key_Escape, Qt::Key_F10, Qt::Key_Menu, Qt::Key_C};
         const auto before = state();
         const bool isCovered = !isContentOnTop();
         const auto key = keys[random.bounded(int(keys.size()))];
@@ -278,10 +278,13 @@ protected:
             settle();
         }
         ASSERT_TRUE(isContentOnTop());
-        // Escape leaves the search field. What was typed there, and the chosen filters, may have left no issues.
+        // Escape leaves the search field. What was typed there, the chosen filters and folded groups may have left no
+        // issues.
         press(Qt::Key_Escape);
         store().setFilterText({});
         store().setFilters({});
+        for (const QString &id : QSet(store().collapsedGroups()))
+            store().toggleGroup(id);
         store().setFocusedKey(u"MOB-1"_s);
         settle();
         press(Qt::Key_J);

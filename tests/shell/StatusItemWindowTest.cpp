@@ -61,15 +61,15 @@ TEST_F(StatusItemInTheProcess, WhereItCanBeSeenTheProcessLivesOnAndTheWindowCome
     EXPECT_EQ(&window(), before);
 }
 
-// The menu contains this entry only while creating issues is offered, so the test emits the signal itself.
 TEST_F(StatusItemInTheProcess, NewIssueWithTheMainWindowClosedFirstOpensThatWindow)
 {
     statusHost->setIsPresent(true);
     ASSERT_TRUE(delegate().statusItem());
     window().close();
     ASSERT_FALSE(window().isVisible());
-    Q_EMIT delegate().statusItem()->newIssueChosen();
+    choose(u"Nouveau ticket…"_s);
     EXPECT_TRUE(window().isVisible());
+    EXPECT_TRUE(store().isCreating());
 }
 
 TEST_F(StatusItemInTheProcess, AVisibleMainWindowIsNotDoubled)

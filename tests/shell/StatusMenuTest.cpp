@@ -39,7 +39,7 @@ qsizetype issueLines(const QList<StatusMenuEntry> &entries)
 
 TEST(StatusMenu, InASessionItListsTheOpenIssuesAndItsCommands)
 {
-    const auto menu = statusMenu(ready, issues(2), IssueCreation::Offered);
+    const auto menu = statusMenu(ready, issues(2));
     EXPECT_EQ(texts(menu),
               (QStringList{u"Mes tickets ouverts"_s, u"MOB-1  Résumé 1"_s, u"MOB-2  Résumé 2"_s,
                            u"-"_s, u"Nouveau ticket…"_s, u"Actualiser"_s, u"-"_s,
@@ -50,18 +50,17 @@ TEST(StatusMenu, InASessionItListsTheOpenIssuesAndItsCommands)
 
 TEST(StatusMenu, WithoutAnOpenIssueItSaysSo)
 {
-    EXPECT_EQ(texts(statusMenu(ready, {}, IssueCreation::Offered)).first(),
-              u"Aucun ticket ouvert"_s);
+    EXPECT_EQ(texts(statusMenu(ready, {})).first(), u"Aucun ticket ouvert"_s);
 }
 
 TEST(StatusMenu, WithExactlyTwelveOpenIssuesAllAreShown)
 {
-    EXPECT_EQ(issueLines(statusMenu(ready, issues(12), IssueCreation::Offered)), 12);
+    EXPECT_EQ(issueLines(statusMenu(ready, issues(12))), 12);
 }
 
 TEST(StatusMenu, WithThirteenTheFirstTwelveAreShownAndNoLineSaysSo)
 {
-    const auto menu = statusMenu(ready, issues(13), IssueCreation::Offered);
+    const auto menu = statusMenu(ready, issues(13));
     EXPECT_EQ(issueLines(menu), 12);
     EXPECT_EQ(menu[12].issueKey, u"MOB-12"_s);
     EXPECT_EQ(menu[13].kind, Kind::Divider);
@@ -70,12 +69,6 @@ TEST(StatusMenu, WithThirteenTheFirstTwelveAreShownAndNoLineSaysSo)
 TEST(StatusMenu, WithoutASessionThereIsOnlyTheWayInAndTheWayOut)
 {
     for (const auto phase : {AppStore::Phase::Launching, AppStore::Phase::SignedOut})
-        EXPECT_EQ(texts(statusMenu(phase, issues(3), IssueCreation::Offered)),
+        EXPECT_EQ(texts(statusMenu(phase, issues(3))),
                   (QStringList{u"Ouvrir Velmora"_s, u"Quitter"_s}));
-}
-
-TEST(StatusMenu, WithoutAScreenForItNothingIsCreated)
-{
-    EXPECT_FALSE(
-        texts(statusMenu(ready, {}, IssueCreation::Withheld)).contains(u"Nouveau ticket…"_s));
 }

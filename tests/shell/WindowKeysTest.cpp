@@ -112,10 +112,14 @@ protected:
                 windows += each->title();
         }
         windows.sort();
-        const QList<qsizetype> counts{
-            desktop->copied.size(),   desktop->opened.size(), service->issuesCalls.count(),
-            store().checked().size(), quits->count(),         qsizetype(store().layout()),
-            store().palette() ? 1 : 0};
+        const QList<qsizetype> counts{desktop->copied.size(),
+                                      desktop->opened.size(),
+                                      service->issuesCalls.count(),
+                                      store().checked().size(),
+                                      quits->count(),
+                                      qsizetype(store().layout()),
+                                      store().palette() ? 1 : 0,
+                                      store().isCreating() ? 1 : 0};
         QStringList parts{text(store().focusedKey()), text(store().inspectorKey()),
                           windows.join(u';')};
         for (const auto count : counts)
@@ -128,6 +132,7 @@ protected:
         if (auto *settings = app->scenes().settingsWindow())
             settings->close();
         store().closePalette();
+        store().setIsCreating(false);
         store().setLayout(layout);
         store().setFocusedKey(u"MOB-1"_s);
         store().setInspectorKey(u"MOB-1"_s);

@@ -24,12 +24,9 @@ EmptyScreen nothingHappened(const ActivityPeriod &period, const QDateTime &now,
 
 EmptyScreen nothingToDo()
 {
-    return {u"checkmark.seal"_s,
-            u"Rien à faire ici"_s,
-            u"Aucun ticket dans cette vue. Profite, ou crée-en un avec C."_s,
-            u"Nouveau ticket"_s,
-            true,
-            CreateScreen::isAvailable()};
+    return {u"checkmark.seal"_s, u"Rien à faire ici"_s,
+            u"Aucun ticket dans cette vue. Profite, ou crée-en un avec C."_s, u"Nouveau ticket"_s,
+            true};
 }
 
 FilterState filterState(const AppStore &store)

@@ -16,7 +16,6 @@ class EmptyScreen
     Q_PROPERTY(QString description MEMBER description CONSTANT FINAL)
     Q_PROPERTY(QString action MEMBER action CONSTANT FINAL)
     Q_PROPERTY(bool isProminent MEMBER isProminent CONSTANT FINAL)
-    Q_PROPERTY(bool isActionEnabled MEMBER isActionEnabled CONSTANT FINAL)
 
 public:
     QString symbol;
@@ -26,7 +25,6 @@ public:
     QString action;
     /// The button is the one prominent button of the screen.
     bool isProminent = false;
-    bool isActionEnabled = true;
 
     bool operator==(const EmptyScreen &) const = default;
 };

@@ -146,7 +146,6 @@ FocusScope {
                 description: content.empty.description
                 action: content.empty.action
                 isProminent: content.empty.isProminent
-                isActionEnabled: content.empty.isActionEnabled
                 onActionChosen: content.runEmptyAction()
             }
         }

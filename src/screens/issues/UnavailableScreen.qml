@@ -11,7 +11,6 @@ Item {
     required property string description
     required property string action
     property bool isProminent: false
-    property bool isActionEnabled: true
     readonly property int textMaximum: 520
     // The part of the height by which the text stands above the geometric centre.
     readonly property real lift: 0.03
@@ -62,7 +61,6 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.action
             visible: root.action !== ""
-            enabled: root.isActionEnabled
             look: root.isProminent ? PushButton.Prominent : PushButton.Glass
             onClicked: root.actionChosen()
         }

@@ -10,8 +10,7 @@ PaletteActionInputs actionInputs(const AppStore &store)
     return {.targets = store.actionTargets(),
             .layout = store.layout(),
             .showCompleted = store.showCompleted(),
-            .appearance = store.appearance(),
-            .creation = issueCreation};
+            .appearance = store.appearance()};
 }
 
 } // namespace

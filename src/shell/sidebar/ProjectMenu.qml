@@ -20,7 +20,6 @@ PopupMenu {
     }
 
     PopupMenuItem {
-        enabled: CreateScreen.isAvailable
         text: "Nouveau ticket dans " + root.project.name
         symbol: "square.and.pencil"
         onTriggered: CreateScreen.open(root.store, root.project.key)

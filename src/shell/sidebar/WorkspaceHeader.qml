@@ -55,7 +55,6 @@ Item {
         IconButton {
             look: IconButton.Glass
             side: 28
-            enabled: CreateScreen.isAvailable
             name: "Nouveau ticket"
             hint: Hints.newIssue
             symbol: "square.and.pencil"

@@ -77,17 +77,11 @@ QList<OptionItem> itemsForTheWindow(const PaletteActionInputs &inputs)
             commandItem(u"settings"_s, Command::OpenSettings, u"gear"_s)};
 }
 
-QList<OptionItem> itemsForCreation(IssueCreation creation)
-{
-    if (creation == IssueCreation::Withheld)
-        return {};
-    return {commandItem(u"new"_s, Command::NewIssue, u"square.and.pencil"_s)};
-}
-
 } // namespace
 
 QList<OptionItem> paletteActions(const PaletteActionInputs &inputs)
 {
-    return itemsForCreation(inputs.creation) + itemsForIssues(inputs.targets) +
-           itemsForOneIssue(inputs.targets) + itemsForTheWindow(inputs);
+    const QList newIssue{commandItem(u"new"_s, Command::NewIssue, u"square.and.pencil"_s)};
+    return newIssue + itemsForIssues(inputs.targets) + itemsForOneIssue(inputs.targets) +
+           itemsForTheWindow(inputs);
 }

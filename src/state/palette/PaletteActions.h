@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/IssueCreation.h"
 #include "commands/OptionItem.h"
 #include "model/Enums.h"
 
@@ -12,7 +11,6 @@ struct PaletteActionInputs
     LayoutMode layout = LayoutMode::List;
     bool showCompleted = true;
     AppearanceMode appearance = AppearanceMode::System;
-    IssueCreation creation = IssueCreation::Offered;
 
     bool operator==(const PaletteActionInputs &) const = default;
 };

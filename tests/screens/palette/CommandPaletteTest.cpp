@@ -19,9 +19,10 @@ TEST_F(CommandPaletteTest, AtItsRootItOffersActionsAndSixDestinations)
     EXPECT_FALSE(palette.isOpen());
     openRoot();
     EXPECT_TRUE(palette.isOpen());
-    EXPECT_EQ(ids(), (QStringList{u"layout"_s, u"completed"_s, u"appearance"_s, u"reload"_s,
-                                  u"settings"_s, u"go-mine"_s, u"go-recent"_s, u"go-reported"_s,
-                                  u"go-this-week"_s, u"go-last-week"_s, u"go-this-month"_s}));
+    EXPECT_EQ(ids(),
+              (QStringList{u"new"_s, u"layout"_s, u"completed"_s, u"appearance"_s, u"reload"_s,
+                           u"settings"_s, u"go-mine"_s, u"go-recent"_s, u"go-reported"_s,
+                           u"go-this-week"_s, u"go-last-week"_s, u"go-this-month"_s}));
     EXPECT_EQ(sectionTitles(), (QStringList{u"Actions"_s, u"Aller à"_s}));
     EXPECT_EQ(palette.placeholder(), u"Rechercher un ticket, une action, un projet…"_s);
     EXPECT_EQ(palette.title(), QString());
@@ -117,7 +118,7 @@ TEST_F(CommandPaletteTest, TheLayoutIsSwitchedAndThePaletteCloses)
     EXPECT_EQ(store->layout(), LayoutMode::Board);
     EXPECT_FALSE(palette.isOpen());
     openRoot();
-    EXPECT_EQ(titles().first(), u"Afficher en liste"_s);
+    EXPECT_EQ(titles().value(rowOf(u"layout"_s)), u"Afficher en liste"_s);
 }
 
 TEST_F(CommandPaletteTest, CompletedIssuesAreHiddenAndThatIsStored)
@@ -211,11 +212,11 @@ TEST_F(CommandPaletteTest, TheCountAndTheHighlightedRowAreSpoken)
 {
     QSignalSpy spoken(&palette, &CommandPalette::spokenStateChanged);
     openRoot();
-    EXPECT_EQ(palette.spokenState(), u"11 résultats. Afficher en tableau, 1 sur 11"_s);
+    EXPECT_EQ(palette.spokenState(), u"12 résultats. Nouveau ticket, 1 sur 12"_s);
     spoken.clear();
     press(Qt::Key_Down);
     EXPECT_GE(spoken.count(), 1);
-    EXPECT_EQ(palette.spokenState(), u"11 résultats. Masquer les tickets terminés, 2 sur 11"_s);
+    EXPECT_EQ(palette.spokenState(), u"12 résultats. Afficher en tableau, 2 sur 12"_s);
     palette.setQuery(u"mob-1"_s);
     EXPECT_EQ(palette.spokenState(), u"1 résultat. Résumé de MOB-1, MOB-1, 1 sur 1"_s);
 }
@@ -241,7 +242,7 @@ TEST_F(CommandPaletteTest, OpenedAgainItBeginsAnew)
     openRoot();
     EXPECT_EQ(palette.query(), QString());
     EXPECT_EQ(palette.highlighted(), 0);
-    EXPECT_EQ(ids().first(), u"layout"_s);
+    EXPECT_EQ(ids().first(), u"new"_s);
 }
 
 TEST_F(CommandPaletteTest, WhatIsTypedIsKeptWhileTheListIsReloaded)

@@ -102,6 +102,7 @@ TEST_F(PaletteKeyTest, ControlAndShiftReturnOpensNoWindow)
 TEST_F(PaletteKeyTest, KeypadEnterRunsTheHighlightedRow)
 {
     openRoot();
+    press(Qt::Key_Down);
     EXPECT_TRUE(press(Qt::Key_Enter, Qt::KeypadModifier));
     EXPECT_EQ(store->layout(), LayoutMode::Board);
 }
@@ -109,7 +110,7 @@ TEST_F(PaletteKeyTest, KeypadEnterRunsTheHighlightedRow)
 TEST_F(PaletteKeyTest, AtTheRootDigitsAreTyped)
 {
     openRoot();
-    ASSERT_EQ(palette.rows().first().option.shortcut, u"2"_s);
+    ASSERT_EQ(palette.rows()[rowOf(u"layout"_s)].option.shortcut, u"2"_s);
     EXPECT_FALSE(press(Qt::Key_2, {}, u"2"_s));
     EXPECT_EQ(store->layout(), LayoutMode::List);
 }

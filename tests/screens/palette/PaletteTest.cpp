@@ -185,16 +185,6 @@ TEST_F(Palette, WithoutAFocusedIssueItAsksForOne)
     }));
 }
 
-TEST_F(Palette, KeysOfScreensThatDoNotExistLeaveTheKeyboardAlone)
-{
-    press(Qt::Key_C);
-    press(Qt::Key_N, Qt::ControlModifier);
-    EXPECT_FALSE(store().isCreating());
-
-    press(Qt::Key_Down);
-    EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
-}
-
 TEST_F(Palette, ControlKTwiceLeavesItClosedAndTheFocusWhereItWas)
 {
     auto *before = window().activeFocusItem();

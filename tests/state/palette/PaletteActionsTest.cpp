@@ -59,12 +59,6 @@ TEST(PaletteActions, WithTwoOrMoreTargetsBranchLinkBrowserAndWindowAreNotOffered
     EXPECT_EQ(ids(paletteActions({.targets = {u"MOB-1"_s, u"MOB-2"_s, u"MOB-3"_s}})), expected);
 }
 
-TEST(PaletteActions, WithoutAScreenForItNothingIsCreated)
-{
-    EXPECT_EQ(ids(paletteActions({.targets = {u"MOB-1"_s}, .creation = IssueCreation::Withheld})),
-              without(all, {u"new"_s}));
-}
-
 TEST(PaletteActions, TitlesAndSymbolsAreThoseOfTheProgram)
 {
     const QList<std::pair<QString, QString>> expected{

@@ -103,7 +103,6 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: Metrics.gapSmall
             anchors.verticalCenter: parent.verticalCenter
-            enabled: CreateScreen.isAvailable
             name: "Nouveau ticket"
             symbol: "plus"
             symbolWeight: "semibold"

@@ -120,7 +120,6 @@ PressArea {
         anchors.rightMargin: Metrics.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         focusPolicy: Qt.NoFocus
-        enabled: CreateScreen.isAvailable
         name: "Nouveau ticket"
         symbol: "plus"
         symbolWeight: "semibold"

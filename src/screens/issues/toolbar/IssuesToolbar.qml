@@ -103,7 +103,6 @@ Item {
 
         IconButton {
             look: IconButton.Prominent
-            enabled: CreateScreen.isAvailable
             name: "Nouveau ticket"
             hint: Hints.newIssue
             symbol: "plus"
