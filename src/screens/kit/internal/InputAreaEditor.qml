@@ -77,6 +77,8 @@ T.TextArea {
         x: root.leftPadding
         y: root.topPadding - leading
         width: root.width - root.leftPadding - root.rightPadding
+        // A placeholder that does not fit is elided, not cut off.
+        height: root.height - y
         visible: root.length === 0 && root.preeditText.length === 0
         text: root.placeholderText
         wrapMode: Text.Wrap
