@@ -11,9 +11,9 @@ Window {
     required property bool dark
     required property int accent
     readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays",
-        "menus", "sheets", "documents"]
+        "menus", "sheets", "documents", "composers"]
     readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Formulaires", "Commandes", "Panneaux",
-        "Menus et bulles", "Longs menus", "Feuille", "Documents"]
+        "Menus et bulles", "Longs menus", "Feuille", "Documents", "Commentaire"]
 
     width: 1320
     height: 1060

@@ -14,6 +14,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_ComposerPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 using namespace Qt::StringLiterals;
@@ -36,7 +37,8 @@ void addOptions(QCommandLineParser &parser)
     parser.addHelpOption();
     parser.addOptions(
         {{u"page"_s,
-          u"icons, symbols, states, fields, forms, controls, panels, overlays, sheets or documents"_s,
+          u"icons, symbols, states, fields, forms, controls, panels, overlays, menus, sheets, "
+          "documents or composers"_s,
           u"name"_s, u"icons"_s},
          {u"dark"_s, u"in the dark appearance"_s},
          {u"accent"_s, u"from 0, indigo, to 6, graphite"_s, u"number"_s, u"0"_s},

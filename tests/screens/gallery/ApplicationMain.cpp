@@ -11,6 +11,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_ComposerPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 int main(int argc, char **argv)
