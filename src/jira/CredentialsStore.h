@@ -40,7 +40,7 @@ public:
     QCoro::Task<Stored> load();
     /// Fails with `Keychain::Failure`; in this case no preference is written.
     QCoro::Task<> save(JiraCredentials credentials);
-    /// Deletes the token of the stored site. Never fails.
+    /// Deletes the token of the stored site. Fails with `Keychain::Failure`; the token is then still stored.
     QCoro::Task<> removeToken();
 
 private:

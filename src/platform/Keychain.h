@@ -35,7 +35,7 @@ public:
     };
     using Lookup = std::variant<Found, Failed, Missing>;
 
-    /// The store did not save a secret.
+    /// The store did not save or delete a secret.
     class Failure final : public ::Failure
     {
     public:
@@ -65,6 +65,6 @@ public:
     /// Saves the secret and replaces the previous one. Fails with `Keychain::Failure`; after a failure the account may
     /// have no secret.
     virtual QCoro::Task<> save(QString token, QString account) = 0;
-    /// Deletes the secret. Never fails: an item that cannot be deleted is kept.
+    /// Deletes the secret, if there is one. Fails with `Keychain::Failure`; the secret may then still be there.
     virtual QCoro::Task<> remove(QString account) = 0;
 };

@@ -35,10 +35,10 @@ protected:
         qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
     }
 
-    void startKeyring()
+    void startKeyring(KeyringDaemon::Start start = KeyringDaemon::Start::Unlocked)
     {
         keyring.reset();
-        keyring = std::make_unique<KeyringDaemon>(bus, folder.path());
+        keyring = std::make_unique<KeyringDaemon>(bus, folder.path(), start);
         ASSERT_TRUE(keyring->isRunning()) << "gnome-keyring-daemon";
     }
 
@@ -60,11 +60,17 @@ protected:
         }
         return {};
     }
-    void remove(const QString &account = Site)
+    /// The text for the user if the item cannot be deleted; nothing if it is gone.
+    QString remove(const QString &account = Site)
     {
         const TaskResult<void> result(keychain->remove(account));
         EXPECT_TRUE(QTest::qWaitFor([&] { return result.isDone(); }));
-        EXPECT_FALSE(result.hasFailed());
+        try {
+            result.value();
+        } catch (const Keychain::Failure &failure) {
+            return failure.message();
+        }
+        return {};
     }
     static Keychain::Lookup found(const QString &token) { return Keychain::Found{token}; }
     static Keychain::Lookup missing() { return Keychain::Missing(); }
@@ -127,7 +133,7 @@ TEST_F(KeychainLinuxTest, twoSitesUseTwoItems)
     EXPECT_EQ(read(Site), found(u"un"_s));
     EXPECT_EQ(read(OtherSite), found(u"deux"_s));
 
-    remove(Site);
+    EXPECT_EQ(remove(Site), QString());
 
     EXPECT_EQ(read(Site), missing());
     EXPECT_EQ(read(OtherSite), found(u"deux"_s));
@@ -137,7 +143,7 @@ TEST_F(KeychainLinuxTest, deletingWhatIsNotThereIsNoFault)
 {
     startKeyring();
 
-    remove();
+    EXPECT_EQ(remove(), QString());
 
     EXPECT_EQ(read(), missing());
 }
@@ -175,8 +181,39 @@ TEST_F(KeychainLinuxTest, aLockedKeyringIsARefusalAndTheItemStays)
     EXPECT_EQ(read(), locked());
     EXPECT_EQ(save(u"autre"_s),
               u"Le trousseau du système est verrouillé. Déverrouille-le, puis réessaie."_s);
-    remove();
+    EXPECT_EQ(remove(),
+              u"Le trousseau du système est verrouillé. Déverrouille-le, puis réessaie."_s);
 
+    startKeyring();
+    EXPECT_EQ(read(), found(u"jeton"_s));
+}
+
+TEST_F(KeychainLinuxTest, aKeyringThatWasLockedFromTheStartIsARefusalToo)
+{
+    startKeyring();
+    save(u"jeton"_s);
+    startKeyring(KeyringDaemon::Start::Locked);
+    const FakePrompter prompter(bus.connection(u"prompter"_s), FakePrompter::User::Refuses);
+
+    EXPECT_EQ(read(), locked());
+    EXPECT_EQ(prompter.asked(), 1);
+    EXPECT_EQ(read(OtherSite), missing()) << "an item of another account is not asked for";
+    EXPECT_EQ(prompter.asked(), 1);
+}
+
+TEST_F(KeychainLinuxTest, beforeADeletionTheUserIsAskedToUnlockTheKeyring)
+{
+    startKeyring();
+    save(u"jeton"_s);
+    for (const auto start : {KeyringDaemon::Start::Unlocked, KeyringDaemon::Start::Locked}) {
+        startKeyring(start);
+        if (start == KeyringDaemon::Start::Unlocked)
+            keyring->lock();
+        const FakePrompter prompter(bus.connection(u"prompter"_s), FakePrompter::User::Refuses);
+        EXPECT_EQ(remove(),
+                  u"Le trousseau du système est verrouillé. Déverrouille-le, puis réessaie."_s);
+        EXPECT_EQ(prompter.asked(), 1);
+    }
     startKeyring();
     EXPECT_EQ(read(), found(u"jeton"_s));
 }
@@ -220,7 +257,7 @@ TEST_F(KeychainLinuxTest, noServiceIsARefusal)
     EXPECT_EQ(save(u"jeton"_s),
               u"Aucun trousseau n'est disponible pour garder le token. Lance "
               u"celui de ton bureau (GNOME Keyring ou KWallet), puis réessaie."_s);
-    remove();
+    EXPECT_NE(remove(), QString());
 }
 
 TEST_F(KeychainLinuxTest, noBusIsARefusal)

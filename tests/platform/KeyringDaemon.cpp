@@ -19,7 +19,7 @@ const auto Collection = u"/org/freedesktop/secrets/aliases/default"_s;
 
 } // namespace
 
-KeyringDaemon::KeyringDaemon(PrivateBus &bus, const QString &folder)
+KeyringDaemon::KeyringDaemon(PrivateBus &bus, const QString &folder, Start start)
     : m_bus(bus.connection(u"keyring"_s))
 {
     auto environment = QProcessEnvironment::systemEnvironment();
@@ -28,9 +28,12 @@ KeyringDaemon::KeyringDaemon(PrivateBus &bus, const QString &folder)
     environment.insert(u"XDG_DATA_HOME"_s, folder);
     environment.insert(u"XDG_RUNTIME_DIR"_s, folder);
     m_daemon.setProcessEnvironment(environment);
-    m_daemon.start(u"gnome-keyring-daemon"_s,
-                   {u"--foreground"_s, u"--unlock"_s, u"--components=secrets"_s});
-    m_daemon.write("un mot de passe");
+    QStringList arguments{u"--foreground"_s, u"--components=secrets"_s};
+    if (start == Start::Unlocked)
+        arguments += u"--unlock"_s;
+    m_daemon.start(u"gnome-keyring-daemon"_s, arguments);
+    if (start == Start::Unlocked)
+        m_daemon.write("un mot de passe");
     m_daemon.closeWriteChannel();
     // The test itself checks whether the daemon runs.
     std::ignore = QTest::qWaitFor(

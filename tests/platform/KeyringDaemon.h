@@ -9,8 +9,11 @@
 class KeyringDaemon
 {
 public:
-    /// Starts the daemon with its keyring unlocked. The keyring is created if it does not exist.
-    KeyringDaemon(PrivateBus &bus, const QString &folder);
+    enum class Start { Unlocked, Locked };
+
+    /// Starts the daemon. The keyring is created if it does not exist and is unlocked. A keyring that stays locked must
+    /// exist; of its items the daemon then knows only what is stored without encryption.
+    KeyringDaemon(PrivateBus &bus, const QString &folder, Start start = Start::Unlocked);
     ~KeyringDaemon();
     KeyringDaemon(const KeyringDaemon &) = delete;
     KeyringDaemon &operator=(const KeyringDaemon &) = delete;

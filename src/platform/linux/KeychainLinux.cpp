@@ -21,26 +21,37 @@ Keychain::Lookup lookupOf(const QByteArray &secret)
 QCoro::Task<Keychain::Lookup> readThrough(Calls calls, QString account)
 {
     const auto service = co_await SecretSteps::open(calls);
-    const auto item = co_await SecretSteps::find(calls, service, account);
-    if (!item)
+    auto items = co_await SecretSteps::find(calls, service, account);
+    if (items.empty())
         co_return Keychain::Missing();
-    co_await SecretSteps::unlock(calls, service, item);
-    const QByteArray secret = co_await SecretSteps::secretOf(calls, item);
+    items.resize(1);
+    co_await SecretSteps::unlock(calls, service, items);
+    const QByteArray secret = co_await SecretSteps::secretOf(calls, items.front());
     co_return lookupOf(secret);
+}
+
+/// Deletes all items of the account. If they are locked, the desktop asks the user; no item is deleted if one of them
+/// stays locked.
+QCoro::Task<> clear(Calls calls, SecretSteps::Service service, QString account)
+{
+    const auto items = co_await SecretSteps::find(calls, service, account);
+    co_await SecretSteps::unlock(calls, service, items);
+    for (const auto &item : items)
+        co_await SecretSteps::erase(calls, item);
 }
 
 /// The old item is deleted first, so that no item is left after a failed save.
 QCoro::Task<> saveThrough(Calls calls, QString token, QString account)
 {
     const auto service = co_await SecretSteps::open(calls);
-    co_await SecretSteps::clear(calls, service, account);
+    co_await clear(calls, service, account);
     co_await SecretSteps::store(calls, service, account, token.toUtf8());
 }
 
 QCoro::Task<> removeThrough(Calls calls, QString account)
 {
     const auto service = co_await SecretSteps::open(calls);
-    co_await SecretSteps::clear(calls, service, account);
+    co_await clear(calls, service, account);
 }
 
 } // namespace
@@ -83,8 +94,7 @@ QCoro::Task<> KeychainLinux::remove(QString account)
     try {
         co_await removeThrough(calls, account);
     } catch (const KeychainRefusal &refusal) {
-        // The item is kept: the user could do nothing about the error here.
-        Q_UNUSED(refusal)
+        throw asFailure(refusal);
     }
 }
 

@@ -22,5 +22,5 @@ KeychainRefusal refusalFor(const GError &error);
 
 /// The refusal as the result of a read; its text is a short reason.
 Keychain::Failed asLookup(const KeychainRefusal &refusal);
-/// The refusal as the failure of a save; its text is a sentence that tells the user what to do.
+/// The refusal as the failure of a save or a deletion; its text is a sentence that tells the user what to do.
 Keychain::Failure asFailure(const KeychainRefusal &refusal);

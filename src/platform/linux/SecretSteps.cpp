@@ -3,6 +3,9 @@
 #include "platform/linux/KeychainLinux.h"
 #include "platform/linux/KeychainRefusal.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 constexpr auto ServiceKey = "service";
@@ -25,18 +28,34 @@ private:
     GError *m_error = nullptr;
 };
 
-const SecretSchema &schema()
+SecretSchema schemaWith(SecretSchemaFlags flags)
 {
     static const QByteArray name = Keychain::serviceName().toUtf8();
-    static const SecretSchema schema = [] {
-        SecretSchema made = {};
-        made.name = name.constData();
-        made.flags = SECRET_SCHEMA_NONE;
-        made.attributes[0] = {ServiceKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
-        made.attributes[1] = {AccountKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
-        return made;
-    }();
+    SecretSchema schema = {};
+    schema.name = name.constData();
+    schema.flags = flags;
+    schema.attributes[0] = {ServiceKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
+    schema.attributes[1] = {AccountKey, SECRET_SCHEMA_ATTRIBUTE_STRING};
     return schema;
+}
+
+const SecretSchema &schema()
+{
+    static const SecretSchema schema = schemaWith(SECRET_SCHEMA_NONE);
+    return schema;
+}
+
+/// Finds items by service and account only. Of a keyring that was locked when its daemon started, the daemon does not
+/// know the names of the schemas.
+const SecretSchema &anySchema()
+{
+    static const SecretSchema schema = schemaWith(SECRET_SCHEMA_DONT_MATCH_NAME);
+    return schema;
+}
+
+bool isLocked(const SecretSteps::Item &item)
+{
+    return secret_item_get_locked(item.get());
 }
 
 std::shared_ptr<GHashTable> attributesOf(const QString &account)
@@ -91,31 +110,37 @@ QCoro::Task<SecretSteps::Service> SecretSteps::open(Calls calls)
     co_return service;
 }
 
-QCoro::Task<SecretSteps::Item> SecretSteps::find(Calls calls, Service service, QString account)
+QCoro::Task<SecretSteps::Items> SecretSteps::find(Calls calls, Service service, QString account)
 {
     const auto attributes = attributesOf(account);
     const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
                                        gpointer data) {
-        secret_service_search(service.get(), &schema(), attributes.get(), SECRET_SEARCH_NONE, stop,
-                              done, data);
+        secret_service_search(service.get(), &anySchema(), attributes.get(), SECRET_SEARCH_ALL,
+                              stop, done, data);
     };
     const auto result = co_await answered(calls, KeychainLinux::ServiceLimit, start);
     ErrorSlot error;
-    GList *items = secret_service_search_finish(service.get(), result.get(), error.out());
+    GList *const found = secret_service_search_finish(service.get(), result.get(), error.out());
     error.throwIfSet();
-    Item item(items ? SECRET_ITEM(g_object_ref(items->data)) : nullptr,
-              [](SecretItem *object) { g_clear_object(&object); });
-    g_list_free_full(items, g_object_unref);
-    co_return item;
+    Items items;
+    for (const GList *entry = found; entry; entry = entry->next)
+        items.emplace_back(SECRET_ITEM(entry->data),
+                           [](SecretItem *item) { g_object_unref(item); });
+    g_list_free(found);
+    std::ranges::partition(items, std::not_fn(isLocked));
+    co_return items;
 }
 
-QCoro::Task<> SecretSteps::unlock(Calls calls, Service service, Item item)
+QCoro::Task<> SecretSteps::unlock(Calls calls, Service service, Items items)
 {
-    if (!secret_item_get_locked(item.get()))
+    std::erase_if(items, std::not_fn(isLocked));
+    if (items.empty())
         co_return;
     const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
                                        gpointer data) {
-        GList *const objects = g_list_append(nullptr, item.get());
+        GList *objects = nullptr;
+        for (const Item &item : items)
+            objects = g_list_append(objects, item.get());
         secret_service_unlock(service.get(), objects, stop, done, data);
         g_list_free(objects);
     };
@@ -124,7 +149,7 @@ QCoro::Task<> SecretSteps::unlock(Calls calls, Service service, Item item)
     const int unlocked =
         secret_service_unlock_finish(service.get(), result.get(), nullptr, error.out());
     error.throwIfSet();
-    if (unlocked == 0)
+    if (unlocked < int(items.size()))
         throw KeychainRefusal(KeychainLinux::Locked);
 }
 
@@ -148,17 +173,19 @@ QCoro::Task<QByteArray> SecretSteps::secretOf(Calls calls, Item item)
     co_return QByteArray(bytes, qsizetype(length));
 }
 
-QCoro::Task<> SecretSteps::clear(Calls calls, Service service, QString account)
+QCoro::Task<> SecretSteps::erase(Calls calls, Item item)
 {
-    const auto attributes = attributesOf(account);
     const GLibCalls::Start start = [=](GCancellable *stop, GAsyncReadyCallback done,
                                        gpointer data) {
-        secret_service_clear(service.get(), &schema(), attributes.get(), stop, done, data);
+        secret_item_delete(item.get(), stop, done, data);
     };
     const auto result = co_await answered(calls, KeychainLinux::PromptLimit, start);
     ErrorSlot error;
-    secret_service_clear_finish(service.get(), result.get(), error.out());
+    const bool isErased = secret_item_delete_finish(item.get(), result.get(), error.out());
     error.throwIfSet();
+    // No error and no deletion mean that the user refused the desktop's request.
+    if (!isErased)
+        throw KeychainRefusal(KeychainLinux::Locked);
 }
 
 QCoro::Task<> SecretSteps::store(Calls calls, Service service, QString account, QByteArray secret)

@@ -49,9 +49,9 @@ Keychain::Lookup lookUp(const QString &account)
     return lookupOf([object isKindOfClass:NSData.class] ? object : nil);
 }
 
-void deleteItem(const QString &account)
+OSStatus deleteItem(const QString &account)
 {
-    SecItemDelete((__bridge CFDictionaryRef)baseQuery(account));
+    return SecItemDelete((__bridge CFDictionaryRef)baseQuery(account));
 }
 
 void addItem(const QString &token, const QString &account)
@@ -82,7 +82,9 @@ QCoro::Task<> KeychainMac::save(QString token, QString account)
 QCoro::Task<> KeychainMac::remove(QString account)
 {
     co_await m_clock.sleep(0ms);
-    deleteItem(account);
+    const OSStatus status = deleteItem(account);
+    if (status != errSecSuccess && status != errSecItemNotFound)
+        throw Failure(status, textOf(status));
 }
 
 std::unique_ptr<Keychain> Keychain::ofThisSystem(Clock &clock)
