@@ -1,9 +1,5 @@
-#include "ClientTest.h"
+#include "TransferTest.h"
 #include "http/TransportError.h"
-#include "jira/AttachmentCache.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <zlib.h>
 
@@ -12,162 +8,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Ending = RawAnswer::Ending;
+using ClientDownloads = TransferTest;
 
-class ClientTransfers : public ClientTest
-{
-protected:
-    QUrl localFile(const QString &name, const QByteArray &content) const
-    {
-        QFile file(cache.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return QUrl::fromLocalFile(file.fileName());
-    }
-    /// Advances the clock until the operation ends. It may take several steps, because bytes that the server sent
-    /// earlier can arrive late and restart the time limit.
-    bool endsByTime(const auto &result)
-    {
-        return runUntil([&] {
-            clock.advance(std::chrono::seconds(1));
-            return result.isDone();
-        });
-    }
-    /// An attachment whose record says that it has `size` bytes.
-    Attachment attachment(const QString &name = u"rapport.pdf"_s, qint64 size = 4) const
-    {
-        Attachment result;
-        result.size = size;
-        result.id = u"10"_s;
-        result.filename = name;
-        result.mimeType = u"application/pdf"_s;
-        result.contentURL = server.url().resolved(QUrl(u"/rest/api/3/attachment/content/10"_s));
-        return result;
-    }
-    /// The folder in which the attachments of the site are kept.
-    QString siteFolder() const
-    {
-        return AttachmentCache::siteFolder(cache.filePath(u"attachments"_s), server.url());
-    }
-    /// Puts a file where the download of `attachment` is kept.
-    QString store(const Attachment &attachment, const QByteArray &content) const
-    {
-        const QString path = AttachmentCache::file(siteFolder(), attachment);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return path;
-    }
-    /// The paths of all files in the folder of the site, relative to it.
-    QStringList cached() const
-    {
-        const QDir folder(siteFolder());
-        QStringList files;
-        for (const QString &sub :
-             folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden)) {
-            for (const QString &name :
-                 QDir(folder.filePath(sub)).entryList(QDir::Files | QDir::Hidden))
-                files.append(sub + u'/' + name);
-        }
-        return files + folder.entryList(QDir::Files | QDir::Hidden);
-    }
-    static QByteArray contentOf(const QUrl &url)
-    {
-        QFile file(url.toLocalFile());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-    static QString impossible(const QString &name)
-    {
-        return u"Téléchargement de « "_s + name + u" » impossible."_s;
-    }
-};
-
-TEST_F(ClientTransfers, FilesGoUpInOneRequest)
-{
-    server.answer(RawAnswer::json(
-        R"([{"id":"7","filename":"note.txt","size":5},{"id":"8","filename":"b"}])"));
-    const auto stored = resultOf(client->uploadAttachments(
-        u"ABC-1"_s, {localFile(u"note \"é\".txt"_s, "salut"), localFile(u"b"_s, {})}));
-    ASSERT_EQ(stored.size(), 2);
-    EXPECT_EQ(stored.first().id, u"7"_s);
-    EXPECT_EQ(stored.last().mimeType, u"application/octet-stream"_s);
-    EXPECT_EQ(stored.last().created, clock.now());
-
-    EXPECT_EQ(asked(), QStringList{u"POST /rest/api/3/issue/ABC-1/attachments"_s});
-    EXPECT_EQ(lastRequest().header("X-Atlassian-Token"), "no-check");
-    EXPECT_EQ(lastRequest().header("Accept"), "application/json");
-    EXPECT_EQ(lastRequest().header("Authorization"), client->credentials().authorizationHeader());
-    const QByteArray type = lastRequest().header("Content-Type");
-    const QByteArray prefix = "multipart/form-data; boundary=";
-    ASSERT_TRUE(type.startsWith(prefix));
-    const QByteArray boundary = type.mid(prefix.size());
-    EXPECT_EQ(lastRequest().body,
-              "--" + boundary +
-                  "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"note 'é'.txt\"\r\n"
-                  "Content-Type: text/plain\r\n\r\nsalut\r\n--" +
-                  boundary +
-                  "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"b\"\r\n"
-                  "Content-Type: application/octet-stream\r\n\r\n\r\n--" +
-                  boundary + "--\r\n");
-}
-
-TEST_F(ClientTransfers, AFileThatCannotBeReadStopsTheUploadBeforeARequest)
-{
-    const QUrl missing = QUrl::fromLocalFile(cache.filePath(u"absent.txt"_s));
-    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a"), missing})),
-              u"Impossible de lire le fichier « absent.txt »."_s);
-    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {QUrl::fromLocalFile(cache.path())})),
-              u"Impossible de lire le fichier « "_s + QDir(cache.path()).dirName() + u" »."_s);
-    EXPECT_EQ(server.connections(), 0);
-}
-
-TEST_F(ClientTransfers, AFileTooLargeForJira)
-{
-    server.answer(RawAnswer::json(R"({"errorMessages":["too big"]})", 413));
-    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
-              u"Fichier trop volumineux pour Jira."_s);
-}
-
-TEST_F(ClientTransfers, ARefusedUploadKeepsWhatJiraSays)
-{
-    server.answer(RawAnswer::json(R"({"message":"lecture seule"})", 403));
-    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
-              u"Accès refusé par Jira (403). lecture seule"_s);
-}
-
-TEST_F(ClientTransfers, AnUploadReachesTheServerOnce)
-{
-    server.answer(RawAnswer::nothing(Ending::Close));
-    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
-              TransportError(TransportError::Kind::ConnectionLost).message());
-    EXPECT_EQ(server.journal().size(), 1);
-}
-
-TEST_F(ClientTransfers, AStopEndsAnUpload)
-{
-    std::stop_source stop;
-    server.answer(RawAnswer::nothing(Ending::Stall));
-    const TaskResult result(
-        client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}, stop.get_token()));
-    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
-    stop.request_stop();
-    EXPECT_THROW(result.value(), Cancelled);
-    EXPECT_TRUE(runUntil([&] { return server.openConnections() == 0; }));
-}
-
-TEST_F(ClientTransfers, AnUploadWithoutAnAnswerEndsInTime)
-{
-    server.answer(RawAnswer::nothing(Ending::Stall));
-    const TaskResult result(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}));
-    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
-    clock.advance(std::chrono::seconds(299));
-    EXPECT_FALSE(result.isDone()) << "Jira may look long at what it was sent";
-    ASSERT_TRUE(endsByTime(result));
-    EXPECT_THROW(result.value(), TransportError);
-}
-
-TEST_F(ClientTransfers, ADownloadOverASlowLineGoesOn)
+TEST_F(ClientDownloads, ADownloadOverASlowLineGoesOn)
 {
     server.answer(RawAnswer::http(200, "%PDF").cut(2, Ending::Stall));
     const TaskResult result(client->download(attachment()));
@@ -177,7 +20,7 @@ TEST_F(ClientTransfers, ADownloadOverASlowLineGoesOn)
     EXPECT_TRUE(endsByTime(result));
 }
 
-TEST_F(ClientTransfers, ADownloadIsKeptUnderItsName)
+TEST_F(ClientDownloads, ADownloadIsKeptUnderItsName)
 {
     server.answer(RawAnswer::http(200, "%PDF", {{"Content-Type", "application/pdf"}}));
     const QUrl url = resultOf(client->download(attachment()));
@@ -189,7 +32,7 @@ TEST_F(ClientTransfers, ADownloadIsKeptUnderItsName)
     EXPECT_EQ(lastRequest().header("Authorization"), client->credentials().authorizationHeader());
 }
 
-TEST_F(ClientTransfers, ASecondDownloadMakesNoRequest)
+TEST_F(ClientDownloads, ASecondDownloadMakesNoRequest)
 {
     server.answer(RawAnswer::http(200, "%PDF"));
     const QUrl first = resultOf(client->download(attachment()));
@@ -197,7 +40,7 @@ TEST_F(ClientTransfers, ASecondDownloadMakesNoRequest)
     EXPECT_EQ(server.journal().size(), 1);
 }
 
-TEST_F(ClientTransfers, AttachmentsOfOneNameNeverMeet)
+TEST_F(ClientDownloads, AttachmentsOfOneNameNeverMeet)
 {
     server.answerNext(RawAnswer::http(200, "a"));
     server.answerNext(RawAnswer::http(200, "b"));
@@ -208,7 +51,7 @@ TEST_F(ClientTransfers, AttachmentsOfOneNameNeverMeet)
     EXPECT_EQ(contentOf(resultOf(client->download(other))), "b");
 }
 
-TEST_F(ClientTransfers, TwoDownloadsOfOneAttachmentMayRace)
+TEST_F(ClientDownloads, TwoDownloadsOfOneAttachmentMayRace)
 {
     server.answer(RawAnswer::http(200, "%PDF"));
     const TaskResult first(client->download(attachment()));
@@ -219,21 +62,21 @@ TEST_F(ClientTransfers, TwoDownloadsOfOneAttachmentMayRace)
     EXPECT_EQ(cached(), QStringList{u"10/rapport.pdf"_s});
 }
 
-TEST_F(ClientTransfers, AnAttachmentNamedWithASlashIsStoredWithADash)
+TEST_F(ClientDownloads, AnAttachmentNamedWithASlashIsStoredWithADash)
 {
     server.answer(RawAnswer::http(200, "x"));
     resultOf(client->download(attachment(u"a/b.pdf"_s, 1)));
     EXPECT_EQ(cached(), QStringList{u"10/a-b.pdf"_s});
 }
 
-TEST_F(ClientTransfers, AnAttachmentWithAnEmptyNameIsStoredAsFichier)
+TEST_F(ClientDownloads, AnAttachmentWithAnEmptyNameIsStoredAsFichier)
 {
     server.answer(RawAnswer::http(200, "x"));
     resultOf(client->download(attachment({}, 1)));
     EXPECT_EQ(cached(), QStringList{u"10/fichier"_s});
 }
 
-TEST_F(ClientTransfers, WithoutAnAddressThereIsNothingToDownload)
+TEST_F(ClientDownloads, WithoutAnAddressThereIsNothingToDownload)
 {
     Attachment without = attachment();
     without.contentURL.reset();
@@ -241,7 +84,7 @@ TEST_F(ClientTransfers, WithoutAnAddressThereIsNothingToDownload)
     EXPECT_EQ(server.connections(), 0);
 }
 
-TEST_F(ClientTransfers, AFailedDownloadSaysWhich)
+TEST_F(ClientDownloads, AFailedDownloadSaysWhich)
 {
     for (const int status : {404, 410, 500}) {
         server.answer(RawAnswer::json(R"({"message":"x"})", status));
@@ -256,14 +99,14 @@ TEST_F(ClientTransfers, AFailedDownloadSaysWhich)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, APageOfASignInIsNoFile)
+TEST_F(ClientDownloads, APageOfASignInIsNoFile)
 {
     server.answer(RawAnswer::html("<html>Connecte-toi</html>"));
     EXPECT_EQ(failureOf(client->download(attachment())), impossible(u"rapport.pdf"_s));
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, NorIsOneBehindARedirect)
+TEST_F(ClientDownloads, NorIsOneBehindARedirect)
 {
     server.answerBy([](const RawRequest &request) {
         return request.target == "/login" ? RawAnswer::html("<html>Connecte-toi</html>")
@@ -273,7 +116,7 @@ TEST_F(ClientTransfers, NorIsOneBehindARedirect)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, AnAttachedPageIsAFile)
+TEST_F(ClientDownloads, AnAttachedPageIsAFile)
 {
     server.answer(RawAnswer::html("<html>Rapport</html>"));
     Attachment page = attachment(u"rapport.html"_s);
@@ -282,7 +125,7 @@ TEST_F(ClientTransfers, AnAttachedPageIsAFile)
     EXPECT_EQ(contentOf(resultOf(client->download(page))), "<html>Rapport</html>");
 }
 
-TEST_F(ClientTransfers, AnAttachedPageWhoseTypeHasParametersIsAFile)
+TEST_F(ClientDownloads, AnAttachedPageWhoseTypeHasParametersIsAFile)
 {
     server.answer(RawAnswer::html("<html>Rapport</html>"));
     Attachment page = attachment(u"rapport.html"_s);
@@ -291,7 +134,7 @@ TEST_F(ClientTransfers, AnAttachedPageWhoseTypeHasParametersIsAFile)
     EXPECT_EQ(contentOf(resultOf(client->download(page))), "<html>Rapport</html>");
 }
 
-TEST_F(ClientTransfers, APageOfAnotherSizeThanTheAttachedOneIsNoFile)
+TEST_F(ClientDownloads, APageOfAnotherSizeThanTheAttachedOneIsNoFile)
 {
     server.answer(RawAnswer::html("<html>Connecte-toi</html>"));
     Attachment page = attachment(u"rapport.html"_s);
@@ -301,7 +144,7 @@ TEST_F(ClientTransfers, APageOfAnotherSizeThanTheAttachedOneIsNoFile)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, AFileCutShortIsNotKept)
+TEST_F(ClientDownloads, AFileCutShortIsNotKept)
 {
     const Attachment longer = attachment(u"rapport.pdf"_s, 8);
     server.answer(RawAnswer::http(200, "%PDF-1.7").cut(3, Ending::Close));
@@ -313,7 +156,7 @@ TEST_F(ClientTransfers, AFileCutShortIsNotKept)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, AFileOnAnotherOriginComesWithoutTheHeader)
+TEST_F(ClientDownloads, AFileOnAnotherOriginComesWithoutTheHeader)
 {
     RawServer media;
     media.answer(RawAnswer::http(200, "%PDF"));
@@ -324,7 +167,7 @@ TEST_F(ClientTransfers, AFileOnAnotherOriginComesWithoutTheHeader)
     EXPECT_EQ(media.journal().first().target, "/signed?token=1");
 }
 
-TEST_F(ClientTransfers, AnAddressOnAnotherOriginGetsNoHeaderEither)
+TEST_F(ClientDownloads, AnAddressOnAnotherOriginGetsNoHeaderEither)
 {
     RawServer media;
     media.answer(RawAnswer::http(200, "%PDF"));
@@ -334,7 +177,7 @@ TEST_F(ClientTransfers, AnAddressOnAnotherOriginGetsNoHeaderEither)
     EXPECT_TRUE(media.journal().first().header("Authorization").isNull());
 }
 
-TEST_F(ClientTransfers, AnAddressThatIsNoHTTPIsNotOpened)
+TEST_F(ClientDownloads, AnAddressThatIsNoHTTPIsNotOpened)
 {
     Attachment local = attachment();
     local.contentURL = QUrl::fromLocalFile(localFile(u"secret"_s, "secret").toLocalFile());
@@ -342,7 +185,7 @@ TEST_F(ClientTransfers, AnAddressThatIsNoHTTPIsNotOpened)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, AStopEndsADownloadWithoutAFile)
+TEST_F(ClientDownloads, AStopEndsADownloadWithoutAFile)
 {
     std::stop_source stop;
     server.answer(RawAnswer::http(200, "%PDF-1.7").cut(3, Ending::Stall));
@@ -353,7 +196,7 @@ TEST_F(ClientTransfers, AStopEndsADownloadWithoutAFile)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, ACacheThatCannotBeWrittenIsAFailure)
+TEST_F(ClientDownloads, ACacheThatCannotBeWrittenIsAFailure)
 {
     localFile(u"attachments"_s, "a file where the folder should be");
     server.answer(RawAnswer::http(200, "%PDF"));
@@ -361,7 +204,7 @@ TEST_F(ClientTransfers, ACacheThatCannotBeWrittenIsAFailure)
               TransportError(TransportError::Kind::NotStored).message());
 }
 
-TEST_F(ClientTransfers, WhatStandsInTheWayIsReplaced)
+TEST_F(ClientDownloads, WhatStandsInTheWayIsReplaced)
 {
     QDir().mkpath(siteFolder() + u"/10/rapport.pdf/x"_s);
     server.answer(RawAnswer::http(200, "%PDF"));
@@ -369,7 +212,7 @@ TEST_F(ClientTransfers, WhatStandsInTheWayIsReplaced)
 }
 
 /// A response with status 200 that is not the file.
-class WrongFile : public ClientTransfers, public testing::WithParamInterface<RawAnswer>
+class WrongFile : public ClientDownloads, public testing::WithParamInterface<RawAnswer>
 {
 };
 
@@ -391,7 +234,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RawAnswer::http(200, "%PDF and more"),
                     RawAnswer{"HTTP/1.1 200 OK\r\n\r\n%PD", Ending::Close}));
 
-TEST_F(ClientTransfers, AFileCutUnderALengthThatCannotBeReadIsNotKept)
+TEST_F(ClientDownloads, AFileCutUnderALengthThatCannotBeReadIsNotKept)
 {
     server.answer(
         RawAnswer::http(200, "%PD", {{"Content-Length", "four"}}).withEnding(Ending::Close));
@@ -399,7 +242,7 @@ TEST_F(ClientTransfers, AFileCutUnderALengthThatCannotBeReadIsNotKept)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, AStoredFileOfAnotherSizeIsFetchedAgain)
+TEST_F(ClientDownloads, AStoredFileOfAnotherSizeIsFetchedAgain)
 {
     store(attachment(), "<html>Connecte-toi</html>");
     server.answer(RawAnswer::http(200, "%PDF"));
@@ -407,7 +250,7 @@ TEST_F(ClientTransfers, AStoredFileOfAnotherSizeIsFetchedAgain)
     EXPECT_EQ(server.journal().size(), 1);
 }
 
-TEST_F(ClientTransfers, AFileWhoseSizeNobodyKnowsIsFetchedEachTime)
+TEST_F(ClientDownloads, AFileWhoseSizeNobodyKnowsIsFetchedEachTime)
 {
     server.answer(RawAnswer::http(200, "%PDF"));
     const Attachment unknown = attachment(u"rapport.pdf"_s, 0);
@@ -417,7 +260,7 @@ TEST_F(ClientTransfers, AFileWhoseSizeNobodyKnowsIsFetchedEachTime)
 }
 
 /// The body stalls behind its first megabyte, so only an end at the announced size ends the download.
-TEST_F(ClientTransfers, ADownloadEndsWhereItExceedsTheAnnouncedSize)
+TEST_F(ClientDownloads, ADownloadEndsWhereItExceedsTheAnnouncedSize)
 {
     RawAnswer endless = RawAnswer::largeOfUnknownLength(1 << 20, "application/pdf");
     endless.ending = Ending::Stall;
@@ -426,7 +269,7 @@ TEST_F(ClientTransfers, ADownloadEndsWhereItExceedsTheAnnouncedSize)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, APackedDownloadEndsWhereItExceedsTheAnnouncedSize)
+TEST_F(ClientDownloads, APackedDownloadEndsWhereItExceedsTheAnnouncedSize)
 {
     QByteArray packed(4096, Qt::Uninitialized);
     auto length = uLongf(packed.size());
@@ -443,7 +286,7 @@ TEST_F(ClientTransfers, APackedDownloadEndsWhereItExceedsTheAnnouncedSize)
     EXPECT_EQ(cached(), QStringList());
 }
 
-TEST_F(ClientTransfers, TwoSitesWithOneIdAndOneNameKeepTheirOwnFiles)
+TEST_F(ClientDownloads, TwoSitesWithOneIdAndOneNameKeepTheirOwnFiles)
 {
     server.answer(RawAnswer::http(200, "mine"));
     EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "mine");

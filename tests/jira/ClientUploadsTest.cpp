@@ -1,0 +1,95 @@
+#include "TransferTest.h"
+#include "http/TransportError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Ending = RawAnswer::Ending;
+using ClientUploads = TransferTest;
+
+TEST_F(ClientUploads, FilesGoUpInOneRequest)
+{
+    server.answer(RawAnswer::json(
+        R"([{"id":"7","filename":"note.txt","size":5},{"id":"8","filename":"b"}])"));
+    const auto stored = resultOf(client->uploadAttachments(
+        u"ABC-1"_s, {localFile(u"note \"é\".txt"_s, "salut"), localFile(u"b"_s, {})}));
+    ASSERT_EQ(stored.size(), 2);
+    EXPECT_EQ(stored.first().id, u"7"_s);
+    EXPECT_EQ(stored.last().mimeType, u"application/octet-stream"_s);
+    EXPECT_EQ(stored.last().created, clock.now());
+
+    EXPECT_EQ(asked(), QStringList{u"POST /rest/api/3/issue/ABC-1/attachments"_s});
+    EXPECT_EQ(lastRequest().header("X-Atlassian-Token"), "no-check");
+    EXPECT_EQ(lastRequest().header("Accept"), "application/json");
+    EXPECT_EQ(lastRequest().header("Authorization"), client->credentials().authorizationHeader());
+    const QByteArray type = lastRequest().header("Content-Type");
+    const QByteArray prefix = "multipart/form-data; boundary=";
+    ASSERT_TRUE(type.startsWith(prefix));
+    const QByteArray boundary = type.mid(prefix.size());
+    EXPECT_EQ(lastRequest().body,
+              "--" + boundary +
+                  "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"note 'é'.txt\"\r\n"
+                  "Content-Type: text/plain\r\n\r\nsalut\r\n--" +
+                  boundary +
+                  "\r\nContent-Disposition: form-data; name=\"file\"; filename=\"b\"\r\n"
+                  "Content-Type: application/octet-stream\r\n\r\n\r\n--" +
+                  boundary + "--\r\n");
+}
+
+TEST_F(ClientUploads, AFileThatCannotBeReadStopsTheUploadBeforeARequest)
+{
+    const QUrl missing = QUrl::fromLocalFile(cache.filePath(u"absent.txt"_s));
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a"), missing})),
+              u"Impossible de lire le fichier « absent.txt »."_s);
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {QUrl::fromLocalFile(cache.path())})),
+              u"Impossible de lire le fichier « "_s + QDir(cache.path()).dirName() + u" »."_s);
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(ClientUploads, AFileTooLargeForJira)
+{
+    server.answer(RawAnswer::json(R"({"errorMessages":["too big"]})", 413));
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
+              u"Fichier trop volumineux pour Jira."_s);
+}
+
+TEST_F(ClientUploads, ARefusedUploadKeepsWhatJiraSays)
+{
+    server.answer(RawAnswer::json(R"({"message":"lecture seule"})", 403));
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
+              u"Accès refusé par Jira (403). lecture seule"_s);
+}
+
+TEST_F(ClientUploads, AnUploadReachesTheServerOnce)
+{
+    server.answer(RawAnswer::nothing(Ending::Close));
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")})),
+              TransportError(TransportError::Kind::ConnectionLost).message());
+    EXPECT_EQ(server.journal().size(), 1);
+}
+
+TEST_F(ClientUploads, AStopEndsAnUpload)
+{
+    std::stop_source stop;
+    server.answer(RawAnswer::nothing(Ending::Stall));
+    const TaskResult result(
+        client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}, stop.get_token()));
+    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
+    stop.request_stop();
+    EXPECT_THROW(result.value(), Cancelled);
+    EXPECT_TRUE(runUntil([&] { return server.openConnections() == 0; }));
+}
+
+TEST_F(ClientUploads, AnUploadWithoutAnAnswerEndsInTime)
+{
+    server.answer(RawAnswer::nothing(Ending::Stall));
+    const TaskResult result(client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, "a")}));
+    ASSERT_TRUE(runUntil([&] { return server.journal().size() == 1; }));
+    clock.advance(std::chrono::seconds(299));
+    EXPECT_FALSE(result.isDone()) << "Jira may look long at what it was sent";
+    ASSERT_TRUE(endsByTime(result));
+    EXPECT_THROW(result.value(), TransportError);
+}
+
+} // namespace
