@@ -26,8 +26,8 @@ FormFile readFile(const QUrl &url)
     const QString path = url.toLocalFile();
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
-    // On some systems a folder can be opened too, and reads as an empty file.
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly))
+    // A folder can be opened too on some systems, and a pipe would be waited for without end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
     FormFile result{name, file.readAll()};
     if (file.error() != QFileDevice::NoError)
@@ -84,18 +84,28 @@ bool isAttachment(const HttpAnswer &answer, const Attachment &attachment)
 std::optional<QString> kept(const QString &path, const Attachment &attachment)
 {
     const QFileInfo file(path);
-    const bool isOurs = file.isFile();
+    const bool isOurs = !QFileInfo(file.path()).isSymLink() && !file.isSymLink() && file.isFile();
     return isOurs && attachment.size > 0 && file.size() == attachment.size ? std::optional(path)
                                                                            : std::nullopt;
+}
+
+/// Removes whatever is at the path unless a file can be renamed over it. A link is removed, not what it leads to.
+void makeWay(const QString &target)
+{
+    const QFileInfo folder(QFileInfo(target).path());
+    if (folder.isSymLink())
+        QFile::remove(folder.filePath());
+    QDir().mkpath(folder.filePath());
+    const QFileInfo existing(target);
+    if (existing.isDir() && !existing.isSymLink())
+        QDir(target).removeRecursively();
 }
 
 /// Moves a complete file to its final path and replaces whatever exists there.
 QUrl moveIntoPlace(QTemporaryFile &file, const QString &target)
 {
     std::error_code failed;
-    QDir().mkpath(QFileInfo(target).path());
-    if (QFileInfo(target).isDir())
-        QDir(target).removeRecursively();
+    makeWay(target);
     // `fileName` gives the temporary file a name if it has none yet, which the rename below needs.
     const QString name = file.fileName();
     file.close();

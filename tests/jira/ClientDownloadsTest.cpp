@@ -299,4 +299,36 @@ TEST_F(ClientDownloads, TwoSitesWithOneIdAndOneNameKeepTheirOwnFiles)
     EXPECT_EQ(other.journal().size(), 1);
 }
 
+TEST_F(ClientDownloads, ALinkInTheCacheLeadsToNoDeletionElsewhere)
+{
+    const QUrl precious = localFile(u"precious"_s, "precious");
+    QDir().mkpath(siteFolder() + u"/10"_s);
+    ASSERT_TRUE(QFile::link(cache.path(), siteFolder() + u"/10/rapport.pdf"_s));
+    server.answer(RawAnswer::http(200, "%PDF"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+    EXPECT_EQ(contentOf(precious), "precious");
+}
+
+TEST_F(ClientDownloads, ALinkedFolderInTheCacheIsNotWrittenTo)
+{
+    const QString elsewhere = cache.filePath(u"elsewhere"_s);
+    QDir().mkpath(elsewhere + u"/rapport.pdf/precious"_s);
+    QDir().mkpath(siteFolder());
+    ASSERT_TRUE(QFile::link(elsewhere, siteFolder() + u"/10"_s));
+    server.answer(RawAnswer::http(200, "%PDF"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+    EXPECT_TRUE(QFileInfo::exists(elsewhere + u"/rapport.pdf/precious"_s));
+    EXPECT_FALSE(QFileInfo(siteFolder() + u"/10"_s).isSymLink());
+}
+
+TEST_F(ClientDownloads, ALinkInTheCacheIsNoStoredFile)
+{
+    const QUrl secret = localFile(u"secret"_s, "1234");
+    QDir().mkpath(siteFolder() + u"/10"_s);
+    ASSERT_TRUE(QFile::link(secret.toLocalFile(), siteFolder() + u"/10/rapport.pdf"_s));
+    server.answer(RawAnswer::http(200, "%PDF"));
+    EXPECT_EQ(contentOf(resultOf(client->download(attachment()))), "%PDF");
+    EXPECT_EQ(contentOf(secret), "1234");
+}
+
 } // namespace

@@ -1,6 +1,8 @@
 #include "TransferTest.h"
 #include "http/TransportError.h"
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,6 +92,15 @@ TEST_F(ClientUploads, AnUploadWithoutAnAnswerEndsInTime)
     EXPECT_FALSE(result.isDone()) << "Jira may look long at what it was sent";
     ASSERT_TRUE(endsByTime(result));
     EXPECT_THROW(result.value(), TransportError);
+}
+
+TEST_F(ClientUploads, APipeIsNoFileToUpload)
+{
+    const QString pipe = cache.filePath(u"tube"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {QUrl::fromLocalFile(pipe)})),
+              u"Impossible de lire le fichier « tube »."_s);
+    EXPECT_EQ(server.connections(), 0);
 }
 
 } // namespace
