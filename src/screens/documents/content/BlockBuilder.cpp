@@ -168,7 +168,7 @@ void BlockBuilder::addList(const ADFNode &node, const Surroundings &around)
     const qint64 start = integer(node, u"order"_s).value_or(1);
     const int list = openFrame({.kind = Frame::Kind::List, .isOrdered = isOrdered}, around);
     auto number = quint64(start);
-    double width = bulletWidth;
+    double width = bulletWidth * m_options.textScale;
     if (isOrdered) {
         const auto last =
             qint64(number + quint64(std::max<qsizetype>(childrenOf(node).size(), 1)) - 1);
@@ -341,5 +341,6 @@ double BlockBuilder::markerWidth(qint64 number, const Surroundings &around) cons
     constexpr double dot = 0.3;
     const double size = around.role == TextBlock::Role::Body ? m_options.fontSize : 12;
     const auto digits = QString::number(number).size();
-    return std::max(numberWidth, std::ceil((double(digits) * digit + dot) * size));
+    const double scale = m_options.textScale;
+    return std::max(numberWidth, std::ceil((double(digits) * digit + dot) * size * scale));
 }

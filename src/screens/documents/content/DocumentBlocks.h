@@ -149,6 +149,8 @@ struct BlockOptions
     double spacing = 10;
     /// Of paragraphs, in logical pixels.
     double fontSize = 14;
+    /// The factor of all font sizes, for the widths of markers.
+    double textScale = 1;
     InlineContext context;
     QSet<ExpandKey> open;
 };

@@ -150,6 +150,7 @@ void DocumentCanvas::forgetBlocks()
 
 void DocumentCanvas::makeBlocks()
 {
+    m_options.textScale = m_style->textScale();
     m_shape = std::make_unique<DocumentShape>(DocumentBlocks::of(m_node, m_options), *m_style,
                                               m_options.fontSize);
     if (!m_media.delegate()) {

@@ -84,9 +84,12 @@ void DocumentReader::selectAround(TextPlace place, Unit unit)
 
 void DocumentReader::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_isPressed || !shape())
+    // A finger that moves scrolls.
+    if (!m_isPressed || !shape() || !isFromMouse(*event))
         return;
     const auto place = shape()->hit(event->position()).place;
+    if (!visible().contains(event->position()))
+        reveal(place);
     if (m_unit == Unit::Character) {
         select(m_anchor, place);
     } else {

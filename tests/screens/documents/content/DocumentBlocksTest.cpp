@@ -137,6 +137,15 @@ TEST(DocumentBlocks, MarkersHaveAMinimumWidth)
               18 + BlockMetrics::markerGap);
 }
 
+TEST(DocumentBlocks, MarkersGrowWithTheText)
+{
+    const auto left = [](double scale) {
+        const auto document = ADF::document({listOf(u"orderedList", 1)});
+        return DocumentBlocks::of(document, {.textScale = scale}).flows[0].pieces[0].left;
+    };
+    EXPECT_GE(left(3) - BlockMetrics::markerGap, 3 * 13);
+}
+
 TEST(DocumentBlocks, AnEmptyListItemStillHasItsMarker)
 {
     const auto blocks = blocksOf({ADF::container(u"bulletList", {ADF::plain(u"listItem")})});

@@ -166,3 +166,26 @@ TEST_F(DocumentSelection, IsClearedWhenAnotherItemTakesTheFocus)
     reader->findChild<QQuickItem *>(u"other"_s)->forceActiveFocus();
     EXPECT_EQ(reader->selectedText(), QString());
 }
+
+TEST_F(DocumentSelection, ADragOutOfTheWindowAsksToSeeWhereItIs)
+{
+    show(QList<ADFNode>(60, paragraph(u"texte"_s)));
+    const QSignalSpy revealed(reader, &DocumentReader::revealRequested);
+    QTest::mousePress(&bench.window(), Qt::LeftButton, {}, before(0, 0));
+    QTest::mouseMove(&bench.window(), {100, 300});
+    EXPECT_EQ(revealed.size(), 0);
+    QTest::mouseMove(&bench.window(), {100, 450});
+    ASSERT_EQ(revealed.size(), 1);
+    EXPECT_GT(revealed[0][0].toRectF().bottom(), 400);
+    QTest::mouseRelease(&bench.window(), Qt::LeftButton, {}, {100, 450});
+}
+
+TEST_F(DocumentSelection, AFingerSelectsNothing)
+{
+    show({paragraph(u"un deux trois"_s)});
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    QTest::touchEvent(&bench.window(), finger.get()).press(0, before(0, 0));
+    QTest::touchEvent(&bench.window(), finger.get()).move(0, before(0, 7));
+    QTest::touchEvent(&bench.window(), finger.get()).release(0, before(0, 7));
+    EXPECT_EQ(reader->selectedText(), QString());
+}
