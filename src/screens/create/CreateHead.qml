@@ -22,7 +22,8 @@ Item {
 
         x: Metrics.pageMargin
         anchors.bottom: parent.bottom
-        width: Math.min(implicitWidth, heading.implicitWidth + tail.x - x - 180)
+        // A long name is elided before the heading is.
+        width: Math.min(implicitWidth, tail.x - x - chevron.width - heading.implicitWidth - 3 * Metrics.gap)
         title: root.form.projectTitle
         accessibleName: "Projet : " + title
         placeholder: "Projet…"
