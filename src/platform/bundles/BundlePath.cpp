@@ -1,5 +1,7 @@
 #include "platform/bundles/BundlePath.h"
 
+#include <QByteArrayList>
+
 #include <algorithm>
 
 namespace {

@@ -144,6 +144,13 @@ TEST_F(AppBundlesLinuxTest, ABundleOfAPackageCannotBeReplaced)
     EXPECT_FALSE(running().canReplaceRunning());
 }
 
+TEST_F(AppBundlesLinuxTest, ABundleThatWasMovedCannotBeReplaced)
+{
+    const AppBundlesLinux bundles = running();
+    QFile::rename(installed(), installed() + u".moved"_s);
+    EXPECT_FALSE(bundles.canReplaceRunning());
+}
+
 TEST_F(AppBundlesLinuxTest, ABundleWhoseFolderIsGoneCannotBeReplaced)
 {
     const AppBundlesLinux bundles = running();

@@ -49,7 +49,11 @@ void AppBundlesLinux::verify(const QString &app, const QString &version, const Q
 bool AppBundlesLinux::canReplaceRunning() const
 {
     const QByteArray parent = QFile::encodeName(QFileInfo(m_own.app.path).path());
+    const QByteArray program =
+        QFile::encodeName(m_own.app.path + u'/' + QLatin1StringView(BundleManifest::Program));
+    // A bundle that was moved or deleted while the program runs is not at its place any more.
     return m_own.isBundle && ::access(parent.constData(), W_OK | X_OK) == 0 &&
+           ::access(program.constData(), X_OK) == 0 &&
            !PackageOwner::owns(m_own.app.path, m_dpkgLists);
 }
 
