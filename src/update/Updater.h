@@ -78,7 +78,7 @@ public:
 
     /// `check` for the user, without waiting for it.
     Q_INVOKABLE void checkNow();
-    /// `download` for the release in `state`, without waiting for it; does nothing if `state` has none.
+    /// `download` for the release that is available, without waiting for it; does nothing in another state.
     Q_INVOKABLE void downloadNow();
     /// Stores the notes of the release that is ready, starts the script that installs it and asks the program to end.
     /// Does nothing if no release is ready. If the folder of the program cannot be written or the script cannot be

@@ -70,8 +70,8 @@ QCoro::Task<QString> Updater::prepared(ReleaseInfo release, QUrl address)
 
 void Updater::downloadNow()
 {
-    if (const ReleaseInfo *release = m_state.release())
-        spawn(download(*release));
+    if (const auto *available = std::get_if<State::Available>(&m_state.value()))
+        spawn(download(available->release));
 }
 
 void Updater::installAndRelaunch()

@@ -262,6 +262,20 @@ TEST_F(UpdaterInstallTest, TheUpdaterMayGoDuringADownload)
     EXPECT_FALSE(QFile::exists(work()));
 }
 
+TEST_F(UpdaterInstallTest, AnAvailableReleaseIsDownloadedOnDemand)
+{
+    updater->setAutomaticDownloads(false);
+    updater->downloadNow();
+    EXPECT_EQ(transport.archives.count(), 0);
+    offer(newer());
+    check(Updater::Asker::Timer);
+    offerArchive();
+    updater->downloadNow();
+    EXPECT_TRUE(runUntil([&] { return updater->state().is(Kind::Ready); }));
+    updater->downloadNow();
+    EXPECT_EQ(transport.archives.count(), 1);
+}
+
 TEST_F(UpdaterInstallTest, OnlyOneDownloadRuns)
 {
     const TaskResult<void> first(updater->download(newer()));
