@@ -8,7 +8,9 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -191,6 +193,30 @@ TEST_F(SwapScriptTest, AFileThatCannotBeWrittenCompletelyKeepsTheOldVersion)
     run(script(), u"ulimit -f 100"_s);
     EXPECT_EQ(started(), "old");
     EXPECT_EQ(atTarget(), "old");
+    EXPECT_EQ(besideTarget(), QStringList{u"Velmora.app"_s});
+}
+
+TEST_F(SwapScriptTest, KilledWithItsToolsDuringTheCopyACompleteProgramStays)
+{
+    writeFile(m_source + u"/lib/large"_s, QByteArray(100'000'000, 'x'));
+    writeFile(root.filePath(u"work/install.sh"_s), script());
+    QProcess process;
+    process.setProcessEnvironment(environment());
+    process.setChildProcessModifier([] { ::setsid(); });
+    process.start(u"/bin/sh"_s, {root.filePath(u"work/install.sh"_s)});
+    // On a fast machine the script may have ended before it is killed.
+    EXPECT_TRUE(runUntil([&] {
+        return QFile::exists(m_target + u".previous/lib"_s) || process.state() != QProcess::Running;
+    }));
+    if (process.processId() != 0)
+        ::kill(-pid_t(process.processId()), SIGKILL);
+    EXPECT_TRUE(process.state() == QProcess::NotRunning || process.waitForFinished());
+    const std::string stands = atTarget();
+    EXPECT_TRUE(stands == "old" || stands == "new") << stands;
+
+    QFile::remove(m_source + u"/lib/large"_s);
+    run(script());
+    EXPECT_EQ(atTarget(), "new");
     EXPECT_EQ(besideTarget(), QStringList{u"Velmora.app"_s});
 }
 
