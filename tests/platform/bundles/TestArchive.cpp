@@ -97,7 +97,7 @@ QList<TestEntry> TestArchive::entriesOf(const TestBundle &bundle, const QByteArr
 
 QByteArray TestArchive::inFormat(const char *format, const QList<TestEntry> &entries)
 {
-    QByteArray bytes(1024 * 1024, Qt::Uninitialized);
+    QByteArray bytes(qsizetype(1024) * 1024, Qt::Uninitialized);
     size_t used = 0;
     archive *writer = archive_write_new();
     archive_write_set_format_by_name(writer, format);
