@@ -190,7 +190,7 @@ QString shownAddress(const QString &address)
 
 QString linkToolTip(const QString &text, const QString &address)
 {
-    const QString shown = shownAddress(address);
+    QString shown = shownAddress(address);
     const auto url = openableAddress(address);
     if (!url)
         return u"Velmora n'ouvre pas cette adresse : "_s + shown;
