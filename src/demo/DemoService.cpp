@@ -2,12 +2,19 @@
 
 #include "async/WhileAlive.h"
 #include "demo/DemoEdits.h"
+#include "demo/DemoFiles.h"
 #include "demo/DemoQueries.h"
+#include "demo/DemoWiring.h"
 #include "model/Failure.h"
 #include "model/JiraError.h"
 #include "model/TextFolding.h"
 
+#include <QCoro/QCoroFuture>
+#include <QPromise>
+#include <QThreadPool>
+
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -19,14 +26,36 @@ const QString &host()
     return name;
 }
 
+/// Writes the files of the seed on another thread.
+QFuture<void> startWriting(const QString &folder)
+{
+    // The thread pool needs a function that can be copied.
+    const auto promise = std::make_shared<QPromise<void>>();
+    QFuture<void> future = promise->future();
+    promise->start();
+    QThreadPool::globalInstance()->start([promise, folder] {
+        DemoFiles::write(folder);
+        promise->finish();
+    });
+    return future;
+}
+
+QCoro::Task<> finished(QFuture<void> future)
+{
+    co_await future;
+}
+
 } // namespace
 
 DemoService::DemoService(Clock &clock, const SystemCalendar &calendar, DemoSources sources)
     : m_clock(clock),
       m_calendar(calendar),
       m_sources(std::move(sources)),
-      m_site(DemoSite::from(DemoSeed::make(m_clock.now(), m_calendar.current(), m_sources.newID)))
+      m_site(DemoSite::from(DemoSeed::make(m_clock.now(), m_calendar.current(), m_sources.newID))),
+      m_areSizesMissing(!DemoFiles::isComplete(m_sources.folder))
 {
+    DemoWiring::attach(m_site, DemoFiles::seed(m_sources.folder, m_clock.now()), m_sources.newID);
+    m_files = startWriting(m_sources.folder);
 }
 
 QCoro::Task<> DemoService::pause(std::stop_token stop)
@@ -40,6 +69,21 @@ QCoro::Task<> DemoService::pause(std::stop_token stop)
         // The session of the caller is over, so the operation counts as cancelled.
         throw Cancelled();
     }
+}
+
+/// Ends when the sizes of the seed's files are known: at once, unless they had to be made.
+QCoro::Task<> DemoService::filesWritten()
+{
+    if (!m_areSizesMissing)
+        co_return;
+    try {
+        co_await whileAlive(this, finished(m_files));
+    } catch (const OwnerGone &) {
+        throw Cancelled();
+    }
+    for (QList<Attachment> &attachments : m_site.files)
+        DemoFiles::updateSizes(attachments);
+    m_areSizesMissing = false;
 }
 
 QString DemoService::siteName() const
@@ -96,6 +140,7 @@ QCoro::Task<IssueList> DemoService::search(QString text, std::stop_token stop)
 QCoro::Task<Issue> DemoService::issue(QString key, std::stop_token stop)
 {
     co_await pause(std::move(stop));
+    co_await filesWritten();
     Issue details = DemoQueries::details(m_site, key);
     DemoEdits::opened(m_site, key);
     co_return details;

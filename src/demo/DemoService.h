@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/SystemCalendar.h"
 
+#include <QFuture>
 #include <QObject>
 
 /// A back end in memory: fictitious data behind `IssueService`, without network and account. The user's changes are
@@ -21,7 +22,8 @@ class DemoService final : public QObject, public IssueService
     Q_OBJECT
 
 public:
-    /// Starts with the seed data as of the current time. The clock and the calendar must outlive the service.
+    /// Starts with the seed data as of the current time, and writes the files of its attachments on another thread. The
+    /// pictures are drawn once per machine. The clock and the calendar must outlive the service.
     DemoService(Clock &clock, const SystemCalendar &calendar,
                 DemoSources sources = DemoSources::system());
 
@@ -37,7 +39,8 @@ public:
                                                  std::stop_token stop = {}) override;
     QCoro::Task<IssueList> issues(IssueScope scope, std::stop_token stop = {}) override;
     QCoro::Task<IssueList> search(QString text, std::stop_token stop = {}) override;
-    /// The only operation that changes what `IssueScope::recent` lists.
+    /// The only operation that changes what `IssueScope::recent` lists. When the demo runs for the first time on a
+    /// machine, it ends after the files of the attachments have been written.
     QCoro::Task<Issue> issue(QString key, std::stop_token stop = {}) override;
     QCoro::Task<QList<Comment>> comments(QString key, std::stop_token stop = {}) override;
     QCoro::Task<QList<WorkflowTransition>> transitions(QString key,
@@ -52,8 +55,8 @@ public:
     QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) override;
     /// Also finds the service project's customer, who is not assignable.
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) override;
-    /// Copies the files one after the other. If one fails, nothing is attached, but the copies made before stay on
-    /// disk.
+    /// Copies the files one after the other, on another thread. If one fails, or if a stop was requested meanwhile,
+    /// nothing is attached, but the copies made before stay on disk.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
                                                      std::stop_token stop = {}) override;
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
@@ -62,10 +65,15 @@ public:
 
 private:
     QCoro::Task<> pause(std::stop_token stop);
-    Attachment stored(const QUrl &file) const;
+    QCoro::Task<> filesWritten();
+    QCoro::Task<QList<Attachment>> stored(QList<QUrl> files);
 
     Clock &m_clock;
     const SystemCalendar &m_calendar;
     DemoSources m_sources;
     DemoSite m_site;
+    /// Finishes when the files of the seed are on disk.
+    QFuture<void> m_files;
+    /// True until the sizes of the seed's files are known.
+    bool m_areSizesMissing;
 };

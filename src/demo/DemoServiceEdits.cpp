@@ -1,6 +1,9 @@
+#include "async/OffThread.h"
+#include "async/WhileAlive.h"
 #include "demo/DemoEdits.h"
 #include "demo/DemoFiles.h"
 #include "demo/DemoService.h"
+#include "model/Failure.h"
 
 QCoro::Task<> DemoService::perform(WorkflowTransition transition, QString key, std::stop_token stop)
 {
@@ -43,18 +46,30 @@ QCoro::Task<QString> DemoService::create(IssueDraft draft, std::stop_token stop)
 QCoro::Task<QList<Attachment>> DemoService::uploadAttachments(QString key, QList<QUrl> files,
                                                               std::stop_token stop)
 {
-    co_await pause(std::move(stop));
+    co_await pause(stop);
     QList<Attachment> uploaded;
-    for (const QUrl &file : files)
-        uploaded.append(stored(file));
+    if (!files.isEmpty())
+        uploaded = co_await stored(std::move(files));
+    if (stop.stop_requested())
+        throw Cancelled();
     DemoEdits::attach(m_site, key, uploaded, m_clock.now());
     co_return uploaded;
 }
 
-Attachment DemoService::stored(const QUrl &file) const
+/// Copies the files on another thread, because they may be large.
+QCoro::Task<QList<Attachment>> DemoService::stored(QList<QUrl> files)
 {
-    const QUrl copy = DemoFiles::store(file, m_sources.folder, m_sources.newID());
-    return DemoFiles::attachment(copy, DemoSeed::me(), m_clock.now());
+    QStringList ids;
+    for (qsizetype i = 0; i < files.size(); ++i)
+        ids.append(m_sources.newID());
+    auto copy = [files = std::move(files), ids, folder = m_sources.folder, now = m_clock.now()] {
+        return DemoFiles::storeAll(files, folder, ids, DemoSeed::me(), now);
+    };
+    try {
+        co_return co_await whileAlive(this, offThread(std::move(copy)));
+    } catch (const OwnerGone &) {
+        throw Cancelled();
+    }
 }
 
 QCoro::Task<> DemoService::deleteAttachment(QString id, std::stop_token stop)

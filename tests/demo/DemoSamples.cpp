@@ -1,7 +1,9 @@
 #include "demo/DemoSamples.h"
 
+#include "demo/DemoFiles.h"
 #include "model/JiraError.h"
 
+#include <QTemporaryDir>
 #include <QTimeZone>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +31,16 @@ DemoSeed::NewID countingIDs()
 DemoSeed::Seed testSeed()
 {
     return DemoSeed::make(testNow(), paris(), countingIDs());
+}
+
+QString seededFolder()
+{
+    static const QTemporaryDir folder;
+    static const QString path = [] {
+        DemoFiles::write(folder.path());
+        return folder.path();
+    }();
+    return path;
 }
 
 DemoSources steadySources(const QString &folder)

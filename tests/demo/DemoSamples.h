@@ -21,8 +21,10 @@ QDateTime inParis(int month, int day, int hour, int minute = 0);
 DemoSeed::NewID countingIDs();
 /// The seed as of `testNow`.
 DemoSeed::Seed testSeed();
+/// A folder that contains the files of the seed, so that a demo need not draw them. The same in all tests.
+QString seededFolder();
 /// Sources for which waits always last 80 ms, with counted identifiers and the given folder.
-DemoSources steadySources(const QString &folder = {});
+DemoSources steadySources(const QString &folder = seededFolder());
 
 /// An open issue of project "T" with the given key, changed one hour before `testNow`.
 Issue sampleIssue(const QString &key);

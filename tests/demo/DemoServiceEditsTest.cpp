@@ -1,9 +1,11 @@
 #include "demo/DemoSamples.h"
 #include "model/Failure.h"
+#include "support/RunUntil.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +30,9 @@ protected:
 class DemoUploads : public testing::Test
 {
 protected:
+    // The folder is removed after the last file was written.
+    void TearDown() override { QThreadPool::globalInstance()->waitForDone(); }
+
     QUrl write(const QString &name)
     {
         QFile file(m_folder.filePath(name));
@@ -37,14 +42,23 @@ protected:
     }
     TaskResult<QList<Attachment>> upload(const QList<QUrl> &files)
     {
-        TaskResult<QList<Attachment>> result(m_service.uploadAttachments(key, files));
+        TaskResult<QList<Attachment>> result(
+            m_service->uploadAttachments(key, files, m_stop.get_token()));
         m_clock.advance(std::chrono::milliseconds(80));
+        return result;
+    }
+    /// The same, until the upload has ended.
+    TaskResult<QList<Attachment>> uploaded(const QList<QUrl> &files)
+    {
+        TaskResult<QList<Attachment>> result = upload(files);
+        EXPECT_TRUE(runUntil([&] { return result.isDone(); }));
         return result;
     }
     Issue issue()
     {
-        const TaskResult<Issue> result(m_service.issue(key));
+        const TaskResult<Issue> result(m_service->issue(key));
         m_clock.advance(std::chrono::milliseconds(80));
+        EXPECT_TRUE(runUntil([&] { return result.isDone(); }));
         return result.value();
     }
 
@@ -52,7 +66,9 @@ protected:
     QString m_caches = m_folder.filePath(u"caches"_s);
     ManualClock m_clock;
     ManualCalendar m_calendar;
-    DemoService m_service{m_clock, m_calendar, steadySources(m_caches)};
+    std::stop_source m_stop;
+    std::unique_ptr<DemoService> m_service =
+        std::make_unique<DemoService>(m_clock, m_calendar, steadySources(m_caches));
 };
 
 } // namespace
@@ -140,13 +156,13 @@ TEST_F(DemoUploads, filesAreCopiedAttachedAndDated)
 {
     const QDateTime before = issue().updated;
     const QList<QUrl> files{write(u"a.txt"_s), write(u"b.png"_s)};
-    const QList<Attachment> uploaded = upload(files).value();
-    ASSERT_EQ(uploaded.size(), 2);
-    EXPECT_EQ(uploaded[0].filename, u"a.txt"_s);
-    EXPECT_EQ(uploaded[1].mimeType, u"image/png"_s);
-    EXPECT_EQ(uploaded[0].author, DemoSeed::me());
-    EXPECT_TRUE(uploaded[0].contentURL->toLocalFile().startsWith(m_caches + u'/'));
-    EXPECT_EQ(issue().attachments, uploaded);
+    const QList<Attachment> attached = uploaded(files).value();
+    ASSERT_EQ(attached.size(), 2);
+    EXPECT_EQ(attached[0].filename, u"a.txt"_s);
+    EXPECT_EQ(attached[1].mimeType, u"image/png"_s);
+    EXPECT_EQ(attached[0].author, DemoSeed::me());
+    EXPECT_TRUE(attached[0].contentURL->toLocalFile().startsWith(m_caches + u'/'));
+    EXPECT_EQ(issue().attachments, attached);
     EXPECT_GT(issue().updated, before);
 }
 
@@ -154,7 +170,7 @@ TEST_F(DemoUploads, aFailingFileAttachesNothingThoughEarlierCopiesStay)
 {
     const Issue before = issue();
     const auto result =
-        upload({write(u"a.txt"_s), QUrl::fromLocalFile(m_folder.filePath(u"rien.txt"_s))});
+        uploaded({write(u"a.txt"_s), QUrl::fromLocalFile(m_folder.filePath(u"rien.txt"_s))});
     EXPECT_THROW(result.value(), Failure);
     EXPECT_EQ(issue().attachments, before.attachments);
     EXPECT_EQ(issue().updated, before.updated);
@@ -166,24 +182,50 @@ TEST_F(DemoUploads, aFailingFileAttachesNothingThoughEarlierCopiesStay)
 
 TEST_F(DemoUploads, aRemoteAddressIsNoFile)
 {
-    EXPECT_THROW(upload({QUrl(u"https://exemple.fr/a.txt"_s)}).value(), Failure);
-    EXPECT_FALSE(QDir(m_caches).exists());
+    EXPECT_THROW(uploaded({QUrl(u"https://exemple.fr/a.txt"_s)}).value(), Failure);
+    EXPECT_TRUE(QDir(m_caches).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
 }
 
 TEST_F(DemoUploads, deletedAttachmentIsGoneFromTheIssueAndStaysOnDisk)
 {
-    const QList<Attachment> uploaded = upload({write(u"a.txt"_s), write(u"b.txt"_s)}).value();
+    const QList<Attachment> attached = uploaded({write(u"a.txt"_s), write(u"b.txt"_s)}).value();
     const QDateTime dated = issue().updated;
-    const TaskResult<void> result(m_service.deleteAttachment(uploaded[0].id));
+    const TaskResult<void> result(m_service->deleteAttachment(attached[0].id));
     m_clock.advance(std::chrono::milliseconds(80));
     result.value();
-    EXPECT_EQ(issue().attachments, QList{uploaded[1]});
+    EXPECT_EQ(issue().attachments, QList{attached[1]});
     EXPECT_EQ(issue().updated, dated);
-    EXPECT_TRUE(QFile::exists(uploaded[0].contentURL->toLocalFile()));
+    EXPECT_TRUE(QFile::exists(attached[0].contentURL->toLocalFile()));
 }
 
 TEST_F(DemoUploads, anUploadedFileCanBeDownloaded)
 {
-    const Attachment uploaded = upload({write(u"a.txt"_s)}).value().first();
-    EXPECT_EQ(TaskResult(m_service.download(uploaded)).value(), uploaded.contentURL);
+    const Attachment attached = uploaded({write(u"a.txt"_s)}).value().first();
+    EXPECT_EQ(TaskResult(m_service->download(attached)).value(), attached.contentURL);
+}
+
+TEST_F(DemoUploads, copyingDoesNotBlockTheUserInterface)
+{
+    const TaskResult<QList<Attachment>> result = upload({write(u"a.txt"_s)});
+    // The wait is over, but the copies are made on another thread, whose result arrives through the event loop.
+    EXPECT_FALSE(result.isDone());
+    EXPECT_TRUE(runUntil([&] { return result.isDone(); }));
+    EXPECT_EQ(result.value().size(), 1);
+}
+
+TEST_F(DemoUploads, anUploadThatIsStoppedWhileCopyingAttachesNothing)
+{
+    const TaskResult<QList<Attachment>> result = upload({write(u"a.txt"_s)});
+    m_stop.request_stop();
+    ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
+    EXPECT_THROW(result.value(), Cancelled);
+    EXPECT_TRUE(issue().attachments.isEmpty());
+}
+
+TEST_F(DemoUploads, anUploadEndsWithItsService)
+{
+    const TaskResult<QList<Attachment>> result = upload({write(u"a.txt"_s)});
+    m_service.reset();
+    ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
+    EXPECT_THROW(result.value(), Cancelled);
 }

@@ -18,8 +18,7 @@ struct SteeredDraws
                     largest = limit;
                     return next;
                 },
-                countingIDs(),
-                {}};
+                countingIDs(), seededFolder()};
     }
 };
 
