@@ -288,7 +288,11 @@ protected:
         store().setFocusedKey(u"MOB-1"_s);
         settle();
         press(Qt::Key_J);
-        ASSERT_NE(store().focusedKey(), u"MOB-1"_s) << "the window has gone deaf";
+        const auto *holder = window().activeFocusItem();
+        ASSERT_NE(store().focusedKey(), u"MOB-1"_s)
+            << "the window has gone deaf: the focus is on "
+            << (holder ? holder->metaObject()->className() : "nothing") << ", the issues are "
+            << rowsShown().join(u", "_s).toStdString();
     }
 
     QRandomGenerator random;

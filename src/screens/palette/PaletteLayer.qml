@@ -54,7 +54,18 @@ FocusScope {
         onClicked: logic.close()
     }
 
+    LayerShield {
+        x: panel.x
+        y: panel.y
+        width: panel.width
+        height: panel.height
+        z: 1
+        // The panel takes no press while it fades out.
+        visible: !root.shown
+    }
+
     LatePart {
+        id: panel
         x: (root.width - width) / 2
         y: Metrics.paletteTop
         focus: true

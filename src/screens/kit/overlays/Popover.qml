@@ -36,6 +36,9 @@ T.Popup {
         leavesFocus: root.leavesFocus
         onCloseRequested: root.close()
     }
+    readonly property Item closingShield: ClosingShield {
+        layer: root.layer
+    }
 
     // The items below get their new places after the size of the window has changed.
     readonly property Timer resized: Timer {

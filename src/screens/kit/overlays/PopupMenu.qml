@@ -22,6 +22,9 @@ T.Menu {
         isOpen: false
         onCloseRequested: root.close()
     }
+    readonly property Item closingShield: ClosingShield {
+        layer: root.layer
+    }
     // Declared as properties, because the children of a menu become rows.
     readonly property MenuRows rows: MenuRows {
         id: scroller

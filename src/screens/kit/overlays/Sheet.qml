@@ -22,6 +22,9 @@ T.Popup {
         isOpen: false
         onCloseRequested: root.close()
     }
+    readonly property Item closingShield: ClosingShield {
+        layer: root.layer
+    }
 
     readonly property Item body: Item {
         id: holder
