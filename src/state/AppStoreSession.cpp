@@ -15,6 +15,15 @@ QCoro::Task<> nothingToDo()
     co_return;
 }
 
+/// Tells the user if the token of the last sign-in stays in the keyring, because the next start would use it.
+QCoro::Task<> forgetToken(AppStore *store, QCoro::Task<> removal)
+{
+    const auto removed = co_await whileAlive(store, settled(nullptr, std::move(removal)));
+    if (!removed && !removed.error().isCancellation)
+        store->toast(u"Le token est resté dans le trousseau. "_s + removed.error().message,
+                     u"exclamationmark.triangle.fill"_s, ToastKind::Error);
+}
+
 /// The value of an outcome, or its failure thrown for the caller to show.
 template <typename T>
 T valueOf(const Settled<T> &outcome)
@@ -99,7 +108,7 @@ QCoro::Task<> AppStore::connect(QString site, QString email, QString token)
     if (!isNewest(attempt)) {
         // Another session has begun, or a sign-out came, while the token was being stored.
         if (kept)
-            spawn(m_context.sessions.forget());
+            spawn(forgetToken(this, m_context.sessions.forget()));
         throw Cancelled();
     }
     valueOf(kept);
@@ -111,7 +120,7 @@ QCoro::Task<> AppStore::connect(QString site, QString email, QString token)
 void AppStore::signOut()
 {
     if (!isDemo())
-        spawn(m_context.sessions.forget());
+        spawn(forgetToken(this, m_context.sessions.forget()));
     const Batch batch(*this);
     m_context.preferences.setFlag(DemoModeKey, false);
     endSession();

@@ -54,10 +54,10 @@ public:
     /// Opens a session with the saved credentials, which are not verified.
     virtual QCoro::Task<Saved> restore() = 0;
     /// Opens a session with these credentials, which are neither verified nor saved. Fails with
-    /// `JiraError::InvalidSite`.
+    /// `JiraError::InvalidSite`, and with `Failure` for an e-mail or a token that cannot be one.
     virtual Opened open(const SignIn &signIn) const = 0;
     /// Saves the credentials for the next start. Fails with the message of the system's secret store.
     virtual QCoro::Task<> keep(SignIn signIn) = 0;
-    /// Deletes the token of the last sign-in; never fails.
+    /// Deletes the token of the last sign-in. Fails with the message of the system's secret store.
     virtual QCoro::Task<> forget() = 0;
 };

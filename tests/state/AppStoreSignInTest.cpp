@@ -313,6 +313,31 @@ TEST_F(AppStoreSignInTest, aTokenThatCannotBeDeletedDoesNotHinderTheSignOut)
     EXPECT_EQ(clock.pending(), 0);
 }
 
+TEST_F(AppStoreSignInTest, aTokenThatStaysInTheKeyringIsToldInAToast)
+{
+    answerEverything();
+    const auto done = connect();
+    sessions.forgetCalls.hold();
+    store->signOut();
+    sessions.forgetCalls.last().fail(Failure(u"Le trousseau est verrouillé."_s));
+
+    EXPECT_EQ(store->phase(), Phase::SignedOut);
+    ASSERT_EQ(store->toasts().size(), 1);
+    EXPECT_EQ(store->toasts().last().message,
+              u"Le token est resté dans le trousseau. Le trousseau est verrouillé."_s);
+    EXPECT_EQ(store->toasts().last().kind, ToastKind::Error);
+}
+
+TEST_F(AppStoreSignInTest, aStoreThatGoesDuringASignOutEndsIt)
+{
+    answerEverything();
+    const auto done = connect();
+    sessions.forgetCalls.hold();
+    store->signOut();
+    store.reset();
+    sessions.forgetCalls.last().fail(Failure(u"Le trousseau est verrouillé."_s));
+}
+
 TEST_F(AppStoreSignInTest, aStoreThatGoesDuringASignInEndsIt)
 {
     const auto done = connect();
