@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QUuid>
 
 using namespace Qt::StringLiterals;
@@ -19,25 +20,35 @@ QByteArray encoded(const QImage &image)
     return !image.isNull() && image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
-QUrl stored(const QByteArray &bytes, const QString &name, const QString &parent)
-{
-    const QDir folder(parent + u"/Velmora-"_s +
-                      QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
-    QFile file(folder.filePath(name));
-    if (!folder.mkpath(u"."_s) || !file.open(QFile::WriteOnly) ||
-        file.write(bytes) != bytes.size() || !file.flush())
-        throw Failure(u"La capture n'a pas pu être enregistrée dans « "_s + parent + u" »."_s);
-    return QUrl::fromLocalFile(file.fileName());
-}
+constexpr QFileDevice::Permissions UserOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 } // namespace
+
+CaptureFile::File::~File()
+{
+    QFile::remove(path);
+    QDir().rmdir(QFileInfo(path).path());
+}
+
+CaptureFile CaptureFile::stored(const QByteArray &bytes, const QString &name, const QString &parent)
+{
+    const QString folder =
+        parent + u"/Velmora-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    const bool isMade = QDir().mkdir(folder, UserOnly | QFileDevice::ExeOwner);
+    const CaptureFile capture(folder + u'/' + name);
+    QFile file(capture.m_file->path);
+    if (!isMade || !file.open(QFile::WriteOnly | QFile::NewOnly, UserOnly) ||
+        file.write(bytes) != bytes.size() || !file.flush())
+        throw Failure(u"La capture n'a pas pu être enregistrée dans « "_s + parent + u" »."_s);
+    return capture;
+}
 
 QCoro::Task<QByteArray> CaptureFile::png(QImage image)
 {
     return offThread([image] { return encoded(image); });
 }
 
-QCoro::Task<QUrl> CaptureFile::store(QByteArray bytes, QString name, QString parent)
+QCoro::Task<CaptureFile> CaptureFile::store(QByteArray bytes, QString name, QString parent)
 {
     return offThread([bytes, name, parent] { return stored(bytes, name, parent); });
 }

@@ -72,10 +72,11 @@ QCoro::Task<> AppStore::uploadPasted(QString key)
         co_return;
     }
     const QString name = captureName(m_context.clock.now(), m_context.calendar);
+    // The file is deleted when this coroutine ends.
     const auto file = co_await whileAlive(
         session, settled(nullptr, CaptureFile::store(png, name, QDir::tempPath())));
     if (file)
-        co_await whileAlive(session, upload(key, {*file}));
+        co_await whileAlive(session, upload(key, {file->address()}));
     else
         report(file.error());
 }

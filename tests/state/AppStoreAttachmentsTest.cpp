@@ -188,6 +188,32 @@ TEST_F(AppStoreAttachmentsTest, aPictureOnThePasteboardIsUploadedAsADatedCapture
     EXPECT_EQ(stored.pixelColor(1, 1), QColor(Qt::red));
 }
 
+TEST_F(AppStoreAttachmentsTest, aCaptureIsReadableOnlyByTheUserAndGoesWithTheUpload)
+{
+    for (const bool isRefused : {false, true}) {
+        startWith({});
+        desktop.image = QImage(4, 3, QImage::Format_RGB32);
+        const int before = service->uploadAttachmentsCalls.count();
+        const TaskResult<void> done(store->uploadFromPasteboard(Key));
+        ASSERT_TRUE(
+            QTest::qWaitFor([&] { return service->uploadAttachmentsCalls.count() > before; }));
+        const QFileInfo file(
+            service->uploadAttachmentsCalls.last().argument<1>().value(0).toLocalFile());
+        using Permission = QFileDevice::Permission;
+        constexpr QFileDevice::Permissions user = Permission::ReadOwner | Permission::WriteOwner |
+                                                  Permission::ReadUser | Permission::WriteUser;
+        EXPECT_EQ(file.permissions(), user);
+        EXPECT_EQ(QFileInfo(file.path()).permissions(),
+                  user | Permission::ExeOwner | Permission::ExeUser);
+        if (isRefused)
+            service->uploadAttachmentsCalls.last().fail(Failure(u"non"_s));
+        else
+            service->uploadAttachmentsCalls.last().finish({});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return done.isDone(); }));
+        EXPECT_FALSE(QFileInfo::exists(file.path()));
+    }
+}
+
 TEST_F(AppStoreAttachmentsTest, twoCapturesWithinOneSecondKeepTheirNames)
 {
     startWith({});
