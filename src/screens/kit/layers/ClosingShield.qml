@@ -4,10 +4,10 @@ import Velmora.Kit
 /// Covers a layer that disappears gradually, so that a press on it while it fades out has no effect and does not take
 /// the focus back into it.
 LayerShield {
-    required property Layer layer
+    required property Layer owner
 
-    parent: layer.item
+    parent: owner.item
     anchors.fill: parent
     z: 1000
-    visible: !layer.isOpen
+    visible: !owner.isOpen
 }

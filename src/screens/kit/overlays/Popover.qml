@@ -37,7 +37,7 @@ T.Popup {
         onCloseRequested: root.close()
     }
     readonly property Item closingShield: ClosingShield {
-        layer: root.layer
+        owner: root.layer
     }
 
     // The items below get their new places after the size of the window has changed.

@@ -23,7 +23,7 @@ T.Menu {
         onCloseRequested: root.close()
     }
     readonly property Item closingShield: ClosingShield {
-        layer: root.layer
+        owner: root.layer
     }
     // Declared as properties, because the children of a menu become rows.
     readonly property MenuRows rows: MenuRows {

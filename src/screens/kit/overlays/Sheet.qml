@@ -23,7 +23,7 @@ T.Popup {
         onCloseRequested: root.close()
     }
     readonly property Item closingShield: ClosingShield {
-        layer: root.layer
+        owner: root.layer
     }
 
     readonly property Item body: Item {
