@@ -9,6 +9,7 @@
 #include <QtQml/qqml.h>
 
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -337,9 +338,9 @@ TEST_F(CommentComposerTest, TheChoiceIsSpokenAsTwoRadioButtons)
 TEST_F(CommentComposerTest, PastedFilesAreUploadedAndLinked)
 {
     type(u"Voir"_s);
-    auto *files = new QMimeData;
+    auto files = std::make_unique<QMimeData>();
     files->setUrls({QUrl(u"file:///tmp/a.png"_s)});
-    QGuiApplication::clipboard()->setMimeData(files);
+    QGuiApplication::clipboard()->setMimeData(files.release());
     press(Qt::Key_V, Qt::ControlModifier);
     ASSERT_EQ(written.uploads.count(), 1);
     EXPECT_EQ(text(), u"Voir"_s);
