@@ -79,10 +79,12 @@ class Recap(WindowCase):
         velmora = self.open_demo()
         velmora.scope("Semaine dernière").click()
         velmora.wait_recap(-1, "Semaine dernière")
+        own = set(velmora.keys())
         # The choice is one stop of the Tab key, and the arrow keys choose.
         velmora.tab_to("^Moi$")
         self.session.key("Right")
         velmora.app.find(role="heading", name="^Semaine dernière · Équipe$")
+        wait_until(lambda: set(velmora.keys()) > own, 8, 0.1, "the recap of the team")
         velmora.tab_to("^Copier le récap$")
         self.session.key("Return")
         velmora.app.find(name="^Récap copié$")

@@ -3,7 +3,7 @@ import demo_lists
 from driver import Session, wait_until
 from support import RUN, SCREEN, WindowCase
 
-COMMANDS = ["", "Actualiser", "", "Ouvrir Velmora", "Quitter"]
+COMMANDS = ["", "Nouveau ticket…", "Actualiser", "", "Ouvrir Velmora", "Quitter"]
 
 
 class StatusItem(WindowCase):
