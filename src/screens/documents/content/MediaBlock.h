@@ -2,6 +2,7 @@
 
 #include "model/ADFNode.h"
 
+#include <QObject>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
