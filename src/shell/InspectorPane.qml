@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Detail
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -37,7 +37,7 @@ GlassPanel {
     Repeater {
         model: root.key === "" ? [] : [root.key]
 
-        IssueSummary {
+        IssueDetailView {
             required property string modelData
 
             width: root.width

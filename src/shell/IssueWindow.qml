@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Detail
 import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
@@ -26,7 +26,7 @@ Window {
         onActivated: root.close()
     }
 
-    IssueSummary {
+    IssueDetailView {
         id: summary
         anchors.fill: parent
         focus: true

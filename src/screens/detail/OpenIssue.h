@@ -10,7 +10,7 @@
 
 /// An open issue with the newest known record, kept up to date. The full record is fetched when the issue is opened, or
 /// once there is a session.
-class InspectedIssue : public QObject
+class OpenIssue : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
@@ -40,7 +40,7 @@ class InspectedIssue : public QObject
 
 public:
     using QObject::QObject;
-    ~InspectedIssue() override;
+    ~OpenIssue() override;
 
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);

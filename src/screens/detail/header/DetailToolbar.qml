@@ -1,5 +1,5 @@
 import QtQuick
-import Velmora.Issues
+import Velmora.Detail
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -8,7 +8,7 @@ import Velmora.Theme
 Row {
     id: root
 
-    required property InspectedIssue issue
+    required property OpenIssue issue
     property bool inWindow: false
 
     ToolbarCell {

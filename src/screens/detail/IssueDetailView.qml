@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Detail
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -21,13 +21,13 @@ FocusScope {
 
     signal closed()
 
-    InspectedIssue {
+    OpenIssue {
         id: open
         store: root.store
         key: root.key
     }
 
-    SummaryToolbar {
+    DetailToolbar {
         id: tools
         anchors.right: parent.right
         anchors.rightMargin: Metrics.panelPadding
@@ -120,7 +120,7 @@ FocusScope {
                 Accessible.role: Accessible.Heading
             }
 
-            SummaryChips {
+            PropertiesBar {
                 width: parent.width
                 visible: open.isKnown
                 store: root.store

@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Velmora.Issues
+import Velmora.Detail
 import Velmora.Kit
 import Velmora.Options
 import Velmora.State
@@ -12,7 +12,7 @@ FlowLayout {
     id: root
 
     required property AppStore store
-    required property InspectedIssue issue
+    required property OpenIssue issue
 
     height: implicitHeight
     spacing: Metrics.gap

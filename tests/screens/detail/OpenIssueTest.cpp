@@ -1,11 +1,11 @@
-#include "screens/issues/inspector/InspectedIssue.h"
+#include "screens/detail/OpenIssue.h"
 
 #include "model/JiraError.h"
 #include "state/AppStoreFixture.h"
 
 using namespace Qt::StringLiterals;
 
-class InspectedIssueTest : public AppStoreFixture
+class OpenIssueTest : public AppStoreFixture
 {
 protected:
     void show(const QString &key)
@@ -14,10 +14,10 @@ protected:
         content.setStore(store.get());
     }
 
-    InspectedIssue content;
+    OpenIssue content;
 };
 
-TEST_F(InspectedIssueTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
+TEST_F(OpenIssueTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
 {
     startSession();
     reloadWith({sampleIssue(u"MOB-1"_s)});
@@ -28,7 +28,7 @@ TEST_F(InspectedIssueTest, WhatIsKnownShowsAtOnceAndTheRestIsFetched)
     EXPECT_EQ(service->issueCalls.count(), before + 1);
 }
 
-TEST_F(InspectedIssueTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
+TEST_F(OpenIssueTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
 {
     startSession();
     show(u"WEB-7"_s);
@@ -39,7 +39,7 @@ TEST_F(InspectedIssueTest, AnUnknownIssueIsNamedByItsKeyUntilItIsFetched)
     EXPECT_EQ(content.title(), u"WEB-7 – Résumé de WEB-7"_s);
 }
 
-TEST_F(InspectedIssueTest, ARefusalIsTold)
+TEST_F(OpenIssueTest, ARefusalIsTold)
 {
     startSession();
     show(u"WEB-7"_s);
@@ -47,7 +47,7 @@ TEST_F(InspectedIssueTest, ARefusalIsTold)
     EXPECT_FALSE(content.errorText().isEmpty());
 }
 
-TEST_F(InspectedIssueTest, AfterARefusalItCanBeFetchedAgain)
+TEST_F(OpenIssueTest, AfterARefusalItCanBeFetchedAgain)
 {
     startSession();
     show(u"WEB-7"_s);
@@ -58,7 +58,7 @@ TEST_F(InspectedIssueTest, AfterARefusalItCanBeFetchedAgain)
     EXPECT_EQ(content.errorText(), QString());
 }
 
-TEST_F(InspectedIssueTest, BeforeASessionItWaits)
+TEST_F(OpenIssueTest, BeforeASessionItWaits)
 {
     show(u"WEB-7"_s);
     EXPECT_EQ(service->issueCalls.count(), 0);

@@ -1,4 +1,4 @@
-#include "screens/issues/inspector/InspectedIssue.h"
+#include "screens/detail/OpenIssue.h"
 
 #include "async/Spawn.h"
 #include "model/OneLineText.h"
@@ -6,12 +6,12 @@
 
 using namespace Qt::StringLiterals;
 
-InspectedIssue::~InspectedIssue()
+OpenIssue::~OpenIssue()
 {
     m_stop.request_stop();
 }
 
-void InspectedIssue::setStore(AppStore *store)
+void OpenIssue::setStore(AppStore *store)
 {
     if (m_store == store)
         return;
@@ -21,17 +21,17 @@ void InspectedIssue::setStore(AppStore *store)
     if (m_store) {
         for (const auto change : {&AppStore::issuesChanged, &AppStore::detailsChanged,
                                   &AppStore::myOpenIssuesChanged, &AppStore::projectsChanged})
-            connect(m_store, change, this, &InspectedIssue::update);
-        connect(m_store, &AppStore::nowChanged, this, &InspectedIssue::changed);
-        connect(m_store, &AppStore::calendarChanged, this, &InspectedIssue::changed);
-        connect(m_store, &AppStore::detailErrorsChanged, this, &InspectedIssue::changed);
-        connect(m_store, &AppStore::phaseChanged, this, &InspectedIssue::load);
+            connect(m_store, change, this, &OpenIssue::update);
+        connect(m_store, &AppStore::nowChanged, this, &OpenIssue::changed);
+        connect(m_store, &AppStore::calendarChanged, this, &OpenIssue::changed);
+        connect(m_store, &AppStore::detailErrorsChanged, this, &OpenIssue::changed);
+        connect(m_store, &AppStore::phaseChanged, this, &OpenIssue::load);
     }
     Q_EMIT storeChanged();
     begin();
 }
 
-void InspectedIssue::setKey(const QString &key)
+void OpenIssue::setKey(const QString &key)
 {
     if (m_key == key)
         return;
@@ -40,13 +40,13 @@ void InspectedIssue::setKey(const QString &key)
     begin();
 }
 
-void InspectedIssue::begin()
+void OpenIssue::begin()
 {
     update();
     load();
 }
 
-void InspectedIssue::load()
+void OpenIssue::load()
 {
     m_stop.request_stop();
     m_stop = std::stop_source();
@@ -54,7 +54,7 @@ void InspectedIssue::load()
         spawn(m_store->loadDetails(m_key, m_stop.get_token()));
 }
 
-void InspectedIssue::update()
+void OpenIssue::update()
 {
     const auto known = m_store ? m_store->issue(m_key) : std::nullopt;
     const Issue issue = known ? withOneLineTexts(**known) : Issue();
@@ -66,44 +66,44 @@ void InspectedIssue::update()
     Q_EMIT changed();
 }
 
-QString InspectedIssue::errorText() const
+QString OpenIssue::errorText() const
 {
     return m_store && !isKnown() ? m_store->detailErrors().value(m_key) : QString();
 }
 
-QString InspectedIssue::title() const
+QString OpenIssue::title() const
 {
     return isKnown() ? m_key + u" – "_s + m_issue.summary : m_key;
 }
 
-QString InspectedIssue::projectName() const
+QString OpenIssue::projectName() const
 {
     return m_project ? m_project->name : m_key.section(u'-', 0, 0);
 }
 
-QString InspectedIssue::priorityTitle() const
+QString OpenIssue::priorityTitle() const
 {
     return m_issue.priority ? m_issue.priority->displayName() : displayName(PriorityLevel::None);
 }
 
-QString InspectedIssue::assigneeTitle() const
+QString OpenIssue::assigneeTitle() const
 {
     return m_issue.assignee ? m_issue.assignee->name : u"Non assigné"_s;
 }
 
-QString InspectedIssue::labelsTitle() const
+QString OpenIssue::labelsTitle() const
 {
     return m_issue.labels.isEmpty() ? u"Étiquettes"_s : m_issue.labels.join(u", "_s);
 }
 
-QString InspectedIssue::dueTitle() const
+QString OpenIssue::dueTitle() const
 {
     return m_store && m_issue.dueDate
                ? dueLabel(*m_issue.dueDate, m_store->now(), m_store->calendar())
                : QString();
 }
 
-void InspectedIssue::run(Commands::Command command)
+void OpenIssue::run(Commands::Command command)
 {
     if (m_store)
         m_store->run(command, keys());
