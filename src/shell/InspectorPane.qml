@@ -15,6 +15,9 @@ GlassPanel {
     // The key of the open issue. While the pane closes, the key of the issue that was open last.
     property string key: ""
 
+    // The user has finished typing, and the list should have the keys again.
+    signal finished()
+
     function follow() {
         key = store.inspectorKey || key;
     }
@@ -45,6 +48,7 @@ GlassPanel {
             store: root.store
             key: modelData
             onClosed: root.store.showInspector = false
+            onFinished: root.finished()
         }
     }
 }

@@ -3,18 +3,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Detail
 import Velmora.Kit
+import Velmora.Palette
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// One issue in a window of its own.
+// One issue in a window of its own, with its palette and the toasts.
 Window {
     id: root
 
     required property AppStore store
     required property string key
 
-    title: summary.title
+    title: detail.title
     width: 760
     height: 820
     minimumWidth: 520
@@ -26,25 +27,68 @@ Window {
         onActivated: root.close()
     }
 
-    IssueDetailView {
-        id: summary
+    FocusScope {
+        id: content
+
         anchors.fill: parent
         focus: true
-        inWindow: true
-        store: root.store
-        key: root.key
 
         Layer {
-            item: summary
+            item: content
             isOpen: true
             kind: Layer.Kind.Content
-            onCloseRequested: root.close()
+            // While the user types, Escape only leaves the field.
+            closesOnEscape: false
+        }
+
+        KeyMonitorModifier {
+            handler: KeyMonitor {
+                window: root
+                store: root.store
+                commands: menus.commands
+            }
+        }
+
+        IssueDetailView {
+            id: detail
+            anchors.fill: parent
+            focus: true
+            inWindow: true
+            store: root.store
+            key: root.key
+            onClosed: root.close()
         }
     }
 
-    MenuBarLayer {
+    PaletteLayer {
+        id: palette
         anchors.fill: parent
         store: root.store
         issueKey: root.key
+    }
+
+    ToastStack {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        // The main window shows them as well, and need not be seen twice.
+        visible: root.active
+        toasts: root.store.toasts
+        bottomGap: Metrics.toastBottom
+        onDismissed: id => root.store.dismissToast(id)
+    }
+
+    MenuBarLayer {
+        id: menus
+        anchors.fill: parent
+        store: root.store
+        issueKey: root.key
+    }
+
+    Connections {
+        target: menus.commands
+
+        function onPaletteRequested(command) {
+            palette.request(command);
+        }
     }
 }

@@ -21,13 +21,10 @@ bool isPressed(const QQuickItem &control, int key)
     return (isActivation(key) || key == Qt::Key_Space) && control.property("visualFocus").toBool();
 }
 
-bool isInWalkedList(const QQuickItem &row)
+bool isScrolling(int key)
 {
-    // A list forwards the focus to its current row.
-    const QQuickItem *item = &row;
-    while (item && !OwnKeys::walksRows(*item))
-        item = item->parentItem();
-    return item != nullptr;
+    return key == Qt::Key_PageUp || key == Qt::Key_PageDown || key == Qt::Key_Home ||
+           key == Qt::Key_End;
 }
 
 } // namespace
@@ -43,11 +40,13 @@ bool KeyMonitor::takes(const QKeyEvent &event)
 bool KeyMonitor::repeats(const QKeyEvent &event) const
 {
     const auto command = route(KeyPress::from(event));
-    return command && isMovement(*command);
+    return !m_commands && command && isMovement(*command);
 }
 
 bool KeyMonitor::give(const KeyPress &press)
 {
+    if (m_commands)
+        return m_commands->runKey(press);
     const auto command = route(press);
     const auto before = m_store->focusedKey();
     const bool isTaken = m_store->handleKey(press);
@@ -64,5 +63,6 @@ bool KeyMonitor::isLeftToFocusItem(int key) const
     if (!item)
         return false;
     const bool isWalking = isActivation(key) || key == Qt::Key_Up || key == Qt::Key_Down;
-    return isPressed(*item, key) || (isWalking && isInWalkedList(*item));
+    return isPressed(*item, key) || (isWalking && OwnKeys::isInWalkedList(*item)) ||
+           (isScrolling(key) && OwnKeys::isInScrolledPage(*item));
 }

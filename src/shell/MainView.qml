@@ -136,6 +136,14 @@ FocusScope {
         height: root.height - 2 * Metrics.paneMargin
         shown: root.store.showInspector || root.inspectorPresence > 0
         onWanted: setSource("InspectorPane.qml", { store: root.store })
+
+        Connections {
+            target: inspector.item
+
+            function onFinished() {
+                issues.focusIssues();
+            }
+        }
     }
 
     Behavior on inspectorPresence {

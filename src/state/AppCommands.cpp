@@ -1,5 +1,6 @@
 #include "state/AppCommands.h"
 
+#include "commands/KeyRouting.h"
 #include "commands/ShortcutKey.h"
 #include "platform/Wording.h"
 
@@ -20,6 +21,12 @@ bool isOfIssueWindows(Command command)
     case Command::CopyBranch:
     case Command::CopyLink:
     case Command::OpenInBrowser:
+    case Command::PickStatus:
+    case Command::PickPriority:
+    case Command::PickAssignee:
+    case Command::PickLabels:
+    case Command::AssignToMe:
+    case Command::TogglePalette:
         return true;
     default:
         return false;
@@ -55,17 +62,28 @@ void AppCommands::run(int command)
 
 bool AppCommands::runShortcut(const KeyPress &press)
 {
-    const auto command = shortcutCommand(press);
-    if (!command || !isEnabled(*command))
-        return false;
-    carryOut(*command);
-    return true;
+    return runOffered(shortcutCommand(press));
+}
+
+bool AppCommands::runKey(const KeyPress &press)
+{
+    return runOffered(route(press));
+}
+
+bool AppCommands::runOffered(std::optional<Command> command)
+{
+    const bool isOffered = command && isEnabled(*command);
+    if (isOffered)
+        carryOut(*command);
+    return isOffered;
 }
 
 void AppCommands::carryOut(Command command)
 {
     if (m_issueKey.isEmpty())
         m_store->run(command);
+    else if (command == Command::TogglePalette || pickerOf(command))
+        Q_EMIT paletteRequested(command);
     else
         m_store->run(command, QStringList(m_issueKey));
 }

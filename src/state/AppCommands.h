@@ -67,12 +67,18 @@ public:
     /// Carries out the command whose shortcut was pressed. False if there is none, or if it is not available in this
     /// window or disabled.
     bool runShortcut(const KeyPress &press);
+    /// The same for the keys of the window's content, such as "S".
+    bool runKey(const KeyPress &press);
 
 Q_SIGNALS:
     void storeChanged();
     void changed();
+    /// In the window of an issue: its palette should open with the commands (`TogglePalette`, which also closes it), or
+    /// with a picker. In the main window the store knows what the palette shows.
+    void paletteRequested(Commands::Command command);
 
 private:
+    bool runOffered(std::optional<Command> command);
     CommandEntry entry(Command command) const;
     QList<CommandEntry> entries(CommandGroup group) const;
     bool isEnabled(Command command) const;

@@ -30,10 +30,8 @@ protected:
     /// The focus is on the sidebar's list, or on one of its rows.
     bool isInSidebar()
     {
-        const QQuickItem *item = window().activeFocusItem();
-        while (item && !OwnKeys::walksRows(*item))
-            item = item->parentItem();
-        return item != nullptr;
+        const auto *item = window().activeFocusItem();
+        return item && OwnKeys::isInWalkedList(*item);
     }
     QRect row() { return await(QAccessible::ListItem, u"MOB-1,"_s).box; }
     QRect inspector() { return await(QAccessible::Pane, u"Inspecteur"_s).box; }

@@ -99,6 +99,8 @@ protected:
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return spokenIn(named, QAccessible::MenuItem).isEmpty(); }));
         keys.removeDuplicates();
+        // It is typed into a comment.
+        keys.removeAll(u"@"_s);
         return keys;
     }
 
@@ -107,9 +109,11 @@ protected:
     {
         const auto text = [](const std::optional<QString> &key) { return key.value_or(u"-"_s); };
         QStringList windows;
-        for (const auto *each : QGuiApplication::topLevelWindows()) {
+        for (auto *each : QGuiApplication::topLevelWindows()) {
             if (each->isVisible() && !each->title().isEmpty())
                 windows += each->title();
+            if (auto *shown = qobject_cast<QQuickWindow *>(each); shown && hasDialog(*shown))
+                windows += each->title() + u" with a dialog"_s;
         }
         windows.sort();
         const QList<qsizetype> counts{desktop->copied.size(),
@@ -127,8 +131,15 @@ protected:
         return parts.join(u'|');
     }
 
+    static bool hasDialog(QQuickWindow &in)
+    {
+        return !spokenIn(in, QAccessible::Dialog).isEmpty();
+    }
+
     void restore(LayoutMode layout)
     {
+        if (auto *issue = app->scenes().issueWindow(u"MOB-3"_s); issue && hasDialog(*issue))
+            QTest::keyClick(issue, Qt::Key_Escape);
         if (auto *settings = app->scenes().settingsWindow())
             settings->close();
         store().closePalette();
@@ -186,9 +197,8 @@ TEST_F(WindowKeys, AllThatAnIssueWindowNamesWorkThere)
 {
     auto &issue = issueWindow(u"MOB-3"_s);
     const QStringList keys = keysNamedIn(issue);
-    for (const QString &key : {u"Ctrl+R"_s, u"Ctrl+,"_s, u"Ctrl+Q"_s, u"Ctrl+Maj+O"_s})
+    for (const QString &key : {u"Ctrl+K"_s, u"Ctrl+R"_s, u"Ctrl+,"_s, u"Ctrl+Q"_s, u"Ctrl+Maj+O"_s})
         EXPECT_TRUE(keys.contains(key)) << key.toStdString();
-    EXPECT_FALSE(keys.contains(u"Ctrl+K"_s)) << "the palette shows in the main window alone";
     expectAllWork(keys, issue);
 }
 

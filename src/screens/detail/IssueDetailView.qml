@@ -1,12 +1,14 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Composer
 import Velmora.Detail
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// An open issue: its project, its title and its properties. It is shown in the inspector, or fills a window.
+/// An issue in full: its properties, its texts, its comments and the box for the next one. It is shown in the inspector,
+/// or fills a window. All edits go to the store.
 FocusScope {
     id: root
 
@@ -14,12 +16,33 @@ FocusScope {
     required property string key
     property bool inWindow: false
     readonly property string title: open.title
-    // The top and the height of the breadcrumb, and the space between its parts.
-    readonly property int crumbTop: 46
-    readonly property int crumbHeight: 36
-    readonly property int crumbGap: 7
+    // The height of the toolbar with the space above it.
+    readonly property int headHeight: inWindow ? 52 : 40
+    readonly property int crumbMargin: Metrics.gapMedium
 
+    /// The issue should be closed.
     signal closed()
+    /// Beside the list: the user has finished typing, and the list should have the keys again.
+    signal finished()
+
+    // Escape and a finished title first leave the field, and only then the issue.
+    function leave() {
+        if (!inWindow)
+            finished();
+        else if (page.isAtRest)
+            closed();
+        else
+            page.rest();
+    }
+
+    function show(key: string) {
+        open.openOther(key);
+        // Beside its window, the inspector may be out of sight.
+        if (inWindow)
+            root.store.run(Commands.Command.OpenWindow, [key]);
+    }
+
+    Keys.onEscapePressed: leave()
 
     OpenIssue {
         id: open
@@ -27,111 +50,65 @@ FocusScope {
         key: root.key
     }
 
+    WindowTitle {
+        x: Metrics.pageMargin
+        y: (root.headHeight - height) / 2
+        width: tools.x - x - Metrics.gapLarge
+        visible: root.inWindow && open.isKnown
+        issue: open
+    }
+
     DetailToolbar {
         id: tools
         anchors.right: parent.right
         anchors.rightMargin: Metrics.panelPadding
-        y: Metrics.gapSmall
+        y: (root.headHeight - height) / 2
         visible: open.isKnown
         inWindow: root.inWindow
         issue: open
     }
 
-    GlassPanel {
-        id: crumb
-        x: Metrics.gapMedium
-        y: root.crumbTop
+    IssueHeader {
+        id: header
+        x: root.crumbMargin
+        y: root.headHeight + Metrics.gapSmall
         width: parent.width - 2 * x
-        height: root.crumbHeight
-        shadow: "capsule"
-        color: Theme.glass
-
-        Row {
-            x: Metrics.gapLarge
-            height: parent.height
-            spacing: root.crumbGap
-
-            When {
-                shown: open.hasProject
-
-                ProjectBadge {
-                    y: (crumb.height - height) / 2
-                    project: open.project
-                    Accessible.ignored: true
-                }
-            }
-
-            AppText {
-                anchors.verticalCenter: parent.verticalCenter
-                text: open.projectName
-            }
-
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "chevron.right"
-                size: 9
-                weight: "semibold"
-                color: Theme.text2
-            }
-
-            AppText {
-                anchors.verticalCenter: parent.verticalCenter
-                weight: Font.Medium
-                tabular: true
-                text: root.key
-            }
-        }
-
-        IconButton {
-            visible: !root.inWindow
-            anchors.right: parent.right
-            anchors.rightMargin: Metrics.gapSmall
-            anchors.verticalCenter: parent.verticalCenter
-            name: "Fermer l'inspecteur"
-            hint: Hints.close
-            symbol: "xmark"
-            symbolWeight: "semibold"
-            onClicked: root.closed()
-        }
+        visible: open.isKnown || !root.inWindow
+        inWindow: root.inWindow
+        issue: open
+        onClosed: root.closed()
+        onChosen: key => root.show(key)
     }
 
-    Flickable {
-        id: content
-
-        anchors.top: crumb.bottom
-        anchors.bottom: parent.bottom
+    IssuePage {
+        id: page
+        anchors.top: header.bottom
+        anchors.topMargin: Metrics.gapTiny
+        anchors.bottom: composer.top
+        anchors.bottomMargin: Metrics.gapTiny
         width: parent.width
-        contentHeight: page.implicitHeight + 2 * Metrics.gap
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
-
-        Column {
-            id: page
-            x: Metrics.pageMargin
-            y: Metrics.gap
-            width: parent.width - 2 * x
-            spacing: Metrics.gapSection
-
-            AppText {
-                width: parent.width
-                role: TypeScale.Title1
-                wrapMode: Text.Wrap
-                text: open.issue.summary
-                Accessible.role: Accessible.Heading
-            }
-
-            PropertiesBar {
-                width: parent.width
-                visible: open.isKnown
-                store: root.store
-                issue: open
-            }
-        }
+        visible: open.isKnown
+        focus: true
+        store: root.store
+        issue: open
+        ground: root.inWindow ? Theme.content : Theme.inspector
+        onFinished: root.leave()
+        onChosen: key => root.show(key)
     }
 
-    Scrolling {
-        view: content
-        ground: root.inWindow ? Theme.content : Theme.inspector
+    CommentComposer {
+        id: composer
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Metrics.gapLarge
+        x: 16
+        width: parent.width - 2 * x
+        visible: open.isKnown
+        composition: IssueComposition {
+            store: root.store
+            issueKey: root.key
+            projectKey: open.projectKey
+            allowsInternal: open.isServiceDesk
+        }
     }
 
     When {

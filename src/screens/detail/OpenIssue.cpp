@@ -3,6 +3,7 @@
 #include "async/Spawn.h"
 #include "model/OneLineText.h"
 #include "model/dates/DateLabels.h"
+#include "model/dates/DueDates.h"
 
 using namespace Qt::StringLiterals;
 
@@ -83,7 +84,7 @@ QString OpenIssue::projectName() const
 
 QString OpenIssue::priorityTitle() const
 {
-    return m_issue.priority ? m_issue.priority->displayName() : displayName(PriorityLevel::None);
+    return m_issue.priority ? m_issue.priority->displayName() : u"Priorité"_s;
 }
 
 QString OpenIssue::assigneeTitle() const
@@ -93,18 +94,63 @@ QString OpenIssue::assigneeTitle() const
 
 QString OpenIssue::labelsTitle() const
 {
-    return m_issue.labels.isEmpty() ? u"Étiquettes"_s : m_issue.labels.join(u", "_s);
+    const auto &labels = m_issue.labels;
+    if (labels.isEmpty())
+        return u"Étiquettes"_s;
+    if (labels.size() <= 2)
+        return labels.join(u", "_s);
+    return labels.front() + u" +"_s + QString::number(labels.size() - 1);
 }
 
 QString OpenIssue::dueTitle() const
 {
     return m_store && m_issue.dueDate
                ? dueLabel(*m_issue.dueDate, m_store->now(), m_store->calendar())
-               : QString();
+               : u"Échéance"_s;
+}
+
+bool OpenIssue::isOverdue() const
+{
+    return m_store && ::isOverdue(m_issue, m_store->calendar().day(m_store->now()));
+}
+
+QString OpenIssue::dueDay() const
+{
+    return m_issue.dueDate ? m_issue.dueDate->toString(Qt::ISODate) : today();
+}
+
+QString OpenIssue::today() const
+{
+    return m_store ? m_store->calendar().day(m_store->now()).toString(Qt::ISODate) : QString();
+}
+
+IssueType OpenIssue::parentType() const
+{
+    return hasParentType() ? *m_issue.parent->type : IssueType();
 }
 
 void OpenIssue::run(Commands::Command command)
 {
     if (m_store)
         m_store->run(command, keys());
+}
+
+void OpenIssue::rename(const QString &title)
+{
+    const QString wanted = title.trimmed();
+    if (m_store && isKnown() && !wanted.isEmpty() && wanted != m_issue.summary)
+        m_store->rename(m_key, wanted);
+}
+
+void OpenIssue::setDueDay(const QString &day)
+{
+    const auto date = QDate::fromString(day, Qt::ISODate);
+    if (m_store && isKnown())
+        m_store->setDueDate(date.isValid() ? std::optional(date) : std::nullopt, m_key);
+}
+
+void OpenIssue::openOther(const QString &key)
+{
+    if (m_store)
+        m_store->openInInspector(key);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/detail/subissues/SubIssue.h"
 #include "state/AppStore.h"
 
 #include <QObject>
@@ -30,13 +31,26 @@ class OpenIssue : public QObject
     Q_PROPERTY(Project project READ project NOTIFY changed FINAL)
     /// The project's name or, if it is unknown, the part of the key before the dash.
     Q_PROPERTY(QString projectName READ projectName NOTIFY changed FINAL)
+    Q_PROPERTY(QString projectKey READ projectKey NOTIFY changed FINAL)
+    Q_PROPERTY(bool isServiceDesk READ isServiceDesk NOTIFY changed FINAL)
+    /// The parent of the issue; empty without one.
+    Q_PROPERTY(QString parentKey READ parentKey NOTIFY changed FINAL)
+    Q_PROPERTY(QString parentSummary READ parentSummary NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasParentType READ hasParentType NOTIFY changed FINAL)
+    Q_PROPERTY(IssueType parentType READ parentType NOTIFY changed FINAL)
+    Q_PROPERTY(QList<SubIssue> subIssues READ subIssues NOTIFY changed FINAL)
     /// The titles of the chips.
     Q_PROPERTY(QString statusTitle READ statusTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString priorityTitle READ priorityTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString assigneeTitle READ assigneeTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString labelsTitle READ labelsTitle NOTIFY changed FINAL)
-    /// Empty without a due date.
+    /// The due date in words, or the name of the property without one.
     Q_PROPERTY(QString dueTitle READ dueTitle NOTIFY changed FINAL)
+    /// The due date is before today and the issue is not closed.
+    Q_PROPERTY(bool isOverdue READ isOverdue NOTIFY changed FINAL)
+    /// The due date, or today without one, and today: texts such as "2026-10-31".
+    Q_PROPERTY(QString dueDay READ dueDay NOTIFY changed FINAL)
+    Q_PROPERTY(QString today READ today NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;
@@ -54,16 +68,32 @@ public:
     bool hasProject() const { return m_project.has_value(); }
     Project project() const { return m_project.value_or(Project()); }
     QString projectName() const;
+    const QString &projectKey() const { return m_issue.projectKey; }
+    bool isServiceDesk() const { return m_project && m_project->isServiceDesk; }
+    QString parentKey() const { return m_issue.parent ? m_issue.parent->key : QString(); }
+    QString parentSummary() const { return m_issue.parentSummary(); }
+    bool hasParentType() const { return m_issue.parent && m_issue.parent->type; }
+    IssueType parentType() const;
+    QList<SubIssue> subIssues() const { return ::subIssues(m_issue.subtasks); }
     QString statusTitle() const { return m_issue.status.displayName(); }
     QString priorityTitle() const;
     QString assigneeTitle() const;
     QString labelsTitle() const;
     QString dueTitle() const;
+    bool isOverdue() const;
+    QString dueDay() const;
+    QString today() const;
 
     /// Fetches the issue. Does nothing without a session. A change to another issue cancels the fetch.
     Q_INVOKABLE void load();
     /// Carries out a command on it.
     Q_INVOKABLE void run(Commands::Command command);
+    /// Changes the title. A text without words changes nothing.
+    Q_INVOKABLE void rename(const QString &title);
+    /// Sets the due date to a day such as "2026-10-31"; an empty text clears it.
+    Q_INVOKABLE void setDueDay(const QString &day);
+    /// Focuses another issue and shows it in the inspector.
+    Q_INVOKABLE void openOther(const QString &key);
 
 Q_SIGNALS:
     void storeChanged();

@@ -1,13 +1,27 @@
 #include "screens/palette/CommandPalette.h"
 
 #include "commands/PickerWords.h"
+#include "commands/CommandTable.h"
 #include "platform/Wording.h"
+#include "state/AppCommands.h"
 #include "state/palette/PaletteIssues.h"
 #include "state/palette/PaletteTexts.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Whether the palette of an issue's window has the row: an option of a picker, an issue, or a command of such windows.
+bool isOfIssueWindows(const OptionItem &item)
+{
+    const auto *run = std::get_if<OptionAction::RunCommand>(&item.run.value);
+    const bool isScope = std::holds_alternative<OptionAction::Select>(item.run.value);
+    return run ? issueKeyOf(item) || ::isOfIssueWindows(run->command) : !isScope;
+}
+
+} // namespace
 
 CommandPalette::CommandPalette(QObject *parent) : KeyHandler(parent)
 {
@@ -47,13 +61,45 @@ void CommandPalette::connectStore()
         connect(m_store, change, this, &CommandPalette::refresh);
 }
 
+void CommandPalette::setIssueKey(const QString &key)
+{
+    if (std::exchange(m_issueKey, key) == key)
+        return;
+    Q_EMIT issueKeyChanged();
+    if (m_store)
+        followPalette();
+}
+
+const std::optional<PaletteMode> &CommandPalette::mode() const
+{
+    return m_issueKey.isEmpty() ? m_store->palette() : m_ownMode;
+}
+
+void CommandPalette::setMode(const std::optional<PaletteMode> &mode)
+{
+    if (m_issueKey.isEmpty()) {
+        m_store->setPalette(mode);
+    } else if (m_ownMode != mode) {
+        m_ownMode = mode;
+        followPalette();
+    }
+}
+
+void CommandPalette::request(Command command)
+{
+    if (const auto kind = pickerOf(command))
+        setMode(PaletteMode::picker(*kind, {m_issueKey}));
+    else
+        setMode(m_ownMode ? std::nullopt : std::optional(PaletteMode::root()));
+}
+
 void CommandPalette::followPalette()
 {
-    if (const auto mode = m_store->palette())
+    if (const auto mode = this->mode())
         begin(*mode);
     else
         m_remote.clear();
-    setIsOpen(m_store->palette().has_value());
+    setIsOpen(mode().has_value());
 }
 
 void CommandPalette::begin(const PaletteMode &mode)
@@ -83,12 +129,28 @@ void CommandPalette::setIsOpen(bool open)
 
 void CommandPalette::listRows()
 {
-    if (!m_store || !m_store->palette())
+    if (!m_store || !mode())
         return;
     const auto *picker = m_mode.asPicker();
-    m_capsules = keyCapsules(picker ? picker->keys : m_store->actionTargets());
-    m_rows = paletteRows(m_sources.sections(*m_store, m_mode, m_query, m_remote.found()));
+    m_capsules = keyCapsules(picker ? picker->keys : targets());
+    m_rows = paletteRows(sections());
     Q_EMIT updated();
+}
+
+QStringList CommandPalette::targets() const
+{
+    return m_issueKey.isEmpty() ? m_store->actionTargets() : QStringList(m_issueKey);
+}
+
+QList<PaletteSection> CommandPalette::sections()
+{
+    auto sections = m_sources.sections(*m_store, {m_mode, targets()}, m_query, m_remote.found());
+    if (m_issueKey.isEmpty())
+        return sections;
+    for (auto &section : sections)
+        section.items.removeIf([](const OptionItem &item) { return !isOfIssueWindows(item); });
+    sections.removeIf([](const PaletteSection &section) { return section.items.isEmpty(); });
+    return sections;
 }
 
 void CommandPalette::refresh()
@@ -178,11 +240,24 @@ void CommandPalette::activate(int row)
         return;
     // A copy, because carrying out the row changes the rows.
     const OptionItem option = m_rows[row].option;
-    m_store->run(option.run);
+    run(option);
     if (std::holds_alternative<OptionAction::AddLabel>(option.run.value))
         setQuery({});
     if (!option.keepsOpen)
         close();
+}
+
+void CommandPalette::run(const OptionItem &option)
+{
+    const auto *command = std::get_if<OptionAction::RunCommand>(&option.run.value);
+    if (m_issueKey.isEmpty() || !command)
+        m_store->run(option.run);
+    else if (const auto key = issueKeyOf(option))
+        m_store->run(Command::OpenWindow, QStringList(*key));
+    else if (pickerOf(command->command))
+        request(command->command);
+    else
+        m_store->run(option.run);
 }
 
 void CommandPalette::activateInWindow(int row)
@@ -198,7 +273,7 @@ void CommandPalette::activateInWindow(int row)
 void CommandPalette::close()
 {
     if (m_isOpen)
-        m_store->closePalette();
+        setMode(std::nullopt);
 }
 
 bool CommandPalette::takes(const QKeyEvent &press)
@@ -270,7 +345,7 @@ void CommandPalette::goBack()
     if (!m_query.isEmpty())
         setQuery({});
     else if (isPicker())
-        m_store->setPalette(PaletteMode::root());
+        setMode(PaletteMode::root());
     else
         close();
 }

@@ -18,6 +18,9 @@ class CommandPalette : public KeyHandler
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
+    /// The issue whose window this is. Empty in the main window, where the store knows what the palette shows. The palette
+    /// of an issue's window has the commands on that issue, and opens other issues in windows of their own.
+    Q_PROPERTY(QString issueKey READ issueKey WRITE setIssueKey NOTIFY issueKeyChanged FINAL)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged FINAL)
     /// True for a picker for some issues, false for the general palette.
     Q_PROPERTY(bool isPicker READ isPicker NOTIFY modeChanged FINAL)
@@ -45,6 +48,8 @@ public:
 
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
+    const QString &issueKey() const { return m_issueKey; }
+    void setIssueKey(const QString &key);
     bool isOpen() const { return m_isOpen; }
     bool isPicker() const { return m_mode.asPicker(); }
     QString title() const;
@@ -68,6 +73,9 @@ public:
     /// outside the list.
     Q_INVOKABLE void activate(int row);
     Q_INVOKABLE void close();
+    /// In the window of an issue: opens the palette with the commands (`TogglePalette`), or closes it if it is open, or
+    /// opens a picker for the issue.
+    Q_INVOKABLE void request(Commands::Command command);
     /// Reports that the pointer is over a row. The row is highlighted if the pointer itself has moved. A row that
     /// appears below a resting pointer, because the palette opened or its rows scrolled, is not highlighted.
     Q_INVOKABLE void point(int row);
@@ -80,6 +88,7 @@ public:
 
 Q_SIGNALS:
     void storeChanged();
+    void issueKeyChanged();
     void isOpenChanged();
     void modeChanged();
     void queryChanged();
@@ -92,6 +101,11 @@ Q_SIGNALS:
 
 private:
     void connectStore();
+    const std::optional<PaletteMode> &mode() const;
+    void setMode(const std::optional<PaletteMode> &mode);
+    QStringList targets() const;
+    QList<PaletteSection> sections();
+    void run(const OptionItem &option);
     void followPalette();
     void begin(const PaletteMode &mode);
     void setIsOpen(bool open);
@@ -107,6 +121,9 @@ private:
     bool activateDigit(int digit);
 
     QPointer<AppStore> m_store;
+    QString m_issueKey;
+    /// What the palette of an issue's window shows.
+    std::optional<PaletteMode> m_ownMode;
     bool m_isOpen = false;
     PaletteMode m_mode;
     QString m_query;

@@ -12,9 +12,16 @@ FocusScope {
     id: root
 
     required property AppStore store
+    // The issue whose window this is; empty in the main window.
+    property alias issueKey: logic.issueKey
 
     readonly property bool shown: logic.isOpen
     property bool wasShown: false
+
+    // In the window of an issue: opens the palette with a command, see `CommandPalette`.
+    function request(command: int) {
+        logic.request(command);
+    }
 
     // At once, because it receives the very next key.
     visible: shown || opacity > 0

@@ -5,9 +5,9 @@
 
 namespace {
 
-PaletteActionInputs actionInputs(const AppStore &store)
+PaletteActionInputs actionInputs(const AppStore &store, const QStringList &targets)
 {
-    return {.targets = store.actionTargets(),
+    return {.targets = targets,
             .layout = store.layout(),
             .showCompleted = store.showCompleted(),
             .appearance = store.appearance()};
@@ -15,18 +15,19 @@ PaletteActionInputs actionInputs(const AppStore &store)
 
 } // namespace
 
-QList<PaletteSection> PaletteSources::sections(const AppStore &store, const PaletteMode &mode,
+QList<PaletteSection> PaletteSources::sections(const AppStore &store, const Subject &subject,
                                                const QString &query, const IssueList &remote)
 {
-    const auto *picker = mode.asPicker();
+    const auto *picker = subject.mode.asPicker();
     return picker ? pickerSections(query, *picker, options(store, *picker))
-                  : root(store, query, remote);
+                  : root(store, subject.targets, query, remote);
 }
 
-QList<PaletteSection> PaletteSources::root(const AppStore &store, const QString &query,
-                                           const IssueList &remote)
+QList<PaletteSection> PaletteSources::root(const AppStore &store, const QStringList &targets,
+                                           const QString &query, const IssueList &remote)
 {
-    return rootSections(query, found(store, query, remote), actions(store), destinations(store));
+    return rootSections(query, found(store, query, remote), actions(store, targets),
+                        destinations(store));
 }
 
 IssueList PaletteSources::found(const AppStore &store, const QString &query,
@@ -54,9 +55,10 @@ void PaletteSources::prepareOpenIssues(const AppStore &store)
     m_openIssues.update(notYetSearched(m_open, m_listed));
 }
 
-const SearchableItems &PaletteSources::actions(const AppStore &store)
+const SearchableItems &PaletteSources::actions(const AppStore &store,
+                                               const QStringList &targets)
 {
-    if (const auto inputs = actionInputs(store); m_actionInputs != inputs) {
+    if (const auto inputs = actionInputs(store, targets); m_actionInputs != inputs) {
         m_actionInputs = inputs;
         m_actions = {paletteActions(inputs), SearchableItems::Texts::Title};
     }

@@ -9,18 +9,25 @@
 class PaletteSources
 {
 public:
+    /// What is listed: the mode, and the issues that the commands apply to.
+    struct Subject
+    {
+        PaletteMode mode;
+        QStringList targets;
+    };
+
     /// The sections for a query in the present state of the store.
-    QList<PaletteSection> sections(const AppStore &store, const PaletteMode &mode,
+    QList<PaletteSection> sections(const AppStore &store, const Subject &subject,
                                    const QString &query, const IssueList &remote);
     /// The options of the picker must be computed again.
     void forgetOptions() { m_options.reset(); }
 
 private:
-    QList<PaletteSection> root(const AppStore &store, const QString &query,
-                               const IssueList &remote);
+    QList<PaletteSection> root(const AppStore &store, const QStringList &targets,
+                               const QString &query, const IssueList &remote);
     IssueList found(const AppStore &store, const QString &query, const IssueList &remote);
     void prepareOpenIssues(const AppStore &store);
-    const SearchableItems &actions(const AppStore &store);
+    const SearchableItems &actions(const AppStore &store, const QStringList &targets);
     const SearchableItems &destinations(const AppStore &store);
     const SearchableItems &options(const AppStore &store, const PaletteMode::Picker &picker);
 

@@ -12,6 +12,7 @@ Item {
     required property AppStore store
     // The key of the issue that the window shows. Empty in the main window.
     property string issueKey: ""
+    readonly property alias commands: menuCommands
 
     MenuBarKeys {
         id: barKeys

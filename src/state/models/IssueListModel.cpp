@@ -2,6 +2,7 @@
 
 #include "model/OneLineText.h"
 #include "model/dates/DateLabels.h"
+#include "model/dates/DueDates.h"
 
 #include <algorithm>
 
@@ -245,8 +246,7 @@ QString IssueListModel::dueTooltip(const QDate &day) const
 
 bool IssueListModel::isOverdue(const Issue &issue) const
 {
-    return issue.dueDate && *issue.dueDate < m_calendar.day(m_now) &&
-           !isClosed(issue.status.category());
+    return ::isOverdue(issue, m_calendar.day(m_now));
 }
 
 QHash<int, QByteArray> IssueListModel::roleNames() const

@@ -33,11 +33,8 @@ protected:
     /// The focus is on a list that handles the arrow keys itself, or on one of its rows.
     bool isWalking()
     {
-        for (QQuickItem *item = window().activeFocusItem(); item; item = item->parentItem()) {
-            if (OwnKeys::walksRows(*item))
-                return true;
-        }
-        return false;
+        const auto *item = window().activeFocusItem();
+        return item && OwnKeys::isInWalkedList(*item);
     }
 };
 

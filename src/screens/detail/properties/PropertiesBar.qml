@@ -13,6 +13,7 @@ FlowLayout {
 
     required property AppStore store
     required property OpenIssue issue
+    readonly property bool hasLabels: issue.issue.labels.length > 0
 
     height: implicitHeight
     spacing: Metrics.gap
@@ -64,15 +65,39 @@ FlowLayout {
         store: root.store
         kind: Commands.PickerKind.Labels
         keys: root.issue.keys
-        leading: Symbol {
-            name: "tag"
-            size: 12
+        leading: Item {
+            implicitWidth: root.hasLabels ? dot.implicitWidth : tag.implicitWidth
+            implicitHeight: 16
+
+            LabelDot {
+                id: dot
+                anchors.centerIn: parent
+                visible: root.hasLabels
+                size: 8
+                name: root.hasLabels ? root.issue.issue.labels[0] : ""
+                Accessible.ignored: true
+            }
+
+            Symbol {
+                id: tag
+                anchors.centerIn: parent
+                visible: !root.hasLabels
+                name: "tag"
+                size: 12
+            }
         }
     }
 
-    DueBadge {
-        visible: root.issue.dueTitle !== ""
-        implicitHeight: Metrics.propertyChipHeight
-        text: root.issue.dueTitle
+    DueDateChip {
+        issue: root.issue
+    }
+
+    When {
+        shown: root.issue.issue.hasType
+
+        TypeCapsule {
+            width: Math.min(root.width, implicitWidth)
+            type: root.issue.issue.typeOrEmpty
+        }
     }
 }

@@ -1,32 +1,21 @@
 #include "screens/issues/list/RowColumns.h"
 
-#include "screens/theme/TypeScale.h"
-
-#include <QFontMetricsF>
+#include "screens/theme/KeyColumn.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-int measuredKeyWidth(const KeyShapes &keys)
+/// All digits have the same width, so keys of the same project and length are measured once.
+QStringList examples(const KeyShapes &keys)
 {
-    const QFontMetricsF metrics(TypeScale().font(TypeScale::Small, TypeScale::roleWeight, true));
-    return keyColumnWidth(keys, [&](const QString &key) { return metrics.horizontalAdvance(key); });
+    QStringList texts;
+    for (const auto &shape : keys.shapes())
+        texts.append(shape.example);
+    return texts;
 }
 
 } // namespace
-
-int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance)
-{
-    if (keys.shapes().empty())
-        return Metrics::rowKeyMinimum;
-    qreal width = 0;
-    for (const auto &shape : keys.shapes())
-        width = std::max(width, advance(shape.example));
-    return std::clamp(int(std::ceil(width)) + Metrics::rowKeySpare, Metrics::rowKeyMinimum,
-                      Metrics::rowKeyMaximum);
-}
 
 int updatedColumnWidth(const IssueScope &scope, const IssueList &issues)
 {
@@ -54,8 +43,8 @@ void RowColumns::setStore(AppStore *store)
 
 void RowColumns::measure()
 {
-    const int keyWidth =
-        m_store ? measuredKeyWidth(m_store->derivation().keyShapes()) : Metrics::rowKeyMinimum;
+    const int keyWidth = m_store ? keyColumnWidth(examples(m_store->derivation().keyShapes()))
+                                 : Metrics::rowKeyMinimum;
     const int updatedWidth =
         m_store ? updatedColumnWidth(m_store->scope(), m_store->derivation().visibleIssues())
                 : Metrics::rowDate;

@@ -7,8 +7,6 @@
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
-
 /// The widths of the columns that all rows of a list share, in logical pixels.
 class RowColumns : public QObject
 {
@@ -41,11 +39,6 @@ private:
     int m_keyWidth = Metrics::rowKeyMinimum;
     int m_updatedWidth = Metrics::rowDate;
 };
-
-/// The width of a column that holds all the keys: the widest one plus 4, rounded up, between 36 and 150. `advance`
-/// measures one text. All digits are assumed to have the same width, so keys of the same project and length are
-/// measured once.
-int keyColumnWidth(const KeyShapes &keys, const std::function<qreal(const QString &)> &advance);
 
 /// The width of the last column of a list with these issues: a column of events is wider than one of relative dates.
 int updatedColumnWidth(const IssueScope &scope, const IssueList &issues);

@@ -8,9 +8,23 @@ OwnKeys *OwnKeys::qmlAttachedProperties(QObject *item)
     return std::make_unique<OwnKeys>(item).release();
 }
 
-bool OwnKeys::walksRows(const QObject &item)
+bool OwnKeys::isInWalkedList(const QQuickItem &item)
 {
-    const auto *own = qobject_cast<OwnKeys *>(
-        qmlAttachedPropertiesObject<OwnKeys>(const_cast<QObject *>(&item), false));
-    return own && own->m_walksRows;
+    return isAround(item, &OwnKeys::m_walksRows);
+}
+
+bool OwnKeys::isInScrolledPage(const QQuickItem &item)
+{
+    return isAround(item, &OwnKeys::m_scrolls);
+}
+
+bool OwnKeys::isAround(const QQuickItem &item, bool OwnKeys::*declared)
+{
+    for (const auto *each = &item; each; each = each->parentItem()) {
+        const auto *own = qobject_cast<OwnKeys *>(
+            qmlAttachedPropertiesObject<OwnKeys>(const_cast<QQuickItem *>(each), false));
+        if (own && own->*declared)
+            return true;
+    }
+    return false;
 }

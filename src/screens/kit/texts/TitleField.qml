@@ -46,6 +46,8 @@ FocusScope {
         topPadding: 0
         bottomPadding: 0
         role: TypeScale.Title1
+        // In any script, as a title is shown elsewhere.
+        horizontalAlignment: TextEdit.AlignLeft
         name: root.name
         problem: ""
         onKeyPressed: event => root.handle(event)

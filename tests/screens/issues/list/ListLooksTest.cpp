@@ -42,8 +42,8 @@ protected:
     }
     static bool isText(const QQuickItem *item, const QString &text)
     {
-        return item->inherits("QQuickText") && item->isVisible() &&
-               item->property("text").toString() == text;
+        const bool isShown = item->inherits("QQuickText") || item->inherits("QQuickTextEdit");
+        return isShown && item->isVisible() && item->property("text").toString() == text;
     }
     QQuickItem *textItem(const QString &text)
     {

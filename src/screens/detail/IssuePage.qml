@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Detail
+import Velmora.Kit
+import Velmora.State
+import Velmora.Theme
+
+// The scrolling part of an issue's screen. It scrolls by itself to what has the focus.
+FocusScope {
+    id: root
+
+    required property AppStore store
+    required property OpenIssue issue
+    // The opaque colour behind the page.
+    required property color ground
+    readonly property int columnMaximum: 860
+    readonly property bool isAtRest: view.activeFocus
+
+    // The user has finished typing in the title.
+    signal finished()
+    // Another issue was chosen.
+    signal chosen(key: string)
+
+    // Scrolls as little as possible until an area of an item is in sight.
+    function reveal(item: Item, area: rect) {
+        const top = item.mapToItem(view.contentItem, area.x, area.y).y;
+        const highest = Math.max(0, view.contentHeight - view.height);
+        const bottom = Math.min(top + area.height, top + view.height);
+        const wanted = Math.min(top - Metrics.gap, Math.max(view.contentY, bottom + Metrics.gap - view.height));
+        view.contentY = Math.max(0, Math.min(wanted, highest));
+    }
+
+    // Gives the keys to the page itself, which scrolls.
+    function rest() {
+        view.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    function revealFocus() {
+        const item = Window.activeFocusItem;
+        if (root.activeFocus && item !== view && item !== root)
+            reveal(item, Qt.rect(0, 0, item.width, item.height));
+    }
+
+    Window.onActiveFocusItemChanged: revealFocus()
+
+    Flickable {
+        id: view
+
+        anchors.fill: parent
+        contentHeight: column.y + column.height + Metrics.pageMargin
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        focus: true
+        OwnKeys.scrolls: true
+
+        Column {
+            id: column
+            x: Metrics.pageMargin
+            y: Metrics.gapTiny
+            width: Math.min(root.width - 2 * x, root.columnMaximum)
+            spacing: Metrics.gapSection
+
+            TitleEditor {
+                width: parent.width
+                issue: root.issue
+                onFinished: root.finished()
+            }
+
+            PropertiesBar {
+                width: parent.width
+                store: root.store
+                issue: root.issue
+            }
+
+            When {
+                shown: root.issue.subIssues.length > 0
+
+                SubIssuesSection {
+                    width: column.width
+                    issue: root.issue
+                    onChosen: key => root.chosen(key)
+                }
+            }
+
+            Hairline {
+                width: parent.width
+                color: Theme.divider
+            }
+        }
+    }
+
+    Scrolling {
+        view: view
+        ground: root.ground
+    }
+}
