@@ -14,6 +14,7 @@ void RemotePicture::setAddress(const QUrl &address)
     m_address = address;
     Q_EMIT addressChanged();
     m_isLoaded = !ImageLoader::shared().cached(address).isNull();
+    m_hasFailed = false;
     Q_EMIT sourceChanged();
     if (!m_isLoaded && !address.isEmpty())
         spawn(load(address));
@@ -24,13 +25,14 @@ QCoro::Task<> RemotePicture::load(QUrl address)
     const QImage image = co_await whileAlive(this, ImageLoader::shared().image(address));
     // Another address may have been set meanwhile. It is awaited separately.
     if (address == m_address)
-        setLoaded(!image.isNull());
+        finish(!image.isNull());
 }
 
-void RemotePicture::setLoaded(bool loaded)
+void RemotePicture::finish(bool loaded)
 {
-    if (std::exchange(m_isLoaded, loaded) != loaded)
-        Q_EMIT sourceChanged();
+    m_isLoaded = loaded;
+    m_hasFailed = !loaded;
+    Q_EMIT sourceChanged();
 }
 
 QUrl RemotePicture::source() const

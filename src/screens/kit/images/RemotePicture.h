@@ -16,6 +16,8 @@ class RemotePicture : public QObject
     /// The address of the picture. Empty for none.
     Q_PROPERTY(QUrl address READ address WRITE setAddress NOTIFY addressChanged FINAL)
     Q_PROPERTY(bool isLoaded READ isLoaded NOTIFY sourceChanged FINAL)
+    /// There is no address, or the picture cannot be fetched or decoded.
+    Q_PROPERTY(bool isMissing READ isMissing NOTIFY sourceChanged FINAL)
     /// The source for an Image. Empty while there is no picture.
     Q_PROPERTY(QUrl source READ source NOTIFY sourceChanged FINAL)
     /// The same for the picture masked to a disc.
@@ -27,6 +29,7 @@ public:
     const QUrl &address() const { return m_address; }
     void setAddress(const QUrl &address);
     bool isLoaded() const { return m_isLoaded; }
+    bool isMissing() const { return m_address.isEmpty() || m_hasFailed; }
     QUrl source() const;
     QUrl roundSource() const;
 
@@ -35,9 +38,10 @@ Q_SIGNALS:
     void sourceChanged();
 
 private:
-    void setLoaded(bool loaded);
+    void finish(bool loaded);
     QCoro::Task<> load(QUrl address);
 
     QUrl m_address;
     bool m_isLoaded = false;
+    bool m_hasFailed = false;
 };
