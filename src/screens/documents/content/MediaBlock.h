@@ -12,6 +12,8 @@ struct MediaBlock
 {
     Q_GADGET
     QML_VALUE_TYPE(mediaBlock)
+    /// For another property of C++; QML cannot look into it.
+    Q_PROPERTY(ADFNode node MEMBER node FINAL)
     Q_PROPERTY(QString kind READ kind FINAL)
     Q_PROPERTY(QStringList attachmentIDs READ attachmentIDs FINAL)
     Q_PROPERTY(QStringList fileNames READ fileNames FINAL)
