@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Attachments
+import Velmora.Kit
+import Velmora.Theme
+
+/// The pages of a PDF, one below the other.
+FocusScope {
+    id: root
+
+    required property url url
+    readonly property real pageWidth: Math.min(width - 48, 900)
+
+    signal failed(text: string)
+
+    function tellProblem() {
+        if (pages.problem.length > 0)
+            failed(pages.problem);
+    }
+
+    Component.onCompleted: tellProblem()
+
+    PdfPreview {
+        id: pages
+
+        url: root.url
+    }
+
+    ListView {
+        id: list
+
+        anchors.top: parent.top
+        anchors.bottom: note.top
+        width: parent.width
+        clip: true
+        focus: true
+        boundsBehavior: Flickable.StopAtBounds
+        topMargin: 16
+        bottomMargin: 16
+        spacing: 16
+        model: pages.pageCount
+        Keys.onUpPressed: scrolling.scrollBy(-1)
+        Keys.onDownPressed: scrolling.scrollBy(1)
+        Accessible.role: Accessible.List
+        Accessible.name: "Pages"
+
+        delegate: Item {
+            id: sheet
+
+            required property int index
+
+            width: list.width
+            height: pages.heightOf(index, root.pageWidth)
+            Accessible.role: Accessible.ListItem
+            Accessible.name: "Page " + (index + 1) + " sur " + pages.pageCount
+
+            PdfPage {
+                id: page
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: root.pageWidth
+                height: parent.height
+                preview: pages
+                page: sheet.index
+            }
+
+            Rectangle {
+                anchors.fill: page
+                anchors.margins: -1
+                color: "transparent"
+                border.width: 1
+                border.color: Theme.hairline
+            }
+
+            Spinner {
+                anchors.centerIn: page
+                visible: !page.isDrawn
+                color: "#808080"
+                size: 20
+            }
+        }
+    }
+
+    Scrolling {
+        id: scrolling
+
+        view: list
+        ground: Theme.content
+        fadesAtTop: false
+        fadesAtBottom: false
+    }
+
+    PreviewNote {
+        id: note
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: pages.note
+    }
+}

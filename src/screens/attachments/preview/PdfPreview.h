@@ -1,0 +1,43 @@
+#pragma once
+
+#include "screens/attachments/preview/PdfWork.h"
+
+#include <QPointer>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+/// The pages of a PDF file.
+class PdfPreview : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// The file. Set once.
+    Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged FINAL REQUIRED)
+    Q_PROPERTY(int pageCount READ pageCount NOTIFY urlChanged FINAL)
+    /// What is left out, for the user; empty if all pages are shown.
+    Q_PROPERTY(QString note READ note NOTIFY urlChanged FINAL)
+    /// Why there are no pages, for the user.
+    Q_PROPERTY(QString problem READ problem NOTIFY urlChanged FINAL)
+
+public:
+    using QObject::QObject;
+    ~PdfPreview() override;
+
+    const QUrl &url() const { return m_url; }
+    void setUrl(const QUrl &url);
+    int pageCount() const { return m_work ? int(m_work->pages().size()) : 0; }
+    QString note() const;
+    QString problem() const { return m_work ? m_work->problem() : QString(); }
+    PdfWork *work() const { return m_work; }
+
+    /// The height of a page that is `width` wide, in logical pixels. Pages of extreme shapes are cut to twenty times
+    /// their width.
+    Q_INVOKABLE double heightOf(int page, double width) const;
+
+Q_SIGNALS:
+    void urlChanged();
+
+private:
+    QUrl m_url;
+    QPointer<PdfWork> m_work;
+};

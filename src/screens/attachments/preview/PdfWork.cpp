@@ -1,0 +1,70 @@
+#include "screens/attachments/preview/PdfWork.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString problemOf(QPdfDocument::Error error)
+{
+    switch (error) {
+    case QPdfDocument::Error::None:
+        return {};
+    case QPdfDocument::Error::FileNotFound:
+        return u"Le fichier n'est plus là."_s;
+    case QPdfDocument::Error::IncorrectPassword:
+    case QPdfDocument::Error::UnsupportedSecurityScheme:
+        return u"Ce PDF est protégé par un mot de passe."_s;
+    default:
+        return u"Ce PDF est endommagé."_s;
+    }
+}
+
+} // namespace
+
+PdfWork *PdfWork::open(const QString &path)
+{
+    auto *work = std::unique_ptr<PdfWork>(new PdfWork).release();
+    // A pipe would block.
+    const auto error =
+        QFileInfo(path).isFile() ? work->m_document.load(path) : QPdfDocument::Error::FileNotFound;
+    work->m_problem = problemOf(error);
+    const int count = std::min(work->m_document.pageCount(), MaximumPdfPages);
+    for (int page = 0; page < count; ++page)
+        work->m_pages += work->m_document.pagePointSize(page);
+    if (work->m_problem.isEmpty() && count == 0)
+        work->m_problem = problemOf(QPdfDocument::Error::InvalidFileFormat);
+    return work;
+}
+
+PdfWork::PdfWork()
+{
+    m_renderer.setRenderMode(QPdfPageRenderer::RenderMode::MultiThreaded);
+    m_renderer.setDocument(&m_document);
+    connect(&m_renderer, &QPdfPageRenderer::pageRendered, this,
+            [this](int, QSize, const QImage &image, auto, quint64 order) { finish(order, image); });
+}
+
+quint64 PdfWork::draw(int page, QSize pixels)
+{
+    ++m_pending;
+    return m_renderer.requestPage(page, pixels);
+}
+
+void PdfWork::leave()
+{
+    m_isLeft = true;
+    if (m_pending == 0)
+        deleteLater();
+}
+
+void PdfWork::finish(quint64 order, const QImage &image)
+{
+    --m_pending;
+    Q_EMIT drawn(order, image);
+    if (m_isLeft)
+        leave();
+}

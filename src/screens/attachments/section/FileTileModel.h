@@ -1,0 +1,37 @@
+#pragma once
+
+#include "screens/attachments/facts/AttachmentFile.h"
+#include "state/models/KeyedListModel.h"
+
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+
+/// A tile: a file, or one that is being uploaded.
+struct FileTileRow
+{
+    QString key;
+    /// Absent for an upload.
+    std::optional<AttachmentFile> file;
+
+    bool operator==(const FileTileRow &) const = default;
+};
+
+/// The tiles of an issue: its files in their order, then one tile for each upload under way.
+class FileTileModel : public KeyedListModel<FileTileRow>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Belongs to the files of an issue")
+
+public:
+    enum Role { FileRole = Qt::UserRole, IsUploadRole };
+    Q_ENUM(Role)
+
+    using KeyedListModel::KeyedListModel;
+
+    void setTiles(const QList<Attachment> &attachments, int uploads);
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+};

@@ -1,0 +1,104 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Velmora.Attachments
+import Velmora.Kit
+import Velmora.Theme
+
+/// The tiles of an issue. The grid is one stop of the tab key. The arrow keys, Home and End move between the tiles;
+/// Space previews a file, Return opens it, Delete asks whether to delete it, and the menu key opens its menu.
+FocusScope {
+    id: root
+
+    required property IssueFiles files
+    required property AttachmentPreviewer previewer
+    property int currentIndex: 0
+    readonly property int columns: Math.max(1, Math.floor((width + flow.spacing) / (140 + flow.spacing)))
+    /// The window's key map leaves the keys of a control that shows the focus to it.
+    readonly property bool visualFocus: activeFocus
+
+    function move(by: int) {
+        currentIndex = Math.max(0, Math.min(slots.count - 1, currentIndex + by));
+    }
+
+    function current(): FileTileSlot {
+        return slots.itemAt(currentIndex) as FileTileSlot;
+    }
+
+    function openMenu(slot: FileTileSlot, x: real, y: real) {
+        currentIndex = slot.index;
+        forceActiveFocus(Qt.MouseFocusReason);
+        menu.open(slot.file, slot.mapToItem(root, x, y));
+    }
+
+    implicitHeight: flow.height
+    height: implicitHeight
+    activeFocusOnTab: true
+    OwnKeys.walksRows: true
+    Accessible.role: Accessible.List
+    Accessible.name: "Fichiers joints"
+
+    Keys.onLeftPressed: move(-1)
+    Keys.onRightPressed: move(1)
+    Keys.onUpPressed: move(-columns)
+    Keys.onDownPressed: move(columns)
+    Keys.onSpacePressed: current()?.preview()
+    Keys.onReturnPressed: current()?.open()
+    Keys.onEnterPressed: current()?.open()
+    Keys.onDeletePressed: current()?.requestDeletion()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted)
+            move(event.key === Qt.Key_Home ? -slots.count : slots.count);
+    }
+    ContextMenuKey.onPressed: current()?.openMenu()
+
+    // What was asked about a file of another issue has no object any more.
+    Connections {
+        target: root.files
+
+        function onKeyChanged() {
+            menu.isOpen = false;
+            question.isOpen = false;
+            root.currentIndex = 0;
+        }
+    }
+
+    Grid {
+        id: flow
+
+        columns: root.columns
+        spacing: Metrics.gapMedium
+
+        Repeater {
+            id: slots
+
+            model: root.files.tiles
+            onItemRemoved: root.move(0)
+
+            FileTileSlot {
+                id: slot
+
+                width: Math.min(141, (root.width - (root.columns - 1) * flow.spacing) / root.columns)
+                isCurrent: root.activeFocus && index === root.currentIndex
+                previewer: root.previewer
+                onPressed: root.currentIndex = index
+                onMenuRequested: (x, y) => root.openMenu(slot, x, y)
+                onDeletionRequested: question.ask(file)
+            }
+        }
+    }
+
+    TileMenuHost {
+        id: menu
+
+        previewer: root.previewer
+        onDeletionRequested: file => question.ask(file)
+    }
+
+    DeletionQuestion {
+        id: question
+
+        onConfirmed: file => root.files.remove(file)
+    }
+}
