@@ -52,7 +52,7 @@ void pressIn(QQuickWindow &window, const Press &press)
 
 void collectFrom(const QQuickItem *item, QStringList &keys)
 {
-    static const QRegularExpression brackets(u"\\(([^)]+)\\)"_s);
+    static const QRegularExpression brackets(u"\\(([^)\\s]+)\\)"_s);
     if (!item->isVisible() || !item->isEnabled())
         return;
     for (const char *name : {"hint", "accessibleName"}) {

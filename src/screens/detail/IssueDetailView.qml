@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Attachments
 import Velmora.Composer
 import Velmora.Detail
 import Velmora.Kit
@@ -19,6 +20,16 @@ FocusScope {
     // The height of the toolbar with the space above it.
     readonly property int headHeight: inWindow ? 52 : 40
     readonly property int crumbMargin: Metrics.gapMedium
+    readonly property IssueFiles files: IssueFiles {
+        store: root.store
+        key: root.key
+    }
+    readonly property AttachmentPreviewer previewer: AttachmentPreviewer {
+        store: root.store
+        key: root.key
+        files: root.files.files
+        window: root.Window.window
+    }
 
     /// The issue should be closed.
     signal closed()
@@ -91,9 +102,30 @@ FocusScope {
         focus: true
         store: root.store
         issue: open
+        files: root.files
+        previewer: root.previewer
         ground: root.inWindow ? Theme.content : Theme.inspector
         onFinished: root.leave()
         onChosen: key => root.show(key)
+    }
+
+    AttachmentDropArea {
+        anchors.fill: parent
+        files: root.files
+    }
+
+    FileImport {
+        id: commentFiles
+        key: root.key
+        window: root.Window.window
+        onChosen: (key, files) => {
+            if (key === root.key)
+                composer.composition.attach(files);
+        }
+    }
+
+    PreviewHost {
+        previewer: root.previewer
     }
 
     CommentComposer {
@@ -103,6 +135,7 @@ FocusScope {
         x: 16
         width: parent.width - 2 * x
         visible: open.isKnown
+        onFilesWanted: commentFiles.choose()
         composition: IssueComposition {
             store: root.store
             issueKey: root.key

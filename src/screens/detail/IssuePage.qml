@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Velmora.Attachments
 import Velmora.Detail
 import Velmora.Kit
 import Velmora.State
@@ -12,6 +13,8 @@ FocusScope {
 
     required property AppStore store
     required property OpenIssue issue
+    required property IssueFiles files
+    required property AttachmentPreviewer previewer
     // The opaque colour behind the page.
     required property color ground
     readonly property int columnMaximum: 860
@@ -71,6 +74,13 @@ FocusScope {
                 width: parent.width
                 store: root.store
                 issue: root.issue
+            }
+
+            AttachmentsSection {
+                width: parent.width
+                store: root.store
+                issueKey: root.issue.key
+                previewer: root.previewer
             }
 
             When {

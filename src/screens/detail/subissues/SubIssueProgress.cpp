@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 void SubIssueProgress::setRows(const QList<SubIssue> &rows)
 {
     if (m_rows == rows)
@@ -22,6 +24,11 @@ int SubIssueProgress::done() const
 QString SubIssueProgress::title() const
 {
     return QString::number(done()) + u'/' + QString::number(m_rows.size());
+}
+
+QString SubIssueProgress::spokenTitle() const
+{
+    return u"Sous-tickets, %1 sur %2"_s.arg(done()).arg(m_rows.size());
 }
 
 qreal SubIssueProgress::share() const

@@ -10,10 +10,10 @@ class SubIssueProgress : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<SubIssue> rows READ rows WRITE setRows NOTIFY rowsChanged FINAL REQUIRED)
-    /// The number of sub-issues whose status is closed; those without a status are not.
-    Q_PROPERTY(int done READ done NOTIFY rowsChanged FINAL)
-    /// "1/3"
+    /// The number of sub-issues whose status is closed, and of all: "1/3". Those without a status are not closed.
     Q_PROPERTY(QString title READ title NOTIFY rowsChanged FINAL)
+    /// The same for screen readers.
+    Q_PROPERTY(QString spokenTitle READ spokenTitle NOTIFY rowsChanged FINAL)
     Q_PROPERTY(qreal share READ share NOTIFY rowsChanged FINAL)
     /// The width of the column of keys.
     Q_PROPERTY(int keyWidth READ keyWidth NOTIFY rowsChanged FINAL)
@@ -23,8 +23,8 @@ public:
 
     const QList<SubIssue> &rows() const { return m_rows; }
     void setRows(const QList<SubIssue> &rows);
-    int done() const;
     QString title() const;
+    QString spokenTitle() const;
     /// From 0 to 1; 0 without sub-issues.
     qreal share() const;
     int keyWidth() const;
@@ -33,5 +33,7 @@ Q_SIGNALS:
     void rowsChanged();
 
 private:
+    int done() const;
+
     QList<SubIssue> m_rows;
 };

@@ -16,7 +16,7 @@ Column {
 
     spacing: Metrics.gap
     Accessible.role: Accessible.Grouping
-    Accessible.name: "Sous-tickets, " + progress.done + " sur " + progress.rows.length
+    Accessible.name: progress.spokenTitle
 
     SubIssueProgress {
         id: progress
