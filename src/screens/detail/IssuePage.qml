@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Attachments
 import Velmora.Detail
+import Velmora.Documents
 import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
@@ -24,6 +25,15 @@ FocusScope {
     signal finished()
     // Another issue was chosen.
     signal chosen(key: string)
+
+    // The pictures and files in the texts of the issue.
+    readonly property Component media: ADFMediaView {
+        required property mediaBlock block
+
+        node: block.node
+        files: root.files.files
+        previewer: root.previewer
+    }
 
     // Scrolls as little as possible until an area of an item is in sight.
     function reveal(item: Item, area: rect) {
@@ -74,6 +84,19 @@ FocusScope {
                 width: parent.width
                 store: root.store
                 issue: root.issue
+            }
+
+            DescriptionSection {
+                id: description
+                width: parent.width
+                height: implicitHeight
+                store: root.store
+                issue: root.issue
+                room: view.height
+                mediaDelegate: root.media
+                onLinkActivated: address => root.issue.openLink(address)
+                onRevealRequested: box => root.reveal(description, box)
+                onShifted: distance => view.contentY += distance
             }
 
             AttachmentsSection {

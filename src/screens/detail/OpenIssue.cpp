@@ -129,6 +129,16 @@ IssueType OpenIssue::parentType() const
     return hasParentType() ? *m_issue.parent->type : IssueType();
 }
 
+QString OpenIssue::localeName() const
+{
+    return m_store ? m_store->calendar().locale.name() : QString();
+}
+
+QString OpenIssue::timeZone() const
+{
+    return m_store ? QString::fromLatin1(m_store->calendar().zone.id()) : QString();
+}
+
 void OpenIssue::run(Commands::Command command)
 {
     if (m_store)
@@ -153,4 +163,10 @@ void OpenIssue::openOther(const QString &key)
 {
     if (m_store)
         m_store->openInInspector(key);
+}
+
+void OpenIssue::openLink(const QString &address)
+{
+    if (m_store)
+        m_store->openAddress(QUrl(address));
 }

@@ -51,6 +51,9 @@ class OpenIssue : public QObject
     /// The due date, or today without one, and today: texts such as "2026-10-31".
     Q_PROPERTY(QString dueDay READ dueDay NOTIFY changed FINAL)
     Q_PROPERTY(QString today READ today NOTIFY changed FINAL)
+    /// The user's locale by its name, and the time zone by its IANA id, in which documents show dates.
+    Q_PROPERTY(QString localeName READ localeName NOTIFY changed FINAL)
+    Q_PROPERTY(QString timeZone READ timeZone NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;
@@ -83,6 +86,8 @@ public:
     bool isOverdue() const;
     QString dueDay() const;
     QString today() const;
+    QString localeName() const;
+    QString timeZone() const;
 
     /// Fetches the issue. Does nothing without a session. A change to another issue cancels the fetch.
     Q_INVOKABLE void load();
@@ -94,6 +99,8 @@ public:
     Q_INVOKABLE void setDueDay(const QString &day);
     /// Focuses another issue and shows it in the inspector.
     Q_INVOKABLE void openOther(const QString &key);
+    /// Opens a link of one of its texts in the browser or the mail program.
+    Q_INVOKABLE void openLink(const QString &address);
 
 Q_SIGNALS:
     void storeChanged();

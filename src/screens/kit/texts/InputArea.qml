@@ -34,6 +34,8 @@ FocusScope {
     signal keyPressed(event: var)
     /// Local files were pasted or dropped: a list of addresses.
     signal filesGiven(files: var)
+    /// The caret is at another place of the text, or the text around it has moved.
+    signal caretMoved()
 
     /// Replaces the selection, or inserts at the caret. The caret is then after the new text. One step of undo.
     function insert(words: string) {
@@ -89,6 +91,7 @@ FocusScope {
             bottomPadding: topPadding
             onKeyPressed: event => root.keyPressed(event)
             onFilesPasted: files => root.filesGiven(files)
+            onCursorRectangleChanged: root.caretMoved()
         }
 
         T.ScrollBar.vertical: OverlayScrollBar {
