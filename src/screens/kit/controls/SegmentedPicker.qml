@@ -12,11 +12,13 @@ Rectangle {
     required property string name
     required property list<string> choices
     required property int current
+    /// For a line of text beside it.
+    property bool isSmall: false
 
     signal chosen(index: int)
 
     implicitWidth: segments.implicitWidth + 4
-    implicitHeight: 28
+    implicitHeight: isSmall ? 24 : 28
     radius: height / 2
     color: Theme.ink(0.06)
     Accessible.role: Accessible.Grouping
@@ -32,14 +34,15 @@ Rectangle {
         onChosen: index => root.chosen(index)
 
         Repeater {
-            model: root.choices
+            // Not the words: when one changes, the segments stay, and with them the focus.
+            model: root.choices.length
 
             Segment {
                 required property int index
-                required property string modelData
 
                 height: root.height - 4
-                text: modelData
+                isSmall: root.isSmall
+                text: root.choices[index]
                 on: index === root.current
                 isTabStop: index === Math.max(0, root.current)
                 onChosen: root.chosen(index)

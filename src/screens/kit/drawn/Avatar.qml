@@ -10,7 +10,9 @@ DrawnIcon {
     required property jiraUser user
     required property bool hasUser
     property real size: 18
-    readonly property string personName: hasUser ? user.name : "Non assigné"
+    /// What is said if there is no person.
+    property string nobody: "Non assigné"
+    readonly property string personName: hasUser ? user.name : nobody
 
     side: size
     source: !hasUser ? IconAddresses.nobody(size) : picture.isLoaded ? picture.roundSource : IconAddresses.avatar(user, size)

@@ -6,8 +6,10 @@ import Velmora.Kit
 RadioChoice {
     id: root
 
-    leftPadding: 12
-    rightPadding: 12
+    property bool isSmall: false
+
+    leftPadding: isSmall ? 9 : 12
+    rightPadding: leftPadding
     corner: height / 2
 
     background: Rectangle {
@@ -27,7 +29,7 @@ RadioChoice {
 
     contentItem: AppText {
         text: root.text
-        role: TypeScale.Small
+        role: root.isSmall ? TypeScale.Badge : TypeScale.Small
         weight: Font.Medium
         color: !root.enabled ? Theme.text4 : root.on ? Theme.text1 : Theme.text2
         horizontalAlignment: Text.AlignHCenter
