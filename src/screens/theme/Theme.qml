@@ -125,6 +125,11 @@ QtObject {
         return Qt.rgba(accent.r, accent.g, accent.b, opacity)
     }
 
+    /// The colour of internal notes at an opacity, 0 to 1.
+    function noteAt(opacity: real): color {
+        return Qt.rgba(internalNote.r, internalNote.g, internalNote.b, opacity)
+    }
+
     /// The colour of an issue type's family (`Model.IssueTypeKind`).
     function typeColor(kind: int): color {
         return IdentityPalette.type(kind)
