@@ -120,6 +120,22 @@ FocusScope {
                 width: parent.width
                 color: Theme.divider
             }
+
+            ActivitySection {
+                id: activity
+                width: parent.width
+                store: root.store
+                issue: root.issue
+                mediaDelegate: root.media
+                strip: CommentAttachmentStrip {
+                    store: root.store
+                    issueKey: root.issue.key
+                    previewer: root.previewer
+                }
+                onLinkActivated: address => root.issue.openLink(address)
+                onRevealRequested: box => root.reveal(activity, box)
+                onShifted: distance => view.contentY += distance
+            }
         }
     }
 
