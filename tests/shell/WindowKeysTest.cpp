@@ -131,10 +131,7 @@ protected:
         return parts.join(u'|');
     }
 
-    static bool hasDialog(QQuickWindow &in)
-    {
-        return !spokenIn(in, QAccessible::Dialog).isEmpty();
-    }
+    static bool hasDialog(QQuickWindow &in) { return !spokenIn(in, QAccessible::Dialog).isEmpty(); }
 
     void restore(LayoutMode layout)
     {

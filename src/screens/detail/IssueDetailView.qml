@@ -36,14 +36,11 @@ FocusScope {
     /// Beside the list: the user has finished typing, and the list should have the keys again.
     signal finished()
 
-    // Escape and a finished title first leave the field, and only then the issue.
-    function leave() {
-        if (!inWindow)
-            finished();
-        else if (page.isAtRest)
-            closed();
-        else
+    function leaveField() {
+        if (inWindow)
             page.rest();
+        else
+            finished();
     }
 
     function show(key: string) {
@@ -53,7 +50,8 @@ FocusScope {
             root.store.run(Commands.Command.OpenWindow, [key]);
     }
 
-    Keys.onEscapePressed: leave()
+    // Escape first leaves the field, and only then the issue.
+    Keys.onEscapePressed: inWindow && page.isAtRest ? closed() : leaveField()
 
     OpenIssue {
         id: open
@@ -105,7 +103,7 @@ FocusScope {
         files: root.files
         previewer: root.previewer
         ground: root.inWindow ? Theme.content : Theme.inspector
-        onFinished: root.leave()
+        onFinished: root.leaveField()
         onChosen: key => root.show(key)
     }
 

@@ -21,11 +21,6 @@ FocusScope {
     readonly property int columnMaximum: 860
     readonly property bool isAtRest: view.activeFocus
 
-    // The user has finished typing in the title.
-    signal finished()
-    // Another issue was chosen.
-    signal chosen(key: string)
-
     // The pictures and files in the texts of the issue.
     readonly property Component media: ADFMediaView {
         required property mediaBlock block
@@ -34,6 +29,11 @@ FocusScope {
         files: root.files.files
         previewer: root.previewer
     }
+
+    // The user has finished typing in the title.
+    signal finished()
+    // Another issue was chosen.
+    signal chosen(key: string)
 
     // Scrolls as little as possible until an area of an item is in sight.
     function reveal(item: Item, area: rect) {

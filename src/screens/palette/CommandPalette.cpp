@@ -1,7 +1,7 @@
 #include "screens/palette/CommandPalette.h"
 
-#include "commands/PickerWords.h"
 #include "commands/CommandTable.h"
+#include "commands/PickerWords.h"
 #include "platform/Wording.h"
 #include "state/AppCommands.h"
 #include "state/palette/PaletteIssues.h"

@@ -55,8 +55,7 @@ void PaletteSources::prepareOpenIssues(const AppStore &store)
     m_openIssues.update(notYetSearched(m_open, m_listed));
 }
 
-const SearchableItems &PaletteSources::actions(const AppStore &store,
-                                               const QStringList &targets)
+const SearchableItems &PaletteSources::actions(const AppStore &store, const QStringList &targets)
 {
     if (const auto inputs = actionInputs(store, targets); m_actionInputs != inputs) {
         m_actionInputs = inputs;

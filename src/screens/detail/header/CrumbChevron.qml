@@ -4,6 +4,8 @@ import Velmora.Theme
 
 // The sign between two parts of the breadcrumb.
 Symbol {
+    id: root
+
     anchors.verticalCenter: parent ? parent.verticalCenter : undefined
     name: "chevron.right"
     size: 8
