@@ -6,7 +6,7 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// The pane beside the list, which shows the open issue. A new view is created for each issue.
+// The pane beside the list, which shows the open issue.
 GlassPanel {
     id: root
 
@@ -37,18 +37,12 @@ GlassPanel {
         }
     }
 
-    Repeater {
-        model: root.key === "" ? [] : [root.key]
-
-        IssueDetailView {
-            required property string modelData
-
-            width: root.width
-            height: root.height
-            store: root.store
-            key: modelData
-            onClosed: root.store.showInspector = false
-            onFinished: root.finished()
-        }
+    IssueDetailView {
+        anchors.fill: parent
+        visible: root.key !== ""
+        store: root.store
+        key: root.key
+        onClosed: root.store.showInspector = false
+        onFinished: root.finished()
     }
 }

@@ -44,6 +44,13 @@ FocusScope {
         view.contentY = Math.max(0, Math.min(wanted, highest));
     }
 
+    // Another issue is shown.
+    function begin() {
+        title.begin();
+        properties.begin();
+        view.contentY = 0;
+    }
+
     // Gives the keys to the page itself, which scrolls.
     function rest() {
         view.forceActiveFocus(Qt.OtherFocusReason);
@@ -75,12 +82,14 @@ FocusScope {
             spacing: Metrics.gapSection
 
             TitleEditor {
+                id: title
                 width: parent.width
                 issue: root.issue
                 onFinished: root.finished()
             }
 
             PropertiesBar {
+                id: properties
                 width: parent.width
                 store: root.store
                 issue: root.issue

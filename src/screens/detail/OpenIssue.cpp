@@ -145,11 +145,12 @@ void OpenIssue::run(Commands::Command command)
         m_store->run(command, keys());
 }
 
-void OpenIssue::rename(const QString &title)
+void OpenIssue::rename(const QString &key, const QString &title)
 {
+    const auto known = m_store ? m_store->issue(key) : std::nullopt;
     const QString wanted = title.trimmed();
-    if (m_store && isKnown() && !wanted.isEmpty() && wanted != m_issue.summary)
-        m_store->rename(m_key, wanted);
+    if (known && !wanted.isEmpty() && wanted != oneLine((*known)->summary))
+        m_store->rename(key, wanted);
 }
 
 void OpenIssue::setDueDay(const QString &day)

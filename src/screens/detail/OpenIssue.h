@@ -93,8 +93,8 @@ public:
     Q_INVOKABLE void load();
     /// Carries out a command on it.
     Q_INVOKABLE void run(Commands::Command command);
-    /// Changes the title. A text without words changes nothing.
-    Q_INVOKABLE void rename(const QString &title);
+    /// Changes the title of an issue, perhaps of the one that was open until now. A text without words changes nothing.
+    Q_INVOKABLE void rename(const QString &key, const QString &title);
     /// Sets the due date to a day such as "2026-10-31"; an empty text clears it.
     Q_INVOKABLE void setDueDay(const QString &day);
     /// Focuses another issue and shows it in the inspector.

@@ -250,11 +250,10 @@ void CommandPalette::activate(int row)
 void CommandPalette::run(const OptionItem &option)
 {
     const auto *command = std::get_if<OptionAction::RunCommand>(&option.run.value);
-    if (m_issueKey.isEmpty() || !command)
-        m_store->run(option.run);
-    else if (const auto key = issueKeyOf(option))
+    const bool isOwn = !m_issueKey.isEmpty() && command;
+    if (const auto key = isOwn ? issueKeyOf(option) : std::nullopt)
         m_store->run(Command::OpenWindow, QStringList(*key));
-    else if (pickerOf(command->command))
+    else if (isOwn && pickerOf(command->command))
         request(command->command);
     else
         m_store->run(option.run);

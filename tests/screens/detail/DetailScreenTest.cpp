@@ -308,3 +308,64 @@ TEST_F(DetailScreen, SigningOutWhileATitleIsTypedSendsNothingToTheNextSession)
     ASSERT_TRUE(QTest::qWaitFor([&] { return store().phase() == AppStore::Phase::SignedOut; }));
     EXPECT_EQ(sent(), QStringList());
 }
+
+TEST_F(DetailScreen, ACommentThatWasBegunDoesNotGoToTheNextIssue)
+{
+    openIssue();
+    click(find(QAccessible::EditableText, u"Commentaire"_s));
+    type(u"Pour MOB-2"_s);
+    click(find(QAccessible::ListItem, u"MOB-1,"_s));
+    awaitTitle(u"Résumé de MOB-1"_s);
+    EXPECT_EQ(find(QAccessible::EditableText, u"Commentaire"_s).value, QString());
+    EXPECT_FALSE(isTyping());
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(service->addCommentCalls.count(), 0);
+}
+
+TEST_F(DetailScreen, ACalendarClosesWhenAnotherIssueIsShown)
+{
+    openIssue();
+    click(find(QAccessible::Button, u"Échéance"_s));
+    await(QAccessible::Grouping, u"Calendrier"_s);
+    store().openInInspector(u"MOB-1"_s);
+    EXPECT_TRUE(isGone(QAccessible::Grouping, u"Calendrier"_s));
+    EXPECT_EQ(sent(), QStringList());
+}
+
+TEST_F(DetailScreen, AnotherIssueIsShownFromItsBeginning)
+{
+    Issue tall = issueWithKey(u"MOB-2"_s);
+    for (int i = 0; i < 60; ++i)
+        tall.subtasks += IssueRef{{}, u"MOB-%1"_s.arg(100 + i), u"Sous-ticket"_s, {}, {}};
+    Issue other = tall;
+    other.key = u"MOB-1"_s;
+    serveIssues({tall, other});
+    reload();
+    openIssue();
+    const auto chip = find(QAccessible::Button, u"Échéance"_s).box;
+    for (int i = 0; i < 5; ++i) {
+        const QPoint place = chip.center();
+        QWheelEvent turn(place, window().mapToGlobal(place), {}, {0, -120}, {}, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window(), &turn);
+    }
+    const auto tops = [&] {
+        const auto found = spokenIn(window(), QAccessible::Button, u"Échéance"_s);
+        return found.isEmpty() ? -1000 : found.first().box.top();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tops() < chip.top(); }));
+    store().openInInspector(u"MOB-1"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tops() == chip.top(); }));
+}
+
+TEST_F(DetailScreen, ARefusedTitleIsTakenBackAndSaid)
+{
+    service->updateCalls.hold();
+    openIssue();
+    editTitle(u"Refusé"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(titleShown(), u"Refusé"_s);
+    service->updateCalls.last().fail(JiraError(JiraError::Http{400, u"Champ verrouillé."_s}));
+    EXPECT_EQ(titleShown(), u"Résumé de MOB-2"_s);
+    await(QAccessible::AlertMessage, u"Champ verrouillé."_s);
+}

@@ -9,18 +9,29 @@ FocusScope {
 
     required property OpenIssue issue
     readonly property string summary: issue.issue.summary
+    // The issue whose title is being typed.
+    property string editedKey
 
     // The user has finished typing, and the focus should go elsewhere.
     signal finished()
 
     // A text without words is replaced by the title as it was.
     function commit() {
-        root.issue.rename(field.text);
+        issue.rename(editedKey, field.text);
         reset();
     }
 
+    // Another issue is shown, or the focus comes or goes.
+    function begin() {
+        if (editedKey !== "")
+            commit();
+        else
+            reset();
+        editedKey = field.activeFocus ? issue.key : "";
+    }
+
     function reset() {
-        field.text = root.summary;
+        field.text = summary;
     }
 
     implicitHeight: field.y + field.implicitHeight
@@ -44,9 +55,8 @@ FocusScope {
             root.commit();
             root.finished();
         }
-        onActiveFocusChanged: if (!activeFocus) root.commit()
+        onActiveFocusChanged: root.begin()
         Component.onCompleted: root.reset()
-        // The issue was left by a press that does not take the focus.
-        Component.onDestruction: if (activeFocus) root.issue.rename(text)
+        Component.onDestruction: if (activeFocus) root.issue.rename(root.editedKey, text)
     }
 }

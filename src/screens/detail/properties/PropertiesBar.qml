@@ -15,11 +15,21 @@ FlowLayout {
     required property OpenIssue issue
     readonly property bool hasLabels: issue.issue.labels.length > 0
 
+    // Another issue is shown: no list or calendar stays open that would change it.
+    function begin() {
+        status.dismiss();
+        priority.dismiss();
+        assignee.dismiss();
+        labels.dismiss();
+        dueDate.dismiss();
+    }
+
     height: implicitHeight
     spacing: Metrics.gap
     lineSpacing: Metrics.gap
 
     PropertyChip {
+        id: status
         title: root.issue.statusTitle
         accessibleName: "Statut : " + title
         store: root.store
@@ -32,6 +42,7 @@ FlowLayout {
     }
 
     PropertyChip {
+        id: priority
         title: root.issue.priorityTitle
         accessibleName: "Priorité : " + title
         store: root.store
@@ -44,6 +55,7 @@ FlowLayout {
     }
 
     PropertyChip {
+        id: assignee
         implicitWidth: Math.min(root.width, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
         title: root.issue.assigneeTitle
         accessibleName: "Assigné : " + title
@@ -59,6 +71,7 @@ FlowLayout {
     }
 
     PropertyChip {
+        id: labels
         implicitWidth: Math.min(root.width, Math.ceil(implicitContentWidth) + leftPadding + rightPadding)
         title: root.issue.labelsTitle
         accessibleName: "Étiquettes : " + title
@@ -89,6 +102,7 @@ FlowLayout {
     }
 
     DueDateChip {
+        id: dueDate
         issue: root.issue
     }
 
