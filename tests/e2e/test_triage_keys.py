@@ -105,7 +105,7 @@ class TwentyWithoutMouse(TriageCase):
         for _ in range(6):
             self.velmora.app.find(role="panel", name="^Inspecteur$")
             key = self.velmora.focused_key()
-            self.velmora.app.find(role="label", name="^%s$" % key)
+            self.velmora.app.find(name="^Copier la clé %s$" % key)
             self.session.key("p", "2")
             self.see(key, "priorité Haute")
             six.append(key)

@@ -41,14 +41,14 @@ ADFNode paragraph(const QList<ADFNode> &content)
 
 TEST(ShownComment, TheTimeIsRelativeAndItsHintIsInFull)
 {
-    const auto comment = shown(written(u"Elsa Karoubi"_s, 4 * 3600));
+    const auto comment = shown(written(u"Elsa Karoubi"_s, qint64(4) * 3600));
     EXPECT_EQ(comment.age, u"4 h"_s);
     EXPECT_EQ(comment.date, u"29 octobre 2026 à 10:32"_s);
 }
 
 TEST(ShownComment, OneSentenceSaysAuthorTimeAndReaders)
 {
-    Comment comment = written(u"Elsa Karoubi"_s, 4 * 3600);
+    Comment comment = written(u"Elsa Karoubi"_s, qint64(4) * 3600);
     EXPECT_EQ(shown(comment).sentence, u"Elsa Karoubi a commenté il y a 4 h"_s);
     EXPECT_EQ(shown(comment, ProjectKind::ServiceDesk).sentence,
               u"Elsa Karoubi a commenté il y a 4 h, visible par le client"_s);
