@@ -102,9 +102,19 @@ TEST_F(MediaViewsTest, AStaleReferenceDoesNotVanish)
     auto *view = showNode(mediaWithID(u"404"_s), {picture(u"1"_s, u"a.png"_s)});
     EXPECT_GT(view->height(), 20);
     EXPECT_TRUE(spoken(QAccessible::Button).isEmpty());
-    EXPECT_FALSE(
-        spokenIn(bench.window(), QAccessible::StaticText, u"Pièce jointe (à ouvrir dans Jira)"_s)
-            .isEmpty());
+    const auto texts =
+        spokenIn(bench.window(), QAccessible::StaticText, u"Pièce jointe (à ouvrir dans Jira)"_s);
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_GT(texts[0].box.width(), 220) << "the whole sentence is in sight";
+}
+
+TEST_F(MediaViewsTest, AStaleReferenceInANarrowTextStaysWithinIt)
+{
+    auto *view = showNode(mediaWithID(u"404"_s), {});
+    view->setWidth(120);
+    const auto texts = spokenIn(bench.window(), QAccessible::StaticText, u"Pièce jointe"_s);
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_EQ(texts[0].box.width(), 120);
 }
 
 TEST_F(MediaViewsTest, TheMediaOfAGroupStandBelowEachOther)

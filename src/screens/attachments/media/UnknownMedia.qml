@@ -6,34 +6,33 @@ import Velmora.Theme
 Rectangle {
     id: root
 
-    implicitWidth: 20 + label.implicitWidth
-    implicitHeight: 20 + label.implicitHeight
+    readonly property int padding: 10
+
+    implicitWidth: Math.ceil(title.implicitWidth) + 2 * padding
+    implicitHeight: title.implicitHeight + 2 * padding
     radius: Metrics.radiusRow
     color: Theme.ink(0.05)
     Accessible.role: Accessible.StaticText
     Accessible.name: title.text
 
-    Row {
-        id: label
+    Symbol {
+        x: root.padding
+        anchors.verticalCenter: parent.verticalCenter
+        name: "paperclip"
+        size: 12
+        color: Theme.text2
+    }
 
-        x: 10
-        y: 10
-        spacing: Metrics.gapSmall
+    AppText {
+        id: title
 
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            name: "paperclip"
-            size: 12
-            color: Theme.text2
-        }
-
-        AppText {
-            id: title
-
-            width: Math.min(implicitWidth, root.width - x - 20)
-            color: Theme.text2
-            text: "Pièce jointe (à ouvrir dans Jira)"
-            Accessible.ignored: true
-        }
+        x: root.padding
+        y: root.padding
+        width: root.width - 2 * x
+        leftPadding: 20
+        color: Theme.text2
+        elide: Text.ElideRight
+        text: "Pièce jointe (à ouvrir dans Jira)"
+        Accessible.ignored: true
     }
 }
