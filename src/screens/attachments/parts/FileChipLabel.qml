@@ -12,7 +12,7 @@ Item {
     readonly property real widestName: 180
     readonly property real textLeft: 40
 
-    implicitWidth: textLeft + Math.ceil(Math.max(title.width, sizeText.implicitWidth)) + Metrics.gapSmall
+    implicitWidth: textLeft + Math.ceil(Math.max(title.width, sizeText.implicitWidth)) + Metrics.gapMedium
 
     Rectangle {
         id: picture
@@ -43,7 +43,7 @@ Item {
         id: title
 
         x: root.textLeft
-        y: 3
+        y: 4
         width: Math.min(implicitWidth, root.widestName)
         role: TypeScale.Small
         weight: Font.Medium
@@ -57,8 +57,7 @@ Item {
 
         x: root.textLeft
         y: 19
-        role: TypeScale.Micro
-        weight: Font.Normal
+        role: TypeScale.Caption
         tabular: true
         color: Theme.text2
         text: root.file.sizeText

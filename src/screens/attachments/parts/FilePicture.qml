@@ -18,6 +18,7 @@ Item {
         address: root.file.picture
         corner: root.corner
         hasSquareFoot: root.hasSquareFoot
+        symbolSize: Math.min(16, root.symbolSize)
     }
 
     Symbol {
