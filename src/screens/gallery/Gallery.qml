@@ -11,9 +11,9 @@ Window {
     required property bool dark
     required property int accent
     readonly property list<string> pages: ["icons", "symbols", "states", "fields", "forms", "controls", "panels", "overlays",
-        "menus", "sheets", "documents", "composers"]
+        "menus", "sheets", "documents", "composers", "attachments"]
     readonly property list<string> titles: ["Icônes", "Symboles", "États", "Champs et lignes", "Formulaires", "Commandes", "Panneaux",
-        "Menus et bulles", "Longs menus", "Feuille", "Documents", "Commentaire"]
+        "Menus et bulles", "Longs menus", "Feuille", "Documents", "Commentaire", "Pièces jointes"]
 
     width: 1320
     height: 1060

@@ -1,7 +1,7 @@
 import QtQuick
 
 /// Chooses the page by its name: icons, symbols, states, fields, forms, controls, panels, overlays, menus, sheets,
-/// documents or composers.
+/// documents, composers or attachments.
 Loader {
     id: root
 

@@ -15,6 +15,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ComposerPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_AttachmentsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 using namespace Qt::StringLiterals;
@@ -38,7 +39,7 @@ void addOptions(QCommandLineParser &parser)
     parser.addOptions(
         {{u"page"_s,
           u"icons, symbols, states, fields, forms, controls, panels, overlays, menus, sheets, "
-          "documents or composers"_s,
+          "documents, composers or attachments"_s,
           u"name"_s, u"icons"_s},
          {u"dark"_s, u"in the dark appearance"_s},
          {u"accent"_s, u"from 0, indigo, to 6, graphite"_s, u"number"_s, u"0"_s},

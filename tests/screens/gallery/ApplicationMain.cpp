@@ -12,6 +12,7 @@ Q_IMPORT_QML_PLUGIN(Velmora_StatePlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_OptionsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ComposerPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_AttachmentsPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_GalleryPlugin)
 
 int main(int argc, char **argv)

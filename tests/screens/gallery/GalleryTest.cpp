@@ -20,10 +20,10 @@ struct Page
 };
 
 const Page pages[]{
-    {u"icons"_s, {1150, 900}}, {u"symbols"_s, {1270, 960}}, {u"states"_s, {930, 960}},
-    {u"fields"_s, {930, 960}}, {u"forms"_s, {940, 680}},    {u"controls"_s, {1270, 420}},
-    {u"panels"_s, {930, 680}}, {u"overlays"_s, {870, 530}}, {u"menus"_s, {870, 420}},
-    {u"sheets"_s, {620, 440}}, {u"documents"_s, {960, 870}}};
+    {u"icons"_s, {1150, 900}}, {u"symbols"_s, {1270, 960}},  {u"states"_s, {930, 960}},
+    {u"fields"_s, {930, 960}}, {u"forms"_s, {940, 680}},     {u"controls"_s, {1270, 420}},
+    {u"panels"_s, {930, 680}}, {u"overlays"_s, {870, 530}},  {u"menus"_s, {870, 420}},
+    {u"sheets"_s, {620, 440}}, {u"documents"_s, {960, 870}}, {u"attachments"_s, {808, 616}}};
 
 int scale()
 {
@@ -168,7 +168,7 @@ class GalleryControls : public testing::TestWithParam<QString>
 
 INSTANTIATE_TEST_SUITE_P(Pages, GalleryControls,
                          testing::Values(u"states"_s, u"fields"_s, u"forms"_s, u"panels"_s,
-                                         u"controls"_s),
+                                         u"controls"_s, u"attachments"_s),
                          [](const auto &info) { return info.param.toStdString(); });
 
 TEST_P(GalleryControls, AllHaveANameAndARole)
@@ -193,7 +193,7 @@ class ReachableControls : public testing::TestWithParam<QString>
 // The pages with popups are left out, because an open popup keeps the keyboard focus.
 INSTANTIATE_TEST_SUITE_P(Pages, ReachableControls,
                          testing::Values(u"states"_s, u"fields"_s, u"forms"_s, u"panels"_s,
-                                         u"controls"_s),
+                                         u"controls"_s, u"attachments"_s),
                          [](const auto &info) { return info.param.toStdString(); });
 
 TEST_P(ReachableControls, AreReachedByTabUnlessTheyAreDisabled)
