@@ -6,8 +6,8 @@
 
 #include <memory>
 
-/// Fetches the users' pictures for an image loader. Uses the credentials of the latest session for pictures of its
-/// site, and no credentials for all other addresses.
+/// Fetches pictures for an image loader. Uses the credentials of the latest session for pictures of its site, and no
+/// credentials for all other addresses. Local files are read, because the attachments of the demo are such files.
 class SiteImageFetcher final : public ImageFetcher
 {
 public:

@@ -6,7 +6,9 @@
 #include "support/TaskResult.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -80,4 +82,31 @@ TEST_F(SiteImageFetcherTest, NoPictureIsHadFromASiteThatIsGone)
 {
     site.stopListening();
     EXPECT_TRUE(load(site.url().resolved(QUrl(u"/avatar.png"_s))).isNull());
+}
+
+TEST_F(SiteImageFetcherTest, APictureInALocalFileIsRead)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"capture d'écran.png"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(redPicture());
+    file.close();
+    EXPECT_EQ(load(QUrl::fromLocalFile(file.fileName())).size(), QSize(4, 4));
+    EXPECT_TRUE(load(QUrl::fromLocalFile(folder.filePath(u"absente.png"_s))).isNull());
+}
+
+TEST_F(SiteImageFetcherTest, AFileOfMoreBytesThanAreReadIsNoPicture)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"grande.png"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(redPicture());
+    // The rest takes no place on the disk.
+    ASSERT_TRUE(file.resize(ImageLimits().bytes + 1));
+    EXPECT_TRUE(load(QUrl::fromLocalFile(file.fileName())).isNull());
+}
+
+TEST_F(SiteImageFetcherTest, AFileThatNeverEndsIsNotRead)
+{
+    EXPECT_TRUE(load(QUrl::fromLocalFile(u"/dev/zero"_s)).isNull());
 }
