@@ -14,17 +14,11 @@ FocusScope {
 
     signal failed(text: string)
 
-    function tellProblem() {
-        if (pages.problem.length > 0)
-            failed(pages.problem);
-    }
-
-    Component.onCompleted: tellProblem()
-
     PdfPreview {
         id: pages
 
         url: root.url
+        onChanged: if (problem.length > 0) root.failed(problem)
     }
 
     ListView {
@@ -97,5 +91,11 @@ FocusScope {
         anchors.bottom: parent.bottom
         width: parent.width
         text: pages.note
+    }
+
+    Spinner {
+        anchors.centerIn: parent
+        visible: pages.isLoading
+        size: 20
     }
 }

@@ -1,5 +1,9 @@
 #include "screens/attachments/preview/PdfPreview.h"
 
+#include "async/OffThread.h"
+#include "async/Spawn.h"
+#include "async/WhileAlive.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -25,8 +29,18 @@ void PdfPreview::setUrl(const QUrl &url)
     if (!m_url.isEmpty() || url.isEmpty())
         return;
     m_url = url;
-    m_work = PdfWork::open(url.toLocalFile());
+    m_isLoading = true;
     Q_EMIT urlChanged();
+    Q_EMIT changed();
+    spawn(load(url.toLocalFile()));
+}
+
+QCoro::Task<> PdfPreview::load(QString path)
+{
+    auto read = [path, home = thread()] { return PdfFile::read(path, home); };
+    m_work = PdfWork::of(co_await whileAlive(this, offThread(std::move(read))));
+    m_isLoading = false;
+    Q_EMIT changed();
 }
 
 QString PdfPreview::note() const

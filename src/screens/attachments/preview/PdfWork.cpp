@@ -25,25 +25,31 @@ QString problemOf(QPdfDocument::Error error)
 
 } // namespace
 
-PdfWork *PdfWork::open(const QString &path)
+PdfFile PdfFile::read(const QString &path, QThread *home)
 {
-    auto *work = std::unique_ptr<PdfWork>(new PdfWork).release();
+    PdfFile file{.document = std::make_unique<QPdfDocument>(), .pages = {}, .problem = {}};
     // A pipe would block.
     const auto error =
-        QFileInfo(path).isFile() ? work->m_document.load(path) : QPdfDocument::Error::FileNotFound;
-    work->m_problem = problemOf(error);
-    const int count = std::min(work->m_document.pageCount(), MaximumPdfPages);
+        QFileInfo(path).isFile() ? file.document->load(path) : QPdfDocument::Error::FileNotFound;
+    file.problem = problemOf(error);
+    const int count = std::min(file.document->pageCount(), MaximumPdfPages);
     for (int page = 0; page < count; ++page)
-        work->m_pages += work->m_document.pagePointSize(page);
-    if (work->m_problem.isEmpty() && count == 0)
-        work->m_problem = problemOf(QPdfDocument::Error::InvalidFileFormat);
-    return work;
+        file.pages += file.document->pagePointSize(page);
+    if (file.problem.isEmpty() && count == 0)
+        file.problem = problemOf(QPdfDocument::Error::InvalidFileFormat);
+    file.document->moveToThread(home);
+    return file;
 }
 
-PdfWork::PdfWork()
+PdfWork *PdfWork::of(PdfFile file)
+{
+    return std::unique_ptr<PdfWork>(new PdfWork(std::move(file))).release();
+}
+
+PdfWork::PdfWork(PdfFile file) : m_file(std::move(file))
 {
     m_renderer.setRenderMode(QPdfPageRenderer::RenderMode::MultiThreaded);
-    m_renderer.setDocument(&m_document);
+    m_renderer.setDocument(m_file.document.get());
     connect(&m_renderer, &QPdfPageRenderer::pageRendered, this,
             [this](int, QSize, const QImage &image, auto, quint64 order) { finish(order, image); });
 }

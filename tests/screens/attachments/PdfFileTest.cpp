@@ -1,0 +1,73 @@
+#include "screens/attachments/preview/PdfWork.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PdfFileTest : public testing::Test
+{
+protected:
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"doc.pdf"_s);
+
+    PdfFile fileOf(const QByteArray &content) const
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
+        file.close();
+        return PdfFile::read(path, QThread::currentThread());
+    }
+    /// A PDF with this tree of pages, without the table that says where its objects are.
+    static QByteArray pdfWith(const QByteArray &pages)
+    {
+        return "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages" +
+               pages +
+               ">>endobj\n3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 100]>>endobj\n"
+               "trailer<</Root 1 0 R>>\n%%EOF\n";
+    }
+};
+
+} // namespace
+
+TEST_F(PdfFileTest, HasTheSizesOfItsPages)
+{
+    const PdfFile file = fileOf(pdfWith("/Count 1/Kids[3 0 R]"));
+    EXPECT_EQ(file.problem, u""_s);
+    EXPECT_EQ(file.pages, QList<QSizeF>({{200, 100}}));
+}
+
+TEST_F(PdfFileTest, ThatClaimsAMillionPagesIsReadAsFarAsTheyAreShown)
+{
+    const PdfFile file = fileOf(pdfWith("/Count 1000000/Kids[3 0 R]"));
+    EXPECT_LE(file.pages.size(), MaximumPdfPages);
+}
+
+TEST_F(PdfFileTest, WhosePagesContainThemselvesEnds)
+{
+    const PdfFile file = fileOf(pdfWith("/Count 3/Kids[2 0 R 2 0 R 3 0 R]"));
+    EXPECT_LE(file.pages.size(), 3);
+}
+
+TEST_F(PdfFileTest, ThatIsCutOffOrDamagedAnywhereIsReadOrTold)
+{
+    const QByteArray whole = pdfWith("/Count 1/Kids[3 0 R]");
+    for (qsizetype length = 0; length < whole.size(); length += 7) {
+        const PdfFile file = fileOf(whole.first(length));
+        EXPECT_NE(file.problem.isEmpty(), file.pages.isEmpty()) << length;
+    }
+}
+
+TEST_F(PdfFileTest, ThatIsMissingIsToldAndAPipeIsNotWaitedFor)
+{
+    const QString gone = u"Le fichier n'est plus là."_s;
+    EXPECT_EQ(PdfFile::read(path, QThread::currentThread()).problem, gone);
+    ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
+    EXPECT_EQ(PdfFile::read(path, QThread::currentThread()).problem, gone);
+}
