@@ -21,6 +21,11 @@ FocusScope {
         onChanged: if (problem.length > 0) root.failed(problem)
     }
 
+    Rectangle {
+        anchors.fill: list
+        color: Theme.ink(0.05)
+    }
+
     ListView {
         id: list
 

@@ -45,6 +45,12 @@ FocusScope {
         onChanged: if (problem.length > 0) root.failed(problem)
     }
 
+    // A white picture is told from what surrounds it.
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ink(0.05)
+    }
+
     PictureCanvas {
         id: canvas
 
