@@ -20,12 +20,13 @@ const auto StageKey = u"WEB-1"_s;
 
 const auto Screen = u"import QtQuick\nimport Velmora.Attachments\nimport Velmora.State\n"
                     "FocusScope { id: screen; width: 600; height: 460; focus: true\n"
+                    "property string issueKey: 'WEB-1'\n"
                     "property AttachmentPreviewer previewer: AttachmentPreviewer { store: "
-                    "appStore; key: 'WEB-1'; window: screen.Window.window; "
+                    "appStore; key: screen.issueKey; window: screen.Window.window; "
                     "files: section.issueFiles.files }\n"
                     "property FileImport files: section.importer\n"
                     "AttachmentsSection { id: section; x: 20; y: 20; width: 444; store: appStore; "
-                    "previewer: screen.previewer; issueKey: 'WEB-1' }\n"
+                    "previewer: screen.previewer; issueKey: screen.issueKey }\n"
                     "AttachmentDropArea { anchors.fill: parent; files: section.issueFiles }\n"
                     "PreviewHost { previewer: screen.previewer } }"_s;
 
@@ -55,11 +56,16 @@ void AttachmentStage::open(const QList<Attachment> &attachments)
     m_bench = std::make_unique<Bench>();
     window().resize(600, 460);
     m_bench->window().rootContext()->setContextProperty(u"appStore"_s, store.get());
-    const QQuickItem *screen = m_bench->show(Screen);
-    ASSERT_NE(screen, nullptr) << m_bench->warnings();
-    m_previewer = screen->property("previewer").value<AttachmentPreviewer *>();
+    m_screen = m_bench->show(Screen);
+    ASSERT_NE(m_screen, nullptr) << m_bench->warnings();
+    m_previewer = m_screen->property("previewer").value<AttachmentPreviewer *>();
     m_previewer->setTools(fakes.tools());
-    screen->property("files").value<FileImport *>()->setTools(fakes.tools());
+    m_screen->property("files").value<FileImport *>()->setTools(fakes.tools());
+}
+
+void AttachmentStage::showIssue(const QString &key)
+{
+    m_screen->setProperty("issueKey", key);
 }
 
 Attachment AttachmentStage::cached(const QString &id, const QString &name, const QString &mimeType,

@@ -18,6 +18,8 @@ protected:
 
     /// Shows the files of the issue WEB-1. Each file is in the local cache at once, under `folder`.
     void open(const QList<Attachment> &attachments);
+    /// Shows the files of another issue, which has none.
+    void showIssue(const QString &key);
     /// Adds a file to the cache and returns its attachment.
     Attachment cached(const QString &id, const QString &name, const QString &mimeType,
                       const QByteArray &content) const;
@@ -51,5 +53,6 @@ protected:
 
 private:
     std::unique_ptr<Bench> m_bench;
+    QQuickItem *m_screen = nullptr;
     AttachmentPreviewer *m_previewer = nullptr;
 };

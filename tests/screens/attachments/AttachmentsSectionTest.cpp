@@ -231,3 +231,28 @@ TEST_F(AttachmentsSectionTest, ATrickInANameIsSeenOnItsTile)
     open({cached(u"1"_s, u"facture\u202Egpj.exe"_s, u"application/octet-stream"_s, "MZ")});
     EXPECT_TRUE(awaits(QAccessible::ListItem, u"facture\uFFFDgpj.exe"_s));
 }
+
+TEST_F(AttachmentsSectionTest, AnotherIssueWithdrawsTheQuestionAboutAFile)
+{
+    openFour();
+    goToTiles();
+    press(Qt::Key_Delete);
+    ASSERT_TRUE(awaits(QAccessible::Heading, u"Supprimer"_s));
+    showIssue(u"WEB-2"_s);
+    EXPECT_TRUE(awaitsNo(QAccessible::Heading, u"Supprimer"_s));
+    EXPECT_EQ(service->deleteAttachmentCalls.count(), 0);
+    click(QAccessible::Button, u"Joindre"_s);
+    EXPECT_EQ(fakes.dialogs->titles.size(), 1) << "nothing covers the window";
+}
+
+TEST_F(AttachmentsSectionTest, AnotherIssueClosesTheMenuOfAFile)
+{
+    openFour();
+    goToTiles();
+    press(Qt::Key_Menu);
+    ASSERT_TRUE(awaits(QAccessible::MenuItem, u"Ouvrir"_s));
+    showIssue(u"WEB-2"_s);
+    EXPECT_TRUE(awaitsNo(QAccessible::MenuItem, u"Ouvrir"_s));
+    click(QAccessible::Button, u"Joindre"_s);
+    EXPECT_EQ(fakes.dialogs->titles.size(), 1) << "nothing covers the window";
+}

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTest>
+#include <QThreadPool>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +32,8 @@ QByteArray pdf(int pages)
 class PreviewTest : public AttachmentStage
 {
 protected:
+    static constexpr std::chrono::milliseconds FrameTime{50};
+
     QQuickWindow *preview = nullptr;
 
     /// Previews the first of the files.
@@ -71,6 +74,21 @@ protected:
     Attachment pictureFile(const QString &id, QSize size = {1600, 900})
     {
         return cached(id, id + u".png"_s, u"image/png"_s, SamplePictures::picture("png", size));
+    }
+    /// A picture of one pixel, red and green for 50 ms each.
+    Attachment animation()
+    {
+        QByteArray gif = QByteArray::fromHex("47494638396101000100800000ff000000ff00");
+        for (const char *code : {"024401", "024c01"})
+            gif += QByteArray::fromHex("21f9040005000000"
+                                       "2c00000000010001000002") +
+                   QByteArray::fromHex(code) + QByteArray::fromHex("00");
+        return cached(u"anim"_s, u"anim.gif"_s, u"image/gif"_s, gif + ';');
+    }
+    static QColor colourOf(const PictureCanvas &canvas)
+    {
+        const auto &levels = canvas.preview()->levels();
+        return levels.isEmpty() ? QColor() : levels.first().pixelColor(0, 0);
     }
     Attachment textFile(const QString &id, const QByteArray &content)
     {
@@ -114,23 +132,13 @@ TEST_F(PreviewTest, APictureIsZoomedAndMovedByKeysAndTheWheel)
 
 TEST_F(PreviewTest, AnAnimatedPictureMoves)
 {
-    QByteArray gif = QByteArray::fromHex("47494638396101000100800000ff000000ff00");
-    for (const char *code : {"024401", "024c01"})
-        gif += QByteArray::fromHex("21f9040005000000"
-                                   "2c00000000010001000002") +
-               QByteArray::fromHex(code) + QByteArray::fromHex("00");
-    gif += ';';
-    previewFirst({cached(u"anim"_s, u"anim.gif"_s, u"image/gif"_s, gif)});
+    previewFirst({animation()});
     auto *canvas = shownItem<PictureCanvas>();
-    const auto colour = [&] {
-        const auto &levels = canvas->preview()->levels();
-        return levels.isEmpty() ? QColor() : levels.first().pixelColor(0, 0);
-    };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return colour() == Qt::red; }));
-    clock.advance(std::chrono::milliseconds(50));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return colour() == Qt::green; }));
-    clock.advance(std::chrono::milliseconds(50));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return colour() == Qt::red; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::red; }));
+    clock.advance(FrameTime);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::green; }));
+    clock.advance(FrameTime);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::red; }));
 }
 
 TEST_F(PreviewTest, APictureThatIsTooLargeSaysSoAndCanBeOpened)
@@ -241,4 +249,46 @@ TEST_F(PreviewTest, AFileThatVanishesFromTheCacheIsTold)
     QFile::remove(folder.filePath(u"journal"_s));
     previewFirst({file});
     EXPECT_TRUE(says(QAccessible::StaticText, u"Le fichier n'est plus là."_s));
+}
+
+TEST_F(PreviewTest, AFileDeletedWhileItIsPreviewedStaysUntilItIsShownAgain)
+{
+    previewFirst({textFile(u"journal"_s, "premier\n"), textFile(u"autre"_s, "second\n")});
+    ASSERT_TRUE(says(QAccessible::ListItem, u"premier"_s));
+    ASSERT_TRUE(QFile::remove(folder.filePath(u"journal"_s)));
+    preview->resize(preview->width() + 40, preview->height());
+    EXPECT_TRUE(says(QAccessible::ListItem, u"premier"_s));
+    pressIn(*preview, Qt::Key_Right);
+    ASSERT_TRUE(says(QAccessible::ListItem, u"second"_s));
+    pressIn(*preview, Qt::Key_Left);
+    EXPECT_TRUE(says(QAccessible::StaticText, u"Le fichier n'est plus là."_s));
+}
+
+TEST_F(PreviewTest, AnAnimationWhoseFileIsDeletedStopsAtItsLastFrame)
+{
+    previewFirst({animation()});
+    auto *canvas = shownItem<PictureCanvas>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::red; }));
+    ASSERT_TRUE(QFile::remove(folder.filePath(u"anim"_s)));
+    clock.advance(FrameTime);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::green; }));
+    const int timers = clock.pending();
+    clock.advance(FrameTime);
+    ASSERT_TRUE(QThreadPool::globalInstance()->waitForDone());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(clock.pending(), timers - 1) << "no further frame is awaited";
+    EXPECT_EQ(colourOf(*canvas), QColor(Qt::green));
+    EXPECT_EQ(canvas->preview()->problem(), u""_s);
+}
+
+TEST_F(PreviewTest, ThePreviewMayCloseWhileAPdfIsBeingReadAndDrawn)
+{
+    const QList<Attachment> files{cached(u"doc"_s, u"doc.pdf"_s, u"application/pdf"_s, pdf(40)),
+                                  cached(u"autre"_s, u"autre.pdf"_s, u"application/pdf"_s, pdf(2))};
+    previewFirst(files);
+    pressIn(*preview, Qt::Key_Right);
+    ASSERT_NE(shownItem<PdfPage>(), nullptr);
+    pressIn(*preview, Qt::Key_Left);
+    pressIn(*preview, Qt::Key_Escape);
+    EXPECT_TRUE(awaitsNoPreview());
 }
