@@ -23,11 +23,6 @@ Item {
         holder.shown = true;
     }
 
-    AbandonedText {
-        id: abandonedText
-        store: root.store
-    }
-
     Connections {
         target: root.store
 
@@ -47,7 +42,6 @@ Item {
 
         CreateSheet {
             store: root.store
-            abandoned: abandonedText
             isLeaving: root.isLeaving
             onClosed: holder.shown = false
         }

@@ -12,7 +12,6 @@ Item {
     id: root
 
     required property AppStore store
-    required property AbandonedText abandoned
     required property bool isLeaving
 
     // The sheet has begun to close.
@@ -30,7 +29,6 @@ Item {
         id: form
 
         store: root.store
-        abandoned: root.abandoned
         onFinished: sheet.close()
         onRestarted: title.forceActiveFocus(Qt.OtherFocusReason)
     }

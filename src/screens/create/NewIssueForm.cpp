@@ -11,12 +11,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Creates the issue even if the form goes in the meantime, and then forgets the text that was kept when it went.
-QCoro::Task<bool> created(QPointer<AppStore> store, IssueDraft draft,
-                          QPointer<AbandonedText> abandoned, NewIssue sent)
+QCoro::Task<bool> created(QPointer<AppStore> store, IssueDraft draft, AbandonedPlace place,
+                          AbandonedText sent)
 {
     const auto key = co_await store->create(draft);
-    if (key && abandoned)
-        abandoned->forget(sent.summary, sent.details);
+    if (key)
+        place.forget(sent);
     co_return key.has_value();
 }
 
@@ -26,9 +26,12 @@ void NewIssueForm::setStore(AppStore *store)
 {
     if (m_store == store)
         return;
-    if (m_store)
+    if (m_store) {
         m_store->disconnect(this);
+        AbandonedTexts::of(*m_store).disconnect(this);
+    }
     m_store = store;
+    m_place = {};
     if (m_store) {
         for (const auto change :
              {&AppStoreFields::projectsChanged, &AppStoreFields::projectDetailsChanged,
@@ -36,21 +39,12 @@ void NewIssueForm::setStore(AppStore *store)
               &AppStoreFields::issuesChanged, &AppStoreFields::meChanged})
             connect(m_store, change, this, &NewIssueForm::choicesChanged);
         connect(m_store, &AppStore::calendarChanged, this, &NewIssueForm::choicesChanged);
+        auto &texts = AbandonedTexts::of(*m_store);
+        m_place = texts.place(AbandonedTexts::Kind::NewIssue);
+        connect(&texts, &AbandonedTexts::changed, this, &NewIssueForm::canResumeChanged);
     }
     Q_EMIT storeChanged();
     Q_EMIT choicesChanged();
-}
-
-void NewIssueForm::setAbandoned(AbandonedText *abandoned)
-{
-    if (m_abandoned == abandoned)
-        return;
-    if (m_abandoned)
-        m_abandoned->disconnect(this);
-    m_abandoned = abandoned;
-    if (m_abandoned)
-        connect(m_abandoned, &AbandonedText::changed, this, &NewIssueForm::canResumeChanged);
-    Q_EMIT abandonedChanged();
     Q_EMIT canResumeChanged();
 }
 
@@ -79,24 +73,29 @@ void NewIssueForm::setTexts(const QString &summary, const QString &details)
         Q_EMIT canSubmitChanged();
 }
 
+AbandonedText NewIssueForm::text() const
+{
+    return {.title = m_issue.summary, .body = m_issue.details};
+}
+
 void NewIssueForm::abandon()
 {
-    if (m_abandoned && !m_isCreated)
-        m_abandoned->keep(m_issue.summary, m_issue.details);
+    if (!m_isCreated)
+        m_place.keep(text());
 }
 
 bool NewIssueForm::canResume() const
 {
-    return m_abandoned && !m_abandoned->isEmpty() && m_issue.summary.isEmpty() &&
-           m_issue.details.isEmpty();
+    return m_issue.summary.isEmpty() && m_issue.details.isEmpty() && m_place.text();
 }
 
 void NewIssueForm::resume()
 {
     if (!canResume())
         return;
-    setTexts(m_abandoned->summary(), m_abandoned->details());
-    m_abandoned->clear();
+    const AbandonedText abandoned = *m_place.text();
+    m_place.forget();
+    setTexts(abandoned.title, abandoned.body);
 }
 
 // The choices ---------------------------------------------------------------------------------------------------------
@@ -246,8 +245,7 @@ void NewIssueForm::submit()
 
 QCoro::Task<> NewIssueForm::create()
 {
-    const bool isCreated =
-        co_await whileAlive(this, created(m_store, draft(), m_abandoned, m_issue));
+    const bool isCreated = co_await whileAlive(this, created(m_store, draft(), m_place, text()));
     setSubmitting(false);
     if (isCreated)
         takeCreated();

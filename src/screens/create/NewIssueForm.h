@@ -1,8 +1,8 @@
 #pragma once
 
-#include "screens/create/AbandonedText.h"
 #include "state/AppStore.h"
 #include "state/composing/NewIssue.h"
+#include "state/drafts/AbandonedTexts.h"
 
 #include <QObject>
 #include <QPointer>
@@ -15,9 +15,6 @@ class NewIssueForm : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppStore *store READ store WRITE setStore NOTIFY storeChanged FINAL REQUIRED)
-    /// Where the text is kept when the sheet is closed without a creation.
-    Q_PROPERTY(AbandonedText *abandoned READ abandoned WRITE setAbandoned NOTIFY abandonedChanged
-                   FINAL REQUIRED)
     /// The title.
     Q_PROPERTY(QString summary READ summary WRITE setSummary NOTIFY textChanged FINAL)
     /// The description, as Markdown.
@@ -48,8 +45,6 @@ public:
 
     AppStore *store() const { return m_store; }
     void setStore(AppStore *store);
-    AbandonedText *abandoned() const { return m_abandoned; }
-    void setAbandoned(AbandonedText *abandoned);
 
     /// The values entered so far. Without a choice of the user, the type is absent.
     const NewIssue &issue() const { return m_issue; }
@@ -88,7 +83,6 @@ public:
 
 Q_SIGNALS:
     void storeChanged();
-    void abandonedChanged();
     void textChanged();
     void createsMoreChanged();
     void submittingChanged();
@@ -115,6 +109,7 @@ private:
     QString assigneeTitle() const;
     QString labelsTitle() const;
 
+    AbandonedText text() const;
     void setTexts(const QString &summary, const QString &details);
     void setSubmitting(bool submitting);
     IssueDraft draft() const;
@@ -122,7 +117,8 @@ private:
     void takeCreated();
 
     QPointer<AppStore> m_store;
-    QPointer<AbandonedText> m_abandoned;
+    /// Where the text is kept when the sheet is closed without a creation.
+    AbandonedPlace m_place;
     NewIssue m_issue;
     bool m_createsMore = false;
     bool m_isSubmitting = false;

@@ -30,8 +30,6 @@ OpenForm::OpenForm()
     const TaskResult<void> started(store->startDemo());
     holdEverything();
     store->setIsCreating(true);
-    abandoned.setStore(store.get());
-    form->setAbandoned(&abandoned);
     form->setStore(store.get());
     form->begin();
 }

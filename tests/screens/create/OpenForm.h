@@ -20,10 +20,16 @@ protected:
     QStringList selected(NewIssueOptions::Kind kind);
     void choose(NewIssueOptions::Kind kind, const QString &title);
     IssueDraft sent() { return service->createCalls.last().argument(); }
+    /// Where forms of the present session keep their text.
+    AbandonedPlace place()
+    {
+        return AbandonedTexts::of(*store).place(AbandonedTexts::Kind::NewIssue);
+    }
+    /// The title of the abandoned text; empty without one.
+    QString abandonedTitle() { return place().text().value_or(AbandonedText()).title; }
     /// The type of the form; empty without one.
     QString typeName() const { return form->type().value_or(IssueType()).name; }
 
-    AbandonedText abandoned;
     std::unique_ptr<NewIssueForm> form = std::make_unique<NewIssueForm>();
 
 private:
