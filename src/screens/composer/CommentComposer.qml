@@ -13,6 +13,7 @@ FocusScope {
     required property Composition composition
 
     readonly property int padding: 6
+    readonly property int readersHeight: composition.hasReaders ? 30 : 0
     // The editor carries out a change that the composition has made.
     property bool isApplying: false
 
@@ -94,11 +95,27 @@ FocusScope {
         }
     }
 
+    // The abandoned text of this issue, which is offered while the editor is empty.
+    When {
+        shown: root.composition.canResume
+
+        PushButton {
+            x: root.padding + Metrics.gapTiny
+            y: root.padding + root.readersHeight
+            look: PushButton.Plain
+            text: "Reprendre le brouillon"
+            onClicked: {
+                root.composition.resume();
+                root.write();
+            }
+        }
+    }
+
     Item {
         id: line
 
         x: root.padding
-        y: root.padding + (root.composition.hasReaders ? 30 : 0)
+        y: root.padding + root.readersHeight + (root.composition.canResume ? Metrics.filterChipHeight : 0)
         width: parent.width - 2 * x
         height: Math.max(30, editor.height + 2 * Metrics.gapSmall)
 

@@ -8,12 +8,34 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Sends a comment whose draft may go in the meantime. The text of a comment that is then refused is kept, in front of what
+/// was typed after it.
+QCoro::Task<bool> keptIfRefused(QCoro::Task<bool> posting, QPointer<CommentDraft> draft,
+                                AbandonedPlace place, OutgoingComment comment)
+{
+    const bool isPosted = co_await posting;
+    if (!isPosted && !draft)
+        place.keepBefore(
+            {.body = comment.text, .mentions = comment.mentions, .audience = comment.audience});
+    co_return isPosted;
+}
+
+} // namespace
+
 Composition::Composition(QObject *parent) : QObject(parent) {}
 
-Composition::~Composition() = default;
-
-void Composition::restart()
+Composition::~Composition()
 {
+    blockSignals(true);
+    abandon();
+}
+
+void Composition::restart(const AbandonedPlace &place)
+{
+    abandon();
+    m_place = place;
     m_draft = std::make_unique<CommentDraft>(CommentDraft::Sources{
         .clock = clock(),
         .candidates = [this] { return candidates(); },
@@ -24,6 +46,28 @@ void Composition::restart()
     connect(m_draft.get(), &CommentDraft::replaced, this, &Composition::replaced);
     Q_EMIT restarted();
     Q_EMIT changed();
+}
+
+void Composition::abandon()
+{
+    if (m_draft)
+        m_place.keep({.body = m_draft->unsentText(),
+                      .mentions = m_draft->mentioned(),
+                      .audience = m_draft->audience()});
+}
+
+bool Composition::canResume() const
+{
+    return m_draft && m_draft->text().isEmpty() && m_place.text();
+}
+
+void Composition::resume()
+{
+    if (!canResume())
+        return;
+    const AbandonedText abandoned = *m_place.text();
+    m_place.forget();
+    m_draft->restore({abandoned.body, abandoned.audience, abandoned.mentions});
 }
 
 void Composition::refresh()
@@ -144,7 +188,8 @@ void Composition::send()
 QCoro::Task<> Composition::sendNow(OutgoingComment comment)
 {
     const QPointer<CommentDraft> draft = m_draft.get();
-    const bool isPosted = co_await whileAlive(this, post(comment));
+    const bool isPosted =
+        co_await whileAlive(this, keptIfRefused(post(comment), draft, m_place, comment));
     if (draft)
         draft->endSending(isPosted);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "state/composing/CommentDraft.h"
+#include "state/drafts/AbandonedTexts.h"
 
 #include <QObject>
 #include <QUrl>
@@ -9,7 +10,8 @@
 #include <memory>
 
 /// What a comment composer shows and does: the draft for QML, and its sending. Its kinds say where users come from and
-/// where comments go. A text belongs to one issue and is lost with it.
+/// where comments go. A text belongs to one issue. If it was not sent when the issue or the composer goes, it is kept as the
+/// abandoned text of that issue.
 class Composition : public QObject
 {
     Q_OBJECT
@@ -27,6 +29,8 @@ class Composition : public QObject
     Q_PROPERTY(bool isSending READ isSending NOTIFY changed FINAL)
     /// Users are suggested for the mention that is being typed.
     Q_PROPERTY(bool hasSuggestions READ hasSuggestions NOTIFY changed FINAL)
+    /// There is an abandoned text, and nothing has been typed yet.
+    Q_PROPERTY(bool canResume READ canResume NOTIFY changed FINAL)
     Q_PROPERTY(int highlighted READ highlighted WRITE setHighlighted NOTIFY changed FINAL)
 
 public:
@@ -44,6 +48,7 @@ public:
     bool isSending() const;
     bool hasSuggestions() const { return !suggestions().isEmpty(); }
     QList<JiraUser> suggestions() const;
+    bool canResume() const;
     int highlighted() const;
     void setHighlighted(int index);
 
@@ -56,6 +61,8 @@ public:
     /// Returns false if the key has its usual effect.
     bool take(CommentDraft::Key key);
     Q_INVOKABLE void send();
+    /// Goes on with the abandoned text, with its mentions and its readers. Has no effect unless `canResume`.
+    Q_INVOKABLE void resume();
     /// Uploads files to the issue at once, and then adds links to them to the text.
     Q_INVOKABLE void attach(const QList<QUrl> &files);
 
@@ -78,17 +85,20 @@ protected:
     /// Returns the stored files. Reports a failure to the user.
     virtual QCoro::Task<QList<Attachment>> upload(QList<QUrl> files) = 0;
 
-    /// Begins an empty draft, for another issue. Nothing that is under way for the previous one changes it.
-    void restart();
+    /// Begins an empty draft, for another issue, whose abandoned text has this place. Nothing that is under way for the
+    /// previous issue changes it.
+    void restart(const AbandonedPlace &place = {});
     /// The candidates may have changed.
     void refresh();
     /// Whether `restart` was called: before that there is no issue to write on.
     bool hasDraft() const { return m_draft != nullptr; }
 
 private:
+    void abandon();
     QCoro::Task<> sendNow(OutgoingComment comment);
     QCoro::Task<> attachNow(QList<QUrl> files);
 
     std::unique_ptr<CommentDraft> m_draft;
+    AbandonedPlace m_place;
     bool m_allowsInternal = false;
 };

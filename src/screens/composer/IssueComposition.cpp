@@ -24,16 +24,26 @@ void IssueComposition::setStore(AppStore *store)
 {
     if (m_store == store)
         return;
-    if (m_store)
+    if (m_store) {
         m_store->disconnect(this);
+        AbandonedTexts::of(*m_store).disconnect(this);
+    }
     m_store = store;
     if (m_store) {
         for (const auto change : {&AppStoreFields::commentsChanged, &AppStoreFields::detailsChanged,
                                   &AppStoreFields::assignablesChanged, &AppStoreFields::meChanged})
             connect(m_store, change, this, [this] { refresh(); });
-        restart();
+        const auto &texts = AbandonedTexts::of(*m_store);
+        connect(&texts, &AbandonedTexts::changed, this, &Composition::changed);
+        connect(&texts, &AbandonedTexts::sessionEnded, this, &IssueComposition::begin);
+        begin();
     }
     Q_EMIT storeChanged();
+}
+
+void IssueComposition::begin()
+{
+    restart(AbandonedTexts::of(*m_store).place(AbandonedTexts::Kind::Comment, m_issueKey));
 }
 
 void IssueComposition::setIssueKey(const QString &key)
@@ -42,7 +52,7 @@ void IssueComposition::setIssueKey(const QString &key)
         return;
     m_issueKey = key;
     if (m_store)
-        restart();
+        begin();
     Q_EMIT issueChanged();
 }
 

@@ -39,6 +39,8 @@ protected:
     QCoro::Task<QList<Attachment>> upload(QList<QUrl> files) override;
 
 private:
+    void begin();
+
     QPointer<AppStore> m_store;
     QString m_issueKey;
     QString m_projectKey;

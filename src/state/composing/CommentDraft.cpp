@@ -144,6 +144,21 @@ void CommentDraft::addLinks(const QList<Attachment> &attachments)
     replace(m_text.size(), m_text.size(), needsBreak ? u'\n' + lines : lines);
 }
 
+QString CommentDraft::unsentText() const
+{
+    return m_sent && m_text.startsWith(m_sent->text) ? m_text.sliced(m_sent->text.size()) : m_text;
+}
+
+void CommentDraft::restore(const OutgoingComment &abandoned)
+{
+    m_mentioned = abandoned.mentions;
+    m_audience = abandoned.audience;
+    // A mention at the end of the text was typed earlier, and must suggest nobody.
+    const auto last = mentionQuery(abandoned.text, abandoned.text.size());
+    m_dismissed = last ? std::optional(last->words) : std::nullopt;
+    replace(0, m_text.size(), abandoned.text);
+}
+
 void CommentDraft::setAllowsInternal(bool allows)
 {
     if (std::exchange(m_allowsInternal, allows) != allows)

@@ -21,7 +21,7 @@ struct OutgoingComment
 
 /// A comment on one issue while it is written: the text, the mention that is being typed with its suggestions, who will
 /// read it, and whether it is being sent. It has no access to the screen: the editor reports each change of its text and
-/// caret, and carries out the changes that this object requests. Drafts are not saved.
+/// caret, and carries out the changes that this object requests.
 class CommentDraft : public QObject
 {
     Q_OBJECT
@@ -50,6 +50,11 @@ public:
     void beginMention();
     /// Adds a line with a link for each attachment that has an address.
     void addLinks(const QList<Attachment> &attachments);
+    /// What would be lost with the draft: the text without the part that is being sent.
+    QString unsentText() const;
+    /// Replaces the text by one that was abandoned, with its picked users and its readers. An internal note stays one,
+    /// even if the project does not allow it, or is not known yet.
+    void restore(const OutgoingComment &abandoned);
 
     // Mentions --------------------------------------------------------------------------------------------------------
     /// The words of the mention that is being typed; nothing if there is none, or the user has dismissed these words.

@@ -370,3 +370,29 @@ TEST_F(CommentDraftTest, ADraftThatGoesWhileItsMentionIsSearchedIsLeftAlone)
     other.reset();
     EXPECT_TRUE(call.wasStopped());
 }
+
+// Abandoned texts -----------------------------------------------------------------------------------------------------
+
+TEST_F(CommentDraftTest, ARestoredTextHasItsMentionsItsReadersAndNoSuggestions)
+{
+    type(u"x"_s);
+    draft.restore({u"Merci @Nora"_s, CommentAudience::Agents, {user(u"nora"_s, u"Nora Vidal"_s)}});
+    EXPECT_EQ(shown, u"Merci @Nora"_s);
+    EXPECT_EQ(shownCaret, shown.size());
+    EXPECT_EQ(suggested(), QStringList());
+    EXPECT_EQ(draft.audience(), CommentAudience::Agents) << "even if the project does not allow it";
+    EXPECT_EQ(send().mentions.size(), 1);
+}
+
+TEST_F(CommentDraftTest, TheUnsentTextIsWhatASuccessfulSendingLeaves)
+{
+    type(u"Merci"_s);
+    EXPECT_EQ(draft.unsentText(), u"Merci"_s);
+    send();
+    EXPECT_EQ(draft.unsentText(), QString());
+    type(u" bien"_s);
+    EXPECT_EQ(draft.unsentText(), u" bien"_s);
+    draft.endSending(true);
+    EXPECT_EQ(draft.unsentText(), u" bien"_s);
+    EXPECT_EQ(draft.text(), draft.unsentText());
+}
