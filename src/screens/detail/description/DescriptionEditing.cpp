@@ -3,8 +3,15 @@
 #include "richtext/ADFMarkdown.h"
 #include "richtext/ADFQueries.h"
 #include "richtext/losses/MarkdownLosses.h"
+#include "state/drafts/SentDescriptions.h"
 
 #include <utility>
+
+DescriptionEditing::~DescriptionEditing()
+{
+    blockSignals(true);
+    abandon();
+}
 
 void DescriptionEditing::setIssue(OpenIssue *issue)
 {
@@ -30,10 +37,13 @@ void DescriptionEditing::followSession()
     if (m_store == store)
         return;
     if (m_store)
-        m_store->disconnect(this);
+        AbandonedTexts::of(*m_store).disconnect(this);
     m_store = store;
-    if (m_store)
-        connect(m_store, &AppStore::sessionChanged, this, &DescriptionEditing::cancel);
+    if (m_store) {
+        const auto &texts = AbandonedTexts::of(*m_store);
+        connect(&texts, &AbandonedTexts::changed, this, &DescriptionEditing::canResumeChanged);
+        connect(&texts, &AbandonedTexts::sessionEnded, this, &DescriptionEditing::cancel);
+    }
     follow();
 }
 
@@ -91,38 +101,70 @@ void DescriptionEditing::updateLosses()
 
 void DescriptionEditing::setDraft(const QString &draft)
 {
-    if (m_isEditing && std::exchange(m_draft, draft) != draft)
-        Q_EMIT draftChanged();
+    if (!m_isEditing || std::exchange(m_draft, draft) == draft)
+        return;
+    Q_EMIT draftChanged();
+    Q_EMIT canResumeChanged();
+}
+
+void DescriptionEditing::settle()
+{
+    m_original = m_draft;
+    Q_EMIT canResumeChanged();
 }
 
 void DescriptionEditing::begin()
 {
     if (m_isEditing || !m_store || !m_issue->isKnown())
         return;
-    setEditing(true, ADFMarkdown::markdown(m_document, m_store->calendar()));
+    m_place = AbandonedTexts::of(*m_store).place(AbandonedTexts::Kind::Description, m_key);
+    m_original = ADFMarkdown::markdown(m_document, m_store->calendar());
+    setEditing(true, m_original);
 }
 
 void DescriptionEditing::save()
 {
     if (!m_isEditing || !m_store)
         return;
-    const QString text = m_draft;
-    m_store->setDescription(text, m_key);
+    SentDescriptions::of(*m_store).save(m_draft, m_key);
     setEditing(false, {});
 }
 
 void DescriptionEditing::cancel()
 {
-    if (m_isEditing)
-        setEditing(false, {});
+    if (!m_isEditing)
+        return;
+    abandon();
+    setEditing(false, {});
+}
+
+void DescriptionEditing::abandon()
+{
+    if (m_isEditing && m_draft != m_original)
+        m_place.keep({.body = m_draft});
+}
+
+bool DescriptionEditing::canResume() const
+{
+    const auto abandoned = m_isEditing && m_draft == m_original ? m_place.text() : std::nullopt;
+    return abandoned && abandoned->body != m_draft;
+}
+
+void DescriptionEditing::resume()
+{
+    if (!canResume())
+        return;
+    const QString text = m_place.text()->body;
+    m_place.forget();
+    Q_EMIT resumed(text);
 }
 
 void DescriptionEditing::setEditing(bool isEditing, const QString &draft)
 {
     m_isEditing = isEditing;
-    const bool isOther = std::exchange(m_draft, draft) != draft;
-    if (isOther)
+    if (std::exchange(m_draft, draft) != draft)
         Q_EMIT draftChanged();
     Q_EMIT editingChanged();
+    Q_EMIT canResumeChanged();
     updateLosses();
 }

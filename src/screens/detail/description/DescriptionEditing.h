@@ -2,6 +2,7 @@
 
 #include "model/ADFNode.h"
 #include "screens/detail/OpenIssue.h"
+#include "state/drafts/AbandonedTexts.h"
 
 #include <QObject>
 #include <QPointer>
@@ -10,7 +11,8 @@
 #include <optional>
 
 /// The description of an open issue: what is shown of it, and the Markdown text while it is edited. A record that arrives
-/// during editing does not change the text. Another issue and the end of the session end the editing.
+/// during editing does not change the text. Another issue and the end of the session end the editing. A changed text that is
+/// not saved is kept as the abandoned text of the issue, and so is one that the site refuses.
 class DescriptionEditing : public QObject
 {
     Q_OBJECT
@@ -26,6 +28,8 @@ class DescriptionEditing : public QObject
     Q_PROPERTY(bool isEditing READ isEditing NOTIFY editingChanged FINAL)
     /// The text that is edited; empty otherwise. The editor writes it.
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged FINAL)
+    /// There is an abandoned text, and the text has not been changed yet.
+    Q_PROPERTY(bool canResume READ canResume NOTIFY canResumeChanged FINAL)
 
 public:
     enum Content {
@@ -39,6 +43,7 @@ public:
     Q_ENUM(Content)
 
     using QObject::QObject;
+    ~DescriptionEditing() override;
 
     OpenIssue *issue() const { return m_issue; }
     void setIssue(OpenIssue *issue);
@@ -49,13 +54,18 @@ public:
     bool isEditing() const { return m_isEditing; }
     const QString &draft() const { return m_draft; }
     void setDraft(const QString &draft);
+    bool canResume() const;
 
     /// Begins with the Markdown form of the description. Has no effect during editing or while the issue is unknown.
     Q_INVOKABLE void begin();
+    /// The editor shows the text, perhaps with other line breaks. Only what differs from this text was typed.
+    Q_INVOKABLE void settle();
     /// Ends the editing, and makes its text the description.
     Q_INVOKABLE void save();
     /// Ends the editing without a change of the description.
     Q_INVOKABLE void cancel();
+    /// Reports the abandoned text by `resumed`. Has no effect unless `canResume`.
+    Q_INVOKABLE void resume();
 
 Q_SIGNALS:
     void issueChanged();
@@ -63,6 +73,9 @@ Q_SIGNALS:
     void lossesChanged();
     void editingChanged();
     void draftChanged();
+    void canResumeChanged();
+    /// The editor must replace its text by this one.
+    void resumed(const QString &text);
 
 private:
     void follow();
@@ -70,6 +83,7 @@ private:
     void followSession();
     void show(const std::optional<ADFNode> &document, bool hasDetails);
     void updateLosses();
+    void abandon();
     void setEditing(bool isEditing, const QString &draft);
 
     QPointer<OpenIssue> m_issue;
@@ -80,5 +94,8 @@ private:
     bool m_hasDetails = false;
     bool m_isEditing = false;
     QString m_draft;
+    /// The text with which the editing began.
+    QString m_original;
+    AbandonedPlace m_place;
     QString m_losses;
 };

@@ -37,7 +37,17 @@ FocusScope {
     implicitHeight: foot.y + foot.height
     Component.onCompleted: {
         field.text = editing.draft;
+        editing.settle();
         field.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    Connections {
+        target: root.editing
+
+        function onResumed(text) {
+            field.replace(0, field.text.length, text);
+            field.forceActiveFocus(Qt.OtherFocusReason);
+        }
     }
 
     KeyMonitorModifier {
@@ -119,6 +129,13 @@ FocusScope {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             spacing: root.padding
+
+            PushButton {
+                visible: root.editing.canResume
+                look: PushButton.Plain
+                text: "Reprendre le brouillon"
+                onClicked: root.editing.resume()
+            }
 
             PushButton {
                 id: cancelling

@@ -261,3 +261,131 @@ TEST_F(DescriptionEditingTest, AMentionThatComesBackIsNoLoss)
     editing->save();
     EXPECT_EQ(ADF::mentionedUsers(editing->document()).size(), 1);
 }
+
+// Abandoned texts -----------------------------------------------------------------------------------------------------
+
+TEST_F(DescriptionEditingTest, ACancelledTextIsOfferedToTheNextEditingUntilSomethingIsTyped)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    EXPECT_FALSE(editing->canResume());
+    editing->setDraft(u"Bonsoir"_s);
+    editing->cancel();
+    EXPECT_FALSE(editing->canResume()) << "nothing is edited";
+    editing->begin();
+    EXPECT_TRUE(editing->canResume());
+    editing->setDraft(u"x"_s);
+    EXPECT_FALSE(editing->canResume());
+    editing->setDraft(u"Bonjour"_s);
+    QSignalSpy resumed(editing.get(), &DescriptionEditing::resumed);
+    editing->resume();
+    ASSERT_EQ(resumed.count(), 1);
+    EXPECT_EQ(resumed[0][0], u"Bonsoir"_s);
+    editing->resume();
+    EXPECT_EQ(resumed.count(), 1) << "it was taken";
+}
+
+TEST_F(DescriptionEditingTest,
+       HidingTheInspectorWhileEditingTheDescriptionDiscardsTheDraftAndItIsOffered)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    editing = std::make_unique<DescriptionEditing>();
+    editing->setIssue(&opened);
+    EXPECT_FALSE(editing->isEditing());
+    EXPECT_EQ(shown(), u"Bonjour"_s);
+    EXPECT_EQ(service->updateCalls.count(), 0);
+    editing->begin();
+    EXPECT_EQ(editing->draft(), u"Bonjour"_s);
+    EXPECT_TRUE(editing->canResume());
+}
+
+TEST_F(DescriptionEditingTest, ATextThatWasNotChangedIsNotKept)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    editing->cancel();
+    editing->begin();
+    editing->cancel();
+    refresh(described(u"MOB-1"_s, u"Autre"_s));
+    editing->begin();
+    EXPECT_TRUE(editing->canResume()) << "the changed text is still the last one";
+}
+
+TEST_F(DescriptionEditingTest, LineBreaksThatTheEditorChangesWereNotTyped)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonjour\n"_s);
+    editing->settle();
+    editing->cancel();
+    editing->begin();
+    EXPECT_FALSE(editing->canResume());
+}
+
+TEST_F(DescriptionEditingTest, ASavedTextIsNotOffered)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    editing->save();
+    service->updateCalls[0].finish({});
+    editing->begin();
+    EXPECT_FALSE(editing->canResume());
+}
+
+TEST_F(DescriptionEditingTest, ARefusedTextIsOffered)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    editing->save();
+    service->updateCalls[0].fail(JiraError(JiraError::InvalidResponse{}));
+    editing->begin();
+    EXPECT_EQ(editing->draft(), u"Bonjour"_s);
+    EXPECT_TRUE(editing->canResume());
+}
+
+TEST_F(DescriptionEditingTest, ATextThatIsRefusedAfterTheViewWentIsOffered)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    editing->save();
+    editing.reset();
+    service->updateCalls[0].fail(JiraError(JiraError::InvalidResponse{}));
+    editing = std::make_unique<DescriptionEditing>();
+    editing->setIssue(&opened);
+    editing->begin();
+    EXPECT_TRUE(editing->canResume());
+}
+
+TEST_F(DescriptionEditingTest, ATextOfAnotherWindowIsOfferedAsSoonAsItIsAbandoned)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    DescriptionEditing other;
+    other.setIssue(&opened);
+    other.begin();
+    other.setDraft(u"Bonsoir"_s);
+    editing->begin();
+    EXPECT_FALSE(editing->canResume());
+    QSignalSpy changed(editing.get(), &DescriptionEditing::canResumeChanged);
+    other.cancel();
+    EXPECT_TRUE(editing->canResume());
+    EXPECT_GE(changed.count(), 1);
+}
+
+TEST_F(DescriptionEditingTest, TheNextSessionIsOfferedNothing)
+{
+    open(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    editing->setDraft(u"Bonsoir"_s);
+    store->signOut();
+    startSession();
+    refresh(described(u"MOB-1"_s, u"Bonjour"_s));
+    editing->begin();
+    ASSERT_TRUE(editing->isEditing());
+    EXPECT_FALSE(editing->canResume());
+}

@@ -305,3 +305,44 @@ TEST_F(DescriptionSection, AnotherIssueBeginsAfresh)
     edit();
     EXPECT_EQ(text(), u"Deux"_s);
 }
+
+// Abandoned texts -----------------------------------------------------------------------------------------------------
+
+TEST_F(DescriptionSection, ACancelledTextIsTakenUpWithOnePressAndOneUndo)
+{
+    open(described(u"Bonjour"_s));
+    edit();
+    EXPECT_FALSE(has(Button, u"Reprendre le brouillon"_s));
+    press(Qt::Key_End);
+    type(u" toi"_s);
+    press(Qt::Key_Escape);
+    edit();
+    EXPECT_EQ(text(), u"Bonjour"_s);
+    click(Button, u"Reprendre le brouillon"_s);
+    EXPECT_EQ(text(), u"Bonjour toi"_s);
+    EXPECT_EQ(focusedName(), u"Description"_s);
+    EXPECT_FALSE(has(Button, u"Reprendre le brouillon"_s));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(), u"Bonjour"_s);
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    save();
+    EXPECT_EQ(shown(), u"Bonjour toi"_s);
+}
+
+TEST_F(DescriptionSection, ARefusedTextIsTakenUpByTheKeyboard)
+{
+    open(described(u"Bonjour"_s));
+    edit();
+    type(u"x"_s);
+    save();
+    service->updateCalls[0].fail(JiraError(JiraError::InvalidResponse{}));
+    settle();
+    EXPECT_EQ(shown(), u"Bonjour"_s);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(isEditing());
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusedName(), u"Reprendre le brouillon"_s);
+    press(Qt::Key_Space);
+    EXPECT_EQ(text(), u"xBonjour"_s);
+    EXPECT_EQ(store->toasts().size(), 1);
+}
