@@ -113,6 +113,12 @@ void WindowFixture::openSignedOut()
     ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() != AppStore::Phase::Launching; }));
 }
 
+void WindowFixture::openLaunching()
+{
+    answerEverything();
+    open();
+}
+
 void WindowFixture::saveCredentials(const QString &site, const QString &email, const QString &token)
 {
     Preferences preferences(preferencesPath);

@@ -28,6 +28,8 @@ protected:
     /// Opens the window with `demoMode` stored, so that a session begins immediately. Its service responds at once.
     void openOnDemo();
     void openSignedOut();
+    /// Opens the window without waiting for the end of the launch.
+    void openLaunching();
     /// Stores the credentials of an earlier run. An empty token is the state after a sign-out. Call it before opening.
     void saveCredentials(const QString &site, const QString &email, const QString &token);
     /// Sets the list that the service returns from now on. It is shown after the next reload.

@@ -111,9 +111,9 @@ TEST_F(Windows, AnIssueWindowShowsAChangeOfItsIssue)
     EXPECT_EQ(scenes().issueWindow(u"MOB-1"_s)->title(), u"MOB-1 – Autrement"_s);
 }
 
-TEST_F(Windows, SettingsHaveOneWindowThatShowsTheShortcuts)
+TEST_F(Windows, SettingsHaveOneWindowWhichTheShortcutsAreShownIn)
 {
-    Q_EMIT store().settingsRequested();
+    Q_EMIT store().shortcutsRequested();
     auto *settings = scenes().settingsWindow();
     ASSERT_TRUE(settings);
     EXPECT_EQ(settings->size(), QSize(600, 560));

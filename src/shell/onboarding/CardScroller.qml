@@ -1,8 +1,8 @@
 import QtQuick
 import Velmora.Theme
 
-// Shows one card in the middle of the window. A card that does not fit is scrolled by the wheel, and so that the item
-// with the keyboard focus is visible.
+// Shows one card, or a column of them. What does not fit is scrolled by the wheel, and so that the item with the
+// keyboard focus is visible.
 Flickable {
     id: root
 
@@ -10,7 +10,7 @@ Flickable {
     // Has the keyboard focus while something on the card has it.
     required property Item scope
     // The distance of the card from the window's edges, and of a revealed item from them.
-    readonly property real margin: Metrics.pageMargin
+    property real margin: Metrics.pageMargin
 
     // Scrolls as little as possible until the item is visible.
     function reveal(item: Item) {
@@ -20,7 +20,7 @@ Flickable {
     }
 
     function revealFocus() {
-        if (scope.activeFocus)
+        if (scope.activeFocus && !activeFocus)
             reveal(Window.activeFocusItem);
     }
 

@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto TabKey = u"settingsTab"_s;
+const auto DefaultTab = u"account"_s;
 
 } // namespace
 
@@ -20,16 +21,14 @@ SettingsTabs::SettingsTabs(Preferences &preferences, QObject *parent)
 
 QList<SettingsTab> SettingsTabs::tabs() const
 {
-    return {{u"shortcuts"_s, u"Raccourcis"_s, u"keyboard"_s}};
+    return {{u"account"_s, u"Compte"_s, u"person.crop.circle"_s},
+            {u"appearance"_s, u"Apparence"_s, u"paintpalette"_s},
+            {u"shortcuts"_s, u"Raccourcis"_s, u"keyboard"_s}};
 }
 
 QString SettingsTabs::tab() const
 {
-    const auto known = tabs();
-    const auto stored = m_preferences.text(TabKey);
-    const auto found =
-        std::ranges::find_if(known, [&](const SettingsTab &tab) { return tab.value == stored; });
-    return found == known.end() ? known.first().value : found->value;
+    return m_preferences.text(TabKey).value_or(DefaultTab);
 }
 
 void SettingsTabs::setTab(const QString &tab)
@@ -44,12 +43,14 @@ int SettingsTabs::index() const
 {
     const auto known = tabs();
     const auto found = std::ranges::find(known, tab(), &SettingsTab::value);
-    return static_cast<int>(std::distance(known.begin(), found));
+    return found == known.end() ? -1 : static_cast<int>(std::distance(known.begin(), found));
 }
 
 void SettingsTabs::setIndex(int index)
 {
-    setTab(tabs().at(index).value);
+    const auto known = tabs();
+    if (index >= 0 && index < known.size())
+        setTab(known.at(index).value);
 }
 
 QList<ShortcutGroup> SettingsTabs::shortcuts() const

@@ -24,7 +24,7 @@ public:
     bool operator==(const SettingsTab &) const = default;
 };
 
-/// The settings tabs that have content, and the chosen one, which is remembered across starts.
+/// The tabs of the settings, and the chosen one, which is remembered across starts and sign-outs.
 class SettingsTabs : public QObject
 {
     Q_OBJECT
@@ -39,11 +39,12 @@ public:
     explicit SettingsTabs(Preferences &preferences, QObject *parent = nullptr);
 
     QList<SettingsTab> tabs() const;
-    /// The stored tab if it exists, otherwise the first one.
+    /// The identifier that is stored, "account" if none is. An unknown one stays stored and chooses no tab.
     QString tab() const;
     void setTab(const QString &tab);
-    /// The position of the chosen tab in `tabs`.
+    /// The position of the chosen tab in `tabs`; -1 if no known tab is chosen.
     int index() const;
+    /// A position outside `tabs` changes nothing.
     void setIndex(int index);
     /// The title in the terms of this system.
     QList<ShortcutGroup> shortcuts() const;

@@ -13,6 +13,12 @@ Window {
     required property AppStore store
     required property SettingsTabs tabs
 
+    // Gives a new page the keyboard, unless the user is walking along the tabs.
+    function show(page: Item) {
+        if (!list.activeFocus)
+            page.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     title: "Réglages"
     width: 600
     height: 560
@@ -41,6 +47,7 @@ Window {
     }
 
     TabList {
+        id: list
         anchors.horizontalCenter: parent.horizontalCenter
         y: Metrics.gapMedium
         name: "Réglages"
@@ -52,21 +59,46 @@ Window {
             model: root.tabs.tabs
 
             SettingsTabButton {
-                on: root.tabs.tab === modelData.value
-                onChosen: root.tabs.tab = modelData.value
+                current: root.tabs.index
+                onChosen: root.tabs.index = index
             }
         }
     }
 
-    When {
-        shown: root.tabs.tab === "shortcuts"
+    Item {
+        id: pages
+        y: 76
+        width: root.width
+        height: root.height - y
 
-        ShortcutsPane {
-            y: 72
-            width: root.width
-            height: root.height - y
-            tabs: root.tabs
-            focus: true
+        When {
+            shown: root.tabs.tab === "account"
+
+            AccountSettings {
+                anchors.fill: parent
+                store: root.store
+                Component.onCompleted: root.show(this)
+            }
+        }
+
+        When {
+            shown: root.tabs.tab === "appearance"
+
+            AppearanceSettings {
+                anchors.fill: parent
+                store: root.store
+                Component.onCompleted: root.show(this)
+            }
+        }
+
+        When {
+            shown: root.tabs.tab === "shortcuts"
+
+            ShortcutsPane {
+                anchors.fill: parent
+                tabs: root.tabs
+                Component.onCompleted: root.show(this)
+            }
         }
     }
 }

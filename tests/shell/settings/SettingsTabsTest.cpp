@@ -14,11 +14,19 @@ protected:
     Preferences preferences{folder.filePath(u"Velmora.ini"_s)};
 };
 
-TEST_F(SettingsTabsTest, AnUnknownStoredTabSelectsTheFirstAndChangesNothing)
+TEST_F(SettingsTabsTest, WithoutAStoredTabTheAccountIsChosen)
+{
+    const SettingsTabs tabs(preferences);
+    EXPECT_EQ(tabs.tab(), u"account"_s);
+    EXPECT_EQ(tabs.index(), 0);
+    EXPECT_FALSE(preferences.text(u"settingsTab"_s));
+}
+
+TEST_F(SettingsTabsTest, AnUnknownStoredTabSelectsNoneAndChangesNothing)
 {
     preferences.setText(u"settingsTab"_s, u"ailleurs"_s);
     const SettingsTabs tabs(preferences);
-    EXPECT_EQ(tabs.tab(), u"shortcuts"_s);
+    EXPECT_EQ(tabs.index(), -1);
     EXPECT_EQ(preferences.text(u"settingsTab"_s), u"ailleurs"_s);
 }
 
@@ -26,10 +34,20 @@ TEST_F(SettingsTabsTest, AChosenTabIsStored)
 {
     SettingsTabs tabs(preferences);
     QSignalSpy changed(&tabs, &SettingsTabs::tabChanged);
-    preferences.setText(u"settingsTab"_s, u"ailleurs"_s);
     tabs.setTab(u"shortcuts"_s);
+    EXPECT_EQ(preferences.text(u"settingsTab"_s), u"shortcuts"_s);
+    tabs.setTab(u"shortcuts"_s);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(SettingsTabs(preferences).tab(), u"shortcuts"_s);
+}
+
+TEST_F(SettingsTabsTest, APositionOutsideTheTabsChangesNothing)
+{
+    SettingsTabs tabs(preferences);
+    QSignalSpy changed(&tabs, &SettingsTabs::tabChanged);
+    tabs.setIndex(-1);
+    tabs.setIndex(int(tabs.tabs().size()));
     EXPECT_EQ(changed.count(), 0);
-    EXPECT_EQ(tabs.tab(), u"shortcuts"_s);
 }
 
 TEST_F(SettingsTabsTest, ATabIsAlsoChosenByItsPosition)

@@ -1,0 +1,43 @@
+import QtQuick
+import Velmora.Kit
+import Velmora.Shell
+import Velmora.Theme
+
+// A page of the settings: cards one below the other, which scroll so that the focused control is visible. `name` is its
+// name for screen readers.
+FocusScope {
+    id: root
+
+    required property string name
+    default property alias cards: stack.data
+
+    Keys.onUpPressed: scrolling.scrollBy(-1)
+    Keys.onDownPressed: scrolling.scrollBy(1)
+
+    CardScroller {
+        id: page
+        anchors.fill: parent
+        margin: Metrics.gap
+        card: stack
+        scope: root
+        clip: true
+        focus: true
+        Accessible.role: Accessible.Pane
+        Accessible.name: root.name
+
+        Column {
+            id: stack
+            x: Metrics.pageMargin
+            y: page.margin
+            width: page.width - 2 * x
+            bottomPadding: Metrics.pageMargin - page.margin
+            spacing: 16
+        }
+    }
+
+    Scrolling {
+        id: scrolling
+        view: page
+        ground: Theme.pane
+    }
+}
