@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <gtest/gtest.h>
 #include <optional>
 
 /// Bundles without content: unpacking creates the folders that a test names, and every check has the result that a test

@@ -5,6 +5,8 @@
 
 #include <QCryptographicHash>
 
+#include <gtest/gtest.h>
+
 /// A transport whose responses a test decides.
 class ScriptedTransport final : public UpdateTransport
 {
