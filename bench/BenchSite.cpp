@@ -5,6 +5,7 @@
 #include "support/FakeDesktop.h"
 #include "support/FakeKeychain.h"
 #include "support/FakeStatusHost.h"
+#include "update/HttpTransport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -54,6 +55,11 @@ Outside outsideWith(const std::shared_ptr<ScriptedService> &site, const QString 
     outside.statusHost = std::make_unique<FakeStatusHost>();
     outside.keychain = std::make_unique<FakeKeychain>();
     outside.calendar = SystemCalendar::ofThisSystem();
+    outside.bundles = AppBundles::ofThisSystem();
+    outside.makeUpdateTransport = [folder](Clock &clock) {
+        return std::make_unique<HttpTransport>(clock, folder);
+    };
+    outside.temporaryFolder = folder;
     outside.makeDemo = [site](Clock &, const SystemCalendar &) { return site; };
     return outside;
 }

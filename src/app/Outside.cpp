@@ -3,6 +3,9 @@
 #include "demo/DemoService.h"
 #include "jira/AttachmentCache.h"
 #include "jira/JiraClient.h"
+#include "update/HttpTransport.h"
+
+#include <QDir>
 
 Outside Outside::system()
 {
@@ -21,5 +24,10 @@ Outside Outside::system()
         return std::make_shared<JiraClient>(credentials, clock, calendar,
                                             AttachmentCache::systemFolder());
     };
+    outside.bundles = AppBundles::ofThisSystem();
+    outside.makeUpdateTransport = [](Clock &clock) {
+        return std::make_unique<HttpTransport>(clock, QDir::tempPath());
+    };
+    outside.temporaryFolder = QDir::tempPath();
     return outside;
 }

@@ -8,6 +8,8 @@
 #include "platform/Preferences.h"
 #include "platform/StatusHost.h"
 #include "platform/SystemCalendar.h"
+#include "platform/bundles/AppBundles.h"
+#include "update/UpdateTransport.h"
 
 #include <functional>
 #include <memory>
@@ -30,6 +32,13 @@ struct Outside
     std::function<std::shared_ptr<IssueService>(const JiraCredentials &, Clock &,
                                                 const SystemCalendar &)>
         makeClient;
+
+    /// What the running program is, and how another version takes its place.
+    std::shared_ptr<const AppBundles> bundles;
+    /// Creates what reads the feed of updates and fetches archives.
+    std::function<std::unique_ptr<UpdateTransport>(Clock &)> makeUpdateTransport;
+    /// The parent of the working folders of updates.
+    QString temporaryFolder;
 
     /// The services of the machine and its desktop, with the user's own preferences.
     static Outside system();

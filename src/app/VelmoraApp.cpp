@@ -17,6 +17,9 @@ Q_IMPORT_QML_PLUGIN(Velmora_ComposerPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_IssuesPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_DetailPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_PalettePlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_UpdatePlugin)
+Q_IMPORT_QML_PLUGIN(Velmora_UpdateScreensPlugin)
 Q_IMPORT_QML_PLUGIN(Velmora_ShellPlugin)
 
 namespace {
@@ -42,7 +45,10 @@ VelmoraApp::VelmoraApp(Outside outside)
           [this](const JiraCredentials &credentials) { m_images.showCredentials(credentials); }),
       m_store(context()),
       m_farewell(*m_outside.clock, m_store),
-      m_scenes(m_engine, m_store, *m_outside.preferences, m_farewell),
+      m_updateTransport(m_outside.makeUpdateTransport(*m_outside.clock)),
+      m_updater(updaterContext()),
+      m_updates(m_updater, *m_outside.calendar),
+      m_scenes(m_engine, m_store, *m_outside.preferences, m_farewell, m_updates),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)
 {
     Fonts::load();
@@ -67,8 +73,24 @@ AppStoreContext VelmoraApp::context()
             [this] { return m_outside.makeDemo(*m_outside.clock, *m_outside.calendar); }};
 }
 
+/// The installation of an update asks to quit while a button is being pressed, so it is queued.
+UpdaterContext VelmoraApp::updaterContext()
+{
+    const auto quitForUpdate = [this] {
+        QMetaObject::invokeMethod(
+            &m_store, [this] { quit(Farewell::Reason::User); }, Qt::QueuedConnection);
+    };
+    return {.clock = *m_outside.clock,
+            .preferences = *m_outside.preferences,
+            .transport = *m_updateTransport,
+            .bundles = m_outside.bundles,
+            .quit = quitForUpdate,
+            .temporaryFolder = m_outside.temporaryFolder};
+}
+
 bool VelmoraApp::open()
 {
+    m_updater.start();
     if (!m_scenes.showMain())
         return false;
     bootstrap();

@@ -6,6 +6,8 @@
 #include "app/SiteImageFetcher.h"
 #include "shell/Farewell.h"
 #include "state/AppStore.h"
+#include "update/Updater.h"
+#include "update/ui/UpdateScreens.h"
 
 #include <QQmlEngine>
 
@@ -22,6 +24,7 @@ public:
     void quit(Farewell::Reason reason);
 
     AppStore &store() { return m_store; }
+    Updater &updater() { return m_updater; }
     Scenes &scenes() { return m_scenes; }
     AppDelegate &delegate() { return m_delegate; }
     /// Null before `open`.
@@ -29,6 +32,7 @@ public:
 
 private:
     AppStoreContext context();
+    UpdaterContext updaterContext();
     void bootstrap();
     void end();
 
@@ -38,6 +42,9 @@ private:
     AppStore m_store;
     // Declared after the store, so that the screens are destroyed before the data that they display.
     Farewell m_farewell;
+    std::unique_ptr<UpdateTransport> m_updateTransport;
+    Updater m_updater;
+    UpdateScreens m_updates;
     QQmlEngine m_engine;
     Scenes m_scenes;
     AppDelegate m_delegate;

@@ -51,6 +51,8 @@ enum class Command {
     OpenSettings,
     /// Open the settings at the reference of shortcuts.
     OpenShortcuts,
+    /// Look for a newer version of the program, and tell the user the result.
+    CheckForUpdates,
 };
 Q_ENUM_NS(Command)
 

@@ -35,6 +35,7 @@ constexpr std::array entries{
     Entry{Command::ShowBoard, CommandGroup::Display, u"Afficher en tableau"},
     Entry{Command::ToggleInspector, CommandGroup::Display, u"Afficher l'aperçu"},
     Entry{Command::OpenSettings, elsewhere, u"Réglages"},
+    Entry{Command::CheckForUpdates, elsewhere, u"Rechercher les mises à jour…"},
 };
 
 constexpr std::array pickCommands{

@@ -6,6 +6,7 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
+import Velmora.UpdateScreens
 
 // The screen of a signed-in user: the sidebar, the issues and, at the trailing edge, the inspector.
 FocusScope {
@@ -13,6 +14,7 @@ FocusScope {
 
     required property AppStore store
     required property WindowMemory memory
+    required property UpdateScreens updates
 
     // The sidebar is shown above the issues, because the user requested it and the window is too narrow to show both.
     property bool isSidebarFloating: false
@@ -66,6 +68,7 @@ FocusScope {
         height: parent.height - 2 * Metrics.paneMargin
         visible: root.plan.hasSidebar || root.isSidebarFloating
         isFloating: root.isSidebarFloating
+        updates: root.updates
         store: root.store
         onDismissed: root.isSidebarFloating = false
         // A hidden sidebar with the focus would still receive the arrow keys.

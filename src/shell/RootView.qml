@@ -7,6 +7,7 @@ import Velmora.Palette
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
+import Velmora.UpdateScreens
 
 // The content of the main window: one screen for each phase, and the layers above every screen.
 Window {
@@ -15,9 +16,13 @@ Window {
     required property AppStore store
     required property WindowMemory memory
     required property Farewell farewell
+    required property UpdateScreens updates
 
     // The horizontal centre of the issue list, above which toasts are centred.
     property real detailCentre: width / 2
+
+    // The first screen after the launch has taken the focus, so a sheet that opens from now on keeps it.
+    property bool hasScreen: false
 
     title: "Velmora"
     width: 1320
@@ -40,6 +45,7 @@ Window {
         focus: shown
         shown: root.store.phase === AppStore.Phase.SignedOut
         onWanted: setSource("OnboardingView.qml", { store: root.store, focus: true })
+        onLoaded: root.hasScreen = true
     }
 
     When {
@@ -50,11 +56,13 @@ Window {
             focus: true
             store: root.store
             memory: root.memory
+            updates: root.updates
             onDetailCentreChanged: root.detailCentre = detailCentre
             // The sign-in screen disappears while one of its fields has the focus.
             Component.onCompleted: {
                 root.detailCentre = detailCentre;
                 forceActiveFocus();
+                root.hasScreen = true;
             }
             Component.onDestruction: root.detailCentre = Qt.binding(() => root.width / 2)
         }
@@ -84,6 +92,23 @@ Window {
     MenuBarLayer {
         anchors.fill: parent
         store: root.store
+    }
+
+    When {
+        shown: root.hasScreen && root.updates.updater.hasWhatsNew
+
+        WhatsNewSheet {
+            screens: root.updates
+            onDismissed: root.updates.updater.dismissWhatsNew()
+        }
+    }
+
+    When {
+        shown: root.updates.hasAlert
+
+        UpdateAlertSheet {
+            screens: root.updates
+        }
     }
 
     When {

@@ -21,20 +21,28 @@ void bringForward(QQuickWindow *window)
 
 } // namespace
 
-Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell)
+Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell,
+               UpdateScreens &updates)
     : m_engine(engine),
       m_store(store),
       m_farewell(farewell),
+      m_updates(updates),
       m_memory(preferences),
       m_tabs(preferences)
 {
     QQmlEngine::setObjectOwnership(&m_farewell, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(&m_updates, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(m_updates.updater(), QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_memory, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_tabs, QQmlEngine::CppOwnership);
     connect(&m_farewell, &Farewell::windowWanted, this, &Scenes::showMain);
     connect(&m_store, &AppStore::openWindowRequested, this, &Scenes::showIssue);
     connect(&m_store, &AppStore::settingsRequested, this, &Scenes::showSettings);
     connect(&m_store, &AppStore::shortcutsRequested, this, &Scenes::showShortcuts);
+    connect(&m_store, &AppStore::updateCheckRequested, &m_updates, &UpdateScreens::checkFromMenu);
+    // Alerts are shown above the main window.
+    connect(&m_updates, &UpdateScreens::alertRaised, this, &Scenes::showMain);
+    connect(&m_updates, &UpdateScreens::addressChosen, &m_store, &AppStore::openAddress);
 }
 
 Scenes::~Scenes()
@@ -78,7 +86,9 @@ void Scenes::showIssue(const QString &key)
 void Scenes::showSettings()
 {
     if (!m_settings) {
-        m_settings = make(u"settings/SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)}});
+        m_settings =
+            make(u"settings/SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)},
+                                              {u"updates"_s, QVariant::fromValue(&m_updates)}});
         watch(m_settings);
     }
     bringForward(m_settings);
@@ -104,6 +114,7 @@ QVariantMap Scenes::mainProperties()
     auto properties = m_memory.initialProperties(screens);
     properties.insert(u"farewell"_s, QVariant::fromValue(&m_farewell));
     properties.insert(u"memory"_s, QVariant::fromValue(&m_memory));
+    properties.insert(u"updates"_s, QVariant::fromValue(&m_updates));
     return properties;
 }
 

@@ -4,6 +4,7 @@
 #include "shell/WindowMemory.h"
 #include "shell/settings/SettingsTabs.h"
 #include "state/AppStore.h"
+#include "update/ui/UpdateScreens.h"
 
 #include <QHash>
 #include <QObject>
@@ -22,7 +23,8 @@ class Scenes : public QObject
 
 public:
     /// All references must outlive the windows.
-    Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell);
+    Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell,
+           UpdateScreens &updates);
     ~Scenes() override;
 
     /// The main window. Null before it was first shown.
@@ -54,6 +56,7 @@ private:
     QQmlEngine &m_engine;
     AppStore &m_store;
     Farewell &m_farewell;
+    UpdateScreens &m_updates;
     WindowMemory m_memory;
     SettingsTabs m_tabs;
     std::unique_ptr<QQuickWindow> m_main;

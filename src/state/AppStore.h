@@ -256,13 +256,13 @@ Q_SIGNALS:
     void writeRefused(const QString &reason);
     /// Requests a separate window for the issue.
     void openWindowRequested(const QString &key);
-    /// Request the settings window, the second one with the reference of shortcuts.
+    /// Request the settings window, the same with the reference of shortcuts, and a search for a newer version.
     void settingsRequested();
     void shortcutsRequested();
+    void updateCheckRequested();
 
 private:
-    // The private operations run in the current session and await through it. When it ends, `OwnerGone` ends them, and
-    // the public ones end without a result.
+    // They run in the current session and await through it. When it ends, `OwnerGone` ends them without a result.
 
     // AppStoreSession.cpp
     QCoro::Task<> activate(SiteSessions::Opened opened, Session::Kind kind,

@@ -136,6 +136,9 @@ void AppStore::carryOutInWindow(Command command)
     case Command::OpenShortcuts:
         Q_EMIT shortcutsRequested();
         return;
+    case Command::CheckForUpdates:
+        Q_EMIT updateCheckRequested();
+        return;
     default:
         return;
     }

@@ -85,6 +85,14 @@ void WindowFixture::open()
     auto ownKeychain = std::make_unique<FakeKeychain>();
     keychain = ownKeychain.get();
     keychain->items = secrets;
+    bundles = std::make_shared<FakeBundles>(runningApp);
+    outside.bundles = bundles;
+    auto ownTransport = std::make_unique<ScriptedTransport>();
+    transport = ownTransport.get();
+    // Called once. The function must be copyable, so it shares what it gives away.
+    const auto given = std::make_shared<std::unique_ptr<UpdateTransport>>(std::move(ownTransport));
+    outside.makeUpdateTransport = [given](Clock &) { return std::move(*given); };
+    outside.temporaryFolder = folder.path();
     if (beforeOpening)
         beforeOpening();
     outside.keychain = std::move(ownKeychain);

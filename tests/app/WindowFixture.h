@@ -8,6 +8,8 @@
 #include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/ScriptedService.h"
+#include "update/FakeBundles.h"
+#include "update/ScriptedTransport.h"
 
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -64,6 +66,13 @@ protected:
     FakeDesktop *desktop = nullptr;
     FakeStatusHost *statusHost = nullptr;
     FakeKeychain *keychain = nullptr;
+    /// The program as it was installed. Without a feed, nothing looks for updates by itself.
+    RunningApp runningApp{.path = QStringLiteral("/home/person/Applications/Velmora.app"),
+                          .version = QStringLiteral("1.3.2"),
+                          .build = QStringLiteral("132"),
+                          .feed = {}};
+    std::shared_ptr<FakeBundles> bundles;
+    ScriptedTransport *transport = nullptr;
     /// Configures the fake services just before the window opens.
     std::function<void()> beforeOpening;
     std::shared_ptr<ScriptedService> service = std::make_shared<ScriptedService>();

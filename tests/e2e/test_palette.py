@@ -36,9 +36,9 @@ class Palette(WindowCase):
     def test_the_number_of_results_and_the_highlighted_row_are_spoken(self):
         velmora = self.open_demo()
         self.open_palette(velmora)
-        self.wait_spoken(velmora, "^12 résultats\\. Nouveau ticket, 1 sur 12$")
+        self.wait_spoken(velmora, "^13 résultats\\. Nouveau ticket, 1 sur 13$")
         self.session.key("Down")
-        self.wait_spoken(velmora, "^12 résultats\\. Afficher en tableau, 2 sur 12$")
+        self.wait_spoken(velmora, "^13 résultats\\. Afficher en tableau, 2 sur 13$")
         self.session.type("MOB-101")
         self.wait_spoken(velmora, "^1 résultat\\. .*, MOB-101, 1 sur 1$")
         self.session.type("introuvable")

@@ -64,6 +64,11 @@ T.MenuBar {
             onTriggered: root.store.run(Commands.Command.OpenSettings)
         }
 
+        PopupMenuItem {
+            text: "Rechercher les mises à jour…"
+            onTriggered: root.store.run(Commands.Command.CheckForUpdates)
+        }
+
         PopupMenuSeparator {}
 
         PopupMenuItem {

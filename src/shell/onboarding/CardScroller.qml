@@ -12,16 +12,18 @@ Flickable {
     // The distance of the card from the window's edges, and of a revealed item from them.
     property real margin: Metrics.pageMargin
 
-    // Scrolls as little as possible until the item is visible.
-    function reveal(item: Item) {
-        const top = item.mapToItem(contentItem, 0, 0).y - margin;
-        const bottom = top + item.height + 2 * margin;
+    // Scrolls as little as possible until a part of the content is visible.
+    function reveal(box: rect) {
+        const top = box.y - margin;
+        const bottom = box.y + box.height + margin;
         contentY = Math.max(0, Math.min(top, Math.max(contentY, bottom - height), contentHeight - height));
     }
 
+    // An item that is higher than the view, such as a document, reveals its focused part itself.
     function revealFocus() {
-        if (scope.activeFocus && !activeFocus)
-            reveal(Window.activeFocusItem);
+        const item = Window.activeFocusItem;
+        if (scope.activeFocus && item.height < height)
+            reveal(item.mapToItem(contentItem, 0, 0, item.width, item.height));
     }
 
     contentHeight: Math.max(height, card.height + 2 * margin)

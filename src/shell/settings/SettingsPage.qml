@@ -11,6 +11,16 @@ FocusScope {
     required property string name
     default property alias cards: stack.data
 
+    // Scrolls so that a part of an item on the page is visible.
+    function reveal(item: Item, box: rect) {
+        page.reveal(item.mapToItem(page.contentItem, box));
+    }
+
+    // Scrolls by a distance in logical pixels, without an animation.
+    function shift(distance: real) {
+        page.contentY += distance;
+    }
+
     Keys.onUpPressed: scrolling.scrollBy(-1)
     Keys.onDownPressed: scrolling.scrollBy(1)
 

@@ -23,7 +23,8 @@ QList<SettingsTab> SettingsTabs::tabs() const
 {
     return {{u"account"_s, u"Compte"_s, u"person.crop.circle"_s},
             {u"appearance"_s, u"Apparence"_s, u"paintpalette"_s},
-            {u"shortcuts"_s, u"Raccourcis"_s, u"keyboard"_s}};
+            {u"shortcuts"_s, u"Raccourcis"_s, u"keyboard"_s},
+            {u"updates"_s, u"Mises à jour"_s, u"arrow.triangle.2.circlepath"_s}};
 }
 
 QString SettingsTabs::tab() const

@@ -5,6 +5,7 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
+import Velmora.UpdateScreens
 
 // The settings, in a window of their own.
 Window {
@@ -12,6 +13,7 @@ Window {
 
     required property AppStore store
     required property SettingsTabs tabs
+    required property UpdateScreens updates
 
     // Gives a new page the keyboard, unless the user is walking along the tabs.
     function show(page: Item) {
@@ -98,6 +100,24 @@ Window {
                 anchors.fill: parent
                 tabs: root.tabs
                 Component.onCompleted: root.show(this)
+            }
+        }
+
+        When {
+            shown: root.tabs.tab === "updates"
+
+            SettingsPage {
+                id: page
+                anchors.fill: parent
+                name: "Mises à jour"
+                Component.onCompleted: root.show(this)
+
+                UpdatesSettings {
+                    id: updatesSettings
+                    screens: root.updates
+                    onRevealRequested: box => page.reveal(updatesSettings, box)
+                    onShifted: distance => page.shift(distance)
+                }
             }
         }
     }

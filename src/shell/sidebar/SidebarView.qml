@@ -6,12 +6,14 @@ import Velmora.Model
 import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
+import Velmora.UpdateScreens
 
 // The left pane, in which the user chooses the list of issues to show.
 FocusScope {
     id: root
 
     required property AppStore store
+    required property UpdateScreens updates
     // The sidebar is shown above the issues and not beside them. A choice or Escape closes it.
     property bool isFloating: false
 
@@ -121,16 +123,20 @@ FocusScope {
         ground: Theme.pane
     }
 
-    Item {
+    Column {
         id: footer
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.margins: Metrics.gapMedium
-        height: badge.visible ? badge.height : 0
+        spacing: Metrics.gapMedium
+
+        UpdateBadge {
+            width: parent.width
+            screens: root.updates
+        }
 
         DemoBadge {
-            id: badge
             width: parent.width
             visible: root.store.isDemo
             onClicked: root.store.run(Commands.Command.OpenSettings)

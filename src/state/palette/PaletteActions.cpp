@@ -74,7 +74,8 @@ QList<OptionItem> itemsForTheWindow(const PaletteActionInputs &inputs)
             actionItem(u"appearance"_s, appearance, u"circle.lefthalf.filled"_s,
                        {Command::CycleAppearance, {}}),
             commandItem(u"reload"_s, Command::Reload, u"arrow.clockwise"_s),
-            commandItem(u"settings"_s, Command::OpenSettings, u"gear"_s)};
+            commandItem(u"settings"_s, Command::OpenSettings, u"gear"_s),
+            commandItem(u"updates"_s, Command::CheckForUpdates, u"arrow.triangle.2.circlepath"_s)};
 }
 
 } // namespace

@@ -19,10 +19,10 @@ TEST_F(CommandPaletteTest, AtItsRootItOffersActionsAndSixDestinations)
     EXPECT_FALSE(palette.isOpen());
     openRoot();
     EXPECT_TRUE(palette.isOpen());
-    EXPECT_EQ(ids(),
-              (QStringList{u"new"_s, u"layout"_s, u"completed"_s, u"appearance"_s, u"reload"_s,
-                           u"settings"_s, u"go-mine"_s, u"go-recent"_s, u"go-reported"_s,
-                           u"go-this-week"_s, u"go-last-week"_s, u"go-this-month"_s}));
+    EXPECT_EQ(ids(), (QStringList{u"new"_s, u"layout"_s, u"completed"_s, u"appearance"_s,
+                                  u"reload"_s, u"settings"_s, u"updates"_s, u"go-mine"_s,
+                                  u"go-recent"_s, u"go-reported"_s, u"go-this-week"_s,
+                                  u"go-last-week"_s, u"go-this-month"_s}));
     EXPECT_EQ(sectionTitles(), (QStringList{u"Actions"_s, u"Aller à"_s}));
     EXPECT_EQ(palette.placeholder(), u"Rechercher un ticket, une action, un projet…"_s);
     EXPECT_EQ(palette.title(), QString());
@@ -152,6 +152,15 @@ TEST_F(CommandPaletteTest, SettingsAreAskedFor)
     EXPECT_EQ(asked.count(), 1);
 }
 
+TEST_F(CommandPaletteTest, ASearchForUpdatesIsAskedFor)
+{
+    QSignalSpy asked(store.get(), &AppStore::updateCheckRequested);
+    openRoot();
+    activate(u"updates"_s);
+    EXPECT_EQ(asked.count(), 1);
+    EXPECT_FALSE(palette.isOpen());
+}
+
 TEST_F(CommandPaletteTest, BranchKeyLinkAndBrowserAreTheTargets)
 {
     store->setFocusedKey(u"MOB-2"_s);
@@ -212,11 +221,11 @@ TEST_F(CommandPaletteTest, TheCountAndTheHighlightedRowAreSpoken)
 {
     QSignalSpy spoken(&palette, &CommandPalette::spokenStateChanged);
     openRoot();
-    EXPECT_EQ(palette.spokenState(), u"12 résultats. Nouveau ticket, 1 sur 12"_s);
+    EXPECT_EQ(palette.spokenState(), u"13 résultats. Nouveau ticket, 1 sur 13"_s);
     spoken.clear();
     press(Qt::Key_Down);
     EXPECT_GE(spoken.count(), 1);
-    EXPECT_EQ(palette.spokenState(), u"12 résultats. Afficher en tableau, 2 sur 12"_s);
+    EXPECT_EQ(palette.spokenState(), u"13 résultats. Afficher en tableau, 2 sur 13"_s);
     palette.setQuery(u"mob-1"_s);
     EXPECT_EQ(palette.spokenState(), u"1 résultat. Résumé de MOB-1, MOB-1, 1 sur 1"_s);
 }

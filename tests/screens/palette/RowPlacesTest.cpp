@@ -73,13 +73,13 @@ TEST_F(RowPlacesTest, ThereAreAsManyPlacesAsFitWhateverTheNumberOfRows)
 TEST_F(RowPlacesTest, EachRowInSightHasAPlaceWithItsTextsAndItsPosition)
 {
     openRoot();
-    ASSERT_EQ(palette.rowCount(), 12);
+    ASSERT_EQ(palette.rowCount(), 13);
     EXPECT_EQ(shown(), expected(0, 11));
     EXPECT_EQ(at(0, RowPlaces::SectionTitleRole), u"Actions"_s);
     EXPECT_EQ(at(1, RowPlaces::ShortcutRole), u"2"_s);
     EXPECT_EQ(at(1, RowPlaces::SectionTitleRole), QString());
     EXPECT_EQ(at(1, RowPlaces::PlaceRole), 4 + 29 + 32);
-    EXPECT_EQ(places.contentHeight(), 4 + 2 * 29 + 12 * 32 + 8);
+    EXPECT_EQ(places.contentHeight(), 4 + 2 * 29 + 13 * 32 + 8);
 }
 
 TEST_F(RowPlacesTest, ALetterGivesThePlacesOtherRowsAndMakesNone)
@@ -176,5 +176,5 @@ TEST_F(RowPlacesTest, ALowerWindowLeavesLessRoomAndALargerOneMore)
     EXPECT_TRUE(shown().isEmpty());
     places.setProperty("highest", 1000.0);
     EXPECT_EQ(places.viewHeight(), places.contentHeight());
-    EXPECT_EQ(shown(), expected(0, 11));
+    EXPECT_EQ(shown(), expected(0, 12));
 }

@@ -2,10 +2,26 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QQuickItem *controlNamed(const QQuickItem &parent, const QString &name)
+{
+    for (const QQuickItem *child : parent.childItems()) {
+        if (child->property("accessibleName").toString() == name)
+            return child;
+        if (const QQuickItem *found = controlNamed(*child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
 
 void SettingsFixture::choose(const QString &tab)
 {
@@ -53,6 +69,13 @@ Spoken SettingsFixture::here(QAccessible::Role role, const QString &nameContains
 bool SettingsFixture::isHere(QAccessible::Role role, const QString &nameContains)
 {
     return !spokenIn(settings(), role, nameContains).isEmpty();
+}
+
+bool SettingsFixture::isEnabledHere(const QString &name)
+{
+    const QQuickItem *control = controlNamed(*settings().contentItem(), name);
+    EXPECT_TRUE(control) << name.toStdString();
+    return control && control->isEnabled();
 }
 
 bool SettingsFixture::isGoneHere(QAccessible::Role role, const QString &nameContains)

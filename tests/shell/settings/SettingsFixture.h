@@ -18,6 +18,8 @@ protected:
     /// Waits for the only element of this role and name. The test fails if it does not appear.
     Spoken here(QAccessible::Role role, const QString &nameContains);
     bool isHere(QAccessible::Role role, const QString &nameContains);
+    /// Whether the control with this accessible name is enabled. (Qt 6.4 does not report that to screen readers.)
+    bool isEnabledHere(const QString &name);
     /// Waits until no element of this role and name is left.
     bool isGoneHere(QAccessible::Role role, const QString &nameContains);
     /// Waits until two frames of the settings were shown.

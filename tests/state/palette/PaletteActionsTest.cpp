@@ -32,10 +32,10 @@ QStringList without(QStringList list, const QStringList &left)
     return list;
 }
 
-const QStringList all{u"new"_s,       u"status"_s,     u"priority"_s, u"assignee"_s,
-                      u"me"_s,        u"labels"_s,     u"copy-key"_s, u"copy-branch"_s,
-                      u"copy-link"_s, u"browser"_s,    u"window"_s,   u"layout"_s,
-                      u"completed"_s, u"appearance"_s, u"reload"_s,   u"settings"_s};
+const QStringList all{u"new"_s,      u"status"_s,   u"priority"_s,    u"assignee"_s,   u"me"_s,
+                      u"labels"_s,   u"copy-key"_s, u"copy-branch"_s, u"copy-link"_s,  u"browser"_s,
+                      u"window"_s,   u"layout"_s,   u"completed"_s,   u"appearance"_s, u"reload"_s,
+                      u"settings"_s, u"updates"_s};
 const QStringList forIssues{u"status"_s, u"priority"_s, u"assignee"_s,
                             u"me"_s,     u"labels"_s,   u"copy-key"_s};
 const QStringList forOneIssue{u"copy-branch"_s, u"copy-link"_s, u"browser"_s, u"window"_s};
@@ -77,7 +77,8 @@ TEST(PaletteActions, TitlesAndSymbolsAreThoseOfTheProgram)
         {u"Masquer les tickets terminés"_s, u"checkmark.circle"_s},
         {u"Changer l'apparence (Système)"_s, u"circle.lefthalf.filled"_s},
         {u"Actualiser"_s, u"arrow.clockwise"_s},
-        {u"Réglages"_s, u"gear"_s}};
+        {u"Réglages"_s, u"gear"_s},
+        {u"Rechercher les mises à jour…"_s, u"arrow.triangle.2.circlepath"_s}};
     QList<std::pair<QString, QString>> actual;
     for (const auto &item : paletteActions({.targets = {u"MOB-1"_s}})) {
         const auto *symbol = std::get_if<OptionIcon::Symbol>(&item.icon.value);
