@@ -30,7 +30,7 @@ class Settings(WindowCase):
         velmora = self.open_settings()
         # A click makes the new window the active one.
         velmora.app.find(role="page tab", name="Compte").click()
-        self.session.key("shift+Tab")
+        self.session.key("Tab")
         velmora.app.find(role="page tab", name="Compte", states=("focused",))
         for title in TABS[1:]:
             self.session.key("Right")
