@@ -8,7 +8,7 @@
 namespace {
 
 /// How many comments are added before the time is looked at, and the milliseconds that are spent at a time.
-constexpr qsizetype someComments = 4;
+constexpr qsizetype someComments = 2;
 constexpr qint64 slice = 6;
 
 } // namespace

@@ -16,7 +16,7 @@ struct CommentRow
     bool operator==(const CommentRow &) const = default;
 };
 
-/// The comments that are shown, oldest first. Creating a bubble takes about a millisecond, so the bubbles of many
+/// The comments that are shown, oldest first. Creating a bubble takes one or two milliseconds, so the bubbles of many
 /// comments are created in steps: the model contains the first comments at once, and the others follow while nothing
 /// else happens.
 class CommentList : public KeyedListModel<CommentRow>
@@ -29,8 +29,8 @@ public:
     enum Role { CommentRole = Qt::UserRole };
     Q_ENUM(Role)
 
-    /// The number of comments that are added at once, which is more than a window shows.
-    static constexpr qsizetype firstStep = 24;
+    /// The number of comments that are added at once, which fills most windows.
+    static constexpr qsizetype firstStep = 12;
 
     explicit CommentList(QObject *parent = nullptr);
 
