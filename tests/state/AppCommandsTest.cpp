@@ -39,16 +39,35 @@ TEST_F(AppCommandsTest, TheWindowOfAnIssueHasOnlyWhatNeedsNothingOfTheMainWindow
 {
     startSession();
     commands.setIssueKey(u"MOB-2"_s);
-    EXPECT_EQ(commands.general().size(), 1);
-    EXPECT_EQ(commands.general().first().title, u"Actualiser"_s);
-    EXPECT_TRUE(commands.editing().isEmpty());
+    EXPECT_EQ(commands.general().size(), 2);
+    EXPECT_EQ(commands.general().first().title, u"Palette de commandes…"_s);
+    EXPECT_EQ(commands.general().last().title, u"Actualiser"_s);
+    EXPECT_EQ(commands.editing().size(), 5);
     EXPECT_EQ(commands.sharing().size(), 4);
     EXPECT_TRUE(commands.display().isEmpty());
+}
+
+TEST_F(AppCommandsTest, TheWindowOfAnIssueShowsItsPaletteItself)
+{
+    startSession();
+    commands.setIssueKey(u"MOB-2"_s);
+    const QSignalSpy requests(&commands, &AppCommands::paletteRequested);
     choose(Command::TogglePalette);
-    EXPECT_FALSE(store->palette());
-    EXPECT_FALSE(
+    EXPECT_TRUE(
         commands.runShortcut(KeyPress::make(Qt::Key_K, 0, u"k"_s, Qt::ControlModifier, u"k"_s)));
+    EXPECT_TRUE(commands.runKey(KeyPress::make(Qt::Key_S, 0, u"s"_s, {}, u"s"_s)));
+    EXPECT_EQ(requests.size(), 3);
+    EXPECT_EQ(requests.last().first().value<Command>(), Command::PickStatus);
     EXPECT_FALSE(store->palette());
+}
+
+TEST_F(AppCommandsTest, KeysThatNeedTheMainWindowDoNothingInTheWindowOfAnIssue)
+{
+    startSession();
+    commands.setIssueKey(u"MOB-2"_s);
+    EXPECT_FALSE(commands.runKey(KeyPress::make(Qt::Key_J, 0, u"j"_s, {}, u"j"_s)));
+    EXPECT_FALSE(commands.runKey(KeyPress::make(Qt::Key_C, 0, u"c"_s, {}, u"c"_s)));
+    EXPECT_FALSE(store->isCreating());
 }
 
 TEST_F(AppCommandsTest, ADisabledCommandDoesNothing)

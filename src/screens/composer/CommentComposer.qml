@@ -21,7 +21,7 @@ FocusScope {
 
     function report() {
         if (!isApplying)
-            composition.edit(editor.text, editor.cursorPosition);
+            composition.edit(editor.exactText(), editor.cursorPosition);
     }
 
     function apply(start: int, end: int, words: string, caret: int) {

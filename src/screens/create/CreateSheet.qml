@@ -19,6 +19,14 @@ Item {
 
     signal closed()
 
+    // Not by bindings: a field would compare its text with ordinary blanks, and lose its caret.
+    function showTexts() {
+        if (title.exactText() !== form.summary)
+            title.text = form.summary;
+        if (description.exactText() !== form.details)
+            description.text = form.details;
+    }
+
     onIsLeavingChanged: if (isLeaving && !isClosing) sheet.close()
     Component.onCompleted: {
         form.begin();
@@ -29,6 +37,7 @@ Item {
         id: form
 
         store: root.store
+        onTextChanged: root.showTexts()
         onFinished: sheet.close()
         onRestarted: title.forceActiveFocus(Qt.OtherFocusReason)
     }
@@ -70,8 +79,7 @@ Item {
             placeholderText: "Titre du ticket"
             focus: true
             readOnly: form.isSubmitting
-            text: form.summary
-            onTextChanged: form.summary = text
+            onTextChanged: form.summary = exactText()
             onAccepted: description.forceActiveFocus(Qt.TabFocusReason)
         }
 
@@ -91,8 +99,7 @@ Item {
             lowest: 160
             highest: Math.max(lowest, sheet.fieldsRoom - y - chips.height)
             readOnly: form.isSubmitting
-            text: form.details
-            onTextChanged: form.details = text
+            onTextChanged: form.details = exactText()
         }
 
         CreateChips {

@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
 #include "model/JiraError.h"
+#include "richtext/ADFQueries.h"
 #include "screens/kit/layers/WindowLayers.h"
 
 #include <QQuickItem>
@@ -34,7 +35,8 @@ protected:
     {
         store().setFocusedKey(key);
         press(Qt::Key_Return);
-        awaitTitle(u"Résumé de "_s + key);
+        // The field tells ordinary blanks.
+        awaitTitle(QString((*store().issue(key))->summary).replace(u'\u00a0', u' '));
     }
     void awaitTitle(const QString &title)
     {
@@ -368,4 +370,29 @@ TEST_F(DetailScreen, ARefusedTitleIsTakenBackAndSaid)
     service->updateCalls.last().fail(JiraError(JiraError::Http{400, u"Champ verrouillé."_s}));
     EXPECT_EQ(titleShown(), u"Résumé de MOB-2"_s);
     await(QAccessible::AlertMessage, u"Champ verrouillé."_s);
+}
+
+TEST_F(DetailScreen, ATitleWithNoBreakSpacesThatIsOnlyVisitedIsNotSent)
+{
+    serveTitle(u"Prix\u00a0: 3\u00a0€"_s);
+    openIssue();
+    click(find(QAccessible::EditableText, u"Titre"_s));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(sent(), QStringList());
+    click(find(QAccessible::EditableText, u"Titre"_s));
+    press(Qt::Key_End);
+    type(u"\u00a0!"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(sent(), QStringList(u"Prix\u00a0: 3\u00a0€\u00a0!"_s));
+}
+
+TEST_F(DetailScreen, NoBreakSpacesOfACommentAreSent)
+{
+    openIssue();
+    click(find(QAccessible::EditableText, u"Commentaire"_s));
+    type(u"Vu\u00a0!"_s);
+    press(Qt::Key_Return, Qt::ControlModifier);
+    ASSERT_EQ(service->addCommentCalls.count(), 1);
+    EXPECT_EQ(ADF::plainText(service->addCommentCalls.last().argument<1>()).trimmed(),
+              u"Vu\u00a0!"_s);
 }

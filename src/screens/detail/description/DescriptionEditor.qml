@@ -86,7 +86,7 @@ FocusScope {
             highest: Math.max(lowest, root.room - foot.height - 4 * root.padding)
             name: "Description"
             placeholderText: "Ajouter une description… (Markdown accepté)"
-            onTextChanged: root.editing.draft = text
+            onTextChanged: root.editing.draft = exactText()
             onCaretMoved: root.reveal()
             onHeightChanged: root.reveal()
         }

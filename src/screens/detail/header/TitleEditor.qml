@@ -17,7 +17,7 @@ FocusScope {
 
     // A text without words is replaced by the title as it was.
     function commit() {
-        issue.rename(editedKey, field.text);
+        issue.rename(editedKey, field.exactText());
         reset();
     }
 
@@ -57,6 +57,6 @@ FocusScope {
         }
         onActiveFocusChanged: root.begin()
         Component.onCompleted: root.reset()
-        Component.onDestruction: if (activeFocus) root.issue.rename(root.editedKey, text)
+        Component.onDestruction: if (activeFocus) root.issue.rename(root.editedKey, exactText())
     }
 }

@@ -6,6 +6,13 @@
 
 #include <algorithm>
 
+QString DocumentEdits::textOf(const QQuickTextDocument *document) const
+{
+    QString text = document->textDocument()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    return text;
+}
+
 void DocumentEdits::replace(const QQuickTextDocument *document, int start, int end,
                             const QString &text) const
 {

@@ -4,7 +4,8 @@
 #include <QQuickTextDocument>
 #include <QtQml/qqmlregistration.h>
 
-/// Changes of the text of an editor that a user can undo in one step. (`TextEdit` itself removes and inserts in two.)
+/// The text of an editor, and changes of it that a user can undo in one step. (`TextEdit` itself removes and inserts in
+/// two.)
 class DocumentEdits : public QObject
 {
     Q_OBJECT
@@ -12,6 +13,8 @@ class DocumentEdits : public QObject
     QML_SINGLETON
 
 public:
+    /// The text with its no-break spaces, which `TextEdit` replaces by ordinary blanks. Lines end with "\n".
+    Q_INVOKABLE QString textOf(const QQuickTextDocument *document) const;
     /// Replaces the characters from `start` up to `end` by plain text. Positions outside the text mean its nearest end.
     Q_INVOKABLE void replace(const QQuickTextDocument *document, int start, int end,
                              const QString &text) const;

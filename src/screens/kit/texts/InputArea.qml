@@ -37,6 +37,11 @@ FocusScope {
     /// The caret is at another place of the text, or the text around it has moved.
     signal caretMoved()
 
+    /// The text as it was typed, where `text` has ordinary blanks instead of no-break spaces.
+    function exactText(): string {
+        return DocumentEdits.textOf(editor.textDocument)
+    }
+
     /// Replaces the selection, or inserts at the caret. The caret is then after the new text. One step of undo.
     function insert(words: string) {
         replace(selectionStart, selectionEnd, words)

@@ -19,6 +19,11 @@ FocusScope {
     /// A key press before the field handles it. An accepted event goes no further.
     signal keyPressed(event: var)
 
+    /// The text as it was typed, where `text` has ordinary blanks instead of no-break spaces.
+    function exactText(): string {
+        return DocumentEdits.textOf(editor.textDocument)
+    }
+
     function handle(event: var) {
         keyPressed(event)
         if (event.accepted || !isSubmission(event.key, event.modifiers))

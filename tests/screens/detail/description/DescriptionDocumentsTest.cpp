@@ -90,6 +90,17 @@ TEST_F(DescriptionDocuments, ALongDescriptionIsEditedAndSavedWhole)
     EXPECT_EQ(shown().size(), ADF::plainText(ADFMarkdown::document(markdown)).size() + 5);
 }
 
+TEST_F(DescriptionDocuments, NoBreakSpacesAreSaved)
+{
+    const QString price = u"Prix\u00a0: 3\u00a0€"_s;
+    open(described(price));
+    edit();
+    press(Qt::Key_End);
+    type(u"\u00a0!"_s);
+    save();
+    EXPECT_EQ(shown(), price + u"\u00a0!"_s);
+}
+
 TEST_F(DescriptionDocuments, HostileDocumentsAreShownAndEdited)
 {
     ADFNode deep = Descriptions::text(u"fond"_s);
