@@ -38,20 +38,28 @@ TEST(AttachmentFile, ItsHintsNameTheFileItsAuthorAndTheClicks)
     EXPECT_EQ(AttachmentFile{attachment}.inlineHint(), u"a.log · clic pour l'aperçu"_s);
 }
 
-TEST(ShownFileName, ATrickWithTheDirectionOfWritingIsVisible)
+TEST(AttachmentFile, ATrickInTheNameOfItsAuthorIsVisible)
 {
-    EXPECT_EQ(shownFileName(u"facture\u202Egpj.exe"_s), u"facture\uFFFDgpj.exe"_s);
-    EXPECT_EQ(shownFileName(u"a\u2066b\u200Fc"_s), u"a\uFFFDb\uFFFDc"_s);
+    Attachment attachment = file(u"1"_s, u"a.log"_s);
+    attachment.author = JiraUser{.id = u"u"_s, .name = u"Elsa\u202E\nibuoraK"_s};
+    EXPECT_EQ(AttachmentFile{attachment}.tileHint(),
+              u"a.log\nElsa\uFFFD\uFFFDibuoraK · clic : aperçu, double-clic : ouvrir"_s);
 }
 
-TEST(ShownFileName, ControlCharactersAndLineBreaksAreVisibleAndLeaveOneLine)
+TEST(ShownName, ATrickWithTheDirectionOfWritingIsVisible)
 {
-    EXPECT_EQ(shownFileName(u"a\nb\tc\u0000d\u2028e\u0085f"_s),
+    EXPECT_EQ(shownName(u"facture\u202Egpj.exe"_s), u"facture\uFFFDgpj.exe"_s);
+    EXPECT_EQ(shownName(u"a\u2066b\u200Fc"_s), u"a\uFFFDb\uFFFDc"_s);
+}
+
+TEST(ShownName, ControlCharactersAndLineBreaksAreVisibleAndLeaveOneLine)
+{
+    EXPECT_EQ(shownName(u"a\nb\tc\u0000d\u2028e\u0085f"_s),
               u"a\uFFFDb\uFFFDc\uFFFDd\uFFFDe\uFFFDf"_s);
 }
 
-TEST(ShownFileName, NamesOfAllScriptsStayAsTheyAre)
+TEST(ShownName, NamesOfAllScriptsStayAsTheyAre)
 {
     const QString family = QString::fromUtf8("👩‍👧 été — תמונה.png");
-    EXPECT_EQ(shownFileName(family), family);
+    EXPECT_EQ(shownName(family), family);
 }

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 QString AttachmentFile::name() const
 {
-    return shownFileName(attachment.filename);
+    return shownName(attachment.filename);
 }
 
 QString AttachmentFile::sizeText() const
@@ -34,7 +34,7 @@ QString AttachmentFile::symbol() const
 
 QString AttachmentFile::tileHint() const
 {
-    const QString author = attachment.author ? attachment.author->name : u"?"_s;
+    const QString author = attachment.author ? shownName(attachment.author->name) : u"?"_s;
     return name() + u'\n' + author + u" · clic : aperçu, double-clic : ouvrir"_s;
 }
 

@@ -23,9 +23,9 @@ bool isHidden(QChar character)
 
 } // namespace
 
-QString shownFileName(const QString &filename)
+QString shownName(const QString &name)
 {
-    QString shown = filename;
+    QString shown = name;
     for (QChar &character : shown) {
         if (isHidden(character))
             character = QChar::ReplacementCharacter;

@@ -38,7 +38,7 @@ QString shownLine(QString line, qsizetype most)
     const bool isCut = line.size() > most;
     line.truncate(most);
     line.replace(u'\t', QString(TabWidth, u' '));
-    line = shownFileName(line);
+    line = shownName(line);
     return isCut ? line + u'…' : line;
 }
 

@@ -42,7 +42,7 @@ QString shortened(QString name)
 /// another folder.
 QString proposedName(const QString &filename)
 {
-    const QString name = shortened(shownFileName(filename.section(u'/', -1)));
+    const QString name = shortened(shownName(filename.section(u'/', -1)));
     return name.isEmpty() || name == "."_L1 || name == ".."_L1 ? u"fichier"_s : name;
 }
 
