@@ -21,12 +21,14 @@ const auto StageKey = u"WEB-1"_s;
 const auto Screen = u"import QtQuick\nimport Velmora.Attachments\nimport Velmora.State\n"
                     "FocusScope { id: screen; width: 600; height: 460; focus: true\n"
                     "property string issueKey: 'WEB-1'\n"
+                    "property rect revealed\n"
                     "property AttachmentPreviewer previewer: AttachmentPreviewer { store: "
                     "appStore; key: screen.issueKey; window: screen.Window.window; "
                     "files: section.issueFiles.files }\n"
                     "property FileImport files: section.importer\n"
                     "AttachmentsSection { id: section; x: 20; y: 20; width: 444; store: appStore; "
-                    "previewer: screen.previewer; issueKey: screen.issueKey }\n"
+                    "previewer: screen.previewer; issueKey: screen.issueKey; "
+                    "onRevealRequested: box => screen.revealed = mapToItem(screen, box) }\n"
                     "AttachmentDropArea { anchors.fill: parent; files: section.issueFiles }\n"
                     "PreviewHost { previewer: screen.previewer } }"_s;
 

@@ -36,6 +36,8 @@ protected:
     bool awaitsNo(QAccessible::Role role, const QString &name);
     /// The name of the tile with the focus; empty without one.
     QString focusedTile();
+    /// What the section has asked to be in sight last, in the coordinates of the window.
+    QRect revealed() const { return m_screen->property("revealed").toRectF().toRect(); }
     QStringList namesOf(QAccessible::Role role);
     /// The window of the preview, once it is shown. Null if it does not appear.
     QQuickWindow *previewWindow();

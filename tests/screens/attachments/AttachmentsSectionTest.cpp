@@ -17,6 +17,10 @@ protected:
             files += cached(name.first(1), name, u"text/plain"_s, "contenu de " + name.toUtf8());
         open(files);
     }
+    QRect tileBox(const QString &name)
+    {
+        return spokenIn(window(), QAccessible::ListItem, name).value(0).box;
+    }
     Toast lastToast() const { return store->toasts().value(store->toasts().size() - 1); }
 };
 
@@ -72,6 +76,15 @@ TEST_F(AttachmentsSectionTest, TheArrowKeysMoveBetweenTheTiles)
     press(Qt::Key_Home);
     press(Qt::Key_Left);
     EXPECT_EQ(focusedTile(), u"a.txt"_s);
+}
+
+TEST_F(AttachmentsSectionTest, TheTileThatTheKeysReachAsksToBeSeen)
+{
+    openFour();
+    goToTiles();
+    EXPECT_EQ(revealed(), tileBox(u"a.txt"_s));
+    press(Qt::Key_Down);
+    EXPECT_EQ(revealed(), tileBox(u"d.txt"_s));
 }
 
 TEST_F(AttachmentsSectionTest, ReturnOpensTheFile)

@@ -23,6 +23,9 @@ FocusScope {
         onChosen: (key, files) => root.issueFiles.uploadTo(key, files)
     }
 
+    /// A tile has the focus and should be in sight, in the coordinates of the section.
+    signal revealRequested(box: rect)
+
     implicitHeight: header.height + 10 + (tiles.visible ? tiles.height : nothing.height)
     Accessible.role: Accessible.Grouping
     Accessible.name: "Pièces jointes"
@@ -84,5 +87,6 @@ FocusScope {
         visible: root.issueFiles.tileCount > 0
         files: root.issueFiles
         previewer: root.previewer
+        onRevealRequested: box => root.revealRequested(tiles.mapToItem(root, box))
     }
 }

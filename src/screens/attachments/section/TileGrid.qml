@@ -17,8 +17,16 @@ FocusScope {
     /// The window's key map leaves the keys of a control that shows the focus to it.
     readonly property bool visualFocus: activeFocus
 
+    signal revealRequested(box: rect)
+
     function move(by: int) {
         currentIndex = Math.max(0, Math.min(slots.count - 1, currentIndex + by));
+    }
+
+    function reveal() {
+        const slot = current();
+        if (activeFocus && slot)
+            revealRequested(Qt.rect(slot.x, slot.y, slot.width, slot.height));
     }
 
     function current(): FileTileSlot {
@@ -35,6 +43,8 @@ FocusScope {
     height: implicitHeight
     activeFocusOnTab: true
     OwnKeys.walksRows: true
+    onActiveFocusChanged: reveal()
+    onCurrentIndexChanged: reveal()
     Accessible.role: Accessible.List
     Accessible.name: "Fichiers joints"
 
