@@ -22,10 +22,10 @@ class IssueByKeyboard(SiteCase):
         self.session.settle()
 
     def has_focus(self, name):
-        return any("focused" in node.states for node in self.velmora.app.all(name=name))
+        return any("focused" in node.states for node in self.velmora.app.all(role="text", name=name))
 
     def tab_to(self, name):
-        """Presses Tab until something of this name has the focus."""
+        """Presses Tab until the field of this name has the focus."""
         for _ in range(60):
             if self.has_focus(name):
                 return

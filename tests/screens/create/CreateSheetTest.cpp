@@ -1,6 +1,5 @@
 #include "app/WindowFixture.h"
 #include "model/JiraError.h"
-#include "richtext/ADFQueries.h"
 #include "screens/kit/layers/WindowLayers.h"
 
 #include <QQuickItem>
@@ -398,16 +397,4 @@ TEST_F(CreateSheet, AtTheSmallestWindowItIsCompletelyVisibleWhateverIsTyped)
     EXPECT_EQ(focusedName(), u"Étiquettes : Étiquettes"_s);
     EXPECT_TRUE(inside.contains(find(QAccessible::Button, u"Étiquettes"_s).box))
         << "the field with the focus is scrolled into view";
-}
-
-TEST_F(CreateSheet, NoBreakSpacesAreKeptAndTheCaretStays)
-{
-    openSheet();
-    type(u"Prix\u00a0: 3"_s);
-    press(Qt::Key_Tab);
-    type(u"Vu\u00a0!"_s);
-    submit();
-    EXPECT_EQ(sent().summary, u"Prix\u00a0: 3"_s);
-    ASSERT_TRUE(sent().description);
-    EXPECT_EQ(ADF::plainText(*sent().description).trimmed(), u"Vu\u00a0!"_s);
 }
