@@ -5,6 +5,7 @@
 #include "screens/kit/layers/OwnKeys.h"
 #include "screens/kit/layers/WindowLayers.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QQuickItem>
 
@@ -21,6 +22,17 @@ bool isPressed(const QQuickItem &control, int key)
     return (isActivation(key) || key == Qt::Key_Space) && control.property("visualFocus").toBool();
 }
 
+/// The item says that it uses the press, as text fields do for shortcuts.
+bool isWanted(QQuickItem &item, const QKeyEvent &event)
+{
+    QKeyEvent question(QEvent::ShortcutOverride, event.key(), event.modifiers(),
+                       event.nativeScanCode(), event.nativeVirtualKey(), event.nativeModifiers(),
+                       event.text());
+    question.ignore();
+    QCoreApplication::sendEvent(&item, &question);
+    return question.isAccepted();
+}
+
 bool isScrolling(int key)
 {
     return key == Qt::Key_PageUp || key == Qt::Key_PageDown || key == Qt::Key_Home ||
@@ -33,8 +45,7 @@ bool KeyMonitor::takes(const QKeyEvent &event)
 {
     if (!m_store || !m_window)
         return false;
-    const auto press = KeyPress::from(event);
-    return !isLeftToFocusItem(press.key) && give(press);
+    return !isLeftToFocusItem(event) && give(KeyPress::from(event));
 }
 
 bool KeyMonitor::repeats(const QKeyEvent &event) const
@@ -55,13 +66,16 @@ bool KeyMonitor::give(const KeyPress &press)
     return isTaken;
 }
 
-bool KeyMonitor::isLeftToFocusItem(int key) const
+bool KeyMonitor::isLeftToFocusItem(const QKeyEvent &event) const
 {
     if (WindowLayers::of(*m_window).isTyping())
         return true;
-    const QQuickItem *item = m_window->activeFocusItem();
+    auto *item = m_window->activeFocusItem();
     if (!item)
         return false;
+    if (isWanted(*item, event))
+        return true;
+    const int key = event.key();
     const bool isWalking = isActivation(key) || key == Qt::Key_Up || key == Qt::Key_Down;
     return isPressed(*item, key) || (isWalking && OwnKeys::isInWalkedList(*item)) ||
            (isScrolling(key) && OwnKeys::isInScrolledPage(*item));

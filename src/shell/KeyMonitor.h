@@ -9,7 +9,8 @@
 
 /// Offers the key presses of a window's content to the key map. A press is passed on while the user
 /// types in a text field. Return and the arrow keys are passed on to a focused list that moves through its rows itself,
-/// Page Up, Page Down, Home and End to a page that scrolls, Return and Space to a control that was reached by Tab.
+/// Page Up, Page Down, Home and End to a page that scrolls, Return and Space to a control that was reached by Tab, and
+/// any press to an item that accepts its `ShortcutOverride` event.
 class KeyMonitor : public KeyHandler
 {
     Q_OBJECT
@@ -34,7 +35,7 @@ Q_SIGNALS:
     void walked();
 
 private:
-    bool isLeftToFocusItem(int key) const;
+    bool isLeftToFocusItem(const QKeyEvent &event) const;
     bool give(const KeyPress &press);
 
     QPointer<QQuickWindow> m_window;

@@ -1,6 +1,10 @@
 #include "screens/detail/DetailScreen.h"
 
 #include "model/JiraError.h"
+#include "richtext/ADFMarkdown.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -178,4 +182,67 @@ TEST_F(DetailScreen, TheFilesOfACommentStandBelowIt)
     reload();
     openIssue();
     await(QAccessible::Button, u"journal.log"_s);
+}
+
+/// The description is read by keys, in the window whose key map knows the same keys.
+class DetailReading : public DetailScreen
+{
+protected:
+    DetailReading()
+    {
+        Issue issue = **store().issue(u"MOB-2"_s);
+        issue.subtasks.clear();
+        issue.description =
+            ADFMarkdown::document(u"Voir [la page](https://exemple.fr/page).\n\nFin."_s);
+        issue.hasDetails = true;
+        serveIssues({issue, issueWithKey(u"MOB-1"_s)});
+        reload();
+        openIssue();
+        for (int i = 0; i < 60 && !hasFocus(u"Description"_s); ++i)
+            press(Qt::Key_Tab);
+        EXPECT_TRUE(hasFocus(u"Description"_s));
+    }
+
+    bool hasFocus(const QString &name)
+    {
+        auto *item = window().activeFocusItem();
+        auto *spoken = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+        return spoken && spoken->text(QAccessible::Name) == name;
+    }
+    QString copied()
+    {
+        QGuiApplication::clipboard()->clear();
+        press(Qt::Key_C, Qt::ControlModifier);
+        return QGuiApplication::clipboard()->text();
+    }
+};
+
+TEST_F(DetailReading, ReturnOpensTheLinkThatHasTheFocus)
+{
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    ASSERT_EQ(desktop->opened.size(), 1);
+    EXPECT_EQ(desktop->opened.first(), QUrl(u"https://exemple.fr/page"_s));
+}
+
+TEST_F(DetailReading, ControlASelectsTheTextAndNoIssue)
+{
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(store().isSelecting());
+    EXPECT_TRUE(copied().contains(u"Fin."_s));
+}
+
+TEST_F(DetailReading, ShiftWithTheArrowsSelectsTextAndNoIssue)
+{
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_FALSE(store().isSelecting());
+    EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
+    EXPECT_TRUE(copied().startsWith(u"Voir"_s));
+}
+
+TEST_F(DetailReading, TheKeyMapWorksForTheOtherKeys)
+{
+    press(Qt::Key_K);
+    awaitTitle(u"Résumé de MOB-1"_s);
 }

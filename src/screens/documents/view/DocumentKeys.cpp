@@ -3,17 +3,50 @@
 
 #include <QKeyEvent>
 
+namespace {
+
+bool isReturn(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool isSideways(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End;
+}
+
+bool movesCaret(int key)
+{
+    return isSideways(key) || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
+
 bool DocumentReader::event(QEvent *event)
 {
-    // Shortcuts of the window give way to those of the document that has the focus.
-    if (event->type() == QEvent::ShortcutOverride) {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
-            event->accept();
-            return true;
-        }
+    // Keys of the window give way to those of the document that has the focus.
+    if (event->type() == QEvent::ShortcutOverride &&
+        wants(*static_cast<const QKeyEvent *>(event))) {
+        event->accept();
+        return true;
     }
     return DocumentCanvas::event(event);
+}
+
+bool DocumentReader::wants(const QKeyEvent &event) const
+{
+    if (event.matches(QKeySequence::Copy) || event.matches(QKeySequence::SelectAll))
+        return true;
+    if (event.modifiers().testFlag(Qt::ShiftModifier))
+        return movesCaret(event.key());
+    const bool isPlain = !(event.modifiers() & ~Qt::KeypadModifier);
+    if (!isPlain || m_focused < 0 || m_focused >= int(m_stops.size()))
+        return false;
+    const auto kind = m_stops[size_t(m_focused)].kind;
+    if (kind == FocusStop::Kind::Scroller)
+        return isSideways(event.key());
+    return isReturn(event.key()) ||
+           (kind == FocusStop::Kind::Expand && event.key() == Qt::Key_Space);
 }
 
 void DocumentReader::keyPressEvent(QKeyEvent *event)
@@ -105,11 +138,9 @@ bool DocumentReader::operate(const QKeyEvent &event)
         (event.modifiers() & ~Qt::KeypadModifier))
         return false;
     const FocusStop stop = m_stops[size_t(m_focused)];
-    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    const bool isSpace = event.key() == Qt::Key_Space;
     if (stop.kind == FocusStop::Kind::Scroller)
         return scrollFocused(event);
-    if (!isReturn && !(isSpace && stop.kind == FocusStop::Kind::Expand))
+    if (!wants(event))
         return false;
     if (!event.isAutoRepeat())
         activate(stop);

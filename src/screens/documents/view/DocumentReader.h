@@ -77,6 +77,8 @@ private:
     enum class Unit { Character, Word, Block };
 
     void makeStops();
+    /// Whether a key press has an effect on the document, so that the window must not use it.
+    bool wants(const QKeyEvent &event) const;
     // The selection
     void select(TextPlace anchor, TextPlace caret);
     void selectAround(TextPlace place, Unit unit);
