@@ -109,10 +109,12 @@ FocusScope {
             }
 
             AttachmentsSection {
+                id: attachments
                 width: parent.width
                 store: root.store
                 issueKey: root.issue.key
                 previewer: root.previewer
+                onRevealRequested: box => root.reveal(attachments, box)
             }
 
             When {
