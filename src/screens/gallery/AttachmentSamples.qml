@@ -58,7 +58,7 @@ Item {
             spacing: Metrics.gapLarge
 
             InlinePicture {
-                room: 200
+                room: 180
                 file: SampleFiles.files[0]
             }
 
@@ -75,7 +75,7 @@ Item {
             }
 
             Item {
-                width: 300
+                width: 320
                 height: 120
 
                 DropOverlay {
