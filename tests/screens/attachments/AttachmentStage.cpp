@@ -57,6 +57,7 @@ void AttachmentStage::open(const QList<Attachment> &attachments)
     });
     m_bench = std::make_unique<Bench>();
     window().resize(600, 460);
+    window().setPosition(200, 160);
     m_bench->window().rootContext()->setContextProperty(u"appStore"_s, store.get());
     m_screen = m_bench->show(Screen);
     ASSERT_NE(m_screen, nullptr) << m_bench->warnings();

@@ -1,11 +1,13 @@
 #include "screens/attachments/AttachmentStage.h"
 #include "screens/attachments/preview/PdfPage.h"
 #include "screens/attachments/preview/PictureCanvas.h"
+#include "screens/attachments/preview/PreviewPlace.h"
 #include "screens/kit/images/SamplePictures.h"
 
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QScreen>
 #include <QTest>
 #include <QThreadPool>
 
@@ -107,6 +109,20 @@ TEST_F(PreviewTest, APictureIsFittedIntoTheWindow)
     EXPECT_NEAR(canvas->zoom(), canvas->width() / 1600, 0.001);
     EXPECT_EQ(preview->grabWindow().pixelColor(preview->width() / 2, preview->height() / 2),
               QColor(Qt::red));
+}
+
+TEST_F(PreviewTest, ItOpensInTheMiddleOfTheWindow)
+{
+    previewFirst({textFile(u"journal"_s, "premier\n")});
+    const QRect screen = window().screen()->availableGeometry();
+    const QRect place = previewPlace({920, 700}, window().geometry(), screen);
+    const QRect opened = preview->geometry();
+    EXPECT_EQ(opened.size(), place.size());
+    // The frame of the window needs some pixels at the edge of this small screen.
+    EXPECT_LE((opened.topLeft() - place.topLeft()).manhattanLength(), 4);
+    window().setPosition(window().position() + QPoint(40, 30));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(preview->geometry(), opened) << "it does not follow the window";
 }
 
 TEST_F(PreviewTest, APictureIsZoomedAndMovedByKeysAndTheWheel)

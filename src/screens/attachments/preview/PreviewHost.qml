@@ -16,7 +16,6 @@ Item {
         Item {
             PreviewWindow {
                 previewer: root.previewer
-                visible: true
             }
         }
     }

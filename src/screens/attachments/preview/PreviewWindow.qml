@@ -13,13 +13,18 @@ Window {
     required property AttachmentPreviewer previewer
     readonly property attachmentFile file: previewer.shown.file
 
+    function open() {
+        const place = previewer.placeOfPreview(Qt.size(920, 700));
+        setGeometry(place.x, place.y, place.width, place.height);
+        show();
+    }
+
     title: file.name
-    width: 920
-    height: 700
     minimumWidth: 360
     minimumHeight: 280
     color: Theme.content
     onClosing: previewer.close()
+    Component.onCompleted: open()
 
     Shortcut {
         sequences: ["Ctrl+W"]

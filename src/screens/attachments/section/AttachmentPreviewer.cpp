@@ -6,9 +6,11 @@
 #include "platform/Wording.h"
 #include "platform/files/StoredCopy.h"
 #include "screens/attachments/facts/ShownName.h"
+#include "screens/attachments/preview/PreviewPlace.h"
 #include "screens/attachments/section/FileFetches.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <QStyleHints>
 
 #include <chrono>
@@ -175,6 +177,13 @@ QCoro::Task<> AttachmentPreviewer::saveAs(AttachmentFile file, QUrl local)
         m_store->toast(u"« "_s + file.name() + u" » enregistré"_s, u"arrow.down.circle.fill"_s);
     else if (!saved.error().isCancellation)
         m_store->toast(saved.error().message, u"exclamationmark.triangle.fill"_s, ToastKind::Error);
+}
+
+QRect AttachmentPreviewer::placeOfPreview(QSize wanted) const
+{
+    const QScreen *screen = m_window ? m_window->screen() : QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    return previewPlace(wanted, m_window ? m_window->geometry() : room, room);
 }
 
 void AttachmentPreviewer::close()

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
+#include <QRect>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
@@ -79,6 +80,8 @@ public:
     Q_INVOKABLE void reveal(const AttachmentFile &file);
     /// Asks for a place and saves a copy there. A toast tells the end; a cancelled dialog tells nothing.
     Q_INVOKABLE void save(const AttachmentFile &file);
+    /// Where a window of this size opens for the preview, in the coordinates of the desktop.
+    Q_INVOKABLE QRect placeOfPreview(QSize wanted) const;
     /// Ends the preview.
     Q_INVOKABLE void close();
     /// Previews the file that is `by` places after the present one in `files`; nothing beyond the ends.
