@@ -1,5 +1,6 @@
 #include "Packed.h"
 #include "SessionTest.h"
+#include "simulator/server/UnknownHost.h"
 
 #include <QFile>
 
@@ -16,7 +17,7 @@ using HttpFaults = SessionTest;
 TEST_F(HttpFaults, ANameThatNobodyKnows)
 {
     HttpRequest sent = request("/a");
-    sent.url = QUrl(u"http://site.invalid/a"_s);
+    sent.url = unknownHostUrl();
     EXPECT_EQ(failureOf(sent), Kind::HostNotFound);
 }
 

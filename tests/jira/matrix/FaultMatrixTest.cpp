@@ -5,6 +5,7 @@
 #include "jira/matrix/Scratch.h"
 #include "jira/matrix/Spoken.h"
 #include "simulator/server/RawServer.h"
+#include "simulator/server/UnknownHost.h"
 #include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
@@ -44,7 +45,7 @@ protected:
 
     QUrl site() const
     {
-        return fault().place == Fault::Place::Name ? QUrl(u"http://jira.invalid"_s) : server.url();
+        return fault().place == Fault::Place::Name ? unknownHostUrl() : server.url();
     }
 
     /// The text that the user should read; nothing if the operation should succeed.
