@@ -44,12 +44,15 @@ void FrameTimer::settle()
 
 qint64 FrameTimer::press(Qt::Key key, const QString &text)
 {
-    return answer([&] {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-        QCoreApplication::sendEvent(&m_window, &press);
-        QCoreApplication::sendEvent(&m_window, &release);
-    });
+    return answer([&] { send(key, text); });
+}
+
+void FrameTimer::send(Qt::Key key, const QString &text)
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&m_window, &press);
+    QCoreApplication::sendEvent(&m_window, &release);
 }
 
 qint64 FrameTimer::answer(const std::function<void()> &act)

@@ -26,7 +26,9 @@ public:
     /// Presses and releases a key while the window is idle. Returns the nanoseconds from the press to the swap of the
     /// first frame that shows the result. Ends the program if there is no such frame within one second.
     qint64 press(Qt::Key key, const QString &text);
-    /// The same for any action that changes what the window displays.
+    /// Presses and releases a key, without waiting for anything.
+    void send(Qt::Key key, const QString &text);
+    /// The same as `press` for any action that changes what the window displays.
     qint64 answer(const std::function<void()> &act);
     /// The measurements of a scroll.
     struct Scroll

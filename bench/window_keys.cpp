@@ -4,16 +4,13 @@
 
 #include "BenchIssues.h"
 #include "BenchSite.h"
-#include "EmptyWindow.h"
-#include "FrameTable.h"
-#include "FrameTimer.h"
+#include "KeyTimes.h"
 #include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"
 #include "async/Spawn.h"
 
 #include <QApplication>
-#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
 
@@ -38,26 +35,6 @@ bool isMeasured(const QString &part)
 {
     const auto only = QApplication::arguments().value(2);
     return only.isEmpty() || only == part;
-}
-
-QQuickItem *itemOf(QQuickItem *root, const char *kind)
-{
-    if (root->inherits(kind))
-        return root;
-    for (auto *child : root->childItems()) {
-        if (auto *found = itemOf(child, kind))
-            return found;
-    }
-    return nullptr;
-}
-
-std::vector<qint64> pressesOf(FrameTimer &timer, int count)
-{
-    std::vector<qint64> times;
-    times.reserve(std::size_t(count));
-    for (int i = 0; i < count; ++i)
-        times.push_back(timer.press(Qt::Key_J, u"j"_s));
-    return times;
 }
 
 /// Types a letter that every issue contains and deletes it, then types a character that few issues contain and deletes
@@ -165,7 +142,7 @@ void measureList(FrameTable &table, int count)
         table.add(size + u"list and board by turns"_s, switches(timer, Qt::Key_2, Qt::Key_1));
     if (!isMeasured(u"lists"_s))
         return;
-    table.add(size + u"J moves the focus"_s, pressesOf(timer, presses()));
+    table.add(size + u"J moves the focus"_s, pressesOf(timer, presses(), Qt::Key_J, u"j"_s));
     if (store.flatVisibleKeys().indexOf(*store.focusedKey()) < std::min(count, presses()) - 1)
         qFatal("The focus has not moved.");
     table.add(size + u"X checks and unchecks"_s, switches(timer, Qt::Key_X, Qt::Key_X));
@@ -196,18 +173,6 @@ void measurePalette(FrameTable &table, SiteSize size)
         qFatal("The palette has closed.");
 }
 
-void measureEmptyWindow(std::optional<FrameTable> &table)
-{
-    QQmlApplicationEngine engine;
-    engine.loadData(emptyWindow());
-    FrameTimer timer(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()));
-    timer.settle();
-    const auto times = pressesOf(timer, presses());
-    if (!table)
-        table.emplace(timer.renderer());
-    table->add(u"nearly empty window"_s, times);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -217,7 +182,7 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false);
     const QApplication application(argc, argv);
     std::optional<FrameTable> table;
-    measureEmptyWindow(table);
+    measureEmptyWindow(table, presses());
     if (isMeasured(u"palette"_s))
         measurePalette(*table, {.issues = 10000, .projects = 500});
     if (isMeasured(u"layouts"_s) || isMeasured(u"lists"_s)) {
@@ -225,6 +190,6 @@ int main(int argc, char **argv)
         measureList(*table, 10000);
     }
     // Repeated at the end to show how much the speed of the machine has changed during the run.
-    measureEmptyWindow(table);
+    measureEmptyWindow(table, presses());
     return 0;
 }

@@ -1,0 +1,40 @@
+#include "KeyTimes.h"
+
+#include "EmptyWindow.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+
+using namespace Qt::StringLiterals;
+
+std::vector<qint64> pressesOf(FrameTimer &timer, int count, Qt::Key key, const QString &text)
+{
+    std::vector<qint64> times;
+    times.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i)
+        times.push_back(timer.press(key, text));
+    return times;
+}
+
+void measureEmptyWindow(std::optional<FrameTable> &table, int presses)
+{
+    QQmlApplicationEngine engine;
+    engine.loadData(emptyWindow());
+    FrameTimer timer(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()));
+    timer.settle();
+    const auto times = pressesOf(timer, presses, Qt::Key_J, u"j"_s);
+    if (!table)
+        table.emplace(timer.renderer());
+    table->add(u"nearly empty window"_s, times);
+}
+
+QQuickItem *itemOf(QQuickItem *root, const char *kind)
+{
+    if (root->inherits(kind))
+        return root;
+    for (auto *child : root->childItems()) {
+        if (auto *found = itemOf(child, kind))
+            return found;
+    }
+    return nullptr;
+}
