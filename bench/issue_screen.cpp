@@ -41,6 +41,13 @@ int presses()
     return given > 0 ? given : 300;
 }
 
+/// True if the part should be measured. The second argument selects a single part: "walk", "typing" or "windows".
+bool isMeasured(const QString &part)
+{
+    const auto only = QApplication::arguments().value(2);
+    return only.isEmpty() || only == part;
+}
+
 ADFNode paragraph(int sentences)
 {
     return ADF::container(
@@ -305,6 +312,15 @@ void measureLongIssue(VelmoraApp &velmora)
                 qlonglong(processMemory(u"Rss"_s) - before));
 }
 
+void measureWalk(FrameTable &table, VelmoraApp &velmora, FrameTimer &timer)
+{
+    table.add(u"Space shows the issue"_s, inspections(timer));
+    table.add(u"J in the list alone"_s, pressesOf(timer, Walked, Qt::Key_J, u"j"_s));
+    velmora.store().run(Command::OpenIssue);
+    timer.settle();
+    table.add(u"J with the issue beside it"_s, pressesOf(timer, Walked, Qt::Key_J, u"j"_s));
+}
+
 void measureProgram(FrameTable &table)
 {
     const QTemporaryDir folder;
@@ -314,16 +330,16 @@ void measureProgram(FrameTable &table)
     FrameTimer timer(*velmora.mainWindow());
     timer.settle();
     timer.press(Qt::Key_J, u"j"_s);
-    table.add(u"Space shows the issue"_s, inspections(timer));
-    table.add(u"J in the list alone"_s, pressesOf(timer, Walked, Qt::Key_J, u"j"_s));
+    if (isMeasured(u"walk"_s))
+        measureWalk(table, velmora, timer);
     velmora.store().run(Command::OpenIssue);
     timer.settle();
-    table.add(u"J with the issue beside the list"_s, pressesOf(timer, Walked, Qt::Key_J, u"j"_s));
-    measureEditors(table, velmora, timer);
-    std::printf("RSS %lld\n", qlonglong(processMemory(u"Rss"_s)));
-    measureWindows(velmora);
-    std::printf("RSS %lld\n", qlonglong(processMemory(u"Rss"_s)));
-    measureLongIssue(velmora);
+    if (isMeasured(u"typing"_s))
+        measureEditors(table, velmora, timer);
+    if (isMeasured(u"windows"_s)) {
+        measureWindows(velmora);
+        measureLongIssue(velmora);
+    }
 }
 
 } // namespace

@@ -12,7 +12,8 @@ GlassPanel {
 
     required property AppStore store
 
-    // The key of the open issue. While the pane closes, the key of the issue that was open last.
+    // The key of the open issue. While the pane closes, the key of the issue that was open last; then empty, so that
+    // nothing of that issue stays.
     property string key: ""
 
     // The user has finished typing, and the list should have the keys again.
@@ -25,6 +26,12 @@ GlassPanel {
     color: Theme.inspector
 
     Component.onCompleted: follow()
+    onVisibleChanged: {
+        if (visible)
+            follow();
+        else
+            key = "";
+    }
 
     Accessible.role: Accessible.Pane
     Accessible.name: "Inspecteur"

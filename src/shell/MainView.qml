@@ -138,6 +138,7 @@ FocusScope {
         width: root.width - restingX - Metrics.paneMargin
         height: root.height - 2 * Metrics.paneMargin
         shown: root.store.showInspector || root.inspectorPresence > 0
+        isKept: true
         onWanted: setSource("InspectorPane.qml", { store: root.store })
 
         Connections {

@@ -164,7 +164,7 @@ FocusScope {
     }
 
     When {
-        shown: !open.isKnown && open.errorText === ""
+        shown: root.key !== "" && !open.isKnown && open.errorText === ""
 
         Spinner {
             x: (root.width - width) / 2
