@@ -3,53 +3,54 @@
 #include "richtext/markdown/LineGuard.h"
 #include "richtext/markdown/RunCollector.h"
 
-#include <md4c.h>
+#include <QMutex>
+
+#include <algorithm>
+#include <cmark-gfm-core-extensions.h>
+#include <cmark-gfm.h>
+#include <memory>
 
 namespace {
 
-using Markdown::RunCollector;
-
-RunCollector &collector(void *data)
+template <auto release>
+struct Release
 {
-    return *static_cast<RunCollector *>(data);
-}
-
-int ignoreBlock(MD_BLOCKTYPE, void *, void *)
-{
-    return 0;
-}
-
-int enterSpan(MD_SPANTYPE type, void *detail, void *data)
-{
-    collector(data).enter(type, detail);
-    return 0;
-}
-
-int leaveSpan(MD_SPANTYPE type, void *, void *data)
-{
-    collector(data).leave(type);
-    return 0;
-}
-
-int addText(MD_TEXTTYPE type, const MD_CHAR *text, MD_SIZE size, void *data)
-{
-    collector(data).add(type, QByteArrayView(text, qsizetype(size)));
-    return 0;
-}
-
-/// `LineGuard` already keeps the parser from recognising blocks; the flags also turn off the kinds that could change a
-/// paragraph.
-constexpr MD_PARSER inlineRules{
-    .abi_version = 0,
-    .flags = MD_FLAG_STRIKETHROUGH | MD_FLAG_NOINDENTEDCODEBLOCKS | MD_FLAG_NOHTMLBLOCKS,
-    .enter_block = ignoreBlock,
-    .leave_block = ignoreBlock,
-    .enter_span = enterSpan,
-    .leave_span = leaveSpan,
-    .text = addText,
-    .debug_log = nullptr,
-    .syntax = nullptr,
+    void operator()(auto *object) const { release(object); }
 };
+using Parser = std::unique_ptr<cmark_parser, Release<cmark_parser_free>>;
+using Document = std::unique_ptr<cmark_node, Release<cmark_node_free>>;
+using Iterator = std::unique_ptr<cmark_iter, Release<cmark_iter_free>>;
+
+cmark_syntax_extension *strikethrough()
+{
+    static cmark_syntax_extension *const extension = [] {
+        cmark_gfm_core_extensions_ensure_registered();
+        return cmark_find_syntax_extension("strikethrough");
+    }();
+    return extension;
+}
+
+Document parsed(const QByteArray &text)
+{
+    // While the library parses with an extension, the characters of the extension are global state.
+    static QMutex mutex;
+    const QMutexLocker locker(&mutex);
+    // A single "~" is no markup.
+    const Parser parser(cmark_parser_new(CMARK_OPT_STRIKETHROUGH_DOUBLE_TILDE));
+    cmark_parser_attach_syntax_extension(parser.get(), strikethrough());
+    cmark_parser_feed(parser.get(), text.constData(), std::size_t(text.size()));
+    return Document(cmark_parser_finish(parser.get()));
+}
+
+/// True if the result may differ from the line: it contains a character that begins markup or that is replaced. Most
+/// lines of a text contain none, and the parser takes several times as long as this.
+bool needsParser(QStringView line)
+{
+    constexpr QStringView beginnings = u"*_~`[<&\\";
+    return std::ranges::any_of(line, [beginnings](QChar character) {
+        return character.isNull() || character.isSurrogate() || beginnings.contains(character);
+    });
+}
 
 } // namespace
 
@@ -57,9 +58,21 @@ QList<Markdown::InlineRun> Markdown::inlineRuns(QStringView line)
 {
     if (line.isEmpty())
         return {};
-    const QByteArray guarded = LineGuard::guarded(line);
-    RunCollector runs;
-    if (md_parse(guarded.constData(), MD_SIZE(guarded.size()), &inlineRules, &runs) != 0)
+    if (!needsParser(line))
         return {InlineRun{line.toString(), {}}};
+    const auto guard = LineGuard::of(line);
+    if (!guard)
+        return {InlineRun{line.toString(), {}}};
+    const Document document = parsed(guard->encoded());
+    const Iterator nodes(cmark_iter_new(document.get()));
+    RunCollector runs(*guard);
+    for (auto event = cmark_iter_next(nodes.get()); event != CMARK_EVENT_DONE;
+         event = cmark_iter_next(nodes.get())) {
+        cmark_node *const node = cmark_iter_get_node(nodes.get());
+        if (event == CMARK_EVENT_ENTER)
+            runs.enter(node);
+        else
+            runs.leave(node);
+    }
     return std::move(runs).runs();
 }

@@ -3,22 +3,37 @@
 #include <QByteArray>
 #include <QStringView>
 
-/// Encodes one line so that a parser for whole documents applies only inline rules to it, and decodes the result.
+#include <optional>
+
+namespace Markdown {
+
+/// One line of text, encoded so that a parser for whole documents applies only inline rules to it.
 ///
 /// - A no-break space is added at each end. The rules for emphasis treat it as white space, like the ends of a line. It
 ///   starts no block, is not trimmed, and prevents the parser from seeing a trailing backslash or a hard break.
-/// - A single "~" is replaced by a pair of braces, because the parser would treat it as strikethrough like "~~".
-/// - A carriage return is replaced by a pair of other white space, because the parser would treat it as a line break.
-namespace LineGuard {
+/// - A carriage return, which the parser would treat as the end of a line, is replaced by a kind of white space that
+///   does not occur in the line.
+class LineGuard
+{
+public:
+    /// Encodes a line. U+0000 and unpaired surrogates become U+FFFD.
+    ///
+    /// Nothing if the line should not be parsed: it has carriage returns and every kind of white space, or it has more
+    /// than a thousand beginnings of images or of declarations, for which the parser takes quadratic time.
+    static std::optional<LineGuard> of(QStringView line);
 
-/// The encoded line in UTF-8. U+0000 and unpaired surrogates become U+FFFD.
-QByteArray guarded(QStringView line);
-/// The encoded form of a text that is inserted into an encoded line, such as the result of a character reference.
-QByteArray dressed(const QByteArray &text);
-/// The original text of a part of an encoded line; parts must not split a pair.
-QString undressed(const QByteArray &text);
+    /// The encoded line in UTF-8.
+    const QByteArray &encoded() const { return m_encoded; }
+    /// The original text of a part of the encoded line. The spaces at the ends are kept.
+    QString decoded(const char *utf8) const;
 
-/// The character at each end of an encoded line.
-inline constexpr QChar edge = u'\u00A0';
+    /// The character at each end of the encoded line.
+    static constexpr QChar edge = u'\u00A0';
 
-} // namespace LineGuard
+private:
+    QByteArray m_encoded;
+    /// What stands for a carriage return; null if the line has none.
+    QChar m_carriageReturn;
+};
+
+} // namespace Markdown

@@ -1,87 +1,71 @@
 #include "richtext/markdown/RunCollector.h"
 
-#include "richtext/markdown/Entities.h"
-#include "richtext/markdown/LineGuard.h"
 #include "richtext/markdown/LinkTarget.h"
+
+#include <QByteArrayView>
 
 namespace {
 
-QByteArray meaning(MD_TEXTTYPE type, QByteArrayView text)
+/// The type of an extension has no constant.
+bool isStrikethrough(cmark_node *node)
 {
-    return type == MD_TEXT_ENTITY ? LineGuard::dressed(Entities::decoded(text.toByteArray()))
-                                  : text.toByteArray();
-}
-
-QByteArray meaning(const MD_ATTRIBUTE &attribute)
-{
-    QByteArray result;
-    for (int i = 0; attribute.substr_offsets[i] < attribute.size; ++i) {
-        const MD_OFFSET start = attribute.substr_offsets[i];
-        const MD_OFFSET end = attribute.substr_offsets[i + 1];
-        result += meaning(attribute.substr_types[i],
-                          QByteArrayView(attribute.text + start, qsizetype(end - start)));
-    }
-    return result;
-}
-
-QString target(const void *detail)
-{
-    const QByteArray href = meaning(static_cast<const MD_SPAN_A_DETAIL *>(detail)->href);
-    return LinkTarget::absoluteString(LineGuard::undressed(href).toUtf8());
+    return QByteArrayView(cmark_node_get_type_string(node)) == "strikethrough";
 }
 
 void removeGuard(QList<Markdown::InlineRun> &runs)
 {
-    if (!runs.isEmpty() && runs.first().text.startsWith(LineGuard::edge))
+    if (!runs.isEmpty() && runs.first().text.startsWith(Markdown::LineGuard::edge))
         runs.first().text.remove(0, 1);
-    if (!runs.isEmpty() && runs.last().text.endsWith(LineGuard::edge))
+    if (!runs.isEmpty() && runs.last().text.endsWith(Markdown::LineGuard::edge))
         runs.last().text.chop(1);
     runs.removeIf([](const Markdown::InlineRun &run) { return run.text.isEmpty(); });
 }
 
 } // namespace
 
-void Markdown::RunCollector::enter(MD_SPANTYPE type, const void *detail)
+void Markdown::RunCollector::enter(cmark_node *node)
 {
-    m_images += type == MD_SPAN_IMG ? 1 : 0;
-    if (m_images > 0)
-        return;
-    m_code += type == MD_SPAN_CODE ? 1 : 0;
-    m_strong += type == MD_SPAN_STRONG ? 1 : 0;
-    m_emphasized += type == MD_SPAN_EM ? 1 : 0;
-    m_struckThrough += type == MD_SPAN_DEL ? 1 : 0;
-    if (type == MD_SPAN_A)
-        m_link = target(detail);
+    const cmark_node_type type = cmark_node_get_type(node);
+    if (type == CMARK_NODE_TEXT || type == CMARK_NODE_CODE || type == CMARK_NODE_HTML_INLINE)
+        return add(cmark_node_get_literal(node), type == CMARK_NODE_CODE);
+    nest(node, 1);
+    if (type == CMARK_NODE_LINK && m_images == 0)
+        m_link = LinkTarget::absoluteString(m_guard.decoded(cmark_node_get_url(node)).toUtf8());
 }
 
-void Markdown::RunCollector::leave(MD_SPANTYPE type)
+void Markdown::RunCollector::leave(cmark_node *node)
 {
-    if (m_images > 0) {
-        m_images -= type == MD_SPAN_IMG ? 1 : 0;
-        return;
-    }
-    m_code -= type == MD_SPAN_CODE ? 1 : 0;
-    m_strong -= type == MD_SPAN_STRONG ? 1 : 0;
-    m_emphasized -= type == MD_SPAN_EM ? 1 : 0;
-    m_struckThrough -= type == MD_SPAN_DEL ? 1 : 0;
-    if (type == MD_SPAN_A)
+    const cmark_node_type type = cmark_node_get_type(node);
+    nest(node, -1);
+    if (type == CMARK_NODE_LINK && m_images == 0)
         m_link.clear();
 }
 
-void Markdown::RunCollector::add(MD_TEXTTYPE type, QByteArrayView text)
+void Markdown::RunCollector::nest(cmark_node *node, int by)
 {
-    const InlineStyle style{m_code > 0, m_strong > 0, m_emphasized > 0, m_struckThrough > 0,
-                            m_link};
+    const cmark_node_type type = cmark_node_get_type(node);
+    m_images += type == CMARK_NODE_IMAGE ? by : 0;
+    if (m_images > 0)
+        return;
+    m_strong += type == CMARK_NODE_STRONG ? by : 0;
+    m_emphasized += type == CMARK_NODE_EMPH ? by : 0;
+    m_struckThrough += isStrikethrough(node) ? by : 0;
+}
+
+void Markdown::RunCollector::add(const char *text, bool isCode)
+{
+    const InlineStyle style{isCode && m_images == 0, m_strong > 0, m_emphasized > 0,
+                            m_struckThrough > 0, m_link};
     if (style != m_style)
         flush();
     m_style = style;
-    m_pending += meaning(type, text);
+    m_pending += m_guard.decoded(text);
 }
 
 void Markdown::RunCollector::flush()
 {
     if (!m_pending.isEmpty())
-        m_runs.append(InlineRun{LineGuard::undressed(m_pending), m_style});
+        m_runs.append(InlineRun{m_pending, m_style});
     m_pending.clear();
 }
 
