@@ -29,10 +29,16 @@ const ActivitySummary &AppStore::activitySummary() const
 
 void AppStore::copyActivityRecap()
 {
-    if (const ActivityPeriod *period = m_scope->asActivity())
-        copy(activityReport(activitySummary(), *period, statusLookup(), m_context.clock.now(),
-                            m_context.calendar),
-             u"Récap"_s);
+    const ActivityPeriod *period = m_scope->asActivity();
+    if (!period || !*m_session)
+        return;
+    // Before the first answer, the report would say that there was no activity.
+    if (!(*m_session)->fetchedAt.contains(*m_scope))
+        return toast(u"Le récap n'est pas encore chargé"_s, u"arrow.clockwise"_s,
+                     ToastKind::Notice);
+    copy(activityReport(activitySummary(), *period, statusLookup(), m_context.clock.now(),
+                        m_context.calendar),
+         u"Récap"_s);
 }
 
 void AppStore::showPreviousPeriod()

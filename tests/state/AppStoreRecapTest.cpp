@@ -90,6 +90,22 @@ TEST_F(AppStoreRecapTest, aPeriodWithNoEventsGivesItsTitleAndASentence)
     EXPECT_EQ(store->toasts().last().message, u"Récap copié"_s);
 }
 
+TEST_F(AppStoreRecapTest, aPeriodThatHasNotArrivedYetIsNotCopiedAsEmpty)
+{
+    service->issuesCalls.hold();
+    store->select(IssueScope::activity(week(-1)));
+    store->copyActivityRecap();
+    EXPECT_TRUE(desktop.copied.isEmpty());
+    EXPECT_EQ(store->toasts().last().message, u"Le récap n'est pas encore chargé"_s);
+}
+
+TEST_F(AppStoreRecapTest, aRecapThatTheSiteCutSaysSo)
+{
+    service->limit = Issues.size();
+    show(IssueScope::activity(week(-1)), Issues);
+    EXPECT_EQ(store->countHint(), u"La liste s'arrête aux 4 premiers tickets."_s);
+}
+
 TEST_F(AppStoreRecapTest, readsWithoutAChangeComputeNothing)
 {
     const auto counts = computations();
