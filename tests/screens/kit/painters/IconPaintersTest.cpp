@@ -149,6 +149,22 @@ TEST(BadgePainter, LetterIsCentred)
     EXPECT_NEAR(white.height(), 58 * 0.727, 1.5) << "the capital height of the family";
 }
 
+TEST(BadgePainter, AnEmojiIsDrawnInItsColoursAndCentred)
+{
+    const auto image = Pixels::painted(
+        100, 1, [](QPainter &painter) { paintProjectBadge(painter, Qt::black, u"🍅"_s, 100); });
+    QRect red;
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 100; ++x) {
+            if (image.pixelColor(x, y).saturation() > 150)
+                red |= QRect(x, y, 1, 1);
+        }
+    }
+    EXPECT_GT(red.width(), 40);
+    EXPECT_NEAR(red.center().x(), 50, 8);
+    EXPECT_NEAR(red.center().y(), 50, 8);
+}
+
 TEST(AvatarPainter, NobodyIsADashedRingWithAPerson)
 {
     const auto image = Pixels::painted(54, 2, [](QPainter &painter) { paintNobody(painter, 54); });
