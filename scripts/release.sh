@@ -67,7 +67,7 @@ build_programs() {
 
 notes=$(notes_of "$version")
 [[ -n ${notes//[[:space:]]/} ]] || fail "CHANGELOG.md has no section [$version]"
-tools/install-packages build run release
+tools/install-packages build run wayland release
 if [[ $key == - ]]; then secret=$(cat); else secret=$(cat -- "$key"); fi
 [[ -n $programs ]] || build_programs
 tool=$programs/src/update/tool/velmora-release
