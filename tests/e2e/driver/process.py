@@ -29,6 +29,14 @@ def marked(mark):
     return out
 
 
+def program_of(pid):
+    """The path of the program that a process runs; None if it has ended."""
+    try:
+        return os.readlink("/proc/%d/exe" % pid)
+    except OSError:
+        return None
+
+
 def read_line(fd, timeout, what):
     """One line that a started program writes to say that it is ready."""
     got = b""

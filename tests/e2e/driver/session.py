@@ -12,11 +12,12 @@ gi.require_version("GLib", "2.0")
 from gi.repository import GLib  # noqa: E402
 
 from .a11y import A11y, Node
+from .adopted import AdoptedApp
 from .app import App
 from .bus import connected_to
 from .keys import MODIFIERS, keysyms
 from .portal import SettingsPortal
-from .process import die_with_parent, marked, read_line
+from .process import die_with_parent, marked, program_of, read_line
 from .tray import TrayHost, TrayItem
 from .waiting import wait_until
 from .x11 import XDisplay, write_png
@@ -182,6 +183,17 @@ class Session:
         """Starts a program; argv is a list or one path."""
         argv = [argv] if isinstance(argv, str) else list(argv)
         app = App(self, argv, env, cwd, name or "app%d" % len(self._apps))
+        self._apps.append(app)
+        return app
+
+    def adopt(self, path, timeout=20, name=None):
+        """Waits for a process of the program at this path that another program of the session starts."""
+        known = {app.pid for app in self._apps}
+
+        def look():
+            return next((pid for pid in marked(("VELMORA_E2E_SESSION=" + self.id).encode())
+                         if pid not in known and program_of(pid) == path), None)
+        app = AdoptedApp(self, wait_until(look, timeout, 0.05, "a process of " + path), name or "adopted%d" % len(self._apps))
         self._apps.append(app)
         return app
 
