@@ -58,7 +58,8 @@ public:
     /// Copies the files one after the other, on another thread. If one fails, or if a stop was requested meanwhile,
     /// nothing is attached, but the copies made before stay on disk.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
-                                                     std::stop_token stop = {}) override;
+                                                     std::stop_token stop = {},
+                                                     UploadObserver observer = {}) override;
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) override;
     std::optional<QUrl> browseURL(const QString &key) const override;

@@ -44,7 +44,7 @@ QCoro::Task<QString> DemoService::create(IssueDraft draft, std::stop_token stop)
 }
 
 QCoro::Task<QList<Attachment>> DemoService::uploadAttachments(QString key, QList<QUrl> files,
-                                                              std::stop_token stop)
+                                                              std::stop_token stop, UploadObserver)
 {
     co_await pause(stop);
     QList<Attachment> uploaded;

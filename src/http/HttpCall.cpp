@@ -1,7 +1,11 @@
 #include "http/HttpCall.h"
 
-HttpCall::HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits)
-    : m_clock(clock), m_idleLimit(limits.idle)
+HttpCall::HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits, qint64 bodySize,
+                   UploadObserver observer)
+    : m_clock(clock),
+      m_idleLimit(limits.idle),
+      m_bodySize(bodySize),
+      m_observer(std::move(observer))
 {
     if (limits.whole)
         m_whole = timer(*limits.whole);
@@ -12,6 +16,8 @@ void HttpCall::follow(std::unique_ptr<HttpExchange> exchange)
 {
     m_exchange.reset(exchange.release());
     connect(m_exchange.get(), &HttpExchange::progressed, this, &HttpCall::restartIdleTime);
+    if (m_observer)
+        connect(m_exchange.get(), &HttpExchange::sent, this, &HttpCall::noteSent);
     connect(m_exchange.get(), &HttpExchange::finished, this, &HttpCall::end);
 }
 
@@ -20,6 +26,15 @@ void HttpCall::restartIdleTime()
     if (m_isOver)
         return;
     m_idle = timer(m_idleLimit);
+}
+
+void HttpCall::noteSent(qint64 bytes)
+{
+    if (m_isOver)
+        return;
+    // A copy, because the observer may cancel the request, which destroys this object.
+    const UploadObserver observer = m_observer;
+    observer({bytes, m_bodySize});
 }
 
 Clock::TimerHandle HttpCall::timer(std::chrono::milliseconds limit)

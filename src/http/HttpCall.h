@@ -1,6 +1,7 @@
 #pragma once
 
 #include "http/HttpExchange.h"
+#include "model/UploadProgress.h"
 #include "platform/Clock.h"
 
 #include <QObject>
@@ -20,7 +21,9 @@ class HttpCall final : public QObject
 
 public:
     /// Starts the time limits, at which the call ends by itself. The clock must outlive the call.
-    HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits);
+    /// `observer` is told how much of the request's body of `bodySize` bytes was sent.
+    HttpCall(Clock &clock, const HttpRequest::TimeLimits &limits, qint64 bodySize = 0,
+             UploadObserver observer = {});
 
     /// Sets the exchange whose result this call waits for. The exchange must not have been started yet.
     void follow(std::unique_ptr<HttpExchange> exchange);
@@ -40,6 +43,7 @@ private:
     };
 
     void restartIdleTime();
+    void noteSent(qint64 bytes);
     /// A timer that ends the call after the given time.
     Clock::TimerHandle timer(std::chrono::milliseconds limit);
     void end(HttpOutcome outcome);
@@ -47,6 +51,8 @@ private:
 
     Clock &m_clock;
     const std::chrono::milliseconds m_idleLimit;
+    const qint64 m_bodySize;
+    const UploadObserver m_observer;
     std::unique_ptr<HttpExchange, InItsThread> m_exchange;
     Clock::TimerHandle m_idle;
     Clock::TimerHandle m_whole;

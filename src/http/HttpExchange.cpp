@@ -47,12 +47,20 @@ void HttpExchange::transmit()
     m_storedHash.reset();
     m_certificateErrors.clear();
     m_reply = sentOnce();
-    connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::progressed);
+    connect(m_reply, &QNetworkReply::uploadProgress, this, &HttpExchange::noteSent);
     connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::readHead);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::takeBytes);
     connect(m_reply, &QNetworkReply::sslErrors, this,
             [this](const QList<QSslError> &errors) { m_certificateErrors += errors; });
     connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::completeReply);
+}
+
+void HttpExchange::noteSent(qint64 bytes)
+{
+    Q_EMIT progressed();
+    // At its end, the stack announces that nothing of nothing was sent.
+    if (bytes > 0)
+        Q_EMIT sent(bytes);
 }
 
 QNetworkReply *HttpExchange::sentOnce()
@@ -63,6 +71,8 @@ QNetworkReply *HttpExchange::sentOnce()
     auto body = std::make_unique<OneWayBody>(m_request.body.value_or(QByteArray()));
     request.setHeader(QNetworkRequest::ContentLengthHeader, body->bytesAvailable());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+    // Otherwise the last bytes are not announced, because the stack does not know how long this body is.
+    request.setAttribute(QNetworkRequest::EmitAllUploadProgressSignalsAttribute, true);
     if (m_request.purpose == HttpRequest::Purpose::Write)
         request.setRawHeader("Connection", "close");
     QNetworkReply *reply = manager().sendCustomRequest(request, m_request.verb, body.get());

@@ -35,11 +35,14 @@ public:
 Q_SIGNALS:
     /// Bytes were sent or received.
     void progressed();
+    /// The same for bytes of the body that were sent: how many in all.
+    void sent(qint64 bytes);
     /// The request has ended. Emitted once, and no other signal follows.
     void finished(const HttpOutcome &outcome);
 
 private:
     void transmit();
+    void noteSent(qint64 bytes);
     QNetworkReply *sentOnce();
     QNetworkAccessManager &manager();
     void readHead();

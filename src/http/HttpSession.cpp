@@ -28,11 +28,14 @@ void HttpSession::close()
     Q_EMIT closing();
 }
 
-QCoro::Task<HttpAnswer> HttpSession::send(HttpRequest request, std::stop_token stop)
+QCoro::Task<HttpAnswer> HttpSession::send(HttpRequest request, std::stop_token stop,
+                                          UploadObserver observer)
 {
     if (m_isClosed || stop.stop_requested())
         throw Cancelled();
-    const auto call = std::make_unique<HttpCall>(m_clock, request.limits);
+    const qint64 bodySize = request.body.value_or(QByteArray()).size();
+    const auto call =
+        std::make_unique<HttpCall>(m_clock, request.limits, bodySize, std::move(observer));
     start(*call, std::move(request));
     // The session may have been destroyed when this returns.
     co_return co_await call->answer(std::move(stop));

@@ -3,6 +3,7 @@
 #include "http/HttpAnswer.h"
 #include "http/HttpRequest.h"
 #include "http/Origin.h"
+#include "model/UploadProgress.h"
 #include "platform/Clock.h"
 
 #include <QCoro/QCoroTask>
@@ -38,8 +39,10 @@ public:
     ~HttpSession() override;
 
     /// Returns the response of the server, whatever its status. Fails with `TransportError` if there is no usable
-    /// response, and with `Cancelled` once a stop is requested.
-    QCoro::Task<HttpAnswer> send(HttpRequest request, std::stop_token stop = {});
+    /// response, and with `Cancelled` once a stop is requested. The observer is told how much of the body was sent; a
+    /// redirect begins anew.
+    QCoro::Task<HttpAnswer> send(HttpRequest request, std::stop_token stop = {},
+                                 UploadObserver observer = {});
 
     /// Ends running requests with `Cancelled` in the next iteration of the event loop. Later calls of `send` fail in
     /// the same way.

@@ -21,7 +21,10 @@ namespace {
 
 constexpr int TooLargeStatus = 413;
 
-FormFile readFile(const QUrl &url)
+/// How much of a file is read before the next look at the stop token: on a slow disk, a second is not exceeded.
+constexpr qint64 ReadAtOnce = 1024 * 1024;
+
+FormFile readFile(const QUrl &url, const std::stop_token &stop)
 {
     const QString path = url.toLocalFile();
     const QString name = QFileInfo(path).fileName();
@@ -29,17 +32,23 @@ FormFile readFile(const QUrl &url)
     // A folder can be opened too on some systems, and a pipe would be waited for without end.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
-    FormFile result{name, file.readAll()};
+    FormFile result{name, {}};
+    result.content.reserve(file.size());
+    while (!file.atEnd() && file.error() == QFileDevice::NoError) {
+        if (stop.stop_requested())
+            throw Cancelled();
+        result.content += file.read(ReadAtOnce);
+    }
     if (file.error() != QFileDevice::NoError)
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
     return result;
 }
 
-HttpRequest uploadRequest(const QUrl &url, const QList<QUrl> &files)
+HttpRequest uploadRequest(const QUrl &url, const QList<QUrl> &files, const std::stop_token &stop)
 {
     QList<FormFile> read;
     for (const QUrl &file : files)
-        read.append(readFile(file));
+        read.append(readFile(file, stop));
     const QByteArray boundary = MultipartForm::newBoundary();
     const QByteArray body = MultipartForm::body(read, boundary);
     return {.verb = "POST",
@@ -137,12 +146,14 @@ JiraError downloadError(const HttpAnswer &answer, const Attachment &attachment)
 } // namespace
 
 QCoro::Task<QList<Attachment>> uploaded(SiteConnectionPtr connection, QString key,
-                                        QList<QUrl> files, QDateTime now, std::stop_token stop)
+                                        QList<QUrl> files, QDateTime now, std::stop_token stop,
+                                        UploadObserver observer)
 {
     const QUrl url = addressOf(SiteRequests::attachments(key), connection->site);
-    auto build = [url, files = std::move(files)] { return uploadRequest(url, files); };
+    auto build = [url, files = std::move(files), stop] { return uploadRequest(url, files, stop); };
     HttpRequest request = co_await offThread(std::move(build));
-    const HttpAnswer answer = co_await exchange(std::move(connection), std::move(request), stop);
+    const HttpAnswer answer =
+        co_await exchange(std::move(connection), std::move(request), stop, std::move(observer));
     if (!answer.isSuccess()) {
         auto reading = [status = answer.status, body = answer.body] {
             return uploadMessage(status, body);

@@ -58,7 +58,8 @@ public:
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) override;
     /// Sends all files in one request, which succeeds or fails as a whole.
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
-                                                     std::stop_token stop = {}) override;
+                                                     std::stop_token stop = {},
+                                                     UploadObserver observer = {}) override;
     /// Sends no request for a file that was downloaded before.
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop = {}) override;

@@ -85,9 +85,11 @@ QCoro::Task<QString> JiraClient::create(IssueDraft draft, std::stop_token stop)
 }
 
 QCoro::Task<QList<Attachment>> JiraClient::uploadAttachments(QString key, QList<QUrl> files,
-                                                             std::stop_token stop)
+                                                             std::stop_token stop,
+                                                             UploadObserver observer)
 {
-    return uploaded(m_connection, std::move(key), std::move(files), m_clock.now(), std::move(stop));
+    return uploaded(m_connection, std::move(key), std::move(files), m_clock.now(), std::move(stop),
+                    std::move(observer));
 }
 
 QCoro::Task<QUrl> JiraClient::download(Attachment attachment, std::stop_token stop)

@@ -67,10 +67,11 @@ QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
 }
 
 QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
-                                 std::stop_token stop)
+                                 std::stop_token stop, UploadObserver observer)
 {
     // The coroutine keeps the connection alive while the request runs.
-    HttpAnswer answer = co_await connection->session.send(std::move(request), std::move(stop));
+    HttpAnswer answer =
+        co_await connection->session.send(std::move(request), std::move(stop), std::move(observer));
     if (answer.isSuccess() && isForAnybody(answer))
         throw JiraError(JiraError::Http{Unauthorized, {}});
     co_return answer;

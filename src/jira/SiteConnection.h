@@ -41,9 +41,10 @@ QCoro::Task<QByteArray> read(SiteConnectionPtr connection, JiraRequest request,
 QCoro::Task<QByteArray> write(SiteConnectionPtr connection, JiraRequest request,
                               std::stop_token stop);
 /// Sends a request whose body or response is not JSON. Fails as `HttpSession::send` does, and with `JiraError::Http`
-/// and status 401 if the site ignored the credentials and responded as to anybody.
+/// and status 401 if the site ignored the credentials and responded as to anybody. The observer is told how much of the
+/// body was sent.
 QCoro::Task<HttpAnswer> exchange(SiteConnectionPtr connection, HttpRequest request,
-                                 std::stop_token stop);
+                                 std::stop_token stop, UploadObserver observer = {});
 
 /// Decodes a body as a record and applies `mapping` to it. Both run on another thread.
 template <typename DTO, typename Mapping>

@@ -7,6 +7,7 @@
 #include "model/IssueEdits.h"
 #include "model/IssueScope.h"
 #include "model/Project.h"
+#include "model/UploadProgress.h"
 
 #include <QCoro/QCoroTask>
 #include <QList>
@@ -71,9 +72,11 @@ public:
     virtual QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop = {}) = 0;
     /// The users whose name matches the query, for mentions and assignment.
     virtual QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop = {}) = 0;
-    /// Uploads local files in one operation and returns the stored attachments.
+    /// Uploads local files in one operation and returns the stored attachments. The observer is told how much was
+    /// sent; it is not called by a service that sends nothing. After a stop, the files may be stored nevertheless.
     virtual QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
-                                                             std::stop_token stop = {}) = 0;
+                                                             std::stop_token stop = {},
+                                                             UploadObserver observer = {}) = 0;
     /// Downloads the attachment and returns the address of the local file.
     virtual QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop = {}) = 0;
     /// Deletes the attachment with this identifier.

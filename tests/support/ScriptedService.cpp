@@ -102,8 +102,10 @@ QCoro::Task<QList<JiraUser>> ScriptedService::searchUsers(QString query, std::st
 }
 
 QCoro::Task<QList<Attachment>> ScriptedService::uploadAttachments(QString key, QList<QUrl> files,
-                                                                  std::stop_token stop)
+                                                                  std::stop_token stop,
+                                                                  UploadObserver observer)
 {
+    uploadObservers.append(std::move(observer));
     return uploadAttachmentsCalls.call(std::move(stop), std::move(key), std::move(files));
 }
 

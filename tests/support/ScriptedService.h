@@ -43,6 +43,8 @@ public:
     ScriptedCalls<QList<Attachment>, QString, QList<QUrl>> uploadAttachmentsCalls;
     ScriptedCalls<QUrl, Attachment> downloadCalls;
     ScriptedCalls<void, QString> deleteAttachmentCalls;
+    /// The observers of the uploads, in the order of `uploadAttachmentsCalls`.
+    QList<UploadObserver> uploadObservers;
     /// The results of the two synchronous operations; `browseURL` appends "/browse/" and the key.
     QString site = QStringLiteral("exemple.atlassian.net");
 
@@ -73,7 +75,8 @@ public:
     QCoro::Task<QString> create(IssueDraft draft, std::stop_token stop) override;
     QCoro::Task<QList<JiraUser>> searchUsers(QString query, std::stop_token stop) override;
     QCoro::Task<QList<Attachment>> uploadAttachments(QString key, QList<QUrl> files,
-                                                     std::stop_token stop) override;
+                                                     std::stop_token stop,
+                                                     UploadObserver observer) override;
     QCoro::Task<QUrl> download(Attachment attachment, std::stop_token stop) override;
     QCoro::Task<> deleteAttachment(QString id, std::stop_token stop) override;
     std::optional<qsizetype> listLimit(const IssueScope &) const override { return limit; }

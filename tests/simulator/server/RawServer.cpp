@@ -9,6 +9,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 chunkSize = 1 << 20;
+/// How much a socket reads ahead while the server does not read.
+constexpr qint64 readAhead = 1 << 16;
 
 /// Makes the connection end with a reset instead of a regular close.
 void tearDown(QTcpSocket &socket)
@@ -25,6 +27,7 @@ struct RawServer::Connection
     std::unique_ptr<QTcpSocket> socket;
     int number = 0;
     QByteArray arrived;
+    qint64 bytesRead = 0;
     /// The rest of the response and the ending; set from a request until the end of its response.
     std::optional<RawAnswer> current;
 
@@ -130,6 +133,23 @@ void RawServer::answerNext(RawAnswer answer)
     m_next.push_back(std::move(answer));
 }
 
+void RawServer::readAtMost(qint64 bytes)
+{
+    m_mostRead = bytes;
+    for (const auto &connection : m_open)
+        connection->socket->setReadBufferSize(readAhead);
+}
+
+void RawServer::readOn()
+{
+    m_mostRead.reset();
+    const auto open = m_open;
+    for (const auto &connection : open) {
+        connection->socket->setReadBufferSize(0);
+        read(connection);
+    }
+}
+
 void RawServer::dropConnections(RawAnswer::Ending how)
 {
     const auto open = std::exchange(m_open, {});
@@ -162,6 +182,8 @@ void RawServer::accept()
         connection->socket.reset(socket);
         connection->number = ++m_connections;
         m_open += connection;
+        if (m_mostRead)
+            socket->setReadBufferSize(readAhead);
         const std::weak_ptr weak = connection;
         connect(socket, &QTcpSocket::readyRead, this, [this, weak] {
             if (const auto alive = weak.lock())
@@ -183,8 +205,13 @@ void RawServer::accept()
 
 void RawServer::read(const std::shared_ptr<Connection> &connection)
 {
-    if (connection->socket->isOpen())
-        connection->arrived += connection->socket->readAll();
+    if (connection->socket->isOpen()) {
+        const qint64 most = m_mostRead ? std::max<qint64>(0, *m_mostRead - connection->bytesRead)
+                                       : connection->socket->bytesAvailable();
+        const QByteArray bytes = connection->socket->read(most);
+        connection->bytesRead += bytes.size();
+        connection->arrived += bytes;
+    }
     while (!connection->current) {
         std::optional<RawRequest> request = takeRequest(connection->arrived);
         if (!request)

@@ -47,6 +47,11 @@ public:
     /// What happens to new connections before they can send a request: they are closed, reset, or left without a
     /// response. With `KeepOpen`, the initial value, they are served.
     void meetConnections(RawAnswer::Ending fate) { m_fate = fate; }
+    /// From now on, reads only this much of each connection, as over a line that has come to a halt. A client can send a
+    /// few megabytes more, which the system keeps.
+    void readAtMost(qint64 bytes);
+    /// Reads everything again.
+    void readOn();
     /// Closes or resets every open connection, including idle ones.
     void dropConnections(RawAnswer::Ending how);
     /// Refuses new connections from now on. The port stays reserved, so that no other server can use it.
@@ -75,6 +80,8 @@ private:
     bool m_isSecure = false;
     quint16 m_port = 0;
     RawAnswer::Ending m_fate = RawAnswer::Ending::KeepOpen;
+    /// How much is read of each connection; absent for everything.
+    std::optional<qint64> m_mostRead;
     std::deque<RawAnswer> m_next;
     Answering m_answering;
     QList<RawRequest> m_journal;
