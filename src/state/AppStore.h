@@ -321,7 +321,7 @@ private:
     QCoro::Task<QList<Attachment>> upload(QString key, QList<QUrl> files);
     QCoro::Task<> uploadPasted(QString key);
     QCoro::Task<std::optional<QUrl>> downloaded(Attachment attachment);
-    void countUploads(const QString &key, int change);
+    void endUpload(Uploads::Running upload, const Settled<QList<Attachment>> &stored);
     void takeUploaded(const QString &key, const QList<Attachment> &attachments);
     // AppStoreSelection.cpp
     Selection selection() const;

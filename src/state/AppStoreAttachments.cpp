@@ -1,3 +1,4 @@
+#include "async/Spawn.h"
 #include "async/WhileAlive.h"
 #include "platform/CaptureFile.h"
 #include "state/AppStore.h"
@@ -38,15 +39,12 @@ QCoro::Task<QList<Attachment>> AppStore::upload(QString key, QList<QUrl> files)
         co_return QList<Attachment>();
     const auto service = session->service();
     const PendingWrites::Token write = m_writes.begin();
-    countUploads(key, int(files.size()));
-    const auto stored =
-        co_await whileAlive(session, settled(service, service->uploadAttachments(key, files)));
-    const Batch batch(*this);
-    if (stored)
-        takeUploaded(key, *stored);
-    else
-        reportRefusal(stored.error());
-    countUploads(key, -int(files.size()));
+    Uploads::Running upload = m_uploads.begin(key, int(files.size()), m_context.clock);
+    m_uploading.insert(key, m_uploads.fileCount(key));
+    const auto stored = co_await whileAlive(
+        session, settled(service, service->uploadAttachments(key, files, upload->stop(),
+                                                             upload->observer())));
+    endUpload(std::move(upload), stored);
     co_return stored.value_or(QList<Attachment>());
 }
 
@@ -104,9 +102,19 @@ void AppStore::deleteAttachment(const Attachment &attachment, const QString &key
     carryOut({OptimisticEdit{key, AttachmentRemoval{attachment}}});
 }
 
-void AppStore::countUploads(const QString &key, int change)
+void AppStore::endUpload(Uploads::Running upload, const Settled<QList<Attachment>> &stored)
 {
-    m_uploading.insert(key, std::max(0, m_uploading->value(key) + change));
+    const Batch batch(*this);
+    const QString key = upload->upload().issueKey;
+    if (stored)
+        takeUploaded(key, *stored);
+    else
+        reportRefusal(stored.error());
+    upload.reset();
+    m_uploading.insert(key, m_uploads.fileCount(key));
+    // The site may have stored the files before it noticed the end of a cancelled upload.
+    if (!stored && stored.error().isCancellation && m_details->contains(key))
+        spawn(loadDetails(key));
 }
 
 void AppStore::takeUploaded(const QString &key, const QList<Attachment> &attachments)

@@ -7,6 +7,7 @@
 #include "state/Observed.h"
 #include "state/Session.h"
 #include "state/Toast.h"
+#include "state/Uploads.h"
 
 #include <QObject>
 #include <QSet>
@@ -123,6 +124,8 @@ public:
 
     /// The number of files that are being uploaded, by issue; 0 once they are uploaded.
     const CountMap &uploading() const { return *m_uploading; }
+    /// The same uploads with their progress.
+    Uploads &uploads() { return m_uploads; }
 
     const std::optional<QString> &focusedKey() const { return *m_focusedKey; }
     void setFocusedKey(const std::optional<QString> &key) { m_focusedKey.set(key); }
@@ -234,6 +237,7 @@ protected:
     Field<ProjectMap> m_projectDetails{this, &This::projectDetailsChanged, List};
     Field<IssueList> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
     Field<CountMap> m_uploading{this, &This::uploadingChanged};
+    Uploads m_uploads;
     Field<std::optional<QString>> m_focusedKey{this, &This::focusedKeyChanged, Marks};
     Field<QSet<QString>> m_checked{this, &This::checkedChanged, Marks};
     Field<std::optional<QString>> m_inspectorKey{this, &This::inspectorKeyChanged, Marks};

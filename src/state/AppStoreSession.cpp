@@ -136,6 +136,7 @@ void AppStore::endSession()
     m_session.set(nullptr);
     resetData();
     m_me.set(std::nullopt);
+    m_uploads.forgetAll();
     m_uploading.set({});
 }
 

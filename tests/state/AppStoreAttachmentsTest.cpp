@@ -136,6 +136,75 @@ TEST_F(AppStoreAttachmentsTest, aCancelledUploadShowsNoToastAndTheCounterStillCo
     EXPECT_TRUE(result.value().isEmpty());
 }
 
+TEST_F(AppStoreAttachmentsTest, anUploadTellsHowMuchWasSent)
+{
+    startWith({});
+    const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(2)));
+    ASSERT_EQ(store->uploads().ofIssue(Key).size(), 1);
+    EXPECT_EQ(store->uploads().ofIssue(Key)[0].fileCount, 2);
+    service->uploadObservers[0]({30, 120});
+    EXPECT_EQ(store->uploads().ofIssue(Key)[0].fraction(), 0.25);
+    service->uploadAttachmentsCalls[0].finish({attachment(u"a"_s), attachment(u"b"_s)});
+    EXPECT_TRUE(store->uploads().ofIssue(Key).isEmpty());
+}
+
+TEST_F(AppStoreAttachmentsTest, anUploadThatTheUserCancelsEndsWithoutAWord)
+{
+    startWith({attachment(u"a"_s)});
+    const TaskResult<QList<Attachment>> cancelled(store->uploadAttachments(Key, files(2)));
+    const TaskResult<QList<Attachment>> other(store->uploadAttachments(Key, files(1)));
+    store->uploads().cancel(store->uploads().ofIssue(Key)[0].id);
+
+    EXPECT_TRUE(service->uploadAttachmentsCalls[0].wasStopped());
+    EXPECT_FALSE(service->uploadAttachmentsCalls[1].wasStopped());
+    EXPECT_TRUE(cancelled.isDone() && cancelled.value().isEmpty());
+    EXPECT_FALSE(other.isDone());
+    EXPECT_EQ(uploading(), 1);
+    EXPECT_TRUE(store->toasts().isEmpty());
+    EXPECT_EQ(shownIds(), QStringList{u"a"_s});
+    EXPECT_EQ(store->writes().count(), 1);
+}
+
+TEST_F(AppStoreAttachmentsTest, afterACancelTheIssueIsReadAgainBecauseTheSiteMayHaveTheFiles)
+{
+    startWith({});
+    spawn(store->loadDetails(Key));
+    service->issueCalls[0].finish(sampleIssue(Key));
+    const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(1)));
+    service->uploadObservers[0]({120, 120});
+    store->uploads().cancel(store->uploads().ofIssue(Key)[0].id);
+
+    ASSERT_EQ(service->issueCalls.count(), 2);
+    EXPECT_EQ(service->issueCalls[1].argument(), Key);
+    Issue issue = sampleIssue(Key);
+    issue.attachments = {attachment(u"a"_s)};
+    service->issueCalls[1].finish(issue);
+    EXPECT_EQ(shownIds(), QStringList{u"a"_s});
+    EXPECT_TRUE(store->toasts().isEmpty());
+}
+
+TEST_F(AppStoreAttachmentsTest, aFailedUploadDoesNotReadTheIssueAgain)
+{
+    startWith({});
+    spawn(store->loadDetails(Key));
+    service->issueCalls[0].finish(sampleIssue(Key));
+    const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(1)));
+    service->uploadAttachmentsCalls[0].fail(TooLarge);
+    EXPECT_EQ(service->issueCalls.count(), 1);
+}
+
+TEST_F(AppStoreAttachmentsTest, anUploadOfAnEndedSessionIsNeitherShownNorCancelled)
+{
+    startWith({});
+    const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(1)));
+    const quint64 id = store->uploads().ofIssue(Key)[0].id;
+    store->signOut();
+    EXPECT_TRUE(store->uploads().ofIssue(Key).isEmpty());
+    store->uploads().cancel(id);
+    EXPECT_FALSE(service->uploadAttachmentsCalls[0].wasStopped());
+    service->uploadAttachmentsCalls[0].finish({});
+}
+
 TEST_F(AppStoreAttachmentsTest, withoutFilesOrWithoutASessionNothingHappens)
 {
     const TaskResult<QList<Attachment>> withoutSession(store->uploadAttachments(Key, files(1)));
