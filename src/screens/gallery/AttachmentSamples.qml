@@ -31,6 +31,7 @@ Item {
             }
 
             UploadTile {
+                upload: SampleFiles.upload
                 spins: false
             }
         }

@@ -30,6 +30,11 @@ QList<AttachmentFile> SampleFiles::files() const
             file(u"sauvegarde.bin"_s, u"application/octet-stream"_s, 0)};
 }
 
+UploadFacts SampleFiles::upload() const
+{
+    return {RunningUpload{1, u"SUP-41"_s, 1, {64, 100}}};
+}
+
 AttachmentFile SampleFiles::trick() const
 {
     return file(u"facture\u202Egpj.exe"_s, u"application/octet-stream"_s, 24'000);

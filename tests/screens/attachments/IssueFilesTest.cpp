@@ -79,6 +79,39 @@ TEST_F(IssueFilesTest, AnUploadKeepsTheTilesOfTheFiles)
     EXPECT_TRUE(files.tiles()->data(files.tiles()->index(2), FileTileModel::IsUploadRole).toBool());
 }
 
+TEST_F(IssueFilesTest, TheProgressOfAnUploadChangesItsTilesOnly)
+{
+    files.upload({Local, OtherLocal});
+    const QSignalSpy changed(&files, &IssueFiles::changed);
+    const QSignalSpy tiles(files.tiles(), &FileTileModel::dataChanged);
+    service->uploadObservers[0]({1, 2});
+    EXPECT_TRUE(changed.isEmpty());
+    ASSERT_EQ(tiles.size(), 1);
+    EXPECT_EQ(tiles[0][0].toModelIndex().row(), 2);
+    EXPECT_EQ(tiles[0][1].toModelIndex().row(), 3);
+    EXPECT_EQ(files.tiles()->rows().at(3).upload->fraction(), 0.5);
+}
+
+TEST_F(IssueFilesTest, AnUploadThatEndsLeavesTheTilesOfTheOthers)
+{
+    files.upload({Local, OtherLocal});
+    files.upload({Local});
+    const QSignalSpy removed(files.tiles(), &FileTileModel::rowsRemoved);
+    files.cancel(*files.tiles()->rows().at(2).upload);
+    ASSERT_EQ(removed.size(), 1);
+    EXPECT_EQ(removed[0][1].toInt(), 2);
+    EXPECT_EQ(removed[0][2].toInt(), 3);
+    EXPECT_EQ(uploads(), 1);
+}
+
+TEST_F(IssueFilesTest, TheUploadsOfAnotherIssueAreNotShown)
+{
+    files.uploadTo(u"WEB-2"_s, {Local});
+    EXPECT_EQ(uploads(), 0);
+    files.setKey(u"WEB-2"_s);
+    EXPECT_EQ(uploads(), 1);
+}
+
 TEST_F(IssueFilesTest, AddressesThatAreNoLocalFilesAreNotUploaded)
 {
     files.upload({QUrl(u"https://exemple.fr/a"_s)});

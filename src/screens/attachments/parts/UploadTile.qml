@@ -1,14 +1,19 @@
 import QtQuick
+import Velmora.Attachments
 import Velmora.Kit
 import Velmora.Theme
 
-/// The tile of a file that is being uploaded.
+/// The tile of a file that is being uploaded, with how much was sent once that is known, and a button that cancels the
+/// upload.
 Rectangle {
     id: root
 
+    required property uploadFacts upload
     property bool current: false
     /// The spinner turns. False for a stored picture.
     property bool spins: true
+
+    signal cancelRequested()
 
     implicitWidth: 141
     implicitHeight: 139
@@ -17,6 +22,7 @@ Rectangle {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: label.text
+    Accessible.description: upload.progressText
     Accessible.focusable: true
     Accessible.focused: root.current
 
@@ -40,6 +46,26 @@ Rectangle {
             text: "Envoi…"
             Accessible.ignored: true
         }
+    }
+
+    ProgressBar {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: parent.height - 24
+        width: parent.width - 40
+        visible: root.upload.hasFraction
+        name: label.text
+        value: root.upload.fraction
+        // The tile tells it in larger steps.
+        Accessible.ignored: true
+    }
+
+    IconButton {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 6
+        symbol: "xmark"
+        name: root.upload.cancelName
+        onClicked: root.cancelRequested()
     }
 
     FocusRing {

@@ -2,13 +2,17 @@
 
 using namespace Qt::StringLiterals;
 
-void FileTileModel::setTiles(const QList<Attachment> &attachments, int uploads)
+void FileTileModel::setTiles(const QList<Attachment> &attachments,
+                             const QList<RunningUpload> &uploads)
 {
     QList<FileTileRow> rows;
     for (const Attachment &attachment : attachments)
-        rows.append({u"file "_s + attachment.id, AttachmentFile{attachment}});
-    for (int i = 0; i < uploads; ++i)
-        rows.append({u"upload "_s + QString::number(i), std::nullopt});
+        rows.append({u"file "_s + attachment.id, AttachmentFile{attachment}, std::nullopt});
+    for (const RunningUpload &upload : uploads) {
+        const QString key = u"upload "_s + QString::number(upload.id) + u' ';
+        for (int i = 0; i < upload.fileCount; ++i)
+            rows.append({key + QString::number(i), std::nullopt, UploadFacts{upload}});
+    }
     update(rows);
 }
 
@@ -20,12 +24,14 @@ QVariant FileTileModel::data(const QModelIndex &index, int role) const
     case FileRole:
         return QVariant::fromValue(row.file.value_or(AttachmentFile()));
     case IsUploadRole:
-        return !row.file;
+        return row.upload.has_value();
+    case UploadRole:
+        return QVariant::fromValue(row.upload.value_or(UploadFacts()));
     }
     return {};
 }
 
 QHash<int, QByteArray> FileTileModel::roleNames() const
 {
-    return {{FileRole, "file"}, {IsUploadRole, "isUpload"}};
+    return {{FileRole, "file"}, {IsUploadRole, "isUpload"}, {UploadRole, "upload"}};
 }

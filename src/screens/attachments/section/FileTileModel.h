@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/attachments/facts/AttachmentFile.h"
+#include "screens/attachments/facts/UploadFacts.h"
 #include "state/models/KeyedListModel.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -13,11 +14,13 @@ struct FileTileRow
     QString key;
     /// Absent for an upload.
     std::optional<AttachmentFile> file;
+    /// Absent for a file.
+    std::optional<UploadFacts> upload;
 
     bool operator==(const FileTileRow &) const = default;
 };
 
-/// The tiles of an issue: its files in their order, then one tile for each upload under way.
+/// The tiles of an issue: its files in their order, then one tile for each file of the uploads under way.
 class FileTileModel : public KeyedListModel<FileTileRow>
 {
     Q_OBJECT
@@ -25,12 +28,12 @@ class FileTileModel : public KeyedListModel<FileTileRow>
     QML_UNCREATABLE("Belongs to the files of an issue")
 
 public:
-    enum Role { FileRole = Qt::UserRole, IsUploadRole };
+    enum Role { FileRole = Qt::UserRole, IsUploadRole, UploadRole };
     Q_ENUM(Role)
 
     using KeyedListModel::KeyedListModel;
 
-    void setTiles(const QList<Attachment> &attachments, int uploads);
+    void setTiles(const QList<Attachment> &attachments, const QList<RunningUpload> &uploads);
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

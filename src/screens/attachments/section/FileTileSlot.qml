@@ -4,19 +4,21 @@ import QtQuick
 import Velmora.Attachments
 import Velmora.Kit
 
-/// A place of the grid: the tile of a file, or of an upload.
-Item {
+/// A place of the grid: the tile of a file, or of an upload, whose button can have the focus.
+FocusScope {
     id: root
 
     required property int index
     required property attachmentFile file
     required property bool isUpload
+    required property uploadFacts upload
     required property AttachmentPreviewer previewer
     required property bool isCurrent
 
     signal pressed()
     signal menuRequested(x: real, y: real)
     signal deletionRequested()
+    signal cancelRequested()
 
     function preview() {
         if (!isUpload)
@@ -29,7 +31,9 @@ Item {
     }
 
     function requestDeletion() {
-        if (!isUpload)
+        if (isUpload)
+            cancelRequested();
+        else
             deletionRequested();
     }
 
@@ -63,7 +67,9 @@ Item {
 
         UploadTile {
             width: root.width
+            upload: root.upload
             current: root.isCurrent
+            onCancelRequested: root.cancelRequested()
         }
     }
 }

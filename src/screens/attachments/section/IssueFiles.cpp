@@ -19,13 +19,16 @@ void IssueFiles::setStore(AppStore *store)
 {
     if (m_store == store)
         return;
-    if (m_store)
+    if (m_store) {
         m_store->disconnect(this);
+        m_store->uploads().disconnect(this);
+    }
     m_store = store;
     if (m_store) {
-        for (const auto change : {&AppStore::issuesChanged, &AppStore::detailsChanged,
-                                  &AppStore::myOpenIssuesChanged, &AppStore::uploadingChanged})
+        for (const auto change :
+             {&AppStore::issuesChanged, &AppStore::detailsChanged, &AppStore::myOpenIssuesChanged})
             connect(m_store, change, this, &IssueFiles::update);
+        connect(&m_store->uploads(), &Uploads::changed, this, &IssueFiles::noteUploads);
     }
     Q_EMIT storeChanged();
     update();
@@ -40,16 +43,27 @@ void IssueFiles::setKey(const QString &key)
     update();
 }
 
+void IssueFiles::noteUploads(const QString &key)
+{
+    if (key == m_key)
+        update();
+}
+
 void IssueFiles::update()
 {
     const auto known = m_store ? m_store->issue(m_key) : std::nullopt;
     const QList<Attachment> attachments = known ? (*known)->attachments : QList<Attachment>();
-    const int uploads = m_store ? m_store->uploading().value(m_key) : 0;
-    if (m_attachments == attachments && m_tiles.rowCount() == attachments.size() + uploads)
+    const auto uploads = m_store ? m_store->uploads().ofIssue(m_key) : QList<RunningUpload>();
+    if (m_attachments == attachments && m_uploads == uploads)
         return;
+    const qsizetype tilesBefore = m_tiles.rowCount();
+    const bool hasOtherFiles = m_attachments != attachments;
     m_attachments = attachments;
+    m_uploads = uploads;
     m_tiles.setTiles(attachments, uploads);
-    Q_EMIT changed();
+    // The progress of an upload concerns its tiles only.
+    if (hasOtherFiles || m_tiles.rowCount() != tilesBefore)
+        Q_EMIT changed();
 }
 
 QList<AttachmentFile> IssueFiles::files() const
@@ -82,6 +96,12 @@ void IssueFiles::paste()
 {
     if (m_store)
         spawn(m_store->uploadFromPasteboard(m_key));
+}
+
+void IssueFiles::cancel(const UploadFacts &upload)
+{
+    if (m_store)
+        m_store->uploads().cancel(upload.upload.id);
 }
 
 void IssueFiles::remove(const AttachmentFile &file)

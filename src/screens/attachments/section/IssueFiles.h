@@ -42,6 +42,8 @@ public:
     Q_INVOKABLE void uploadTo(const QString &key, const QList<QUrl> &addresses);
     /// Uploads the files or the picture on the clipboard.
     Q_INVOKABLE void paste();
+    /// Cancels an upload with all of its files; does nothing once it has ended.
+    Q_INVOKABLE void cancel(const UploadFacts &upload);
     /// Deletes a file of the issue; does nothing with a file of another one.
     Q_INVOKABLE void remove(const AttachmentFile &file);
 
@@ -52,9 +54,11 @@ Q_SIGNALS:
 
 private:
     void update();
+    void noteUploads(const QString &key);
 
     QPointer<AppStore> m_store;
     QString m_key;
     QList<Attachment> m_attachments;
+    QList<RunningUpload> m_uploads;
     FileTileModel m_tiles;
 };

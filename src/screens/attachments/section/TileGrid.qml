@@ -5,9 +5,10 @@ import Velmora.Attachments
 import Velmora.Kit
 import Velmora.Theme
 
-/// The tiles of an issue. The grid is one stop of the tab key. The arrow keys, Home and End move between the tiles;
-/// Space previews a file, Return opens it, Delete asks whether to delete it, and the menu key opens its menu.
-FocusScope {
+/// The tiles of an issue. The grid is one stop of the tab key, and each button that cancels an upload is another. The
+/// arrow keys, Home and End move between the tiles; Space previews a file, Return opens it, Delete asks whether to
+/// delete it or cancels an upload, and the menu key opens its menu.
+Item {
     id: root
 
     required property IssueFiles files
@@ -23,9 +24,27 @@ FocusScope {
         currentIndex = Math.max(0, Math.min(slots.count - 1, currentIndex + by));
     }
 
+    // From the button of a tile, the keys go back to the tiles.
+    function walk(by: int) {
+        forceActiveFocus(Qt.TabFocusReason);
+        move(by);
+    }
+
+    function reach(index: int) {
+        currentIndex = index;
+        reveal();
+    }
+
+    // A tile goes. The focus of its button does not go with it.
+    function leave(slot: Item) {
+        if (slot.activeFocus)
+            forceActiveFocus(Qt.TabFocusReason);
+        move(0);
+    }
+
     function reveal() {
         const slot = current();
-        if (activeFocus && slot)
+        if (slot)
             revealRequested(Qt.rect(slot.x, slot.y, slot.width, slot.height));
     }
 
@@ -43,15 +62,15 @@ FocusScope {
     height: implicitHeight
     activeFocusOnTab: true
     OwnKeys.walksRows: true
-    onActiveFocusChanged: reveal()
-    onCurrentIndexChanged: reveal()
+    onActiveFocusChanged: if (activeFocus) reveal()
+    onCurrentIndexChanged: if (activeFocus) reveal()
     Accessible.role: Accessible.List
     Accessible.name: "Fichiers joints"
 
-    Keys.onLeftPressed: move(-1)
-    Keys.onRightPressed: move(1)
-    Keys.onUpPressed: move(-columns)
-    Keys.onDownPressed: move(columns)
+    Keys.onLeftPressed: walk(-1)
+    Keys.onRightPressed: walk(1)
+    Keys.onUpPressed: walk(-columns)
+    Keys.onDownPressed: walk(columns)
     Keys.onSpacePressed: current()?.preview()
     Keys.onReturnPressed: current()?.open()
     Keys.onEnterPressed: current()?.open()
@@ -59,7 +78,7 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted)
-            move(event.key === Qt.Key_Home ? -slots.count : slots.count);
+            walk(event.key === Qt.Key_Home ? -slots.count : slots.count);
     }
     ContextMenuKey.onPressed: current()?.openMenu()
 
@@ -84,7 +103,7 @@ FocusScope {
             id: slots
 
             model: root.files.tiles
-            onItemRemoved: root.move(0)
+            onItemRemoved: (index, item) => root.leave(item)
 
             FileTileSlot {
                 id: slot
@@ -95,6 +114,8 @@ FocusScope {
                 onPressed: root.currentIndex = index
                 onMenuRequested: (x, y) => root.openMenu(slot, x, y)
                 onDeletionRequested: question.ask(file)
+                onCancelRequested: root.files.cancel(upload)
+                onActiveFocusChanged: if (activeFocus) root.reach(index)
             }
         }
     }
