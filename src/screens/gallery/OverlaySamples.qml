@@ -43,6 +43,8 @@ Item {
             PopupMenuItem { text: "Copier la clé"; symbol: "number"; shortcut: "Ctrl+C" }
 
             PopupMenuItem { text: "Supprimer"; symbol: "trash"; enabled: false }
+
+            PopupMenuItem { text: "Supprimer…"; symbol: "trash"; destructive: true }
         }
     }
 

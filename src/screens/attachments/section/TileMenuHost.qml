@@ -61,6 +61,7 @@ Item {
                 PopupMenuItem {
                     text: "Supprimer…"
                     symbol: "trash"
+                    destructive: true
                     onTriggered: root.deletionRequested(root.file)
                 }
             }

@@ -6,12 +6,14 @@ import Velmora.Theme
 
 /// A row of a menu: a check mark and a symbol or a drawn icon before the title, and the shortcut or the submenu chevron
 /// after it. A title that is too long is elided, and the whole title is shown as a hint while the row is highlighted.
+/// A destructive row is red.
 T.MenuItem {
     id: root
 
     property string symbol
     property Item leading: null
     property string shortcut
+    property bool destructive: false
     /// Set by the menu if one of its rows has a check mark, so that all titles are aligned.
     property bool hasMarkRoom: checked
     property bool hasLeading: symbol.length > 0 || leading !== null
@@ -22,8 +24,8 @@ T.MenuItem {
     readonly property bool opensMenu: subMenu !== null
     /// The width of the shortcut or the submenu chevron, with its distance from the title.
     readonly property real tailWidth: opensMenu ? 20 : shortcut.length > 0 ? 16 + MenuMeasure.shortcutWidth(shortcut) : 0
-    readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text1
-    readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : Theme.text2
+    readonly property color ink: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : destructive ? Theme.redText : Theme.text1
+    readonly property color quietInk: !enabled ? Theme.text4 : highlighted ? Theme.textOnAccent : destructive ? Theme.redText : Theme.text2
 
     function activate() {
         if (checkable)
@@ -74,7 +76,7 @@ T.MenuItem {
             Rectangle {
                 anchors.fill: parent
                 radius: 7
-                color: Theme.accentFill
+                color: root.destructive ? Theme.redFill : Theme.accentFill
 
                 PressShade {
                     radius: 7

@@ -23,6 +23,22 @@ qreal titleOf(const QQuickItem *menuHolder, const char *row, const QString &text
 
 } // namespace
 
+TEST(Menus, ADestructiveRowIsRedUnlessItIsDisabled)
+{
+    Bench bench;
+    const auto *holder = bench.show(
+        u"Item { property alias menu: m; property alias row: a; PopupMenu { id: m; "
+        "PopupMenuItem { id: a; text: 'Supprimer…'; symbol: 'trash'; destructive: true } } }"_s);
+    ASSERT_NE(holder, nullptr) << bench.warnings();
+    auto *row = holder->property("row").value<QQuickItem *>();
+    EXPECT_EQ(row->property("ink"), bench.token("theme", "redText"));
+    EXPECT_EQ(row->property("quietInk"), bench.token("theme", "redText"));
+    row->setProperty("highlighted", true);
+    EXPECT_EQ(row->property("ink"), bench.token("theme", "textOnAccent"));
+    row->setEnabled(false);
+    EXPECT_EQ(row->property("ink"), bench.token("theme", "text4"));
+}
+
 class MenuTickTest : public testing::Test
 {
 protected:
