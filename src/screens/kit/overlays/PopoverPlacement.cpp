@@ -49,3 +49,13 @@ QPointF PopoverPlacement::place(const QRectF &anchor, const QSizeF &size, const 
 {
     return beside(anchor, size, window, static_cast<Alignment>(alignment)) - anchor.topLeft();
 }
+
+qreal PopoverPlacement::lowerEnd(const QQuickItem *item) const
+{
+    qreal end = item->height();
+    for (const auto *around = item->parentItem(); around; around = around->parentItem()) {
+        if (around->clip())
+            end = std::min(end, item->mapFromItem(around, QPointF(0, around->height())).y());
+    }
+    return end;
+}

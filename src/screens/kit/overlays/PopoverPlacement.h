@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QQuickItem>
 #include <QRectF>
 #include <QtQml/qqmlregistration.h>
 
-/// Computes the positions of popovers, so that they stay within their window.
+/// Computes the positions of popovers and hints, so that they stay within their window, and hints on their page.
 class PopoverPlacement : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,8 @@ public:
     static QPointF beside(const QRectF &anchor, const QSizeF &size, const QSizeF &window,
                           PopoverPlacement::Alignment alignment);
 
+    /// The lower end of the part of an item that the items around it do not clip, in the coordinates of the item.
+    Q_INVOKABLE qreal lowerEnd(const QQuickItem *item) const;
     /// The same for QML, relative to the top left corner of the anchor.
     Q_INVOKABLE QPointF place(const QRectF &anchor, const QSizeF &size, const QSizeF &window,
                               int alignment) const;
