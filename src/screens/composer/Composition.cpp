@@ -53,7 +53,7 @@ void Composition::abandon()
     if (m_draft)
         m_place.keep({.body = m_draft->unsentText(),
                       .mentions = m_draft->mentioned(),
-                      .audience = m_draft->audience()});
+                      .audience = m_draft->unsentAudience()});
 }
 
 bool Composition::canResume() const

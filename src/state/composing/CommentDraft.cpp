@@ -146,7 +146,14 @@ void CommentDraft::addLinks(const QList<Attachment> &attachments)
 
 QString CommentDraft::unsentText() const
 {
-    return m_sent && m_text.startsWith(m_sent->text) ? m_text.sliced(m_sent->text.size()) : m_text;
+    return m_sent && !remains(*m_sent) ? m_text.sliced(m_sent->text.size()) : m_text;
+}
+
+CommentAudience CommentDraft::unsentAudience() const
+{
+    return m_sent && remains(*m_sent) && m_sent->audience == CommentAudience::Agents
+               ? CommentAudience::Agents
+               : m_audience;
 }
 
 void CommentDraft::restore(const OutgoingComment &abandoned)
@@ -182,7 +189,7 @@ std::optional<OutgoingComment> CommentDraft::beginSending()
 {
     if (!canSend())
         return std::nullopt;
-    m_sent = Sent{m_text, m_mentioned.size()};
+    m_sent = Sent{m_text, m_mentioned.size(), m_audience};
     Q_EMIT changed();
     return OutgoingComment{m_text.trimmed(), m_audience, m_mentioned};
 }
@@ -192,6 +199,10 @@ void CommentDraft::endSending(bool posted)
     const auto sent = std::exchange(m_sent, std::nullopt);
     if (!sent)
         return;
+    // Otherwise the note would leave without its marking when it is sent again.
+    if ((!posted || remains(*sent)) && sent->audience == CommentAudience::Agents &&
+        !m_text.trimmed().isEmpty())
+        m_audience = CommentAudience::Agents;
     if (!posted) {
         Q_EMIT changed();
         return;

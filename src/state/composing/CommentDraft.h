@@ -52,6 +52,8 @@ public:
     void addLinks(const QList<Attachment> &attachments);
     /// What would be lost with the draft: the text without the part that is being sent.
     QString unsentText() const;
+    /// Who was to read `unsentText`.
+    CommentAudience unsentAudience() const;
     /// Replaces the text by one that was abandoned, with its picked users and its readers. An internal note stays one,
     /// even if the project does not allow it, or is not known yet.
     void restore(const OutgoingComment &abandoned);
@@ -91,7 +93,7 @@ public:
     /// The comment to send; nothing while there are no words or another comment is being sent. `endSending` must follow.
     std::optional<OutgoingComment> beginSending();
     /// The comment was posted or refused. A posted text is removed, except for what was typed after it in the meantime; a
-    /// refused one stays, with its mentions.
+    /// refused one stays, with its mentions. What stays of an internal note is one, whatever was chosen in the meantime.
     void endSending(bool posted);
 
 Q_SIGNALS:
@@ -105,9 +107,12 @@ private:
     {
         QString text;
         qsizetype mentions = 0;
+        CommentAudience audience = CommentAudience::Everyone;
     };
 
     void replace(qsizetype start, qsizetype end, const QString &words);
+    /// Whether the text still contains what was sent, because it was changed in the meantime.
+    bool remains(const Sent &sent) const { return !m_text.startsWith(sent.text); }
     void removeSent(const QString &sent);
     void follow();
     void updateSuggestions();

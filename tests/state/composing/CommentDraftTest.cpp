@@ -277,6 +277,48 @@ TEST_F(CommentDraftTest, ANoteStaysOneWhenTheProjectIsNoLongerAServiceProject)
 
 // Sending -------------------------------------------------------------------------------------------------------------
 
+TEST_F(CommentDraftTest, ARefusedNoteIsANoteAgainWhateverWasChosenInTheMeantime)
+{
+    draft.setAllowsInternal(true);
+    draft.setAudience(CommentAudience::Agents);
+    type(u"Entre nous"_s);
+    send();
+    draft.setAudience(CommentAudience::Everyone);
+    EXPECT_EQ(draft.audience(), CommentAudience::Everyone) << "the next comment may be a reply";
+    draft.endSending(false);
+    EXPECT_EQ(draft.audience(), CommentAudience::Agents);
+    EXPECT_EQ(send().audience, CommentAudience::Agents);
+}
+
+TEST_F(CommentDraftTest, ANoteThatIsRewrittenWhileItIsBeingSentStaysANote)
+{
+    draft.setAllowsInternal(true);
+    draft.setAudience(CommentAudience::Agents);
+    type(u"Entre nous"_s);
+    send();
+    draft.setAudience(CommentAudience::Everyone);
+    moveCaret(0);
+    type(u"Donc, "_s);
+    EXPECT_EQ(draft.unsentAudience(), CommentAudience::Agents) << "it would be kept as a note";
+    draft.endSending(true);
+    EXPECT_EQ(draft.audience(), CommentAudience::Agents);
+    EXPECT_EQ(shown, u"Donc, Entre nous"_s);
+}
+
+TEST_F(CommentDraftTest, AReplyThatFollowsAPostedNoteIsAReply)
+{
+    draft.setAllowsInternal(true);
+    draft.setAudience(CommentAudience::Agents);
+    type(u"Entre nous"_s);
+    send();
+    draft.setAudience(CommentAudience::Everyone);
+    type(u"Bonjour"_s);
+    EXPECT_EQ(draft.unsentAudience(), CommentAudience::Everyone);
+    draft.endSending(true);
+    EXPECT_EQ(draft.audience(), CommentAudience::Everyone);
+    EXPECT_EQ(shown, u"Bonjour"_s);
+}
+
 TEST_F(CommentDraftTest, ATextWithoutWordsIsNotSent)
 {
     type(u" \n\t "_s);

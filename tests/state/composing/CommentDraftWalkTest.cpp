@@ -75,6 +75,7 @@ protected:
         if (!comment)
             return;
         isSending = true;
+        isNoteBeingSent = isNote;
         ++sent;
         notes += isNote ? 1 : 0;
         ASSERT_EQ(comment->audience == CommentAudience::Agents, isNote);
@@ -84,10 +85,14 @@ protected:
     void answerTheSend()
     {
         const QString before = shown;
+        const bool remains = draft.unsentText() == shown;
         const bool isPosted = below(2) == 0;
         draft.endSending(isPosted);
         if (!isSending || !isPosted)
             ASSERT_EQ(shown, before);
+        // A note that remains in the editor is still one.
+        if (isSending && isNoteBeingSent && (remains || !isPosted))
+            isNote = isNote || !shown.trimmed().isEmpty();
         isSending = false;
     }
 
@@ -97,6 +102,7 @@ protected:
     /// The button "Note interne" was chosen last.
     bool isNote = false;
     bool isSending = false;
+    bool isNoteBeingSent = false;
     int sent = 0;
     int notes = 0;
 };
