@@ -45,9 +45,10 @@ Item {
     VisibilityTag {
         id: tag
         x: root.width - width
-        width: Math.min(implicitWidth, Math.floor(root.width / 2))
+        width: implicitWidth
         height: implicitHeight
         anchors.verticalCenter: parent.verticalCenter
         comment: root.comment
+        limit: Math.floor(root.width / 2)
     }
 }

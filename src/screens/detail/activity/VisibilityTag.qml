@@ -3,17 +3,18 @@ import Velmora.Detail
 import Velmora.Kit
 import Velmora.Theme
 
-// Says who can read a comment. It is hidden if everybody can who can read the issue.
+// Says who can read a comment, on at most `limit` points. It is hidden if everybody can who can read the issue.
 Rectangle {
     id: root
 
     required property shownComment comment
+    required property real limit
     readonly property bool isEmpty: comment.tagText === ""
     readonly property int padding: 7
     readonly property real symbolSize: comment.isNote ? 8.5 : 9
 
     visible: !isEmpty
-    implicitWidth: isEmpty ? 0 : Math.ceil(label.implicitWidth) + label.x + padding
+    implicitWidth: isEmpty ? 0 : Math.ceil(label.width) + label.x + padding
     implicitHeight: 18
     radius: height / 2
     color: comment.isNote ? Theme.noteAt(0.14) : Theme.accentAt(0.14)
@@ -31,7 +32,7 @@ Rectangle {
     AppText {
         id: label
         x: symbol.x + symbol.width + Metrics.gapTiny
-        width: root.width - x - root.padding
+        width: Math.max(0, Math.min(implicitWidth, root.limit - x - root.padding))
         anchors.verticalCenter: parent.verticalCenter
         role: TypeScale.Micro
         weight: Font.DemiBold
