@@ -73,7 +73,8 @@ Window {
         // The main window shows them as well, and need not be seen twice.
         visible: root.active
         toasts: root.store.toasts
-        bottomGap: Metrics.toastBottom
+        // Above the box for comments: a toast in front of it would take its clicks.
+        bottomGap: Math.max(Metrics.toastBottom, detail.footHeight + Metrics.gap)
         onDismissed: id => root.store.dismissToast(id)
     }
 

@@ -22,6 +22,8 @@ FocusScope {
     // The height of the toolbar with the space above it.
     readonly property int headHeight: inWindow ? 52 : 40
     readonly property int crumbMargin: Metrics.gapMedium
+    /// The height of the box for comments with the space below it.
+    readonly property real footHeight: open.isKnown ? height - composer.y : 0
     readonly property IssueFiles files: IssueFiles {
         store: root.store
         key: root.key
