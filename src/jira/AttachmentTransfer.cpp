@@ -21,7 +21,7 @@ namespace {
 
 constexpr int TooLargeStatus = 413;
 
-/// How much of a file is read before the next look at the stop token: on a slow disk, a second is not exceeded.
+/// How much of a file is read before the next look at the stop token. A slow disk needs less than a second for it.
 constexpr qint64 ReadAtOnce = 1024 * 1024;
 
 FormFile readFile(const QUrl &url, const std::stop_token &stop)
@@ -34,10 +34,11 @@ FormFile readFile(const QUrl &url, const std::stop_token &stop)
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);
     FormFile result{name, {}};
     result.content.reserve(file.size());
-    while (!file.atEnd() && file.error() == QFileDevice::NoError) {
+    // The size of a file says nothing about its end: some files of the system have a content and no size.
+    for (QByteArray part = file.read(ReadAtOnce); !part.isEmpty(); part = file.read(ReadAtOnce)) {
         if (stop.stop_requested())
             throw Cancelled();
-        result.content += file.read(ReadAtOnce);
+        result.content += part;
     }
     if (file.error() != QFileDevice::NoError)
         throw Failure(u"Impossible de lire le fichier « "_s + name + u" »."_s);

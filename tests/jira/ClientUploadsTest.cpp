@@ -2,6 +2,7 @@
 #include "http/TransportError.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -9,6 +10,25 @@ namespace {
 
 using Ending = RawAnswer::Ending;
 using ClientUploads = TransferTest;
+
+/// More than the system keeps of what a server does not read.
+constexpr qsizetype Long = 24 << 20;
+
+/// During its lifetime, the process has the rights of a user whom no file belongs to.
+class Unprivileged
+{
+public:
+    Unprivileged() : m_user(geteuid()) { m_isOther = m_user == 0 && seteuid(Nobody) == 0; }
+    ~Unprivileged() { EXPECT_TRUE(!m_isOther || seteuid(m_user) == 0); }
+    Unprivileged(const Unprivileged &) = delete;
+    Unprivileged &operator=(const Unprivileged &) = delete;
+
+private:
+    static constexpr uid_t Nobody = 65534;
+
+    uid_t m_user;
+    bool m_isOther = false;
+};
 
 TEST_F(ClientUploads, FilesGoUpInOneRequest)
 {
@@ -101,6 +121,85 @@ TEST_F(ClientUploads, APipeIsNoFileToUpload)
     EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {QUrl::fromLocalFile(pipe)})),
               u"Impossible de lire le fichier « tube »."_s);
     EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(ClientUploads, AFileWithoutPermissionIsNotUploaded)
+{
+    const QUrl file = localFile(u"secret"_s, "1234");
+    ASSERT_EQ(chmod(QFile::encodeName(file.toLocalFile()).constData(), 0), 0);
+    const Unprivileged user;
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s, {file})),
+              u"Impossible de lire le fichier « secret »."_s);
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(ClientUploads, AFileThatFailsWhileItIsReadIsNotUploaded)
+{
+    // The first page of memory belongs to no process.
+    EXPECT_EQ(failureOf(client->uploadAttachments(u"ABC-1"_s,
+                                                  {QUrl::fromLocalFile(u"/proc/self/mem"_s)})),
+              u"Impossible de lire le fichier « mem »."_s);
+    EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(ClientUploads, HowMuchWasSentIsTold)
+{
+    server.answer(RawAnswer::json("[]"));
+    QList<UploadProgress> told;
+    resultOf(client->uploadAttachments(
+        u"ABC-1"_s, {localFile(u"a"_s, QByteArray(200'000, 'a')), localFile(u"b"_s, "b")}, {},
+        [&](const UploadProgress &progress) { told.append(progress); }));
+    ASSERT_FALSE(told.isEmpty());
+    const qint64 size = lastRequest().body.size();
+    EXPECT_GT(size, 200'000);
+    EXPECT_EQ(told.last(), (UploadProgress{size, size}));
+}
+
+TEST_F(ClientUploads, AStopInTheMiddleSendsNoWholeRequest)
+{
+    server.readAtMost(1 << 20);
+    std::stop_source stop;
+    UploadProgress told;
+    const TaskResult result(client->uploadAttachments(
+        u"ABC-1"_s, {localFile(u"a"_s, QByteArray(Long, 'a'))}, stop.get_token(),
+        [&](const UploadProgress &progress) { told = progress; }));
+    ASSERT_TRUE(runUntil([&] { return told.sent >= 1 << 16; }));
+    stop.request_stop();
+    EXPECT_THROW(result.value(), Cancelled);
+    server.readOn();
+    EXPECT_TRUE(runUntil([&] { return server.openConnections() == 0; }));
+    EXPECT_TRUE(server.journal().isEmpty());
+}
+
+TEST_F(ClientUploads, AConnectionLostInTheMiddleIsNotTriedAgain)
+{
+    server.readAtMost(1 << 20);
+    UploadProgress told;
+    const TaskResult result(
+        client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, QByteArray(Long, 'a'))}, {},
+                                  [&](const UploadProgress &progress) { told = progress; }));
+    ASSERT_TRUE(runUntil([&] { return told.sent >= 1 << 16; }));
+    server.dropConnections(Ending::Reset);
+    ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
+    EXPECT_THROW(result.value(), TransportError);
+    EXPECT_EQ(server.connections(), 1);
+}
+
+TEST_F(ClientUploads, AFileThatShrinksWhileItIsSentIsSentAsItWas)
+{
+    server.answer(RawAnswer::json("[]"));
+    server.readAtMost(1 << 20);
+    const QByteArray content(Long, 'a');
+    const QUrl file = localFile(u"a"_s, content);
+    UploadProgress told;
+    const TaskResult result(client->uploadAttachments(
+        u"ABC-1"_s, {file}, {}, [&](const UploadProgress &progress) { told = progress; }));
+    ASSERT_TRUE(runUntil([&] { return told.sent >= 1 << 16; }));
+    ASSERT_TRUE(QFile::resize(file.toLocalFile(), 10));
+    server.readOn();
+    ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
+    const QByteArray &body = lastRequest().body;
+    EXPECT_TRUE(body.mid(body.indexOf("\r\n\r\n") + 4, Long) == content);
 }
 
 } // namespace
