@@ -140,6 +140,32 @@ TEST_P(SiteClientTest, AFileThatIsTooLargeIsToldSo)
     }
 }
 
+TEST_P(SiteClientTest, AnUploadCancelledInTheMiddleLeavesNothingAndTheNextOneWorks)
+{
+    const QString key = u"PORT-2"_s;
+    const auto before = stored(key).attachments.size();
+    // More than the system keeps of what a server does not read.
+    const QUrl file = writtenFile(u"grand.bin"_s, QByteArray(24 << 20, 'x'));
+    simulated.server().readAtMost(1 << 20);
+    std::stop_source stop;
+    qint64 sent = 0;
+    const TaskResult cancelled(
+        client.uploadAttachments(key, {file}, stop.get_token(),
+                                 [&](const UploadProgress &progress) { sent = progress.sent; }));
+    ASSERT_TRUE(runUntil([&] { return sent >= 1 << 16; }));
+    stop.request_stop();
+    EXPECT_THROW(cancelled.value(), Cancelled);
+    simulated.server().readOn();
+    ASSERT_TRUE(runUntil([&] { return simulated.server().openConnections() == 0; }));
+    EXPECT_EQ(stored(key).attachments.size(), before);
+
+    const auto next =
+        resultOf(client.uploadAttachments(key, {writtenFile(u"petit.txt"_s, "salut")}));
+    ASSERT_EQ(next.size(), 1);
+    EXPECT_EQ(simulated.site().attachment(next[0].id)->content, "salut");
+    EXPECT_EQ(stored(key).attachments.size(), before + 1);
+}
+
 TEST_P(SiteClientTest, AWrongTokenIsRefused)
 {
     simulated.site().token = simulated.site().personalToken = u"un autre"_s;
