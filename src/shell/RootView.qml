@@ -112,6 +112,14 @@ Window {
     }
 
     When {
+        shown: root.hasScreen && About.isShown
+
+        AboutSheet {
+            updates: root.updates
+        }
+    }
+
+    When {
         shown: root.farewell.isShown
 
         FarewellSheet {

@@ -1,5 +1,7 @@
 #include "shell/Scenes.h"
 
+#include "shell/about/About.h"
+
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QScreen>
@@ -42,11 +44,16 @@ Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Fa
     connect(&m_store, &AppStore::updateCheckRequested, &m_updates, &UpdateScreens::checkFromMenu);
     // Alerts are shown above the main window.
     connect(&m_updates, &UpdateScreens::alertRaised, this, &Scenes::showMain);
+    connect(&About::shared(), &About::isShownChanged, this, [this] {
+        if (About::shared().isShown())
+            showMain();
+    });
     connect(&m_updates, &UpdateScreens::addressChosen, &m_store, &AppStore::openAddress);
 }
 
 Scenes::~Scenes()
 {
+    About::shared().hide();
     // Signals of windows that are being destroyed are ignored.
     if (m_main)
         m_main->disconnect(this);
@@ -138,6 +145,7 @@ QQuickWindow *Scenes::make(const QString &file, const QVariantMap &properties)
 
 void Scenes::watch(QQuickWindow *window)
 {
+    About::shared().watch(*window);
     connect(window, &QWindow::visibleChanged, this, [this, window](bool isVisible) {
         if (isVisible)
             return;

@@ -69,6 +69,11 @@ T.MenuBar {
             onTriggered: root.store.run(Commands.Command.CheckForUpdates)
         }
 
+        PopupMenuItem {
+            text: "À propos de Velmora"
+            onTriggered: About.show()
+        }
+
         PopupMenuSeparator {}
 
         PopupMenuItem {
