@@ -12,6 +12,8 @@ namespace {
 constexpr std::chrono::milliseconds RetryPause = 50ms;
 constexpr std::chrono::milliseconds AnswerLimit = 2000ms;
 const QByteArray Answer = "ok\n";
+// A question is one line: the activation token, a tab, and the request in Base64.
+constexpr char Separator = '\t';
 
 /// The name must be short, because the path of a local socket is limited to about a hundred characters.
 QString nameOf(const QString &profile)
@@ -36,8 +38,10 @@ SingleInstance::SingleInstance(const QString &profile, Clock &clock)
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 
-void SingleInstance::start()
+void SingleInstance::start(const QByteArray &request)
 {
+    if (request.size() <= LargestRequest)
+        m_request = request;
     m_limit = m_clock.after(AnswerLimit, [this] { giveUp(); });
     retry();
 }
@@ -66,9 +70,9 @@ void SingleInstance::answer()
     connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
         if (!socket->canReadLine())
             return;
-        const QByteArray token = socket->readLine().trimmed();
+        const QByteArrayList words = socket->readLine().chopped(1).split(Separator);
         socket->write(Answer);
-        Q_EMIT asked(token);
+        Q_EMIT asked(words.first(), QByteArray::fromBase64(words.value(1)));
     });
 }
 
@@ -83,7 +87,7 @@ void SingleInstance::ask()
     connect(m_socket.get(), &QLocalSocket::errorOccurred, this,
             [this] { m_retry = m_clock.after(RetryPause, [this] { retry(); }); });
     m_socket->connectToServer(m_name);
-    m_socket->write(qgetenv("XDG_ACTIVATION_TOKEN") + '\n');
+    m_socket->write(qgetenv("XDG_ACTIVATION_TOKEN") + Separator + m_request.toBase64() + '\n');
 }
 
 void SingleInstance::giveUp()

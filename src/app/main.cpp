@@ -1,3 +1,4 @@
+#include "app/AddressOpener.h"
 #include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/SingleInstance.h"
@@ -33,18 +34,25 @@ int main(int argc, char **argv)
     SystemClock clock;
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation),
                             clock);
+    const QString address = QApplication::arguments().value(1);
     std::optional<VelmoraApp> velmora;
+    std::optional<AddressOpener> opener;
     QObject::connect(&instance, &SingleInstance::isSecond, &application, &QApplication::quit,
                      Qt::QueuedConnection);
-    QObject::connect(&instance, &SingleInstance::isFirst, &application, [&velmora] {
+    QObject::connect(&instance, &SingleInstance::isFirst, &application, [&] {
         velmora.emplace();
+        opener.emplace(velmora->store(), velmora->scenes());
         if (!velmora->open())
-            QApplication::exit(1);
+            return QApplication::exit(1);
+        opener->open(address);
     });
     QObject::connect(&instance, &SingleInstance::asked, &application,
-                     [&velmora](const QByteArray &token) {
+                     [&velmora, &opener](const QByteArray &token, const QByteArray &request) {
                          takeToken(token);
-                         velmora->delegate().showMainWindow();
+                         if (request.isEmpty())
+                             velmora->delegate().showMainWindow();
+                         else
+                             opener->open(QString::fromUtf8(request));
                      });
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::asked, &application, [&velmora] {
@@ -53,6 +61,6 @@ int main(int argc, char **argv)
         else
             QApplication::quit();
     });
-    instance.start();
+    instance.start(address.toUtf8());
     return QApplication::exec();
 }

@@ -45,6 +45,29 @@ TEST_F(SingleInstanceTest, ASecondOneAsksTheFirstToShowItself)
     EXPECT_EQ(asked.first().first().toByteArray(), "jeton");
 }
 
+TEST_F(SingleInstanceTest, ASecondOnePassesOnWhatItWasAskedToOpen)
+{
+    const QByteArray request = "velmora:WEB-12\n\ttrailing \xC3\xA9";
+    SingleInstance one(profile, clock);
+    one.start();
+    QSignalSpy asked(&one, &SingleInstance::asked);
+    SingleInstance two(profile, clock);
+    two.start(request);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked.count() == 1; }));
+    EXPECT_EQ(asked.first().at(1).toByteArray(), request);
+}
+
+TEST_F(SingleInstanceTest, ARequestThatIsTooLongIsNotPassedOn)
+{
+    SingleInstance one(profile, clock);
+    one.start();
+    QSignalSpy asked(&one, &SingleInstance::asked);
+    SingleInstance two(profile, clock);
+    two.start(QByteArray(SingleInstance::LargestRequest + 1, 'x'));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked.count() == 1; }));
+    EXPECT_EQ(asked.first().at(1).toByteArray(), QByteArray());
+}
+
 TEST_F(SingleInstanceTest, ProfilesDoNotKnowOfEachOther)
 {
     SingleInstance one(profile, clock);
