@@ -21,8 +21,16 @@ FocusScope {
     signal cancelled(reason: int)
     signal revealRequested(box: rect)
 
-    // A part of the text that scrolls inside the box is revealed at the edge of the box.
+    // The whole editor, so that its buttons are in sight too. Where the view is too low for it, only the caret.
     function reveal() {
+        if (implicitHeight > room)
+            revealCaret();
+        else if (field.activeFocus)
+            revealRequested(Qt.rect(0, 0, width, implicitHeight));
+    }
+
+    // A part of the text that scrolls inside the box is revealed at the edge of the box.
+    function revealCaret() {
         const caret = field.caretInWindow();
         const place = box.mapFromItem(null, caret.x, caret.y);
         const y = Math.max(0, Math.min(place.y, box.height - caret.height));
@@ -39,6 +47,7 @@ FocusScope {
         field.text = editing.draft;
         editing.settle();
         field.forceActiveFocus(Qt.OtherFocusReason);
+        reveal();
     }
 
     Connections {

@@ -6,7 +6,7 @@ import Velmora.Kit
 import Velmora.State
 
 /// The description of an open issue, and its editor. `mediaDelegate`, `linkActivated`, `revealRequested` and `shifted` have
-/// the same meaning as in an `ADFContentView`; the caret of the editor is also revealed. The editor grows up to `room`, the
+/// the same meaning as in an `ADFContentView`; the editor is also revealed. The editor grows up to `room`, the
 /// height of the view that scrolls.
 FocusScope {
     id: root

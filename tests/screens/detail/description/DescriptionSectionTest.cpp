@@ -227,6 +227,24 @@ TEST_F(DescriptionSection, ReturnIsALineBreak)
     EXPECT_EQ(shown(), u"un\ndeux"_s);
 }
 
+TEST_F(DescriptionSection, TheButtonsOfTheEditorAreInSightAtOnceAndWhileTheTextGrows)
+{
+    open(described(u"Bonjour"_s));
+    section()->setY(200);
+    section()->parentItem()->parentItem()->setProperty("bottomMargin", 600);
+    settle();
+    moveTo({100, 250});
+    edit();
+    const int edge = 360;
+    EXPECT_LE(find(Button, u"Enregistrer"_s).box.bottom(), edge);
+    for (int i = 0; i < 12; ++i)
+        press(Qt::Key_Return);
+    settle();
+    EXPECT_LE(find(Button, u"Enregistrer"_s).box.bottom(), edge);
+    EXPECT_LE(focused()->mapRectToScene(focused()->property("cursorRectangle").toRectF()).bottom(),
+              edge);
+}
+
 TEST_F(DescriptionSection, TheCaretStaysInSightWhileTheTextGrows)
 {
     open(described({}));
