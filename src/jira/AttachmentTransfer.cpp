@@ -22,7 +22,7 @@ namespace {
 constexpr int TooLargeStatus = 413;
 
 /// How much of a file is read before the next look at the stop token. A slow disk needs less than a second for it.
-constexpr qint64 ReadAtOnce = 1024 * 1024;
+constexpr qint64 ReadAtOnce = 1024LL * 1024;
 
 FormFile readFile(const QUrl &url, const std::stop_token &stop)
 {
