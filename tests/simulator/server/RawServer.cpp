@@ -218,8 +218,28 @@ void RawServer::read(const std::shared_ptr<Connection> &connection)
             return;
         request->connection = connection->number;
         m_journal += *request;
-        connection->say(nextAnswer(*request));
+        respond(connection, *request);
         Q_EMIT requestReceived();
+    }
+}
+
+void RawServer::respond(const std::shared_ptr<Connection> &connection, const RawRequest &request)
+{
+    if (!m_isHeldBack || !m_isHeldBack(request))
+        return connection->say(nextAnswer(request));
+    connection->current = RawAnswer::nothing(RawAnswer::Ending::Stall);
+    m_heldBack.emplaceBack(connection, request);
+}
+
+void RawServer::release()
+{
+    m_isHeldBack = nullptr;
+    for (const auto &[weak, request] : std::exchange(m_heldBack, {})) {
+        const auto connection = weak.lock();
+        if (!connection)
+            continue;
+        connection->say(nextAnswer(request));
+        read(connection);
     }
 }
 

@@ -54,6 +54,13 @@ public:
     void readOn();
     /// Closes or resets every open connection, including idle ones.
     void dropConnections(RawAnswer::Ending how);
+    /// From now on, requests for which this is true wait until `release`. They are in the journal already.
+    void holdBack(std::function<bool(const RawRequest &)> which)
+    {
+        m_isHeldBack = std::move(which);
+    }
+    /// Responds to the requests that wait, in the order received, and holds no request back any more.
+    void release();
     /// Refuses new connections from now on. The port stays reserved, so that no other server can use it.
     void stopListening();
 
@@ -73,6 +80,7 @@ private:
 
     void accept();
     void read(const std::shared_ptr<Connection> &connection);
+    void respond(const std::shared_ptr<Connection> &connection, const RawRequest &request);
     RawAnswer nextAnswer(const RawRequest &request);
 
     std::unique_ptr<QTcpServer> m_server;
@@ -84,6 +92,8 @@ private:
     std::optional<qint64> m_mostRead;
     std::deque<RawAnswer> m_next;
     Answering m_answering;
+    std::function<bool(const RawRequest &)> m_isHeldBack;
+    QList<std::pair<std::weak_ptr<Connection>, RawRequest>> m_heldBack;
     QList<RawRequest> m_journal;
     int m_connections = 0;
     QList<std::shared_ptr<Connection>> m_open;
