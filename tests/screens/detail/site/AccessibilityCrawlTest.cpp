@@ -1,0 +1,145 @@
+#include "screens/detail/site/SiteWindow.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QQuickItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What a screen reader finds in each state of an issue's screen.
+class IssueCrawl : public SiteWindow
+{
+protected:
+    IssueCrawl()
+    {
+        SiteIssue &issue = *site.site().issue(keysOf(u"AIDE"_s).first());
+        issue.comments.clear();
+        site.site().comment(issue, {.body = paragraph(u"Bonjour"_s)});
+        open();
+        const QString key = issue.key;
+        Q_EMIT store().openWindowRequested(key);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ownWindow(key) != nullptr; }));
+        use(*ownWindow(key));
+        await(QAccessible::EditableText, u"Commentaire"_s);
+    }
+
+    static QJsonObject paragraph(const QString &text)
+    {
+        const QJsonObject words{{u"type"_s, u"text"_s}, {u"text"_s, text}};
+        const QJsonObject line{{u"type"_s, u"paragraph"_s}, {u"content"_s, QJsonArray{words}}};
+        return {{u"type"_s, u"doc"_s}, {u"version"_s, 1}, {u"content"_s, QJsonArray{line}}};
+    }
+
+    /// Each element that takes the focus has a name and a role, and none has the name of another beside it.
+    void expectInOrder(const char *state)
+    {
+        expectInOrder(state, QAccessible::queryAccessibleInterface(&window()));
+    }
+    void expectInOrder(const char *state, QAccessibleInterface *part)
+    {
+        settle();
+        int focusable = 0;
+        visit(part, state, focusable);
+        EXPECT_GT(focusable, 5) << state;
+    }
+
+    void visit(QAccessibleInterface *node, const char *state, int &focusable)
+    {
+        QStringList beside;
+        for (int i = 0; i < node->childCount(); ++i) {
+            auto *child = node->child(i);
+            if (!child || child->state().invisible)
+                continue;
+            // The bars of several views have the same name: their views tell them apart.
+            if (child->state().focusable && child->role() != QAccessible::ScrollBar) {
+                ++focusable;
+                expectNamed(*child, state);
+                beside += u"%1 %2"_s.arg(child->role()).arg(child->text(QAccessible::Name));
+            }
+            visit(child, state, focusable);
+        }
+        std::ranges::sort(beside);
+        const auto twice = std::ranges::adjacent_find(beside);
+        EXPECT_TRUE(twice == beside.end()) << state << ": twice " << twice->toStdString();
+    }
+
+    static void expectNamed(QAccessibleInterface &node, const char *state)
+    {
+        const std::string place = std::string(state) + ": role " + std::to_string(node.role()) +
+                                  ", " + node.text(QAccessible::Name).toStdString() + " at " +
+                                  std::to_string(node.rect().x()) + ", " +
+                                  std::to_string(node.rect().y());
+        EXPECT_FALSE(node.text(QAccessible::Name).trimmed().isEmpty()) << place;
+        EXPECT_NE(node.role(), QAccessible::NoRole) << place;
+        EXPECT_NE(node.role(), QAccessible::Client) << place;
+    }
+
+    void press(QAccessible::Role role, const QString &name)
+    {
+        ASSERT_TRUE(pressAction(window(), role, name)) << name.toStdString();
+        settle();
+    }
+    using SiteWindow::press;
+};
+
+TEST_F(IssueCrawl, EachElementOfAnIssueHasANameAndARoleInEveryState)
+{
+    expectInOrder("read");
+    ASSERT_TRUE(click(QAccessible::EditableText, u"Titre"_s));
+    expectInOrder("title");
+    press(Qt::Key_Escape);
+    press(QAccessible::Button, u"la description"_s);
+    await(QAccessible::EditableText, u"Description"_s);
+    expectInOrder("description");
+    press(Qt::Key_Escape);
+    press(QAccessible::Button, u"Échéance"_s);
+    await(QAccessible::Grouping, u"Calendrier"_s);
+    expectInOrder("due date");
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(isGone(QAccessible::Grouping, u"Calendrier"_s));
+    press(QAccessible::RadioButton, u"Note interne"_s);
+    expectInOrder("internal note");
+    ASSERT_TRUE(click(QAccessible::EditableText, u"Note interne"_s));
+    type(u"@"_s);
+    await(QAccessible::Dialog, u"Mentions"_s);
+    expectInOrder("mentions");
+}
+
+TEST_F(IssueCrawl, TheSendButtonIsToldAsDisabledUntilThereAreWordsAndWhileItSends)
+{
+    EXPECT_TRUE(find(QAccessible::Button, u"Envoyer"_s).state.disabled);
+    EXPECT_FALSE(find(QAccessible::Button, u"Envoyer"_s).state.focusable);
+    ASSERT_TRUE(click(QAccessible::EditableText, u"Commentaire"_s));
+    type(u"Bonjour"_s);
+    EXPECT_FALSE(find(QAccessible::Button, u"Envoyer"_s).state.disabled);
+    site.server().holdBack([](const RawRequest &) { return true; });
+    press(QAccessible::Button, u"Envoyer"_s);
+    EXPECT_TRUE(find(QAccessible::Button, u"Envoi en cours"_s).state.disabled);
+    pressAction(window(), QAccessible::Button, u"Envoi en cours"_s);
+    site.server().release();
+    EXPECT_TRUE(areWritesOver());
+    EXPECT_EQ(postedComments().size(), 1);
+}
+
+TEST_F(IssueCrawl, ACommentIsOneSentenceWithItsAuthorAndItsTime)
+{
+    const auto comments = spokenIn(window(), QAccessible::ListItem, u" a commenté"_s);
+    ASSERT_EQ(comments.size(), 1);
+    const QString author = site.site().user(site.site().me)->displayName;
+    EXPECT_TRUE(comments.first().name.contains(author)) << comments.first().name.toStdString();
+    EXPECT_FALSE(comments.first().description.isEmpty()) << "the date in full";
+}
+
+TEST_F(IssueCrawl, EachElementOfTheSheetForANewIssueHasANameAndARole)
+{
+    use(mainWindow());
+    store().run(Command::NewIssue);
+    await(QAccessible::EditableText, u"Titre du ticket"_s);
+    auto *field = QAccessible::queryAccessibleInterface(window().activeFocusItem());
+    while (field && field->role() != QAccessible::Dialog)
+        field = field->parent();
+    ASSERT_NE(field, nullptr);
+    expectInOrder("new issue", field);
+    EXPECT_TRUE(find(QAccessible::Button, u"Créer le ticket"_s).state.disabled);
+}
