@@ -4,6 +4,7 @@
 #include "app/SingleInstance.h"
 #include "app/VelmoraApp.h"
 #include "platform/TerminationSignals.h"
+#include "platform/decoding/helper/DecodeMain.h"
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -23,6 +24,8 @@ void takeToken(const QByteArray &token)
 
 int main(int argc, char **argv)
 {
+    if (const auto code = decodeIfAsked(argc, argv))
+        return *code;
     chooseRenderer();
     interpretAtFirst();
     QApplication::setApplicationName(QStringLiteral("Velmora"));

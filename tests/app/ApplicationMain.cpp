@@ -1,3 +1,5 @@
+#include "platform/decoding/helper/DecodeMain.h"
+
 #include <QAccessible>
 #include <QApplication>
 
@@ -5,6 +7,8 @@
 
 int main(int argc, char **argv)
 {
+    if (const auto code = decodeIfAsked(argc, argv))
+        return *code;
     const QApplication application(argc, argv);
     QAccessible::setActive(true);
     testing::InitGoogleTest(&argc, argv);

@@ -1,3 +1,4 @@
+#include "platform/decoding/helper/DecodeMain.h"
 #include "screens/theme/Fonts.h"
 
 #include <QGuiApplication>
@@ -11,6 +12,8 @@ Q_IMPORT_QML_PLUGIN(Velmora_KitPlugin)
 
 int main(int argc, char **argv)
 {
+    if (const auto code = decodeIfAsked(argc, argv))
+        return *code;
     const QGuiApplication application(argc, argv);
     if (!Fonts::load())
         return 2;

@@ -8,9 +8,13 @@
 
 namespace {
 
-/// The maximum number of pictures decoded at the same time, because each may need about 100 MB.
-constexpr int decoders = 2;
 constexpr int firstRefusedStatus = 400;
+/// The maximum size of a file.
+constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
+/// The maximum number of pixels that a picture may have. Decoding needs up to about 100 MB.
+constexpr qint64 mostPixels = qint64(24) * 1024 * 1024;
+/// The box to which larger pictures are scaled down.
+constexpr QSize keptSize(2048, 2048);
 
 void settle(QPromise<QImage> &promise, const QImage &image)
 {
@@ -18,9 +22,15 @@ void settle(QPromise<QImage> &promise, const QImage &image)
     promise.finish();
 }
 
-QCoro::Task<QImage> resultOf(QFuture<QImage> future)
+/// The picture in a file. Null if it is not one, or if it exceeds the limits.
+QCoro::Task<QImage> decoded(Decoders &decoders, QByteArray bytes)
 {
-    co_return co_await future;
+    if (bytes.isEmpty() || bytes.size() > mostBytes)
+        co_return QImage();
+    const DecodingRequest request{
+        .kind = DecodingKind::Picture, .bound = keptSize, .mostPixels = mostPixels};
+    const Decoded result = co_await decoders.decode(DecodingInput::bytes(bytes), request);
+    co_return result.image;
 }
 
 } // namespace
@@ -68,7 +78,7 @@ QFuture<QImage> ImageLoader::sharedRequest(const QUrl &url)
 QCoro::Task<> ImageLoader::load(QUrl url)
 {
     const QByteArray body = co_await whileAlive(this, bytes(url));
-    const QImage image = co_await whileAlive(this, decoded(body));
+    const QImage image = co_await whileAlive(this, decoded(m_decoders, body));
     finish(url, image);
 }
 
@@ -77,24 +87,15 @@ QCoro::Task<QByteArray> ImageLoader::bytes(QUrl url)
     if (!m_fetcher)
         co_return QByteArray();
     const ImageRequest request{
-        .url = url, .withCredentials = isOnSite(url), .mostBytes = ImageLimits().bytes};
+        .url = url, .withCredentials = isOnSite(url), .mostBytes = mostBytes};
+    // The helper starts while the picture is fetched.
+    m_decoders.prepare();
     try {
         const ImageAnswer answer = co_await m_fetcher->fetch(request);
         co_return answer.status < firstRefusedStatus ? answer.body : QByteArray();
     } catch (const Failure &) {
         co_return QByteArray();
     }
-}
-
-QCoro::Task<QImage> ImageLoader::decoded(QByteArray bytes)
-{
-    if (bytes.isEmpty())
-        return resultOf(QtFuture::makeReadyFuture(QImage()));
-    m_decoders.setMaxThreadCount(decoders);
-    auto promise = std::make_shared<QPromise<QImage>>();
-    promise->start();
-    m_decoders.start([promise, bytes] { settle(*promise, decodedImage(bytes)); });
-    return resultOf(promise->future());
 }
 
 void ImageLoader::finish(const QUrl &url, const QImage &image)

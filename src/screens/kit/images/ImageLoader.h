@@ -1,13 +1,13 @@
 #pragma once
 
-#include "screens/kit/images/ImageDecoding.h"
+#include "platform/decoding/Decoders.h"
 #include "screens/kit/images/ImageFetcher.h"
 
 #include <QFuture>
 #include <QHash>
+#include <QImage>
 #include <QObject>
 #include <QPromise>
-#include <QThreadPool>
 
 #include <memory>
 
@@ -15,14 +15,15 @@
 /// the process.
 ///
 /// The credentials of the site are sent only to pictures on exactly the host of the site. Failures are not reported: a
-/// picture that cannot be fetched is null, and the next call tries again. For the UI thread only. Decoding runs on a
-/// thread pool of its own.
+/// picture that cannot be fetched is null, and the next call tries again. For the UI thread only. Pictures are decoded
+/// in another process.
 class ImageLoader : public QObject
 {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// The decoders must outlive this object.
+    explicit ImageLoader(Decoders &decoders = Decoders::shared()) : m_decoders(decoders) {}
     ~ImageLoader() override;
 
     /// The instance of the program.
@@ -53,13 +54,11 @@ private:
     QFuture<QImage> sharedRequest(const QUrl &url);
     QCoro::Task<> load(QUrl url);
     QCoro::Task<QByteArray> bytes(QUrl url);
-    QCoro::Task<QImage> decoded(QByteArray bytes);
     void finish(const QUrl &url, const QImage &image);
 
+    Decoders &m_decoders;
     ImageFetcher *m_fetcher = nullptr;
     QString m_siteHost;
     QHash<QUrl, QImage> m_cache;
     QHash<QUrl, Promise> m_pending;
-    // Declared last, so that it is stopped before the other members are destroyed.
-    QThreadPool m_decoders;
 };

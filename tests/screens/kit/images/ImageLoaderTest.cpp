@@ -1,6 +1,7 @@
 #include "screens/kit/images/ImageLoader.h"
 
 #include "model/Failure.h"
+#include "platform/Clock.h"
 #include "screens/kit/images/SamplePictures.h"
 #include "screens/kit/images/ScriptedFetcher.h"
 #include "support/TaskResult.h"
@@ -169,6 +170,38 @@ TEST_F(ImageLoaderTest, WithoutARoadOutsideThereAreNoPictures)
     TaskResult result(loader.image(address));
     ASSERT_TRUE(ended(result));
     EXPECT_TRUE(result.value().isNull());
+}
+
+TEST_F(ImageLoaderTest, ADrawingIsAPictureToo)
+{
+    fetcher.calls.answerWith({.status = 200,
+                              .body = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 1'>"
+                                      "<rect width='2' height='1' fill='#0f0'/></svg>"});
+    TaskResult result(loader.image(address));
+    ASSERT_TRUE(ended(result));
+    ASSERT_FALSE(result.value().isNull());
+    EXPECT_EQ(result.value().pixelColor(1, 1), QColor(Qt::green));
+}
+
+TEST_F(ImageLoaderTest, APictureThatIsLargerThanTheScreenIsKeptSmaller)
+{
+    fetcher.calls.answerWith({.status = 200, .body = SamplePictures::picture("png", {4096, 1024})});
+    TaskResult result(loader.image(address));
+    ASSERT_TRUE(ended(result));
+    EXPECT_EQ(result.value().size(), QSize(2048, 512));
+}
+
+TEST_F(ImageLoaderTest, WithoutAHelperThereAreNoPictures)
+{
+    SystemClock clock;
+    Decoders none({}, clock);
+    ImageLoader other(none);
+    other.setFetcher(&fetcher);
+    fetcher.calls.answerWith(good);
+    TaskResult result(other.image(address));
+    ASSERT_TRUE(ended(result));
+    EXPECT_TRUE(result.value().isNull());
+    EXPECT_EQ(other.pendingCount(), 0);
 }
 
 TEST_F(ImageLoaderTest, AThousandHostilePicturesLeaveItAtRest)
