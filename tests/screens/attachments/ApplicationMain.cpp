@@ -1,3 +1,4 @@
+#include "platform/decoding/helper/DecodeMain.h"
 #include "screens/theme/Fonts.h"
 
 #include <QGuiApplication>
@@ -14,6 +15,8 @@ Q_IMPORT_QML_PLUGIN(Velmora_DocumentsPlugin)
 
 int main(int argc, char **argv)
 {
+    if (const auto code = decodeIfAsked(argc, argv))
+        return *code;
     const QGuiApplication application(argc, argv);
     if (!Fonts::load())
         return 2;

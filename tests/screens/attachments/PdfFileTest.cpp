@@ -1,7 +1,9 @@
 #include "screens/attachments/preview/PdfWork.h"
+#include "support/TaskResult.h"
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -16,13 +18,19 @@ protected:
     QTemporaryDir folder;
     QString path = folder.filePath(u"doc.pdf"_s);
 
+    static PdfFile read(const QString &path)
+    {
+        const TaskResult file(PdfFile::read(path, Decoders::shared()));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return file.isDone(); }));
+        return file.isDone() ? file.value() : PdfFile();
+    }
     PdfFile fileOf(const QByteArray &content) const
     {
         QFile file(path);
         EXPECT_TRUE(file.open(QFile::WriteOnly));
         file.write(content);
         file.close();
-        return PdfFile::read(path, QThread::currentThread());
+        return read(path);
     }
     /// A PDF with this tree of pages, without the table that says where its objects are.
     static QByteArray pdfWith(const QByteArray &pages)
@@ -46,7 +54,7 @@ TEST_F(PdfFileTest, HasTheSizesOfItsPages)
 TEST_F(PdfFileTest, ThatClaimsAMillionPagesIsReadAsFarAsTheyAreShown)
 {
     const PdfFile file = fileOf(pdfWith("/Count 1000000/Kids[3 0 R]"));
-    EXPECT_LE(file.pages.size(), MaximumPdfPages);
+    EXPECT_LE(file.pages.size(), MaximumDecodedPages);
 }
 
 TEST_F(PdfFileTest, WhosePagesContainThemselvesEnds)
@@ -67,7 +75,7 @@ TEST_F(PdfFileTest, ThatIsCutOffOrDamagedAnywhereIsReadOrTold)
 TEST_F(PdfFileTest, ThatIsMissingIsToldAndAPipeIsNotWaitedFor)
 {
     const QString gone = u"Le fichier n'est plus là."_s;
-    EXPECT_EQ(PdfFile::read(path, QThread::currentThread()).problem, gone);
+    EXPECT_EQ(read(path).problem, gone);
     ASSERT_EQ(mkfifo(path.toUtf8().constData(), 0600), 0);
-    EXPECT_EQ(PdfFile::read(path, QThread::currentThread()).problem, gone);
+    EXPECT_EQ(read(path).problem, gone);
 }

@@ -1,6 +1,9 @@
 #include "screens/attachments/preview/PictureReader.h"
 
+#include "platform/Clock.h"
 #include "screens/kit/images/SamplePictures.h"
+#include "support/RunUntil.h"
+#include "support/TaskResult.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -42,36 +45,42 @@ QByteArray gifWithAFrameOf(quint16 side)
 class PictureReading : public testing::Test
 {
 protected:
+    using Reader = std::shared_ptr<PictureReader>;
+
     QTemporaryDir folder;
 
-    PictureReader readerOf(const QByteArray &content) const
+    Reader readerOf(const QByteArray &content) const
     {
         QFile file(folder.filePath(u"image"_s));
         EXPECT_TRUE(file.open(QFile::WriteOnly));
         file.write(content);
         file.close();
-        return PictureReader(file.fileName());
+        return std::make_shared<PictureReader>(file.fileName());
     }
+    static PictureFrame nextOf(const Reader &reader)
+    {
+        const TaskResult frame(PictureReader::next(reader));
+        EXPECT_TRUE(runUntil([&] { return frame.isDone(); }));
+        return frame.isDone() ? frame.value() : PictureFrame();
+    }
+    PictureFrame firstOf(const QByteArray &content) const { return nextOf(readerOf(content)); }
 };
 
 } // namespace
 
 TEST_F(PictureReading, APictureIsDecodedWithItsSize)
 {
-    auto reader = readerOf(SamplePictures::picture("png", {40, 30}));
-    ASSERT_EQ(reader.problem(), u""_s);
-    EXPECT_EQ(reader.size(), QSize(40, 30));
-    EXPECT_FALSE(reader.isAnimated());
-    const PictureFrame frame = reader.next();
+    const PictureFrame frame = firstOf(SamplePictures::picture("png", {40, 30}));
+    EXPECT_EQ(frame.problem, u""_s);
+    EXPECT_EQ(frame.whole, QSize(40, 30));
+    EXPECT_FALSE(frame.isAnimated);
     ASSERT_EQ(frame.levels.size(), 1);
     EXPECT_EQ(frame.levels.first().pixelColor(5, 5), QColor(Qt::red));
 }
 
 TEST_F(PictureReading, ALargePictureHasSmallerLevels)
 {
-    auto reader = readerOf(SamplePictures::picture("png", {2100, 1100}));
-    ASSERT_EQ(reader.problem(), u""_s);
-    const PictureFrame frame = reader.next();
+    const PictureFrame frame = firstOf(SamplePictures::picture("png", {2100, 1100}));
     ASSERT_EQ(frame.levels.size(), 3);
     EXPECT_EQ(frame.levels[1].size(), QSize(1050, 550));
     EXPECT_EQ(frame.levels[2].size(), QSize(525, 275));
@@ -79,28 +88,30 @@ TEST_F(PictureReading, ALargePictureHasSmallerLevels)
 
 TEST_F(PictureReading, APictureOf60000By60000IsToldAndNotDecoded)
 {
-    auto png = readerOf(SamplePictures::pngClaiming({60'000, 60'000}));
     const QString text =
         u"Cette image est trop grande pour être affichée (60\u202F000 × 60\u202F000 pixels)."_s;
-    EXPECT_EQ(png.problem(), text) << png.problem().toStdString();
-    EXPECT_EQ(readerOf(gifWithAFrameOf(60'000)).problem(), text);
+    for (const auto &bytes :
+         {SamplePictures::pngClaiming({60'000, 60'000}), gifWithAFrameOf(60'000)}) {
+        const PictureFrame frame = firstOf(bytes);
+        EXPECT_EQ(frame.problem, text) << frame.problem.toStdString();
+        EXPECT_TRUE(frame.isNull());
+    }
 }
 
 TEST_F(PictureReading, AGifWhoseHeaderAloneClaimsToBeLargeIsNotDecoded)
 {
-    EXPECT_TRUE(readerOf(SamplePictures::gifClaiming({60'000, 60'000})).next().isNull());
+    EXPECT_TRUE(firstOf(SamplePictures::gifClaiming({60'000, 60'000})).isNull());
 }
 
 TEST_F(PictureReading, AnAnimationMovesAndBeginsAgain)
 {
-    auto reader = readerOf(twoFrames());
-    ASSERT_EQ(reader.problem(), u""_s);
-    ASSERT_TRUE(reader.isAnimated());
+    const Reader reader = readerOf(twoFrames());
     QList<QColor> colours;
     QList<int> delays;
     for (int i = 0; i < 3; ++i) {
-        const PictureFrame frame = reader.next();
+        const PictureFrame frame = nextOf(reader);
         ASSERT_FALSE(frame.isNull()) << i;
+        EXPECT_TRUE(frame.isAnimated);
         colours += frame.levels.first().pixelColor(0, 0);
         delays += int(frame.delay.count());
     }
@@ -111,24 +122,43 @@ TEST_F(PictureReading, AnAnimationMovesAndBeginsAgain)
 
 TEST_F(PictureReading, SomethingElseIsToldAndNotDecoded)
 {
-    EXPECT_EQ(readerOf("<svg xmlns='http://www.w3.org/2000/svg'/>").problem(),
-              u"Cette image est endommagée ou d'un format inconnu."_s);
-    EXPECT_EQ(readerOf("").problem(), u"Cette image est endommagée ou d'un format inconnu."_s);
+    const QString unknown = u"Cette image est endommagée ou d'un format inconnu."_s;
+    EXPECT_EQ(firstOf("<svg xmlns='http://www.w3.org/2000/svg'/>").problem, unknown);
+    EXPECT_EQ(firstOf("").problem, unknown);
+    EXPECT_EQ(firstOf(SamplePictures::picture("bmp")).problem, unknown);
+}
+
+TEST_F(PictureReading, APictureWhoseEndIsMissingIsShownAsFarAsItIsThere)
+{
+    const QByteArray whole = SamplePictures::picture("png", {300, 300});
+    const PictureFrame frame = firstOf(whole.first(whole.size() - 20));
+    EXPECT_EQ(frame.problem, u""_s);
+    EXPECT_FALSE(frame.isNull());
 }
 
 TEST_F(PictureReading, APictureThatHasVanishedIsTold)
 {
-    EXPECT_EQ(PictureReader(folder.filePath(u"absente"_s)).problem(),
-              u"Le fichier n'est plus là."_s);
+    const auto reader = std::make_shared<PictureReader>(folder.filePath(u"absente"_s));
+    EXPECT_EQ(nextOf(reader).problem, u"Le fichier n'est plus là."_s);
+}
+
+TEST_F(PictureReading, WithoutAHelperAPictureIsToldAsDamaged)
+{
+    SystemClock clock;
+    Decoders none({}, clock);
+    QFile file(folder.filePath(u"image"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(SamplePictures::picture("png"));
+    file.close();
+    EXPECT_EQ(nextOf(std::make_shared<PictureReader>(file.fileName(), none)).problem,
+              u"Cette image est endommagée ou d'un format inconnu."_s);
 }
 
 TEST_F(PictureReading, HostilePicturesAreRefusedOrDecodedWithinTheLimit)
 {
     for (const QByteArray &bytes : SamplePictures::hostile()) {
-        auto reader = readerOf(bytes);
-        if (!reader.problem().isEmpty())
-            continue;
-        const PictureFrame frame = reader.next();
+        const PictureFrame frame = firstOf(bytes);
+        EXPECT_EQ(frame.problem.isEmpty(), !frame.isNull());
         for (const QImage &level : frame.levels)
             ASSERT_LE(qint64(level.width()) * level.height(), MaximumPixels);
     }

@@ -290,6 +290,9 @@ TEST_F(PreviewTest, AnAnimationWhoseFileIsDeletedStopsAtItsLastFrame)
     ASSERT_TRUE(QTest::qWaitFor([&] { return colourOf(*canvas) == Qt::green; }));
     const int timers = clock.pending();
     clock.advance(FrameTime);
+    ASSERT_TRUE(QTest::qWaitFor([] { return Decoders::shared().pendingCount() == 0; }));
+    // The end of the file is told, and the file is opened again on another thread.
+    QCoreApplication::processEvents();
     ASSERT_TRUE(QThreadPool::globalInstance()->waitForDone());
     QCoreApplication::processEvents();
     EXPECT_EQ(clock.pending(), timers - 1) << "no further frame is awaited";

@@ -11,9 +11,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The formats that the decoder accepts.
-constexpr std::array Decoded{"image/png"_L1,  "image/jpeg"_L1,   "image/jpg"_L1,
-                             "image/gif"_L1,  "image/bmp"_L1,    "image/x-ms-bmp"_L1,
-                             "image/webp"_L1, "image/x-icon"_L1, "image/vnd.microsoft.icon"_L1};
+constexpr std::array Decoded{"image/png"_L1, "image/jpeg"_L1, "image/jpg"_L1, "image/gif"_L1,
+                             "image/webp"_L1};
 
 constexpr std::array Sheets{"text/csv"_L1, "text/tab-separated-values"_L1,
                             "application/vnd.ms-excel"_L1,

@@ -7,7 +7,7 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/// One page of a PDF. It is drawn outside the UI thread, at the resolution of the screen; until then the page is blank.
+/// One page of a PDF. It is drawn in another process, at the resolution of the screen; until then the page is blank.
 class PdfPage : public QQuickPaintedItem
 {
     Q_OBJECT

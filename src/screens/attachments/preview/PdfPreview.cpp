@@ -1,6 +1,5 @@
 #include "screens/attachments/preview/PdfPreview.h"
 
-#include "async/OffThread.h"
 #include "async/Spawn.h"
 #include "async/WhileAlive.h"
 
@@ -18,12 +17,6 @@ constexpr double UsualRatio = 1.414;
 
 } // namespace
 
-PdfPreview::~PdfPreview()
-{
-    if (m_work)
-        m_work->leave();
-}
-
 void PdfPreview::setUrl(const QUrl &url)
 {
     if (!m_url.isEmpty() || url.isEmpty())
@@ -37,8 +30,9 @@ void PdfPreview::setUrl(const QUrl &url)
 
 QCoro::Task<> PdfPreview::load(QString path)
 {
-    auto read = [path, home = thread()] { return PdfFile::read(path, home); };
-    m_work = PdfWork::of(co_await whileAlive(this, offThread(std::move(read))));
+    Decoders &decoders = Decoders::shared();
+    const PdfFile file = co_await whileAlive(this, PdfFile::read(path, decoders));
+    m_work = std::make_unique<PdfWork>(file, decoders);
     m_isLoading = false;
     Q_EMIT changed();
 }

@@ -3,11 +3,12 @@
 #include "screens/attachments/preview/PdfWork.h"
 
 #include <QCoro/QCoroTask>
-#include <QPointer>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
-/// The pages of a PDF file, which is read outside the UI thread.
+#include <memory>
+
+/// The pages of a PDF file, which is read in another process.
 class PdfPreview : public QObject
 {
     Q_OBJECT
@@ -23,7 +24,6 @@ class PdfPreview : public QObject
 
 public:
     using QObject::QObject;
-    ~PdfPreview() override;
 
     const QUrl &url() const { return m_url; }
     void setUrl(const QUrl &url);
@@ -31,7 +31,8 @@ public:
     int pageCount() const { return m_work ? int(m_work->pages().size()) : 0; }
     QString note() const;
     QString problem() const { return m_work ? m_work->problem() : QString(); }
-    PdfWork *work() const { return m_work; }
+    /// Null until the file is read.
+    PdfWork *work() const { return m_work.get(); }
 
     /// The height of a page that is `width` wide, in logical pixels. Pages of extreme shapes are cut to twenty times
     /// their width.
@@ -45,6 +46,6 @@ private:
     QCoro::Task<> load(QString path);
 
     QUrl m_url;
-    QPointer<PdfWork> m_work;
+    std::unique_ptr<PdfWork> m_work;
     bool m_isLoading = false;
 };

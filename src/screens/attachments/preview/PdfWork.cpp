@@ -1,22 +1,19 @@
 #include "screens/attachments/preview/PdfWork.h"
 
-#include <QFileInfo>
-
-#include <algorithm>
+#include "async/OffThread.h"
+#include "async/Spawn.h"
+#include "async/WhileAlive.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString problemOf(QPdfDocument::Error error)
+QString problemOf(DecodingStatus status)
 {
-    switch (error) {
-    case QPdfDocument::Error::None:
+    switch (status) {
+    case DecodingStatus::Done:
         return {};
-    case QPdfDocument::Error::FileNotFound:
-        return u"Le fichier n'est plus là."_s;
-    case QPdfDocument::Error::IncorrectPassword:
-    case QPdfDocument::Error::UnsupportedSecurityScheme:
+    case DecodingStatus::Protected:
         return u"Ce PDF est protégé par un mot de passe."_s;
     default:
         return u"Ce PDF est endommagé."_s;
@@ -25,52 +22,33 @@ QString problemOf(QPdfDocument::Error error)
 
 } // namespace
 
-PdfFile PdfFile::read(const QString &path, QThread *home)
+QCoro::Task<PdfFile> PdfFile::read(QString path, Decoders &decoders)
 {
-    PdfFile file{.document = std::make_unique<QPdfDocument>(), .pages = {}, .problem = {}};
-    // A pipe would block.
-    const auto error =
-        QFileInfo(path).isFile() ? file.document->load(path) : QPdfDocument::Error::FileNotFound;
-    file.problem = problemOf(error);
-    const int count = std::min(file.document->pageCount(), MaximumPdfPages);
-    for (int page = 0; page < count; ++page)
-        file.pages += file.document->pagePointSize(page);
-    if (file.problem.isEmpty() && count == 0)
-        file.problem = problemOf(QPdfDocument::Error::InvalidFileFormat);
-    file.document->moveToThread(home);
-    return file;
-}
-
-PdfWork *PdfWork::of(PdfFile file)
-{
-    return std::unique_ptr<PdfWork>(new PdfWork(std::move(file))).release();
-}
-
-PdfWork::PdfWork(PdfFile file) : m_file(std::move(file))
-{
-    m_renderer.setRenderMode(QPdfPageRenderer::RenderMode::MultiThreaded);
-    m_renderer.setDocument(m_file.document.get());
-    connect(&m_renderer, &QPdfPageRenderer::pageRendered, this,
-            [this](int, QSize, const QImage &image, auto, quint64 order) { finish(order, image); });
+    // A file on another machine may take long to open.
+    auto open = [path] { return DecodingInput::file(path); };
+    PdfFile file;
+    file.input = co_await offThread(std::move(open));
+    if (file.input.isNull()) {
+        file.problem = u"Le fichier n'est plus là."_s;
+        co_return file;
+    }
+    const DecodingRequest request{.kind = DecodingKind::Pages};
+    const Decoded result = co_await decoders.decode(file.input, request);
+    file.pages = result.pages;
+    file.pageCount = result.pageCount;
+    file.problem = problemOf(result.status);
+    co_return file;
 }
 
 quint64 PdfWork::draw(int page, QSize pixels)
 {
-    ++m_pending;
-    return m_renderer.requestPage(page, pixels);
+    const quint64 order = ++m_lastOrder;
+    spawn(finish(order, {.kind = DecodingKind::Page, .index = page, .bound = pixels}));
+    return order;
 }
 
-void PdfWork::leave()
+QCoro::Task<> PdfWork::finish(quint64 order, DecodingRequest request)
 {
-    m_isLeft = true;
-    if (m_pending == 0)
-        deleteLater();
-}
-
-void PdfWork::finish(quint64 order, const QImage &image)
-{
-    --m_pending;
-    Q_EMIT drawn(order, image);
-    if (m_isLeft)
-        leave();
+    const Decoded result = co_await whileAlive(this, m_decoders.decode(m_file.input, request));
+    Q_EMIT drawn(order, result.image);
 }

@@ -1,64 +1,53 @@
 #pragma once
 
-#include <QHash>
+#include "platform/decoding/Decoders.h"
+
+#include <QCoro/QCoroTask>
 #include <QImage>
 #include <QList>
 #include <QObject>
-#include <QPdfDocument>
-#include <QPdfPageRenderer>
 #include <QSizeF>
 #include <QString>
-#include <QThread>
-
-#include <memory>
 
 /// A PDF file, as far as it must be known before pages are drawn.
 struct PdfFile
 {
-    std::unique_ptr<QPdfDocument> document;
-    /// The sizes of the shown pages, in points.
+    DecodingInput input;
+    /// The sizes of the shown pages, in points. Empty for a page without a possible size.
     QList<QSizeF> pages;
+    /// The number of pages in the file.
+    int pageCount = 0;
     /// Why there are no pages, for the user; empty if there are.
     QString problem;
 
-    /// Reads a file. May be called from any thread; the document then belongs to the thread `home`. It may take long,
-    /// because it waits for a page that is being drawn, of whatever document.
-    static PdfFile read(const QString &path, QThread *home);
+    /// Reads a file in another process. The decoders must outlive the task.
+    static QCoro::Task<PdfFile> read(QString path, Decoders &decoders);
 };
 
-/// A PDF file and the thread that draws its pages. A page may take long to draw and cannot be interrupted, so the object
-/// outlives its user until the last page under way is done, and nobody waits for it.
+/// Draws the pages of a PDF file in another process.
 class PdfWork : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The user must call `leave` instead of destroying it.
-    static PdfWork *of(PdfFile file);
+    /// The decoders must outlive this object.
+    PdfWork(PdfFile file, Decoders &decoders) : m_file(std::move(file)), m_decoders(decoders) {}
 
     const QString &problem() const { return m_file.problem; }
     const QList<QSizeF> &pages() const { return m_file.pages; }
     /// The number of pages in the file.
-    int pageCount() const { return m_file.document->pageCount(); }
-    /// Draws a page outside the UI thread, and emits `drawn`. Returns the number of the order.
+    int pageCount() const { return m_file.pageCount; }
+    /// Draws a page, and emits `drawn` later. Returns the number of the order.
     quint64 draw(int page, QSize pixels);
-    /// Nobody uses it any more.
-    void leave();
 
 Q_SIGNALS:
+    /// The image is null if the page cannot be drawn.
     void drawn(quint64 order, const QImage &image);
 
 private:
-    explicit PdfWork(PdfFile file);
+    QCoro::Task<> finish(quint64 order, DecodingRequest request);
 
-    void finish(quint64 order, const QImage &image);
-
-    PdfFile m_file;
-    // Declared after the document, because its thread uses it.
-    QPdfPageRenderer m_renderer;
-    int m_pending = 0;
-    bool m_isLeft = false;
+    const PdfFile m_file;
+    Decoders &m_decoders;
+    quint64 m_lastOrder = 0;
 };
-
-/// The maximum number of pages that are shown.
-constexpr int MaximumPdfPages = 1000;

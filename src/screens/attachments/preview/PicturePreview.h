@@ -12,7 +12,7 @@
 
 #include <memory>
 
-/// A picture file that is decoded outside the UI thread. An animation moves while `moves` is true.
+/// A picture file that is decoded in another process. An animation moves while `moves` is true.
 class PicturePreview : public QObject
 {
     Q_OBJECT
@@ -49,7 +49,6 @@ Q_SIGNALS:
     void frameChanged();
 
 private:
-    struct Opened;
     using Reader = std::shared_ptr<PictureReader>;
 
     QCoro::Task<> load(QUrl url);

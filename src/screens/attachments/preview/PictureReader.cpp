@@ -1,38 +1,20 @@
 #include "screens/attachments/preview/PictureReader.h"
 
-#include <QFileInfo>
+#include "async/OffThread.h"
+
 #include <QLocale>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Formats that need an interpreter (SVG, PDF) are not decoded.
-constexpr std::array Formats{"png", "jpeg", "jpg", "gif", "bmp", "ico", "webp"};
 
 /// The smallest side of a level.
 constexpr int SmallestSide = 256;
 /// Frames with less are shown for `UsualDelay`, as in browsers, because such animations were made for slow machines.
 constexpr std::chrono::milliseconds ShortestDelay(20);
 constexpr std::chrono::milliseconds UsualDelay(100);
-
-bool isKnown(const QByteArray &format)
-{
-    return std::ranges::any_of(Formats, [&](const char *known) { return format == known; });
-}
-
-bool isJpeg(const QByteArray &format)
-{
-    return format == "jpeg" || format == "jpg";
-}
-
-qint64 pixelsOf(QSize size)
-{
-    return qint64(size.width()) * size.height();
-}
 
 QList<QImage> levelsOf(QImage image)
 {
@@ -44,6 +26,44 @@ QList<QImage> levelsOf(QImage image)
     return levels;
 }
 
+QString problemOf(const Decoded &result)
+{
+    if (result.status == DecodingStatus::TooLarge)
+        return tooLargePictureText(result.whole);
+    // The size is known if the beginning of the file could be read.
+    return result.whole.isEmpty()
+               ? u"Cette image est endommagée ou d'un format inconnu."_s
+               : u"Cette image est endommagée ou trop grande pour être affichée."_s;
+}
+
+std::chrono::milliseconds delayOf(const Decoded &result)
+{
+    return result.isAnimated && result.delay < ShortestDelay ? UsualDelay : result.delay;
+}
+
+QCoro::Task<DecodingInput> opened(QString path)
+{
+    // A file on another machine may take long to open.
+    auto open = [path] { return DecodingInput::file(path); };
+    co_return co_await offThread(std::move(open));
+}
+
+QCoro::Task<PictureFrame> frameOf(Decoded result)
+{
+    PictureFrame frame{.levels = {},
+                       .delay = delayOf(result),
+                       .whole = result.whole,
+                       .isAnimated = result.isAnimated,
+                       .problem = {}};
+    if (result.image.isNull()) {
+        frame.problem = problemOf(result);
+        co_return frame;
+    }
+    auto scale = [image = result.image] { return levelsOf(image); };
+    frame.levels = co_await offThread(std::move(scale));
+    co_return frame;
+}
+
 } // namespace
 
 QString tooLargePictureText(QSize size)
@@ -53,60 +73,19 @@ QString tooLargePictureText(QSize size)
         french.toString(size.width()), french.toString(size.height()));
 }
 
-PictureReader::PictureReader(QString path) : m_path(std::move(path)) {}
-
-void PictureReader::open()
+QCoro::Task<PictureFrame> PictureReader::next(std::shared_ptr<PictureReader> reader)
 {
-    m_reader = std::make_unique<QImageReader>(m_path);
-    m_reader->setDecideFormatFromContent(true);
-    m_reader->setAutoTransform(true);
-    QSize size = m_reader->size();
-    if (isJpeg(m_reader->format())) {
-        while (pixelsOf(size) > MaximumPixels)
-            size /= 2;
-        if (size != m_reader->size())
-            m_reader->setScaledSize(size);
+    while (true) {
+        if (reader->m_input.isNull())
+            reader->m_input = co_await opened(reader->m_path);
+        if (reader->m_input.isNull())
+            co_return PictureFrame{.levels = {}, .problem = u"Le fichier n'est plus là."_s};
+        const DecodingRequest request{
+            .kind = DecodingKind::Frame, .index = reader->m_index++, .mostPixels = MaximumPixels};
+        const Decoded result = co_await reader->m_decoders.decode(reader->m_input, request);
+        if (result.status != DecodingStatus::End || request.index == 0)
+            co_return co_await frameOf(result);
+        reader->m_index = 0;
+        reader->m_input = {};
     }
-}
-
-QString PictureReader::problem()
-{
-    if (!QFileInfo(m_path).isFile())
-        return u"Le fichier n'est plus là."_s;
-    open();
-    const QByteArray format = m_reader->format();
-    m_size = m_reader->size();
-    if (!isKnown(format) || m_size.isEmpty())
-        return u"Cette image est endommagée ou d'un format inconnu."_s;
-    if (pixelsOf(m_size) > (isJpeg(format) ? MaximumJpegPixels : MaximumPixels))
-        return tooLargePictureText(m_size);
-    if (m_reader->transformation() & QImageIOHandler::TransformationRotate90)
-        m_size.transpose();
-    // The number of images is that of the sizes in an icon, which is no animation.
-    m_isAnimated = m_reader->supportsAnimation() && m_reader->imageCount() != 1;
-    return {};
-}
-
-PictureFrame PictureReader::read()
-{
-    QImage image;
-    // The reader keeps the decoded part of a truncated picture, which is worth showing if it is all there is.
-    const bool isWhole = m_reader->read(&image);
-    if (image.isNull() || (!isWhole && m_isAnimated))
-        return {};
-    std::chrono::milliseconds delay(m_isAnimated ? m_reader->nextImageDelay() : 0);
-    if (m_isAnimated && delay < ShortestDelay)
-        delay = UsualDelay;
-    return {levelsOf(image), delay};
-}
-
-PictureFrame PictureReader::next()
-{
-    if (!m_reader)
-        open();
-    PictureFrame frame = read();
-    if (!frame.isNull() || !m_isAnimated)
-        return frame;
-    open();
-    return read();
 }

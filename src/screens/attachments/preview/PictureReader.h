@@ -1,7 +1,9 @@
 #pragma once
 
+#include "platform/decoding/Decoders.h"
+
+#include <QCoro/QCoroTask>
 #include <QImage>
-#include <QImageReader>
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -9,47 +11,46 @@
 #include <chrono>
 #include <memory>
 
-/// The maximum number of pixels that are decoded, which need 128 MB.
+/// The maximum number of pixels that are decoded, which need 128 MB. A JPEG may have three times as many, because it can
+/// be decoded at a fraction of its size.
 constexpr qint64 MaximumPixels = qint64(32) * 1024 * 1024;
-/// The maximum for a JPEG, which can be decoded at a fraction of its size.
-constexpr qint64 MaximumJpegPixels = qint64(96) * 1024 * 1024;
 
 /// One frame of a picture.
 struct PictureFrame
 {
     /// The frame, and the same at a half, a quarter and so on, so that it can be drawn small without losing details.
-    /// Empty after the last frame, or if it cannot be decoded.
+    /// Empty if it cannot be decoded.
     QList<QImage> levels;
     /// How long it is shown before the next one.
     std::chrono::milliseconds delay{0};
+    /// The size of the whole picture, as it is shown.
+    QSize whole;
+    bool isAnimated = false;
+    /// Why there is no frame, for the user.
+    QString problem;
 
     bool isNull() const { return levels.isEmpty(); }
 };
 
-/// Decodes a picture file frame by frame, with a limit on the memory that it needs. It may be used from any thread, but
-/// from one at a time.
+/// Reads a picture file frame by frame. It is decoded in another process, with a limit on the memory that it needs.
 class PictureReader
 {
 public:
-    explicit PictureReader(QString path);
+    /// The decoders must outlive this object.
+    explicit PictureReader(QString path, Decoders &decoders = Decoders::shared())
+        : m_path(std::move(path)), m_decoders(decoders)
+    {
+    }
 
-    /// Why the picture cannot be shown, for the user; empty if it can. The declared size is checked before anything is
-    /// decoded.
-    QString problem();
-    /// The size of the whole picture, as it is shown.
-    QSize size() const { return m_size; }
-    bool isAnimated() const { return m_isAnimated; }
-    /// The next frame. After the last frame of an animation, the first one again.
-    PictureFrame next();
+    /// The next frame. After the last frame of an animation, the first one again, for which the file is opened anew.
+    /// Must not be called again before the task has ended.
+    static QCoro::Task<PictureFrame> next(std::shared_ptr<PictureReader> reader);
 
 private:
-    void open();
-    PictureFrame read();
-
-    QString m_path;
-    std::unique_ptr<QImageReader> m_reader;
-    QSize m_size;
-    bool m_isAnimated = false;
+    const QString m_path;
+    Decoders &m_decoders;
+    DecodingInput m_input;
+    int m_index = 0;
 };
 
 /// "Cette image est trop grande pour être affichée (60 000 × 60 000 pixels)."
