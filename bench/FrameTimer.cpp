@@ -35,7 +35,7 @@ void FrameTimer::settle()
     QTimer quiet;
     quiet.setTimerType(Qt::PreciseTimer);
     QObject::connect(&quiet, &QTimer::timeout, &loop, &QEventLoop::quit);
-    QObject::connect(&m_watch, &FrameWatch::swapped, &quiet, [&quiet] { quiet.start(); });
+    QObject::connect(&m_watch, &SwapWatch::swapped, &quiet, [&quiet] { quiet.start(); });
     quiet.start(50ms);
     // A window that never stops drawing is measured anyway.
     QTimer::singleShot(1s, &loop, &QEventLoop::quit);
@@ -66,7 +66,7 @@ qint64 FrameTimer::answer(const std::function<void()> &act)
         time = instant - nextTaken();
         loop.quit();
     };
-    QObject::connect(&m_watch, &FrameWatch::swapped, &loop, onFrame);
+    QObject::connect(&m_watch, &SwapWatch::swapped, &loop, onFrame);
     QTimer::singleShot(2s, &loop, [] { qFatal("An act led to no frame."); });
     const auto start = monotonicNow();
     act();
@@ -81,7 +81,7 @@ FrameTimer::Scroll FrameTimer::scroll(int steps)
     QEventLoop loop;
     Scroll scroll;
     qint64 last = 0;
-    QObject::connect(&m_watch, &FrameWatch::swapped, &loop, [&](qint64 instant, bool isAnswer) {
+    QObject::connect(&m_watch, &SwapWatch::swapped, &loop, [&](qint64 instant, bool isAnswer) {
         if (!isAnswer)
             return;
         if (last != 0)

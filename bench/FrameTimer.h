@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 
 #include <chrono>
 #include <deque>
@@ -56,5 +56,5 @@ private:
     /// The times of the events assigned to frames whose swap was not reported yet. Both threads may write it, because
     /// this thread is blocked while a frame copies the state of the items.
     std::deque<qint64> m_taken;
-    FrameWatch m_watch;
+    SwapWatch m_watch;
 };

@@ -1,6 +1,6 @@
 #include "StartReport.h"
 
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 #include "ProcessMemory.h"
 
 #include <QJsonDocument>

@@ -2,7 +2,7 @@
 // the same window with one paragraph, and the memory that the blocks use. All windows are in one process, and the
 // subjects alternate.
 
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 #include "ProcessMemory.h"
 #include "richtext/ADFNodes.h"
 #include "screens/documents/view/DocumentReader.h"
@@ -149,8 +149,8 @@ qint64 openTime(QQmlComponent &component, const Subject &subject)
     const auto made = opened(component, subject);
     qint64 end = 0;
     QEventLoop loop;
-    FrameWatch watch(*qobject_cast<QQuickWindow *>(made.get()), [] { return true; });
-    QObject::connect(&watch, &FrameWatch::swapped, &loop, [&](qint64 instant, bool) {
+    SwapWatch watch(*qobject_cast<QQuickWindow *>(made.get()), [] { return true; });
+    QObject::connect(&watch, &SwapWatch::swapped, &loop, [&](qint64 instant, bool) {
         end = end > 0 ? end : instant;
         loop.quit();
     });

@@ -235,8 +235,8 @@ qint64 openTime(const std::function<QQuickWindow *()> &open)
     const qint64 start = monotonicNow();
     QEventLoop loop;
     qint64 end = 0;
-    FrameWatch watch(*open(), [] { return true; });
-    QObject::connect(&watch, &FrameWatch::swapped, &loop, [&](qint64 instant, bool) {
+    SwapWatch watch(*open(), [] { return true; });
+    QObject::connect(&watch, &SwapWatch::swapped, &loop, [&](qint64 instant, bool) {
         end = end > 0 ? end : instant;
         loop.quit();
     });

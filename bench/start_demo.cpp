@@ -2,7 +2,7 @@
 // start, a file of preferences, and "instant" if the demo should respond immediately.
 
 #include "BenchClock.h"
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 #include "StartReport.h"
 #include "app/Interpreter.h"
 #include "app/Renderer.h"
@@ -47,7 +47,7 @@ int main(int argc, char **argv)
         return 1;
     report.mark(u"loaded"_s);
     auto &window = *velmora.mainWindow();
-    const FrameWatch watch(window, [&window] { return holdsRow(*window.contentItem()); });
+    const SwapWatch watch(window, [&window] { return holdsRow(*window.contentItem()); });
     // If frames are drawn on another thread, a further frame may already be in progress.
     bool isDone = false;
     const auto onFrame = [&](qint64 instant, bool hasRows) {
@@ -59,6 +59,6 @@ int main(int argc, char **argv)
         report.print(watch.renderer());
         QApplication::quit();
     };
-    QObject::connect(&watch, &FrameWatch::swapped, &application, onFrame);
+    QObject::connect(&watch, &SwapWatch::swapped, &application, onFrame);
     return QApplication::exec();
 }

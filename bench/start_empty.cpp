@@ -1,7 +1,7 @@
 // Measures one start of a nearly empty window, in a program that links only the libraries needed for it.
 
 #include "EmptyWindow.h"
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 #include "StartReport.h"
 
 #include <QGuiApplication>
@@ -15,7 +15,7 @@ int main(int argc, char **argv)
     StartReport report(QGuiApplication::arguments());
     QQmlApplicationEngine engine;
     engine.loadData(emptyWindow());
-    const FrameWatch watch(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()),
+    const SwapWatch watch(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()),
                            [] { return true; });
     // If frames are drawn on another thread, a further frame may already be in progress.
     bool isDone = false;
@@ -26,6 +26,6 @@ int main(int argc, char **argv)
         report.print(watch.renderer());
         QGuiApplication::quit();
     };
-    QObject::connect(&watch, &FrameWatch::swapped, &application, finish);
+    QObject::connect(&watch, &SwapWatch::swapped, &application, finish);
     return QGuiApplication::exec();
 }

@@ -74,7 +74,7 @@ TEST_F(SiteImageFetcherTest, NextSignInTakesItsOwnCredentials)
 
 TEST_F(SiteImageFetcherTest, APictureOfMoreBytesThanAreReadIsGivenUpAtOnce)
 {
-    elsewhere.answer(RawAnswer::large(ImageLimits().bytes + 1, 1000, "image/png"));
+    elsewhere.answer(RawAnswer::large(ImageLoader::mostBytes + 1, 1000, "image/png"));
     EXPECT_TRUE(load(elsewhere.url().resolved(QUrl(u"/avatar.png"_s))).isNull());
 }
 
@@ -102,7 +102,7 @@ TEST_F(SiteImageFetcherTest, AFileOfMoreBytesThanAreReadIsNoPicture)
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     file.write(redPicture());
     // The rest takes no place on the disk.
-    ASSERT_TRUE(file.resize(ImageLimits().bytes + 1));
+    ASSERT_TRUE(file.resize(ImageLoader::mostBytes + 1));
     EXPECT_TRUE(load(QUrl::fromLocalFile(file.fileName())).isNull());
 }
 

@@ -9,8 +9,6 @@
 namespace {
 
 constexpr int firstRefusedStatus = 400;
-/// The maximum size of a file.
-constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
 /// The maximum number of pixels that a picture may have. Decoding needs up to about 100 MB.
 constexpr qint64 mostPixels = qint64(24) * 1024 * 1024;
 /// The box to which larger pictures are scaled down.
@@ -25,7 +23,7 @@ void settle(QPromise<QImage> &promise, const QImage &image)
 /// The picture in a file. Null if it is not one, or if it exceeds the limits.
 QCoro::Task<QImage> decoded(Decoders &decoders, QByteArray bytes)
 {
-    if (bytes.isEmpty() || bytes.size() > mostBytes)
+    if (bytes.isEmpty() || bytes.size() > ImageLoader::mostBytes)
         co_return QImage();
     const DecodingRequest request{
         .kind = DecodingKind::Picture, .bound = keptSize, .mostPixels = mostPixels};

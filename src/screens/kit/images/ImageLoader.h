@@ -22,6 +22,9 @@ class ImageLoader : public QObject
     Q_OBJECT
 
 public:
+    /// The maximum size of a file.
+    static constexpr qint64 mostBytes = qint64(16) * 1024 * 1024;
+
     /// The decoders must outlive this object.
     explicit ImageLoader(Decoders &decoders = Decoders::shared()) : m_decoders(decoders) {}
     ~ImageLoader() override;

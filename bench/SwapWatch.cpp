@@ -1,4 +1,4 @@
-#include "FrameWatch.h"
+#include "SwapWatch.h"
 
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
@@ -29,7 +29,7 @@ qint64 monotonicNow()
     return std::chrono::steady_clock::now().time_since_epoch() / std::chrono::nanoseconds(1);
 }
 
-FrameWatch::FrameWatch(QQuickWindow &window, std::function<bool()> counts)
+SwapWatch::SwapWatch(QQuickWindow &window, std::function<bool()> counts)
     : m_counts(std::move(counts))
 {
     const auto synchronized = [this, &window] {
@@ -42,7 +42,7 @@ FrameWatch::FrameWatch(QQuickWindow &window, std::function<bool()> counts)
     connect(&window, &QQuickWindow::frameSwapped, this, handedOver, Qt::DirectConnection);
 }
 
-void FrameWatch::describe(const QQuickWindow &window)
+void SwapWatch::describe(const QQuickWindow &window)
 {
     const bool isThreaded = QThread::currentThread() != thread();
     m_renderer = graphics(window.rendererInterface()->graphicsApi()) +

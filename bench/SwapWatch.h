@@ -9,13 +9,13 @@
 qint64 monotonicNow();
 
 /// Reports when the frames of a window were passed to the display, whichever thread draws them.
-class FrameWatch : public QObject
+class SwapWatch : public QObject
 {
     Q_OBJECT
 
 public:
     /// `counts` is called while a frame copies the state of the items; the UI thread is blocked during the call.
-    FrameWatch(QQuickWindow &window, std::function<bool()> counts);
+    SwapWatch(QQuickWindow &window, std::function<bool()> counts);
 
     /// The renderer and its render loop, e.g. "software, basic loop". Known once a frame was drawn.
     const QString &renderer() const { return m_renderer; }
