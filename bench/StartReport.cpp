@@ -1,7 +1,7 @@
 #include "StartReport.h"
 
-#include "SwapWatch.h"
 #include "ProcessMemory.h"
+#include "SwapWatch.h"
 
 #include <QJsonDocument>
 

@@ -2,8 +2,8 @@
 // the same window with one paragraph, and the memory that the blocks use. All windows are in one process, and the
 // subjects alternate.
 
-#include "SwapWatch.h"
 #include "ProcessMemory.h"
+#include "SwapWatch.h"
 #include "richtext/ADFNodes.h"
 #include "screens/documents/view/DocumentReader.h"
 #include "screens/kit/KitProviders.h"

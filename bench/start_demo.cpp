@@ -2,8 +2,8 @@
 // start, a file of preferences, and "instant" if the demo should respond immediately.
 
 #include "BenchClock.h"
-#include "SwapWatch.h"
 #include "StartReport.h"
+#include "SwapWatch.h"
 #include "app/Interpreter.h"
 #include "app/Renderer.h"
 #include "app/VelmoraApp.h"

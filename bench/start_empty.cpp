@@ -1,8 +1,8 @@
 // Measures one start of a nearly empty window, in a program that links only the libraries needed for it.
 
 #include "EmptyWindow.h"
-#include "SwapWatch.h"
 #include "StartReport.h"
+#include "SwapWatch.h"
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
@@ -16,7 +16,7 @@ int main(int argc, char **argv)
     QQmlApplicationEngine engine;
     engine.loadData(emptyWindow());
     const SwapWatch watch(*qobject_cast<QQuickWindow *>(engine.rootObjects().first()),
-                           [] { return true; });
+                          [] { return true; });
     // If frames are drawn on another thread, a further frame may already be in progress.
     bool isDone = false;
     const auto finish = [&](qint64 instant) {
