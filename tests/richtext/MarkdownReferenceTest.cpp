@@ -4,6 +4,7 @@
 #include <cmark-gfm.h>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -22,9 +23,9 @@ QString html(const QByteArray &text)
     cmark_parser_attach_syntax_extension(parser, cmark_find_syntax_extension("strikethrough"));
     cmark_parser_feed(parser, text.constData(), std::size_t(text.size()));
     cmark_node *document = cmark_parser_finish(parser);
-    char *rendered = cmark_render_html(document, options, nullptr);
-    const QString result = QString::fromUtf8(rendered);
-    std::free(rendered);
+    const std::unique_ptr<char, void (*)(void *)> rendered(
+        cmark_render_html(document, options, nullptr), std::free);
+    const QString result = QString::fromUtf8(rendered.get());
     cmark_node_free(document);
     cmark_parser_free(parser);
     return result;

@@ -92,6 +92,7 @@ TEST_F(DecodersTest, OneHelperDecodesOneAfterTheOtherAndTwoDecodeMany)
         ASSERT_TRUE(readsPictures(decoders));
     EXPECT_EQ(children(), first);
     std::vector<TaskResult<Decoded>> results;
+    results.reserve(20);
     for (int i = 0; i < 20; ++i)
         results.emplace_back(decoders.decode(DecodingInput::bytes(SamplePictures::picture("png")),
                                              pictureIn({50, 50})));
@@ -211,6 +212,7 @@ TEST_F(DecodersTest, WhoeverStillWaitsWhenItIsDestroyedGetsAFailure)
 {
     auto brief = std::make_unique<Decoders>(ownProgram(), clock);
     std::vector<TaskResult<Decoded>> results;
+    results.reserve(5);
     for (int i = 0; i < 5; ++i)
         results.emplace_back(brief->decode(
             DecodingInput::bytes(SamplePictures::picture("png", {2000, 2000})), frameAt(0)));

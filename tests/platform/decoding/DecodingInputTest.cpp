@@ -38,10 +38,10 @@ TEST(DecodingInput, HasANumberOfItsOwnThatItsCopiesShare)
 {
     const DecodingInput one = DecodingInput::bytes("a");
     const DecodingInput other = DecodingInput::bytes("a");
-    const DecodingInput copy = one;
+    const QList<DecodingInput> copies{one};
     EXPECT_NE(one.id(), other.id());
-    EXPECT_EQ(one.id(), copy.id());
-    EXPECT_EQ(one.descriptor(), copy.descriptor());
+    EXPECT_EQ(one.id(), copies.first().id());
+    EXPECT_EQ(one.descriptor(), copies.first().descriptor());
 }
 
 TEST(DecodingInput, WithoutContentHasNoFile)

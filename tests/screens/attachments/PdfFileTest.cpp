@@ -20,7 +20,7 @@ protected:
 
     static PdfFile read(const QString &path)
     {
-        const TaskResult file(PdfFile::read(path, Decoders::shared()));
+        const TaskResult file(PdfFile::read(path, &Decoders::shared()));
         EXPECT_TRUE(QTest::qWaitFor([&] { return file.isDone(); }));
         return file.isDone() ? file.value() : PdfFile();
     }

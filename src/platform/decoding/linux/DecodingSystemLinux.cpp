@@ -2,8 +2,8 @@
 #include "platform/decoding/linux/CallFilter.h"
 
 #include <csignal>
-#include <cstdio>
 #include <fcntl.h>
+#include <fstream>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -40,13 +40,10 @@ bool limit(int resource, rlim_t most)
 /// The addresses that this process uses now, in bytes; 0 if that cannot be told.
 rlim_t usedAddresses()
 {
-    std::FILE *file = std::fopen("/proc/self/statm", "re");
-    if (!file)
-        return 0;
-    unsigned long pages = 0;
-    const bool isRead = std::fscanf(file, "%lu", &pages) == 1;
-    std::fclose(file);
-    return isRead ? rlim_t(pages) * rlim_t(::sysconf(_SC_PAGESIZE)) : 0;
+    std::ifstream file("/proc/self/statm");
+    rlim_t pages = 0;
+    file >> pages;
+    return pages * rlim_t(::sysconf(_SC_PAGESIZE));
 }
 
 bool limitMemory()

@@ -31,7 +31,7 @@ void PdfPreview::setUrl(const QUrl &url)
 QCoro::Task<> PdfPreview::load(QString path)
 {
     Decoders &decoders = Decoders::shared();
-    const PdfFile file = co_await whileAlive(this, PdfFile::read(path, decoders));
+    const PdfFile file = co_await whileAlive(this, PdfFile::read(path, &decoders));
     m_work = std::make_unique<PdfWork>(file, decoders);
     m_isLoading = false;
     Q_EMIT changed();

@@ -22,7 +22,7 @@ QString problemOf(DecodingStatus status)
 
 } // namespace
 
-QCoro::Task<PdfFile> PdfFile::read(QString path, Decoders &decoders)
+QCoro::Task<PdfFile> PdfFile::read(QString path, Decoders *decoders)
 {
     // A file on another machine may take long to open.
     auto open = [path] { return DecodingInput::file(path); };
@@ -33,7 +33,7 @@ QCoro::Task<PdfFile> PdfFile::read(QString path, Decoders &decoders)
         co_return file;
     }
     const DecodingRequest request{.kind = DecodingKind::Pages};
-    const Decoded result = co_await decoders.decode(file.input, request);
+    const Decoded result = co_await decoders->decode(file.input, request);
     file.pages = result.pages;
     file.pageCount = result.pageCount;
     file.problem = problemOf(result.status);

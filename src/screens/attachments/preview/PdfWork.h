@@ -21,7 +21,7 @@ struct PdfFile
     QString problem;
 
     /// Reads a file in another process. The decoders must outlive the task.
-    static QCoro::Task<PdfFile> read(QString path, Decoders &decoders);
+    static QCoro::Task<PdfFile> read(QString path, Decoders *decoders);
 };
 
 /// Draws the pages of a PDF file in another process.

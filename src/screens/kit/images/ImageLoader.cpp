@@ -20,17 +20,6 @@ void settle(QPromise<QImage> &promise, const QImage &image)
     promise.finish();
 }
 
-/// The picture in a file. Null if it is not one, or if it exceeds the limits.
-QCoro::Task<QImage> decoded(Decoders &decoders, QByteArray bytes)
-{
-    if (bytes.isEmpty() || bytes.size() > ImageLoader::mostBytes)
-        co_return QImage();
-    const DecodingRequest request{
-        .kind = DecodingKind::Picture, .bound = keptSize, .mostPixels = mostPixels};
-    const Decoded result = co_await decoders.decode(DecodingInput::bytes(bytes), request);
-    co_return result.image;
-}
-
 } // namespace
 
 ImageLoader &ImageLoader::shared()
@@ -76,8 +65,14 @@ QFuture<QImage> ImageLoader::sharedRequest(const QUrl &url)
 QCoro::Task<> ImageLoader::load(QUrl url)
 {
     const QByteArray body = co_await whileAlive(this, bytes(url));
-    const QImage image = co_await whileAlive(this, decoded(m_decoders, body));
-    finish(url, image);
+    Decoded result;
+    if (!body.isEmpty() && body.size() <= mostBytes) {
+        const DecodingRequest request{
+            .kind = DecodingKind::Picture, .bound = keptSize, .mostPixels = mostPixels};
+        result = co_await whileAlive(this, m_decoders.decode(DecodingInput::bytes(body), request));
+    }
+    // Null if the file is no picture, or if it exceeds the limits.
+    finish(url, result.image);
 }
 
 QCoro::Task<QByteArray> ImageLoader::bytes(QUrl url)
