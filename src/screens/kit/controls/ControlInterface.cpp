@@ -3,19 +3,22 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The object `Accessible` of an item. While a screen reader is running, the templates of radio buttons create one of
+/// their own before that of QML, which alone has values.
 QObject *accessibleObjectOf(const QQuickItem &item)
 {
-    for (auto *child : item.children()) {
-        if (child->inherits("QQuickAccessibleAttached"))
-            return child;
-    }
-    return nullptr;
+    const auto children = item.children();
+    const auto found = std::find_if(children.rbegin(), children.rend(), [](const QObject *child) {
+        return child->inherits("QQuickAccessibleAttached");
+    });
+    return found == children.rend() ? nullptr : *found;
 }
 
 bool isIgnored(const QQuickItem &item)
@@ -60,8 +63,7 @@ void ControlInterface::install()
     QAccessible::installFactory(controlInterface);
 }
 
-ControlInterface::ControlInterface(QQuickItem &control)
-    : QAccessibleObject(&control), m_told(accessibleObjectOf(control))
+ControlInterface::ControlInterface(QQuickItem &control) : QAccessibleObject(&control)
 {
     QObject::connect(&control, &QQuickItem::enabledChanged, &control,
                      [item = &control] { tellStateChange(item); });
@@ -72,9 +74,15 @@ QQuickItem &ControlInterface::control() const
     return *static_cast<QQuickItem *>(object());
 }
 
+QObject *ControlInterface::told() const
+{
+    return accessibleObjectOf(control());
+}
+
 bool ControlInterface::isTold(const char *property) const
 {
-    return m_told && m_told->property(property).toBool();
+    const QObject *const object = told();
+    return object && object->property(property).toBool();
 }
 
 QWindow *ControlInterface::window() const
@@ -117,9 +125,10 @@ int ControlInterface::indexOfChild(const QAccessibleInterface *child) const
 
 QString ControlInterface::text(QAccessible::Text text) const
 {
-    if (!m_told || (text != QAccessible::Name && text != QAccessible::Description))
+    const QObject *const object = told();
+    if (!object || (text != QAccessible::Name && text != QAccessible::Description))
         return {};
-    return m_told->property(text == QAccessible::Name ? "name" : "description").toString();
+    return object->property(text == QAccessible::Name ? "name" : "description").toString();
 }
 
 QRect ControlInterface::rect() const
@@ -133,7 +142,8 @@ QRect ControlInterface::rect() const
 
 QAccessible::Role ControlInterface::role() const
 {
-    return m_told ? m_told->property("role").value<QAccessible::Role>() : QAccessible::NoRole;
+    const QObject *const object = told();
+    return object ? object->property("role").value<QAccessible::Role>() : QAccessible::NoRole;
 }
 
 QAccessible::State ControlInterface::state() const
@@ -183,5 +193,5 @@ void ControlInterface::doAction(const QString &name)
     if (name == setFocusAction())
         control().forceActiveFocus(Qt::OtherFocusReason);
     else
-        QMetaObject::invokeMethod(m_told, "pressAction");
+        QMetaObject::invokeMethod(told(), "pressAction");
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QAccessibleObject>
-#include <QPointer>
 
 class QQuickItem;
 
@@ -35,9 +34,8 @@ public:
 
 private:
     QQuickItem &control() const;
+    /// The object `Accessible` of the control. Not kept, because a template may create another one first.
+    QObject *told() const;
     bool isTold(const char *property) const;
     bool canBeToggled() const;
-
-    /// The object `Accessible` of the control.
-    QPointer<QObject> m_told;
 };
