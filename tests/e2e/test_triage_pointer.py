@@ -134,11 +134,13 @@ class TwentyWithoutKeyboard(TriageCase):
         self.drag(in_status("SUP", 3)[0], "En cours")
 
     def bring_card(self, key):
-        """Tilts the wheel, one notch at a time, until enough of the card is visible to drag it."""
+        """Tilts the wheel, one notch at a time, until the middle of the card is where a drag does not scroll the board."""
         for _ in range(12):
             cards = self.velmora.app.all(role="list item", name="^%s, " % key)
-            if cards and cards[0].rect[0] < self.size[0] - 100:
-                return
+            if cards:
+                x, _, width, _ = cards[0].rect
+                if x + width // 2 < self.size[0] - 70:
+                    return
             self.tilt()
         raise AssertionError("no way to %s" % key)
 
