@@ -14,7 +14,7 @@ namespace {
 /// their own before that of QML, which alone has values.
 QObject *accessibleObjectOf(const QQuickItem &item)
 {
-    const auto children = item.children();
+    const auto &children = item.children();
     const auto found = std::find_if(children.rbegin(), children.rend(), [](const QObject *child) {
         return child->inherits("QQuickAccessibleAttached");
     });
