@@ -65,11 +65,11 @@ void decodeHere(const QList<QByteArray> &files)
         decodedPicture(file, {.bound = Bound, .mostPixels = MostPixels});
 }
 
-QCoro::Task<> decodeThere(Decoders &decoders, QList<QByteArray> files)
+QCoro::Task<> decodeThere(Decoders *decoders, QList<QByteArray> files)
 {
     std::vector<QCoro::Task<Decoded>> tasks;
     for (const QByteArray &file : files)
-        tasks.push_back(decoders.decode(
+        tasks.push_back(decoders->decode(
             DecodingInput::bytes(file),
             {.kind = DecodingKind::Picture, .bound = Bound, .mostPixels = MostPixels}));
     int failed = 0;
@@ -84,8 +84,8 @@ void compare(int side, const QByteArray &program)
     const QList<QByteArray> files = avatars(side);
     SystemClock clock;
     Decoders decoders({program, {DecodingOption}}, clock);
-    const auto there = [&] { QCoro::waitFor(decodeThere(decoders, files)); };
-    const auto first = [&] { QCoro::waitFor(decodeThere(decoders, files.first(10))); };
+    const auto there = [&] { QCoro::waitFor(decodeThere(&decoders, files)); };
+    const auto first = [&] { QCoro::waitFor(decodeThere(&decoders, files.first(10))); };
     const double start = median(5, [&] {
         decoders.endHelpers();
         first();

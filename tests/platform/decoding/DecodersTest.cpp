@@ -4,6 +4,7 @@
 #include "screens/kit/images/SamplePictures.h"
 #include "support/RunUntil.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -38,7 +39,10 @@ QByteArray damaged(QByteArray bytes, QRandomGenerator &random)
 bool isDead(qint64 process)
 {
     QFile file(u"/proc/%1/stat"_s.arg(process));
-    return file.open(QFile::ReadOnly) && file.readAll().contains(") Z ");
+    // Its connection is closed when its last thread is gone, which may be later than its first.
+    const QDir threads(u"/proc/%1/task"_s.arg(process));
+    return file.open(QFile::ReadOnly) && file.readAll().contains(") Z ") &&
+           threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() <= 1;
 }
 
 class DecodersTest : public DecodersFixture
