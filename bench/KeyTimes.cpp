@@ -2,10 +2,23 @@
 
 #include "EmptyWindow.h"
 
+#include <QCoreApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
 
 using namespace Qt::StringLiterals;
+
+int presses()
+{
+    const auto given = QCoreApplication::arguments().value(1).toInt();
+    return given > 0 ? given : 300;
+}
+
+bool isMeasured(const QString &part)
+{
+    const auto only = QCoreApplication::arguments().value(2);
+    return only.isEmpty() || only == part;
+}
 
 std::vector<qint64> pressesOf(FrameTimer &timer, int count, Qt::Key key, const QString &text)
 {

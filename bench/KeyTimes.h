@@ -5,6 +5,12 @@
 
 #include <optional>
 
+/// The number of times each key is pressed: the first argument of the program, 300 by default.
+int presses();
+
+/// True if the part should be measured. The second argument of the program selects a single part by its name.
+bool isMeasured(const QString &part);
+
 /// Presses a key so many times, each time while the window is idle. Returns the nanoseconds of each press.
 std::vector<qint64> pressesOf(FrameTimer &timer, int count, Qt::Key key, const QString &text);
 

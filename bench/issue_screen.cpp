@@ -35,19 +35,6 @@ constexpr int Comments = 100;
 constexpr int Pictures = 60;
 constexpr qsizetype LongText = 20000;
 
-int presses()
-{
-    const auto given = QApplication::arguments().value(1).toInt();
-    return given > 0 ? given : 300;
-}
-
-/// True if the part should be measured. The second argument selects a single part: "walk", "typing" or "windows".
-bool isMeasured(const QString &part)
-{
-    const auto only = QApplication::arguments().value(2);
-    return only.isEmpty() || only == part;
-}
-
 ADFNode paragraph(int sentences)
 {
     return ADF::container(

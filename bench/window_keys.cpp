@@ -22,21 +22,6 @@ constexpr int Steps = 180;
 /// The number of repetitions of actions that redraw the whole window.
 constexpr int Turns = 40;
 
-/// The number of times each key is pressed: the first argument of the program, 300 by default.
-int presses()
-{
-    const auto given = QApplication::arguments().value(1).toInt();
-    return given > 0 ? given : 300;
-}
-
-/// True if the part should be measured. The second argument selects a single part: "palette", "layouts" (switching
-/// between list and board) or "lists" (all others).
-bool isMeasured(const QString &part)
-{
-    const auto only = QApplication::arguments().value(2);
-    return only.isEmpty() || only == part;
-}
-
 /// Types a letter that every issue contains and deletes it, then types a character that few issues contain and deletes
 /// it, and so on.
 std::vector<qint64> keystrokes(FrameTimer &timer, int count)
