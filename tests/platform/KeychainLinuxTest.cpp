@@ -1,5 +1,6 @@
 #include "platform/linux/KeychainLinux.h"
 
+#include "platform/AbruptBus.h"
 #include "platform/FakePrompter.h"
 #include "platform/KeyringDaemon.h"
 #include "platform/SilentService.h"
@@ -313,28 +314,49 @@ TEST_F(KeychainLinuxTest, whatWaitsWhenTheKeychainGoesIsCalledOff)
     EXPECT_EQ(clock.pending(), 0);
 }
 
+/// The keychain of a separate process that does not know the tests' bus.
+class OwnKeychain
+{
+public:
+    explicit OwnKeychain(const QString &bus)
+    {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.toUtf8());
+        m_keychain = std::make_unique<KeychainLinux>(m_clock);
+    }
+    TaskResult<Keychain::Lookup> read() { return TaskResult(m_keychain->read(Site)); }
+    static bool hasFailed(const TaskResult<Keychain::Lookup> &result)
+    {
+        return QTest::qWaitFor([&] { return result.isDone(); }) &&
+               std::holds_alternative<Keychain::Failed>(result.value());
+    }
+
+private:
+    ManualClock m_clock;
+    std::unique_ptr<KeychainLinux> m_keychain;
+};
+
 /// Runs in a separate process: reads, stops the bus during a second read, and reads again.
 [[noreturn]] void outliveTheBus()
 {
     auto bus = std::make_unique<PrivateBus>();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", bus->address().toUtf8());
-    ManualClock clock;
-    KeychainLinux keychain(clock);
-    QList<TaskResult<Keychain::Lookup>> results;
-    const auto read = [&] {
-        results += TaskResult(keychain.read(Site));
-        return results.last();
-    };
-    const auto hasFailed = [](const TaskResult<Keychain::Lookup> &result) {
-        return result.isDone() && std::holds_alternative<Keychain::Failed>(result.value());
-    };
-    const auto first = read();
-    bool isRight = QTest::qWaitFor([&] { return hasFailed(first); });
-    const auto second = read();
+    OwnKeychain keychain(bus->address());
+    bool isRight = OwnKeychain::hasFailed(keychain.read());
+    const auto second = keychain.read();
     bus.reset();
-    isRight = isRight && QTest::qWaitFor([&] { return hasFailed(second); });
-    const auto third = read();
-    isRight = isRight && QTest::qWaitFor([&] { return hasFailed(third); });
+    isRight = OwnKeychain::hasFailed(second) && isRight;
+    isRight = OwnKeychain::hasFailed(keychain.read()) && isRight;
+    std::exit(isRight ? 0 : 1);
+}
+
+/// Runs in a separate process: the bus stops when the connection has just been opened.
+[[noreturn]] void outliveTheOpening()
+{
+    const AbruptBus bus;
+    OwnKeychain keychain(bus.address());
+    bool isRight = true;
+    for (int count = 0; count < 10; ++count)
+        isRight = OwnKeychain::hasFailed(keychain.read()) && isRight;
+    isRight = isRight && bus.connectionsEnded >= 10;
     std::exit(isRight ? 0 : 1);
 }
 
@@ -342,6 +364,12 @@ TEST_F(KeychainLinuxTest, theEndOfTheBusDoesNotEndTheProgram)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(outliveTheBus(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(KeychainLinuxTest, aBusThatEndsWhileItIsBeingOpenedDoesNotEndTheProgram)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(outliveTheOpening(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include <QFile>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,6 +34,8 @@ PrivateBus::PrivateBus()
         return;
     config.write(Config.arg(m_folder.path()).toUtf8());
     config.close();
+    // Otherwise the daemon of a test that was killed would keep the files that it inherited open.
+    m_daemon.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     m_daemon.start(u"dbus-daemon"_s,
                    {u"--config-file"_s, config.fileName(), u"--nofork"_s, u"--print-address"_s});
     if (m_daemon.waitForStarted() && m_daemon.waitForReadyRead())

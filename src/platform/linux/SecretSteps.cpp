@@ -76,9 +76,28 @@ answered(SecretSteps::Calls calls, std::chrono::milliseconds limit, GLibCalls::S
     }
 }
 
-/// By default, GLib ends the process when the bus closes, so this is turned off.
+gboolean keepRunning(GSignalInvocationHint *, guint, const GValue *values, gpointer)
+{
+    g_dbus_connection_set_exit_on_close(G_DBUS_CONNECTION(g_value_get_object(values)), FALSE);
+    return TRUE;
+}
+
+/// By default, GLib ends the process when the session bus closes. The hook runs before GLib decides that. A connection
+/// can be told only once it is open, which is too late if the bus closes at that moment.
+void outliveEveryBus()
+{
+    static const gulong hook = [] {
+        const std::shared_ptr<void> type(g_type_class_ref(G_TYPE_DBUS_CONNECTION),
+                                         g_type_class_unref);
+        const guint closed = g_signal_lookup("closed", G_TYPE_DBUS_CONNECTION);
+        return g_signal_add_emission_hook(closed, 0, &keepRunning, nullptr, nullptr);
+    }();
+    Q_UNUSED(hook)
+}
+
 QCoro::Task<std::shared_ptr<GDBusConnection>> openBus(SecretSteps::Calls calls)
 {
+    outliveEveryBus();
     const GLibCalls::Start start = [](GCancellable *stop, GAsyncReadyCallback done, gpointer data) {
         g_bus_get(G_BUS_TYPE_SESSION, stop, done, data);
     };
@@ -87,7 +106,6 @@ QCoro::Task<std::shared_ptr<GDBusConnection>> openBus(SecretSteps::Calls calls)
     std::shared_ptr<GDBusConnection> bus(g_bus_get_finish(result.get(), error.out()),
                                          GLibRelease());
     error.throwIfSet();
-    g_dbus_connection_set_exit_on_close(bus.get(), FALSE);
     // On a closed bus, libsecret would report the missing response as "nothing found".
     if (g_dbus_connection_is_closed(bus.get()))
         throw KeychainRefusal(KeychainLinux::Absent);
