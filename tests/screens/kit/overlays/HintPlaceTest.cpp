@@ -46,3 +46,17 @@ TEST_F(HintPlace, IsOnThePageIfItsItemEndsBelowThePage)
 {
     EXPECT_EQ(hintOf(600).bottom(), 200 - 6);
 }
+
+TEST_F(HintPlace, IsGivenUpWithTheWindowThatClosesBeforeIt)
+{
+    auto *screen = m_bench.show(
+        u"Item { HintTip { objectName: 'hint'; shown: true; text: 'Un indice'; delay: 20 } }"_s);
+    ASSERT_NE(screen, nullptr) << m_bench.warnings();
+    const auto *hint = screen->findChild<QQuickItem *>(u"hint"_s);
+    ASSERT_TRUE(hint->property("item").value<QObject *>()) << "the hint waits for its delay";
+
+    screen->setParentItem(nullptr);
+
+    EXPECT_FALSE(hint->property("item").value<QObject *>());
+    EXPECT_EQ(m_bench.warnings(), "");
+}
