@@ -32,6 +32,7 @@ const QString content = uR"(FocusScope {
     property alias reading: reading
     property alias popover: popover
     property alias inner: inner
+    property alias title: title
     property alias menu: menu
     property alias sheet: sheet
     property int clicks: 0
@@ -51,7 +52,7 @@ const QString content = uR"(FocusScope {
         InputField { id: inner; name: "Chercher"; focus: true }
     }
     PopupMenu { id: menu; PopupMenuItem { text: "Backlog" } }
-    Sheet { id: sheet; name: "Nouveau ticket"; Item { width: 300; height: 100 } }
+    Sheet { id: sheet; name: "Nouveau ticket"; Item { width: 300; height: 100; InputField { id: title; name: "Titre" } } }
 })"_s;
 
 } // namespace
@@ -255,4 +256,28 @@ TEST_F(WindowLayersTest, APressBesideAPopoverOnlyClosesIt)
     QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen("popover"); }));
     EXPECT_EQ(clicks(), 0) << "the press reached the button below";
+}
+
+TEST_F(WindowLayersTest, APressOnALayerThatFadesOutDoesNotTakeTheFocusBackIntoIt)
+{
+    struct Case
+    {
+        const char *layer;
+        const char *field;
+    };
+    for (const Case &tried : {Case{"popover", "inner"}, Case{"sheet", "title"}}) {
+        SCOPED_TRACE(tried.layer);
+        open(tried.layer);
+        const auto place = item(tried.field)->mapToScene({10, 10}).toPoint();
+        QMetaObject::invokeMethod(part(tried.layer), "close");
+        ASSERT_TRUE(isOpen(tried.layer)) << "it fades out";
+
+        QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
+
+        EXPECT_FALSE(item(tried.field)->hasActiveFocus());
+        press(Qt::Key_J, u"j"_s);
+        EXPECT_EQ(part(tried.field)->property("text"), QString());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen(tried.layer); }));
+        EXPECT_TRUE(item("button")->hasActiveFocus());
+    }
 }
