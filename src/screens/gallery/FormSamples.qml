@@ -168,6 +168,20 @@ Item {
             readOnly: true
         }
 
+        NoticeBanner {
+            width: parent.width
+            symbol: "key.slash"
+            title: "Session enregistrée inaccessible"
+            reason: "Le trousseau du système est verrouillé. Déverrouille-le, puis réessaie."
+            action: "Réessayer"
+            actionSymbol: "arrow.clockwise"
+        }
+
+        InlineError {
+            width: parent.width
+            text: "E-mail ou token invalide. Vérifie que le token appartient bien à ce compte."
+        }
+
         SwatchPicker {
             name: "Couleur, inactive"
             choices: ["Indigo", "Bleu"]

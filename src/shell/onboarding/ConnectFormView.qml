@@ -29,11 +29,15 @@ FocusScope {
             height: notice.height + 4
             visible: root.store.hasCredentialsIssue
 
-            CredentialsNotice {
+            NoticeBanner {
                 id: notice
                 width: parent.width
+                symbol: "key.slash"
+                title: "Session enregistrée inaccessible"
                 reason: root.store.credentialsIssue
-                onRetried: root.store.retrySavedSession()
+                action: "Réessayer"
+                actionSymbol: "arrow.clockwise"
+                onTriggered: root.store.retrySavedSession()
             }
         }
 
@@ -65,7 +69,7 @@ FocusScope {
             onEdited: text => connectForm.token = text
         }
 
-        ConnectError {
+        InlineError {
             width: parent.width
             visible: connectForm.error !== ""
             text: connectForm.error

@@ -77,3 +77,34 @@ TEST(FormRow, GrowsWithAWrappedLabelAndItsCaption)
     EXPECT_LE(place(named(row, u"Sans effet sur le tableau."_s)).right(), place(toggle).left());
     EXPECT_EQ(bench.warnings(), "");
 }
+
+TEST(NoticeBanner, TellsWhatIsWrongAsAnAlertAndOffersItsAction)
+{
+    Bench bench;
+    auto *banner = bench.show(
+        u"NoticeBanner { property int count: 0; width: 380; symbol: 'key.slash'; title: 'Session'; "
+        "reason: 'Le trousseau est verrouillé.'; action: 'Réessayer'; "
+        "actionSymbol: 'arrow.clockwise'; onTriggered: count += 1 }"_s);
+    ASSERT_NE(banner, nullptr) << bench.warnings();
+    auto *known = Bench::accessible(banner);
+    EXPECT_EQ(known->role(), QAccessible::AlertMessage);
+    EXPECT_EQ(known->text(QAccessible::Name), u"Session. Le trousseau est verrouillé."_s);
+
+    named(banner, u"Réessayer"_s)->forceActiveFocus();
+    QTest::keyClick(&bench.window(), Qt::Key_Space);
+
+    EXPECT_EQ(banner->property("count"), 1);
+    EXPECT_EQ(bench.warnings(), "");
+}
+
+TEST(InlineError, IsAnAlertAsHighAsItsLines)
+{
+    Bench bench;
+    auto *error = bench.show(
+        u"InlineError { width: 200; text: 'Vérifie que le token appartient bien à ce compte.' }"_s);
+    ASSERT_NE(error, nullptr) << bench.warnings();
+    EXPECT_EQ(Bench::accessible(error)->role(), QAccessible::AlertMessage);
+    const qreal narrow = error->implicitHeight();
+    error->setWidth(900);
+    EXPECT_LT(error->implicitHeight(), narrow);
+}

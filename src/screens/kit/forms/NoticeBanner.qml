@@ -2,19 +2,24 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// Tells the user that a saved session could not be opened, why, and what to do.
+/// Tells what is wrong at the top of a page, why, and offers one action against it. Screen readers announce it as an
+/// alert.
 Rectangle {
     id: root
 
+    required property string symbol
+    required property string title
     required property string reason
+    required property string action
+    required property string actionSymbol
 
-    signal retried()
+    signal triggered()
 
     implicitHeight: content.height + 24
     radius: Metrics.radiusBubble
     color: Qt.rgba(Theme.orange.r, Theme.orange.g, Theme.orange.b, 0.14)
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: title.text + ". " + root.reason
+    Accessible.name: root.title + ". " + root.reason
 
     Column {
         id: content
@@ -24,19 +29,18 @@ Rectangle {
         spacing: 6
 
         Row {
-            spacing: 8
+            spacing: Metrics.gap
 
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
-                name: "key.slash"
+                name: root.symbol
                 size: 13
                 color: Theme.orangeText
             }
 
             AppText {
-                id: title
                 weight: Font.DemiBold
-                text: "Session enregistrée inaccessible"
+                text: root.title
                 Accessible.ignored: true
             }
         }
@@ -50,17 +54,17 @@ Rectangle {
         }
 
         Item {
-            width: retry.width
-            height: 4 + retry.height
+            width: button.width
+            height: 4 + button.height
 
             PushButton {
-                id: retry
+                id: button
                 y: 4
                 height: 26
                 leftPadding: 11
-                symbol: "arrow.clockwise"
-                text: "Réessayer"
-                onClicked: root.retried()
+                symbol: root.actionSymbol
+                text: root.action
+                onClicked: root.triggered()
             }
         }
     }

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// Why a sign-in failed.
+/// Says below the fields of a form why it was refused. Screen readers announce it as an alert.
 Item {
     id: root
 
