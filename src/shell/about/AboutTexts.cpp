@@ -17,8 +17,9 @@ constexpr double FirstWithoutDecimals = 100;
 
 QString AboutTexts::version(const QString &version, const QString &build)
 {
-    const QString known = version == "dev"_L1 ? QStringLiteral(VELMORA_VERSION) : version;
-    return u"Version "_s + known + u" (build "_s + build + u')';
+    if (version == "dev"_L1)
+        return u"Version "_s + QStringLiteral(VELMORA_VERSION);
+    return u"Version "_s + version + u" (build "_s + build + u')';
 }
 
 QString AboutTexts::time(std::optional<std::chrono::nanoseconds> time)

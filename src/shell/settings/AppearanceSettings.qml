@@ -126,22 +126,16 @@ SettingsPage {
         FormRow {
             text: "Regrouper par"
 
-            MenuPicker {
-                name: "Regrouper par"
-                choices: ["Statut", "Assigné", "Priorité", "Projet", "Aucun"]
-                current: root.store.grouping
-                onChosen: index => root.store.grouping = index
+            GroupingPicker {
+                store: root.store
             }
         }
 
         FormRow {
             text: "Trier par"
 
-            MenuPicker {
-                name: "Trier par"
-                choices: ["Priorité", "Mise à jour", "Création", "Numéro", "Ordre Jira"]
-                current: root.store.ordering
-                onChosen: index => root.store.ordering = index
+            OrderingPicker {
+                store: root.store
             }
         }
 

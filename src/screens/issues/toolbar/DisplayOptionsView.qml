@@ -42,13 +42,10 @@ Item {
             height: root.pickerLine
             text: "Regrouper par"
 
-            MenuPicker {
+            GroupingPicker {
                 id: grouping
-                name: "Regrouper par"
+                store: root.store
                 enabled: root.store.layout === Model.LayoutMode.List
-                choices: ["Statut", "Assigné", "Priorité", "Projet", "Aucun"]
-                current: root.store.grouping
-                onChosen: index => root.store.grouping = index
             }
         }
 
@@ -57,12 +54,9 @@ Item {
             height: root.pickerLine
             text: "Trier par"
 
-            MenuPicker {
+            OrderingPicker {
                 id: ordering
-                name: "Trier par"
-                choices: ["Priorité", "Mise à jour", "Création", "Numéro", "Ordre Jira"]
-                current: root.store.ordering
-                onChosen: index => root.store.ordering = index
+                store: root.store
             }
         }
 
