@@ -16,6 +16,8 @@ Item {
     property bool fadesAtTop: true
     property bool fadesAtBottom: true
 
+    /// The part of the content above what is visible, from 0 to 1.
+    readonly property real share: isHorizontal ? view.visibleArea.xPosition : view.visibleArea.yPosition
     readonly property real hiddenAbove: isHorizontal ? 0 : view.contentY - view.originY
     readonly property real hiddenBelow: isHorizontal ? 0
         : view.originY + view.contentHeight - view.contentY - view.height
@@ -65,7 +67,11 @@ Item {
         orientation: root.isHorizontal ? Qt.Horizontal : Qt.Vertical
         scrolls: root.view.moving
         size: root.isHorizontal ? root.view.visibleArea.widthRatio : root.view.visibleArea.heightRatio
-        position: root.isHorizontal ? root.view.visibleArea.xPosition : root.view.visibleArea.yPosition
-        onDragged: share => control.scrollTo(share)
+        position: root.share
+        // A list that estimates its length moves the held bar by itself.
+        onDragged: share => {
+            if (share !== root.share)
+                control.scrollTo(share);
+        }
     }
 }

@@ -51,12 +51,12 @@ QQuickItem *named(QQuickItem *root, const QString &name)
 class Scrolled : public testing::Test
 {
 protected:
-    void showPage()
+    void showPage(const QString &line = u"Rectangle { width: 600; height: 50; color: '#3366cc' }"_s)
     {
         show(u"Item { width: 600; height: 400\n"
              "ListView { id: v; objectName: 'page'; anchors.fill: parent; focus: true; model: 40\n"
-             "delegate: Rectangle { width: 600; height: 50; color: '#3366cc' } }\n"
-             "Scrolling { view: v; ground: '#ffffff' } }"_s);
+             "delegate: %1 }\n"
+             "Scrolling { view: v; ground: '#ffffff' } }"_s.arg(line));
         m_page = named(m_root, u"page"_s);
     }
     void showBoard()
@@ -234,6 +234,21 @@ TEST_F(Scrolled, TheScrollBarTellsScreenReadersThePosition)
     wheel({300, 200}, 100 * 120);
     EXPECT_NEAR(value->currentValue().toDouble(), 100, 0.01);
     m_bench.setToken("motion", "reduced", false);
+}
+
+TEST_F(Scrolled, TheBarOfAListThatEstimatesItsLengthIsDraggedWithoutALoop)
+{
+    showPage(u"Rectangle { required property int index; width: 600; height: 20 + index * 9 }"_s);
+    auto &window = m_bench.window();
+    for (const int place : {350, 40, 200, 390, 120}) {
+        QTest::mouseClick(&window, Qt::LeftButton, {}, {595, place});
+        QTest::mousePress(&window, Qt::LeftButton, {}, {595, place});
+        QTest::mouseMove(&window, {595, place / 2});
+        QTest::mouseRelease(&window, Qt::LeftButton, {}, {595, place / 2});
+    }
+
+    EXPECT_GT(y(m_page), m_page->property("originY").toDouble());
+    EXPECT_EQ(m_bench.warnings(), "");
 }
 
 TEST_F(Scrolled, OverHeadsAndShortColumnsTheWheelScrollsTheBoardSideways)
