@@ -252,7 +252,9 @@ protected:
     void clickSomewhere()
     {
         const auto before = state();
-        const auto *item = isContentOnTop() || !top() ? nullptr : top()->item();
+        // Suggestions leave the focus in the text. They do not cover what is beside them.
+        const bool isCovered = !isContentOnTop() && top() && !top()->leavesFocus();
+        const auto *item = isCovered ? top()->item() : nullptr;
         const QPoint place(random.bounded(window().width()), random.bounded(window().height()));
         const bool isBeside = item && !item->contains(item->mapFromScene(place));
         const auto button = random.bounded(3) ? Qt::LeftButton : Qt::RightButton;
