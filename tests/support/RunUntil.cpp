@@ -7,7 +7,7 @@
 
 bool runUntil(const std::function<bool()> &condition)
 {
-    const QDeadlineTimer deadline(std::chrono::seconds(10));
+    const QDeadlineTimer deadline(std::chrono::minutes(1));
     // Wakes the event loop regularly, even if there are no events.
     QTimer wake;
     wake.start(std::chrono::milliseconds(20));
