@@ -1,6 +1,5 @@
 #include "screens/palette/PaletteSources.h"
 
-#include "state/palette/PaletteIssues.h"
 #include "state/palette/PaletteNavigation.h"
 
 namespace {
@@ -36,23 +35,8 @@ IssueList PaletteSources::found(const AppStore &store, const QString &query,
     if (query.trimmed().isEmpty())
         return {};
     const auto &derivation = store.derivation();
-    prepareOpenIssues(store);
-    return paletteIssues(query,
-                         {{derivation.inputs().issues, derivation.searchTexts()},
-                          {m_openIssues.issues(), m_openIssues.texts()}},
-                         remote);
-}
-
-void PaletteSources::prepareOpenIssues(const AppStore &store)
-{
-    const auto &listed = store.derivation().inputs().issues;
-    // Compares identity and not equality, because comparing the contents may take time linear in both.
-    if (m_listed.constData() == listed.constData() &&
-        m_open.constData() == store.myOpenIssues().constData())
-        return;
-    m_listed = listed;
-    m_open = store.myOpenIssues();
-    m_openIssues.update(notYetSearched(m_open, m_listed));
+    const SearchableIssues listed{derivation.inputs().issues, derivation.searchTexts()};
+    return paletteIssues(query, m_inMemory.lists(listed, store.myOpenIssues()), remote);
 }
 
 const SearchableItems &PaletteSources::actions(const AppStore &store, const QStringList &targets)

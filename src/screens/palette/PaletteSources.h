@@ -1,7 +1,7 @@
 #pragma once
 
-#include "derivation/IssueDerivationIndex.h"
 #include "state/AppStore.h"
+#include "state/palette/IssuesInMemory.h"
 #include "state/palette/PaletteActions.h"
 #include "state/palette/PaletteSections.h"
 
@@ -26,7 +26,6 @@ private:
     QList<PaletteSection> root(const AppStore &store, const QStringList &targets,
                                const QString &query, const IssueList &remote);
     IssueList found(const AppStore &store, const QString &query, const IssueList &remote);
-    void prepareOpenIssues(const AppStore &store);
     const SearchableItems &actions(const AppStore &store, const QStringList &targets);
     const SearchableItems &destinations(const AppStore &store);
     const SearchableItems &options(const AppStore &store, const PaletteMode::Picker &picker);
@@ -37,9 +36,5 @@ private:
     Recap::People m_people = Recap::People::Me;
     std::optional<SearchableItems> m_destinations;
     std::optional<SearchableItems> m_options;
-    /// The inputs from which `m_openIssues` was computed.
-    IssueList m_listed;
-    IssueList m_open;
-    /// The open issues that are not among the listed ones.
-    IssueIndex m_openIssues;
+    IssuesInMemory m_inMemory;
 };

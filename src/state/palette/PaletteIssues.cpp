@@ -3,6 +3,9 @@
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +38,27 @@ void addMatching(FirstIssues &found, const SearchableIssues &list, const QByteAr
     }
 }
 
+/// The needles of the words, without those that are empty when folded.
+QByteArrayList needles(const QStringList &words)
+{
+    QByteArrayList all;
+    for (const QString &word : words)
+        all += SearchTexts::needle(word);
+    all.removeAll(QByteArray());
+    return all;
+}
+
+void addOpenWithAll(FirstIssues &found, const SearchableIssues &list, const QByteArrayList &needles)
+{
+    std::vector<quint8> hits(list.issues.size(), 1);
+    for (const auto &needle : needles)
+        std::ranges::transform(hits, list.texts.containing(needle), hits.begin(), std::bit_and<>());
+    for (qsizetype i = 0; i < list.issues.size() && !found.isFull(); ++i) {
+        if (hits[i] && !isClosed(list.issues[i]->status.category()))
+            found.add(list.issues[i]);
+    }
+}
+
 } // namespace
 
 IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lists,
@@ -51,6 +75,17 @@ IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lis
     }
     for (const auto &issue : remote)
         found.add(issue);
+    return found.issues();
+}
+
+IssueList openIssuesWith(const QStringList &words, const QList<SearchableIssues> &lists)
+{
+    FirstIssues found;
+    const QByteArrayList all = needles(words);
+    for (const auto &list : lists) {
+        if (!all.isEmpty())
+            addOpenWithAll(found, list, all);
+    }
     return found.issues();
 }
 

@@ -19,6 +19,10 @@ struct SearchableIssues
 IssueList paletteIssues(const QString &query, const QList<SearchableIssues> &lists,
                         const IssueList &remote);
 
+/// The open issues that contain every one of the words, compared as `paletteIssues` does, in the order of the lists and
+/// each once; at most `mostPaletteIssues`. Words that are empty when folded are left out; without words there are no issues.
+IssueList openIssuesWith(const QStringList &words, const QList<SearchableIssues> &lists);
+
 /// The issues of a list that are not covered by a search in `searched`: those whose key is not in it, or is in it with
 /// different texts. The other issues need not be searched again, nor their texts stored twice.
 IssueList notYetSearched(const IssueList &issues, const IssueList &searched);

@@ -73,6 +73,44 @@ TEST(PaletteIssues, ADiacriticAloneIsContainedNowhereInMemory)
     EXPECT_TRUE(paletteIssues(u"\u0301"_s, {list}, {}).isEmpty());
 }
 
+TEST(PaletteIssues, EveryWordIsLookedForInAnOpenIssue)
+{
+    Issue closed = issue(u"MOB-1"_s, u"Export des factures"_s);
+    closed.status = IssueStatus(u"3"_s, u"Terminé"_s, u"done"_s);
+    Issue labelled = issue(u"MOB-2"_s, u"Export CSV"_s);
+    labelled.labels = {u"Factures"_s};
+    const Prepared list({closed, labelled, issue(u"MOB-3"_s, u"Export PDF"_s),
+                         issue(u"MOB-4"_s, u"FACTURES, puis export"_s)});
+    const Prepared open({issue(u"MOB-4"_s, u"Une copie: export, factures"_s),
+                         issue(u"WEB-9"_s, u"Factures sans éxport"_s)});
+
+    EXPECT_EQ(keys(openIssuesWith({u"export"_s, u" "_s, u"factures"_s}, {list, open})),
+              (QStringList{u"MOB-2"_s, u"MOB-4"_s, u"WEB-9"_s}));
+    EXPECT_EQ(keys(openIssuesWith({u"web-9"_s}, {list, open})), QStringList{u"WEB-9"_s});
+}
+
+TEST(PaletteIssues, ClosedIssuesTakeNoPlaceAmongTheOpenOnes)
+{
+    IssueList many;
+    for (int i = 0; i < mostPaletteIssues; ++i) {
+        Issue closed = issue(u"DONE-"_s + QString::number(i));
+        closed.status = IssueStatus(u"3"_s, u"Terminé"_s, u"done"_s);
+        many.append(closed);
+    }
+    many += numbered(u"A"_s, int(mostPaletteIssues) + 1, u"Résumé"_s);
+    const Prepared list(many);
+    const auto found = openIssuesWith({u"resume"_s}, {list});
+    EXPECT_EQ(found.size(), mostPaletteIssues);
+    EXPECT_EQ(found.first()->key, u"A-1"_s);
+}
+
+TEST(PaletteIssues, WithoutWordsThereIsNoOpenIssue)
+{
+    const Prepared list({issue(u"MOB-1"_s, u"e\u0301te\u0301"_s)});
+    EXPECT_TRUE(openIssuesWith({}, {list}).isEmpty());
+    EXPECT_TRUE(openIssuesWith({QString(), u" \t"_s, u"\u0301"_s}, {list}).isEmpty());
+}
+
 TEST(PaletteIssues, TheListComesBeforeTheUsersOpenIssues)
 {
     const Prepared list({issue(u"B-1"_s), issue(u"B-2"_s)});
