@@ -12,7 +12,7 @@ namespace {
 constexpr std::chrono::milliseconds RetryPause = 50ms;
 constexpr std::chrono::milliseconds AnswerLimit = 2000ms;
 const QByteArray Answer = "ok\n";
-// A question is one line: the activation token, a tab, and the request in Base64.
+// A question is one line: the activation token, and the request and the startup id in Base64, separated by tabs.
 constexpr char Separator = '\t';
 
 /// The name must be short, because the path of a local socket is limited to about a hundred characters.
@@ -38,8 +38,9 @@ SingleInstance::SingleInstance(const QString &profile, Clock &clock)
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 
-void SingleInstance::start(const QByteArray &request)
+void SingleInstance::start(const QByteArray &request, const Activation &activation)
 {
+    m_activation = activation;
     if (request.size() <= LargestRequest)
         m_request = request;
     m_limit = m_clock.after(AnswerLimit, [this] { giveUp(); });
@@ -72,7 +73,9 @@ void SingleInstance::answer()
             return;
         const QByteArrayList words = socket->readLine().chopped(1).split(Separator);
         socket->write(Answer);
-        Q_EMIT asked(words.first(), QByteArray::fromBase64(words.value(1)));
+        const auto startupId = QByteArray::fromBase64(words.value(2));
+        Q_EMIT asked(Activation::of(words.first(), startupId),
+                     QByteArray::fromBase64(words.value(1)));
     });
 }
 
@@ -87,7 +90,8 @@ void SingleInstance::ask()
     connect(m_socket.get(), &QLocalSocket::errorOccurred, this,
             [this] { m_retry = m_clock.after(RetryPause, [this] { retry(); }); });
     m_socket->connectToServer(m_name);
-    m_socket->write(qgetenv("XDG_ACTIVATION_TOKEN") + Separator + m_request.toBase64() + '\n');
+    m_socket->write(m_activation.token + Separator + m_request.toBase64() + Separator +
+                    m_activation.startupId.toBase64() + '\n');
 }
 
 void SingleInstance::giveUp()

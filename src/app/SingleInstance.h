@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/Activation.h"
 #include "platform/Clock.h"
 
 #include <QLocalServer>
@@ -10,8 +11,8 @@
 #include <memory>
 
 /// Ensures that only one process per profile runs. Later processes ask the first one to show itself, pass on what they were
-/// asked to open, and then end. A
-/// process that owns the profile but does not respond within two seconds is treated as ended.
+/// asked for, and then end. A process that owns the profile but does not respond within two seconds is treated as ended.
+/// This works without a session bus; what the desktop asks for over the bus is carried out by the same `RequestHandler`.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -20,21 +21,21 @@ public:
     /// `profile` identifies the profile; any text. The clock must outlive this object.
     SingleInstance(const QString &profile, Clock &clock);
 
-    /// What a process asks another one to open has at most this many bytes. Longer requests are not passed on.
+    /// What a process asks another one for has at most this many bytes. Longer requests are not passed on.
     static constexpr qsizetype LargestRequest = 4096;
 
     /// Determines which process this is. One of the signals `isFirst` and `isSecond` follows, possibly before this
-    /// returns. `request` is what the process was asked to open; it may be any bytes.
-    void start(const QByteArray &request = {});
+    /// returns. `request` is what the process was asked for, see `Requests`; it may be any bytes. `activation` is what the
+    /// desktop has passed to the process.
+    void start(const QByteArray &request = {}, const Activation &activation = {});
 
 Q_SIGNALS:
     /// This is the first process of the profile, or the other process does not respond.
     void isFirst();
     /// Another process is running and was asked to show itself.
     void isSecond();
-    /// Another process asked this one to show itself. `token` is the activation token that the desktop requires to
-    /// bring a window to the front; it may be empty. So may `request`, which is what the other process was asked to open.
-    void asked(const QByteArray &token, const QByteArray &request);
+    /// Another process asked this one to show itself, and passed on its activation and its request. Both may be empty.
+    void asked(const Activation &activation, const QByteArray &request);
 
 private:
     void listen();
@@ -45,6 +46,7 @@ private:
 
     QString m_name;
     QByteArray m_request;
+    Activation m_activation;
     Clock &m_clock;
     QLockFile m_lock;
     QLocalServer m_server;

@@ -1,26 +1,17 @@
-#include "app/AddressOpener.h"
 #include "app/Interpreter.h"
 #include "app/Renderer.h"
+#include "app/RequestHandler.h"
 #include "app/SingleInstance.h"
 #include "app/VelmoraApp.h"
+#include "desktop/DesktopServices.h"
 #include "platform/TerminationSignals.h"
 #include "platform/decoding/helper/DecodeMain.h"
 
 #include <QApplication>
 #include <QStandardPaths>
 
+#include <memory>
 #include <optional>
-
-namespace {
-
-/// Passes the desktop's activation token to the next window, so that the desktop brings it to the front.
-void takeToken(const QByteArray &token)
-{
-    if (!token.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", token);
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -30,6 +21,7 @@ int main(int argc, char **argv)
     interpretAtFirst();
     QApplication::setApplicationName(QStringLiteral("Velmora"));
     QApplication::setDesktopFileName(QStringLiteral("fr.orvantis.Velmora"));
+    const Activation activation = Activation::ofEnvironment();
     const QApplication application(argc, argv);
     // `AppDelegate` decides when the process ends.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -37,25 +29,27 @@ int main(int argc, char **argv)
     SystemClock clock;
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation),
                             clock);
-    const QString address = QApplication::arguments().value(1);
+    const QByteArray request = QApplication::arguments().value(1).toUtf8();
     std::optional<VelmoraApp> velmora;
-    std::optional<AddressOpener> opener;
+    std::optional<RequestHandler> requests;
+    std::unique_ptr<DesktopServices> services;
     QObject::connect(&instance, &SingleInstance::isSecond, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     QObject::connect(&instance, &SingleInstance::isFirst, &application, [&] {
         velmora.emplace();
-        opener.emplace(velmora->store(), velmora->scenes());
+        requests.emplace(velmora->store(), velmora->scenes());
         if (!velmora->open())
             return QApplication::exit(1);
-        opener->open(address);
+        if (!request.isEmpty())
+            requests->carryOut({}, request);
+        services = DesktopServices::ofThisSystem(velmora->store());
+        if (services)
+            QObject::connect(services.get(), &DesktopServices::asked, &*requests,
+                             &RequestHandler::carryOut);
     });
     QObject::connect(&instance, &SingleInstance::asked, &application,
-                     [&velmora, &opener](const QByteArray &token, const QByteArray &request) {
-                         takeToken(token);
-                         if (request.isEmpty())
-                             velmora->delegate().showMainWindow();
-                         else
-                             opener->open(QString::fromUtf8(request));
+                     [&requests](const Activation &token, const QByteArray &asked) {
+                         requests->carryOut(token, asked);
                      });
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::asked, &application, [&velmora] {
@@ -64,6 +58,6 @@ int main(int argc, char **argv)
         else
             QApplication::quit();
     });
-    instance.start(address.toUtf8());
+    instance.start(request, activation);
     return QApplication::exec();
 }

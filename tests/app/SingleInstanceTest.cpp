@@ -30,19 +30,18 @@ TEST_F(SingleInstanceTest, AProcessAloneIsTheFirst)
 
 TEST_F(SingleInstanceTest, ASecondOneAsksTheFirstToShowItself)
 {
-    qputenv("XDG_ACTIVATION_TOKEN", "jeton");
+    const Activation activation{"jeton", "id\twith\nanything_TIME4711"};
     SingleInstance one(profile, clock);
     one.start();
     QSignalSpy asked(&one, &SingleInstance::asked);
     SingleInstance two(profile, clock);
     QSignalSpy first(&two, &SingleInstance::isFirst);
     QSignalSpy second(&two, &SingleInstance::isSecond);
-    two.start();
+    two.start({}, activation);
     EXPECT_TRUE(QTest::qWaitFor([&] { return second.count() == 1; }));
-    qunsetenv("XDG_ACTIVATION_TOKEN");
     EXPECT_EQ(first.count(), 0);
     ASSERT_EQ(asked.count(), 1);
-    EXPECT_EQ(asked.first().first().toByteArray(), "jeton");
+    EXPECT_EQ(asked.first().first().value<Activation>(), activation);
 }
 
 TEST_F(SingleInstanceTest, ASecondOnePassesOnWhatItWasAskedToOpen)

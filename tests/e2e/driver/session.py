@@ -147,13 +147,13 @@ class Session:
         if tray:
             self.tray_host = TrayHost(self.env["DBUS_SESSION_BUS_ADDRESS"])
 
-    def _has_name(self, name):
+    def has_name(self, name):
         bus = "org.freedesktop.DBus"
         return self.dbus().call_sync(bus, "/org/freedesktop/DBus", bus, "NameHasOwner", GLib.Variant("(s)", (name,)),
                                      None, 0, 5000, None).unpack()[0]
 
     def _wait_name(self, name):
-        wait_until(lambda: self._has_name(name), 15, 0.02, name)
+        wait_until(lambda: self.has_name(name), 15, 0.02, name)
 
     def dbus(self):
         if self._bus is None:

@@ -1,0 +1,58 @@
+#include "app/RequestHandler.h"
+
+#include "desktop/Requests.h"
+
+#include <utility>
+
+namespace {
+
+std::optional<Command> actionOf(const QByteArray &request)
+{
+    if (request == Requests::NewIssue)
+        return Command::NewIssue;
+    if (request == Requests::Palette)
+        return Command::TogglePalette;
+    if (request == Requests::Refresh)
+        return Command::Reload;
+    return std::nullopt;
+}
+
+} // namespace
+
+RequestHandler::RequestHandler(AppStore &store, Scenes &scenes)
+    : m_store(store), m_scenes(scenes), m_opener(store, scenes)
+{
+    connect(&m_store, &AppStore::phaseChanged, this, &RequestHandler::startWaiting);
+}
+
+void RequestHandler::carryOut(const Activation &activation, const QByteArray &request)
+{
+    activation.use();
+    const auto action = actionOf(request);
+    if (!action && !request.isEmpty())
+        return m_opener.open(QString::fromUtf8(request));
+    // The window is shown first, because what an action opens is part of it.
+    m_scenes.showMain();
+    m_waiting = action;
+    startWaiting();
+}
+
+void RequestHandler::startWaiting()
+{
+    if (m_store.phase() != AppStore::Phase::Ready)
+        return;
+    if (const auto action = std::exchange(m_waiting, std::nullopt))
+        start(*action);
+}
+
+/// An issue that is being written stays as it is, and the palette is opened, never closed.
+void RequestHandler::start(Command action)
+{
+    if (m_store.isCreating() && action != Command::Reload)
+        return;
+    if (action == Command::TogglePalette)
+        return m_store.setPalette(PaletteMode::root());
+    if (action == Command::NewIssue)
+        m_store.closePalette();
+    m_store.run(action);
+}

@@ -1,0 +1,110 @@
+#include "app/RequestHandler.h"
+
+#include "app/WindowFixture.h"
+#include "desktop/Requests.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class RequestHandling : public WindowFixture
+{
+protected:
+    RequestHandling()
+    {
+        serve({u"MOB-1"_s, u"MOB-2"_s});
+        service->issueCalls.answerBy(
+            [this](const QString &key) { return *store().issue(key).value_or(SharedIssue()); });
+    }
+    void request(const QByteArray &text) { handler->carryOut({}, text); }
+    /// Call it once the window is open.
+    void listen() { handler = std::make_unique<RequestHandler>(store(), app->scenes()); }
+
+    void TearDown() override { handler.reset(); }
+
+    std::unique_ptr<RequestHandler> handler;
+};
+
+TEST_F(RequestHandling, WithoutATextTheMainWindowComesBack)
+{
+    openOnDemo();
+    listen();
+    // The process continues as long as a window is open.
+    app->scenes().showSettings();
+    window().close();
+    ASSERT_FALSE(window().isVisible());
+    request({});
+    EXPECT_TRUE(window().isVisible());
+}
+
+TEST_F(RequestHandling, AnAddressOpensTheWindowOfTheIssue)
+{
+    openOnDemo();
+    listen();
+    request(Requests::toOpen(u"MOB-2"_s));
+    EXPECT_TRUE(app->scenes().issueWindow(u"MOB-2"_s));
+}
+
+TEST_F(RequestHandling, ANewIssueIsWrittenInPlaceOfThePalette)
+{
+    openOnDemo();
+    listen();
+    store().setPalette(PaletteMode::root());
+    request(Requests::NewIssue);
+    EXPECT_TRUE(store().isCreating());
+    EXPECT_FALSE(store().palette());
+    await(QAccessible::EditableText, u"Titre"_s);
+}
+
+TEST_F(RequestHandling, ThePaletteIsOpenedAndNeverClosed)
+{
+    openOnDemo();
+    listen();
+    request(Requests::Palette);
+    request(Requests::Palette);
+    EXPECT_TRUE(store().palette());
+}
+
+TEST_F(RequestHandling, AnIssueThatIsBeingWrittenStaysInFront)
+{
+    openOnDemo();
+    listen();
+    store().newIssue();
+    request(Requests::Palette);
+    request(Requests::NewIssue);
+    EXPECT_TRUE(store().isCreating());
+    EXPECT_FALSE(store().palette());
+}
+
+TEST_F(RequestHandling, RefreshingFetchesTheListAgain)
+{
+    openOnDemo();
+    listen();
+    const auto before = service->issuesCalls.count();
+    request(Requests::Refresh);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return service->issuesCalls.count() > before; }));
+}
+
+TEST_F(RequestHandling, AnActionWaitsForTheSession)
+{
+    openSignedOut();
+    listen();
+    request(Requests::Palette);
+    request(Requests::NewIssue);
+    EXPECT_FALSE(store().isCreating());
+    click(find(QAccessible::Button, u"Explorer en mode démo"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return store().isCreating(); }));
+    EXPECT_FALSE(store().palette());
+}
+
+TEST_F(RequestHandling, OtherTextsDoNothing)
+{
+    openOnDemo();
+    listen();
+    const auto before = QGuiApplication::topLevelWindows().size();
+    for (const QByteArray &text : {QByteArray("--unknown"), QByteArray("\xff\x00\n", 3),
+                                   QByteArray(10'000, 'x'), QByteArray("--palette ")})
+        request(text);
+    EXPECT_EQ(QGuiApplication::topLevelWindows().size(), before);
+    EXPECT_FALSE(store().palette());
+}
