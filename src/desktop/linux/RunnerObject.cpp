@@ -31,10 +31,10 @@ QDBusArgument &operator<<(QDBusArgument &argument, const RunnerMatch &match)
 const QDBusArgument &operator>>(const QDBusArgument &argument, RunnerMatch &match)
 {
     argument.beginStructure();
-    argument >> match.id >> match.text >> match.icon >> match.type >> match.relevance >>
-        match.properties;
-    argument.endStructure();
-    return argument;
+    const auto &rest = argument >> match.id >> match.text >> match.icon >> match.type >>
+                       match.relevance >> match.properties;
+    rest.endStructure();
+    return rest;
 }
 
 QDBusArgument &operator<<(QDBusArgument &argument, const RunnerAction &action)
@@ -48,9 +48,9 @@ QDBusArgument &operator<<(QDBusArgument &argument, const RunnerAction &action)
 const QDBusArgument &operator>>(const QDBusArgument &argument, RunnerAction &action)
 {
     argument.beginStructure();
-    argument >> action.id >> action.text >> action.icon;
-    argument.endStructure();
-    return argument;
+    const auto &rest = argument >> action.id >> action.text >> action.icon;
+    rest.endStructure();
+    return rest;
 }
 
 RunnerObject::RunnerObject(IssueFinder &finder) : m_finder(finder)

@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <qpa/qplatformnativeinterface.h>
 
+#include <bit>
+
 namespace {
 
 // The functions that Qt's X11 platform offers under these names; other platforms have none.
@@ -14,7 +16,7 @@ using SetStartupId = void (*)(const char *id);
 template <typename Function, typename Declared>
 Function actual(Declared function)
 {
-    return reinterpret_cast<Function>(reinterpret_cast<void *>(function));
+    return std::bit_cast<Function>(function);
 }
 
 void setTime(QPlatformNativeInterface &native, const QByteArray &function, quint32 time)
