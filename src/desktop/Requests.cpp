@@ -1,7 +1,5 @@
 #include "desktop/Requests.h"
 
-#include <QString>
-
 #include <algorithm>
 #include <array>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 /// What a start of the program can ask for, instead of an address of an issue. The same texts pass from a second process to
 /// the first one and from the desktop to the program; without a text, the program shows its main window.
