@@ -43,7 +43,7 @@ class Absent(WindowCase):
         self.assertNotIn("org.kde.StatusNotifierWatcher", self.names_on_bus())
         velmora = self.open_demo()
         velmora.app.close_window("Velmora")
-        wait_until(lambda: not velmora.app.running, 10, 0.05, "the end of the process")
+        wait_until(lambda: not velmora.app.running, 30, 0.05, "the end of the process")
         self.assertEqual(velmora.app.proc.returncode, 0)
 
     def test_without_a_session_bus_the_program_is_usable(self):
@@ -61,7 +61,7 @@ class Absent(WindowCase):
         program = self.open_without_bus()
         program.wait_window("^Velmora")
         second = self.open_without_bus("velmora:WEB-202")
-        wait_until(lambda: not second.running, 10, 0.02, "the end of the second process")
+        wait_until(lambda: not second.running, 30, 0.02, "the end of the second process")
         program.wait_window("^WEB-202")
 
     def sign_in(self):

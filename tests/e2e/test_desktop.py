@@ -21,7 +21,7 @@ class DesktopCase(WindowCase):
 
     def open_on_bus(self):
         velmora = self.open_demo()
-        wait_until(lambda: self.session.has_name(NAME), 10, 0.02, "the name on the bus")
+        wait_until(lambda: self.session.has_name(NAME), 30, 0.02, "the name on the bus")
         return velmora
 
 
@@ -66,13 +66,13 @@ class Launcher(DesktopCase):
         velmora = self.open_on_bus()
         self.application("Open", "(asa{sv})", ["velmora:WEB-202"], {})
         issue = velmora.app.wait_window("WEB-202")
-        wait_until(lambda: self.session.x.active_window() == issue.id, 5, 0.05, "the issue in front")
+        wait_until(lambda: self.session.x.active_window() == issue.id, 20, 0.05, "the issue in front")
         self.application("Activate", "(a{sv})", {})
         main = velmora.app.window("Velmora")
-        wait_until(lambda: self.session.x.active_window() == main.id, 5, 0.05, "the main window in front")
+        wait_until(lambda: self.session.x.active_window() == main.id, 20, 0.05, "the main window in front")
 
     def test_a_second_start_carries_out_its_action_in_the_first(self):
         velmora = self.open_on_bus()
         second = self.session.launch([velmora.app.argv[0], "--new-issue"], name="second")
-        wait_until(lambda: not second.running, 10, 0.02, "the end of the second process")
+        wait_until(lambda: not second.running, 30, 0.02, "the end of the second process")
         velmora.app.find(role="text", name="^Titre")

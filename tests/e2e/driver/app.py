@@ -136,7 +136,7 @@ class App:
         kw.setdefault("showing", True)
         return self.refresh().all(**kw)
 
-    def find(self, timeout=5, **kw):
+    def find(self, timeout=15, **kw):
         """Waits for a showing node that matches, and returns the first one."""
         kw.setdefault("showing", True)
 
@@ -149,7 +149,7 @@ class App:
             return got[0] if got else None
         return wait_until(look, timeout, 0.05, "node %s" % kw)
 
-    def gone(self, timeout=5, **kw):
+    def gone(self, timeout=15, **kw):
         kw.setdefault("showing", True)
         wait_until(lambda: not self.refresh().all(**kw), timeout, 0.05, "no node %s" % kw)
 

@@ -6,7 +6,7 @@ class DriverError(Exception):
     """A condition or an answer that the driver waited for did not occur."""
 
 
-def wait_until(fn, timeout=10.0, every=0.05, what="condition"):
+def wait_until(fn, timeout=20.0, every=0.05, what="condition"):
     """Calls fn until it returns a true value, and returns that value."""
     end = time.monotonic() + timeout
     while True:
