@@ -1,6 +1,6 @@
 #include "http/BodyDecoder.h"
 
-#include "Packed.h"
+#include "simulator/server/Packed.h"
 
 #include <gtest/gtest.h>
 #include <optional>

@@ -1,5 +1,5 @@
-#include "Packed.h"
 #include "SessionTest.h"
+#include "simulator/server/Packed.h"
 
 #include <QDir>
 #include <QTemporaryDir>

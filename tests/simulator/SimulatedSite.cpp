@@ -9,7 +9,8 @@ SimulatedSite::SimulatedSite(Site site, std::optional<Certificates::Kind> certif
 {
     m_site.address = m_server.url();
     m_site.media = m_files.url();
-    m_server.answerBy([this](const RawRequest &request) { return answerTo(request); });
+    m_server.answerBy(
+        [this](const RawRequest &request) { return inForm(answerTo(request), m_form, request); });
     m_files.answerBy([this](const RawRequest &request) { return fileAnswerOf(m_site, request); });
 }
 

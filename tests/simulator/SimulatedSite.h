@@ -2,6 +2,7 @@
 
 #include "simulator/Site.h"
 #include "simulator/SiteRoute.h"
+#include "simulator/server/AnswerForm.h"
 #include "simulator/server/RawServer.h"
 
 #include <QHash>
@@ -33,6 +34,8 @@ public:
 
     /// From now on, the operation gets this response and the request is not passed to the site.
     void answer(SiteOperation operation, const RawAnswer &answer);
+    /// How the site transfers its responses from now on.
+    void transferAs(AnswerForm form) { m_form = form; }
     /// Ends all faults: the site handles every operation itself again.
     void recover() { m_faults.clear(); }
 
@@ -53,6 +56,7 @@ private:
     /// Oldest first; kept only while searches lag.
     QList<Past> m_past;
     QHash<SiteOperation, RawAnswer> m_faults;
+    AnswerForm m_form = AnswerForm::Plain;
     RawServer m_server;
     RawServer m_files;
 };

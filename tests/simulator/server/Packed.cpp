@@ -1,4 +1,4 @@
-#include "Packed.h"
+#include "simulator/server/Packed.h"
 
 #include <zlib.h>
 

@@ -1,0 +1,59 @@
+#include "simulator/SiteRest.h"
+#include "simulator/SiteSeed.h"
+#include "simulator/server/AnswerForm.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDateTime now({2026, 10, 29}, {13, 32}, Qt::UTC);
+
+/// Sends requests to a site under conditions that a test sets.
+class SiteConditionsTest : public testing::Test
+{
+protected:
+    RawRequest request(const QByteArray &method, const QByteArray &target,
+                       const QByteArray &body = {}) const
+    {
+        return {.method = method,
+                .target = target,
+                .headers = {{"Authorization", authorization}, {"Content-Type", "application/json"}},
+                .body = body};
+    }
+    QByteArray ask(const QByteArray &method, const QByteArray &target, const QByteArray &body = {})
+    {
+        return answerOf(site, request(method, target, body)).bytes;
+    }
+    static int statusOf(const QByteArray &bytes) { return bytes.split(' ').value(1).toInt(); }
+    static QJsonObject jsonOf(const QByteArray &bytes)
+    {
+        return QJsonDocument::fromJson(bytes.mid(bytes.indexOf("\r\n\r\n") + 4)).object();
+    }
+
+    Site site = SiteSeed::company(60, now);
+    QByteArray authorization = "Bearer " + site.personalToken.toUtf8();
+};
+
+TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)
+{
+    RawRequest accepting = request("GET", "/rest/api/3/myself");
+    const RawAnswer plain = answerOf(site, accepting);
+    EXPECT_FALSE(inForm(plain, AnswerForm::Packed, accepting).bytes.contains("gzip"));
+    accepting.headers.emplaceBack("Accept-Encoding", "gzip");
+    EXPECT_EQ(inForm(plain, AnswerForm::Plain, accepting).bytes, plain.bytes);
+    const QByteArray both = inForm(plain, AnswerForm::PackedInChunks, accepting).bytes;
+    EXPECT_TRUE(both.contains("Content-Encoding: gzip\r\n"));
+    EXPECT_TRUE(both.contains("Transfer-Encoding: chunked\r\n"));
+    EXPECT_FALSE(both.contains("Content-Length"));
+    EXPECT_TRUE(both.endsWith("\r\n0\r\n\r\n"));
+    const RawAnswer empty = RawAnswer::http(204, {});
+    EXPECT_EQ(inForm(empty, AnswerForm::PackedInChunks, accepting).bytes, empty.bytes);
+}
+
+} // namespace
