@@ -1,6 +1,9 @@
 #include "app/SiteImageFetcher.h"
 
-#include "simulator/server/RawServer.h"
+#include "jira/JiraClient.h"
+#include "simulator/SimulatedSite.h"
+#include "simulator/SiteSeed.h"
+#include "support/ManualCalendar.h"
 #include "support/ManualClock.h"
 #include "support/RunUntil.h"
 #include "support/TaskResult.h"
@@ -70,6 +73,23 @@ TEST_F(SiteImageFetcherTest, NextSignInTakesItsOwnCredentials)
     images.showCredentials({site.url(), QString(), u"other"_s});
     load(site.url().resolved(QUrl(u"/b.png"_s)));
     EXPECT_EQ(site.journal().last().header("Authorization"), "Bearer other");
+}
+
+TEST_F(SiteImageFetcherTest, APictureOfAProjectIsFetchedFromASiteThatGivesItToNobodyElse)
+{
+    SimulatedSite simulated{SiteSeed::company(10, clock.now())};
+    const QTemporaryDir folder;
+    ManualCalendar calendar;
+    const JiraCredentials credentials{simulated.url(), simulated.site().email,
+                                      simulated.site().token};
+    JiraClient client{credentials, clock, calendar, folder.path()};
+    const TaskResult<QList<Project>> projects(client.projects());
+    ASSERT_TRUE(runUntil([&] { return projects.isDone(); }));
+    const QUrl address = projects.value().first().avatarURL.value();
+
+    EXPECT_TRUE(load(address).isNull());
+    images.showCredentials(credentials);
+    EXPECT_EQ(load(address).size(), QSize(48, 48));
 }
 
 TEST_F(SiteImageFetcherTest, APictureOfMoreBytesThanAreReadIsGivenUpAtOnce)

@@ -40,6 +40,17 @@ protected:
     QByteArray authorization = "Bearer " + site.personalToken.toUtf8();
 };
 
+TEST_F(SiteConditionsTest, APictureOfAProjectNeedsTheCredentials)
+{
+    const QJsonObject project = jsonOf(ask("GET", "/rest/api/3/project/PORT"));
+    const QUrl address(project["avatarUrls"_L1]["48x48"_L1].toString());
+    EXPECT_EQ(address.host(), site.address.host());
+    const QByteArray target = address.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
+    EXPECT_TRUE(ask("GET", target).contains("image/png"));
+    authorization = "Bearer expired";
+    EXPECT_EQ(statusOf(ask("GET", target)), 401);
+}
+
 TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)
 {
     RawRequest accepting = request("GET", "/rest/api/3/myself");

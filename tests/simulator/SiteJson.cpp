@@ -11,11 +11,12 @@ QString rest(const Site &site, const QString &path)
     return site.address.toString() + u"/rest/api/3/"_s + path;
 }
 
-QJsonObject avatars(const Site &site, const QString &path)
+/// The addresses of a picture in all sizes, from the one without a size.
+QJsonObject avatars(const QString &address)
 {
     QJsonObject urls;
     for (const QString &size : {u"16"_s, u"24"_s, u"32"_s, u"48"_s})
-        urls.insert(size + u'x' + size, site.media.toString() + path + u"?size="_s + size);
+        urls.insert(size + u'x' + size, address + u"?size="_s + size);
     return urls;
 }
 
@@ -151,13 +152,14 @@ QJsonObject SiteJson::user(const Site &site, const QString &accountId)
     const SiteUser *found = site.user(accountId);
     if (!found)
         return {{u"accountId"_s, accountId}};
-    QJsonObject json{{u"self"_s, rest(site, u"user?accountId="_s + accountId)},
-                     {u"accountId"_s, accountId},
-                     {u"accountType"_s, found->accountType},
-                     {u"displayName"_s, found->displayName},
-                     {u"active"_s, found->isActive},
-                     {u"timeZone"_s, QString::fromLatin1(site.zone.id())},
-                     {u"avatarUrls"_s, avatars(site, u"/avatar/user/"_s + accountId)}};
+    QJsonObject json{
+        {u"self"_s, rest(site, u"user?accountId="_s + accountId)},
+        {u"accountId"_s, accountId},
+        {u"accountType"_s, found->accountType},
+        {u"displayName"_s, found->displayName},
+        {u"active"_s, found->isActive},
+        {u"timeZone"_s, QString::fromLatin1(site.zone.id())},
+        {u"avatarUrls"_s, avatars(site.media.toString() + u"/avatar/user/"_s + accountId)}};
     if (!found->email.isEmpty())
         json.insert(u"emailAddress"_s, found->email);
     return json;
@@ -171,7 +173,8 @@ QJsonObject SiteJson::project(const Site &site, const SiteProject &project)
             {u"name"_s, project.name},
             {u"projectTypeKey"_s, project.typeKey},
             {u"simplified"_s, !project.hasSprints},
-            {u"avatarUrls"_s, avatars(site, u"/avatar/project/"_s + project.id)}};
+            {u"avatarUrls"_s,
+             avatars(rest(site, u"universal_avatar/view/type/project/avatar/"_s + project.id))}};
 }
 
 QJsonObject SiteJson::detailedProject(const Site &site, const SiteProject &project)

@@ -27,6 +27,19 @@ RawAnswer notSignedIn()
                             {"WWW-Authenticate", "OAuth realm=\"simulateur\""}});
 }
 
+/// The pictures of projects are on the site's own origin and need its credentials, unlike those of people.
+bool isProjectPicture(const RawRequest &request)
+{
+    return request.method == "GET" &&
+           request.target.startsWith("/rest/api/3/universal_avatar/view/type/project/avatar/");
+}
+
+RawAnswer picture(const RawRequest &request)
+{
+    return RawAnswer::http(200, plainPicture(48, 48, qHash(request.target, 7)),
+                           {{"Content-Type", "image/png"}});
+}
+
 RawAnswer routed(Site &site, const SiteRoute &route, const RawRequest &request)
 {
     switch (route.operation) {
@@ -101,6 +114,8 @@ RawAnswer answerOf(Site &site, const RawRequest &request)
         return page(request);
     if (!isSignedIn(site, request))
         return notSignedIn();
+    if (isProjectPicture(request))
+        return picture(request);
     const auto route = routeOf(request);
     if (!route)
         return SiteReply::refused(404, {});
@@ -115,8 +130,7 @@ RawAnswer fileAnswerOf(const Site &site, const RawRequest &request)
         return SiteReply::refused(400, {u"Credentials of another site."_s});
     const QString target = QString::fromLatin1(request.target);
     if (target.startsWith("/avatar/"_L1))
-        return RawAnswer::http(200, plainPicture(48, 48, qHash(target, 7)),
-                               {{"Content-Type", "image/png"}});
+        return picture(request);
     static const QRegularExpression file(u"^/file/(\\d+)/binary\\?token=m(\\d+)$"_s);
     const auto match = file.match(target);
     const SiteAttachment *attachment = site.attachment(match.captured(1));

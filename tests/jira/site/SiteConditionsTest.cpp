@@ -37,3 +37,9 @@ TEST_P(SiteClientTest, ReadsAnswersInEveryForm)
     }
     EXPECT_EQ(failureOf(client.assign(key, std::nullopt)), QString());
 }
+
+TEST_P(SiteClientTest, ReadsWhereThePicturesOfProjectsAre)
+{
+    for (const Project &project : resultOf(client.projects()))
+        EXPECT_EQ(project.avatarURL->port(), simulated.url().port());
+}
