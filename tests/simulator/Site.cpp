@@ -109,6 +109,17 @@ SiteIssue &Site::add(SiteIssue issue)
     return m_issues.last();
 }
 
+void Site::move(SiteIssue &issue, const QString &projectKey)
+{
+    const qsizetype at = m_byKey.value(issue.key);
+    const QString before = std::exchange(issue.key, newKey(projectKey));
+    issue.projectKey = projectKey;
+    issue.statusId = projectOf(issue).statuses.first().id;
+    issue.typeId = projectOf(issue).types.first().id;
+    m_byKey.insert(issue.key, at);
+    change(issue, u"Key"_s, before, issue.key);
+}
+
 void Site::perform(SiteIssue &issue, const SiteTransition &transition)
 {
     const SiteStatus before = statusOf(issue);

@@ -40,7 +40,7 @@ public:
     QList<SiteSprint> sprints;
 
     const QList<SiteIssue> &issues() const { return m_issues; }
-    /// Found by key or id, ignoring case; null if there is none.
+    /// Found by its key, a former key or its id, ignoring case; null if there is none.
     SiteIssue *issue(const QString &keyOrId);
     const SiteIssue *issue(const QString &keyOrId) const;
     const SiteUser *user(const QString &accountId) const;
@@ -61,6 +61,8 @@ public:
     /// The next free issue key of a project.
     QString newKey(const QString &projectKey);
     SiteIssue &add(SiteIssue issue);
+    /// Moves an issue to another project, where it gets a new key. It is still found by its former keys.
+    void move(SiteIssue &issue, const QString &projectKey);
     /// These edits are added to the history in the name of the signed-in user and update the date of the issue's last
     /// change.
     void perform(SiteIssue &issue, const SiteTransition &transition);

@@ -51,6 +51,21 @@ TEST_F(SiteConditionsTest, APictureOfAProjectNeedsTheCredentials)
     EXPECT_EQ(statusOf(ask("GET", target)), 401);
 }
 
+TEST_F(SiteConditionsTest, AMovedIssueIsFoundByItsFormerKeys)
+{
+    SiteIssue &issue = *site.issue(site.issues().first().key);
+    const QString first = issue.key;
+    const QString target = first.startsWith("PORT-"_L1) ? u"FACT"_s : u"PORT"_s;
+    site.move(issue, target);
+    const QString second = issue.key;
+    site.move(issue, target);
+    EXPECT_NE(second, issue.key);
+    for (const QString &key : {first, second, issue.key}) {
+        const QByteArray answer = ask("GET", "/rest/api/3/issue/" + key.toLatin1());
+        EXPECT_EQ(jsonOf(answer).value("key"_L1), issue.key);
+    }
+}
+
 TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)
 {
     RawRequest accepting = request("GET", "/rest/api/3/myself");

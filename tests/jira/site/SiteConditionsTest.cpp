@@ -43,3 +43,13 @@ TEST_P(SiteClientTest, ReadsWhereThePicturesOfProjectsAre)
     for (const Project &project : resultOf(client.projects()))
         EXPECT_EQ(project.avatarURL->port(), simulated.url().port());
 }
+
+TEST_P(SiteClientTest, FindsAMovedIssueByItsFormerKey)
+{
+    Site &site = simulated.site();
+    SiteIssue &issue = *site.issue(site.issues().first().key);
+    const QString former = issue.key;
+    site.move(issue, former.startsWith("PORT-"_L1) ? u"FACT"_s : u"PORT"_s);
+    EXPECT_EQ(resultOf(client.issue(former)).key, issue.key);
+    EXPECT_EQ(keysOf(resultOf(client.search(former.toLower()))), QStringList{issue.key});
+}
