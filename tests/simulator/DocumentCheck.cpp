@@ -180,3 +180,16 @@ std::optional<QString> faultOf(const QJsonValue &document)
         return u"ce n’est pas un document"_s;
     return faultOfNode(u"doc"_s, root);
 }
+
+qsizetype lengthOf(const QJsonValue &document)
+{
+    qsizetype length = document["text"_L1].toString().size();
+    for (const QJsonValue part : document["content"_L1].toArray())
+        length += lengthOf(part);
+    return length;
+}
+
+QString tooLongText()
+{
+    return u"Le texte saisi est trop long. Il dépasse la limite autorisée de 32 767 caractères."_s;
+}

@@ -24,6 +24,8 @@ std::optional<QString> summaryFault(const Site &, const QJsonValue &value)
 
 std::optional<QString> descriptionFault(const Site &, const QJsonValue &value)
 {
+    if (lengthOf(value) > LongestText)
+        return tooLongText();
     const auto fault = value.isNull() ? std::nullopt : faultOf(value);
     return fault ? std::optional(u"La valeur doit être un document Atlassian (%1)."_s.arg(*fault))
                  : std::nullopt;

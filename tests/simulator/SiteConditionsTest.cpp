@@ -66,6 +66,28 @@ TEST_F(SiteConditionsTest, AMovedIssueIsFoundByItsFormerKeys)
     }
 }
 
+TEST_F(SiteConditionsTest, TextsHaveALimit)
+{
+    const QByteArray key = site.issues().first().key.toLatin1();
+    const auto document = [](int length) {
+        return R"({"type":"doc","version":1,"content":[{"type":"paragraph","content":[)"
+               R"({"type":"text","text":")" +
+               QByteArray(length, 'a') + R"("}]}]})";
+    };
+    const auto describe = [&](int length) {
+        return statusOf(ask("PUT", "/rest/api/3/issue/" + key,
+                            R"({"fields":{"description":)" + document(length) + "}}"));
+    };
+    const auto comment = [&](int length) {
+        return statusOf(ask("POST", "/rest/api/3/issue/" + key + "/comment",
+                            R"({"body":)" + document(length) + "}"));
+    };
+    EXPECT_EQ(describe(32767), 204);
+    EXPECT_EQ(describe(32768), 400);
+    EXPECT_EQ(comment(32767), 201);
+    EXPECT_EQ(comment(32768), 400);
+}
+
 TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)
 {
     RawRequest accepting = request("GET", "/rest/api/3/myself");

@@ -161,6 +161,8 @@ RawAnswer SiteWrites::addComment(Site &site, const SiteRoute &route, const QByte
     const auto json = objectIn(body, {u"body"_s, u"properties"_s, u"visibility"_s});
     if (!json)
         return SiteReply::badBody();
+    if (lengthOf(json->value("body"_L1)) > LongestText)
+        return SiteReply::refused(400, {}, {{u"comment"_s, tooLongText()}});
     if (const auto fault = faultOf(json->value("body"_L1)))
         return SiteReply::refused(400, {}, {{u"comment"_s, u"INVALID_INPUT (%1)"_s.arg(*fault)}});
     const SiteComment &stored =

@@ -19,6 +19,21 @@ QString failureOf(QCoro::Task<T> task)
     return {};
 }
 
+ADFNode longDocument(qsizetype length)
+{
+    ADFNode text;
+    text.type = u"text"_s;
+    text.text = QString(length, u'a');
+    ADFNode paragraph;
+    paragraph.type = u"paragraph"_s;
+    paragraph.content = {text};
+    ADFNode document;
+    document.type = u"doc"_s;
+    document.version = 1;
+    document.content = {paragraph};
+    return document;
+}
+
 } // namespace
 
 TEST_P(SiteClientTest, ReadsAnswersInEveryForm)
@@ -52,4 +67,15 @@ TEST_P(SiteClientTest, FindsAMovedIssueByItsFormerKey)
     site.move(issue, former.startsWith("PORT-"_L1) ? u"FACT"_s : u"PORT"_s);
     EXPECT_EQ(resultOf(client.issue(former)).key, issue.key);
     EXPECT_EQ(keysOf(resultOf(client.search(former.toLower()))), QStringList{issue.key});
+}
+
+TEST_P(SiteClientTest, ATextThatIsTooLongIsRefusedInTheSitesWords)
+{
+    const QString key = simulated.site().issues().first().key;
+    EXPECT_EQ(failureOf(client.addComment(key, longDocument(32767), false)), QString());
+    EXPECT_EQ(
+        failureOf(client.addComment(key, longDocument(32768), false)),
+        u"comment : Le texte saisi est trop long. Il dépasse la limite autorisée de 32 767 caractères."_s);
+    EXPECT_NE(failureOf(client.update(key, {IssueFieldUpdate::Description{longDocument(32768)}})),
+              QString());
 }
