@@ -31,6 +31,12 @@ public:
     /// The maximum number of issues on a page of a search, and the maximum size of an upload in bytes.
     qsizetype largestPage = 100;
     qsizetype largestUpload = 20 << 20;
+    /// The number of requests that are still answered, and the wait that all others are told; absent for no limit.
+    std::optional<int> requestsLeft;
+    std::chrono::seconds retryAfter{30};
+    /// Whether requests with wrong credentials get what anybody may see, as far as Jira documents this for an operation,
+    /// and whether the response says so in its header. No issue and no project is public.
+    enum class Anybody { Refused, AnsweredAndNamed, Answered } anybody = Anybody::Refused;
     /// The age of what a search finds, as that of a site whose search index lags behind its data.
     std::chrono::seconds searchLag{0};
 

@@ -35,10 +35,36 @@ protected:
     {
         return QJsonDocument::fromJson(bytes.mid(bytes.indexOf("\r\n\r\n") + 4)).object();
     }
+    QByteArray search()
+    {
+        return ask("POST", "/rest/api/3/search/jql", R"({"jql":"created >= -300d"})");
+    }
 
     Site site = SiteSeed::company(60, now);
     QByteArray authorization = "Bearer " + site.personalToken.toUtf8();
 };
+
+TEST_F(SiteConditionsTest, BeyondTheLimitOfRequestsTheClientIsToldToWait)
+{
+    site.requestsLeft = 1;
+    EXPECT_EQ(statusOf(ask("GET", "/rest/api/3/myself")), 200);
+    const QByteArray refused = ask("GET", "/rest/api/3/myself");
+    EXPECT_EQ(statusOf(refused), 429);
+    EXPECT_TRUE(refused.contains("Retry-After: 30\r\n"));
+}
+
+TEST_F(SiteConditionsTest, AnybodyIsAnsweredOnlyWhereTheSiteDoesSo)
+{
+    authorization = "Bearer expired";
+    EXPECT_EQ(statusOf(search()), 401);
+    site.anybody = Site::Anybody::Answered;
+    EXPECT_EQ(statusOf(search()), 200);
+    EXPECT_TRUE(jsonOf(search()).value("issues"_L1).toArray().isEmpty());
+    EXPECT_FALSE(search().contains("LoginReason"));
+    EXPECT_EQ(statusOf(ask("GET", "/rest/api/3/myself")), 401);
+    site.anybody = Site::Anybody::AnsweredAndNamed;
+    EXPECT_TRUE(search().contains("X-Seraph-LoginReason: AUTHENTICATED_FAILED\r\n"));
+}
 
 TEST_F(SiteConditionsTest, APictureOfAProjectNeedsTheCredentials)
 {
@@ -86,6 +112,15 @@ TEST_F(SiteConditionsTest, TextsHaveALimit)
     EXPECT_EQ(describe(32768), 400);
     EXPECT_EQ(comment(32767), 201);
     EXPECT_EQ(comment(32768), 400);
+}
+
+TEST_F(SiteConditionsTest, TwoSitesGiveTheSameNumbers)
+{
+    Site other = SiteSeed::company(60, now);
+    const auto attached = [](Site &site) {
+        return site.attach(*site.issue(site.issues().first().key), {.filename = u"a.txt"_s}).id;
+    };
+    EXPECT_EQ(attached(site), attached(other));
 }
 
 TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)

@@ -30,6 +30,15 @@ RawAnswer SiteReply::refused(int status, const QStringList &messages,
                  status);
 }
 
+RawAnswer SiteReply::tooManyRequests(std::chrono::seconds wait)
+{
+    const QByteArray body = R"({"message":"Rate limit exceeded.","status-code":429})";
+    return RawAnswer::http(429, body,
+                           {{"Content-Type", "application/json;charset=UTF-8"},
+                            {"Retry-After", QByteArray::number(qlonglong(wait.count()))},
+                            {"X-RateLimit-NearLimit", "true"}});
+}
+
 RawAnswer SiteReply::noSuchIssue()
 {
     return refused(404, {u"Le ticket n’existe pas ou vous n’êtes pas autorisé à le consulter."_s});

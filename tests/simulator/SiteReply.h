@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <chrono>
+
 /// The formats of the site's responses.
 namespace SiteReply {
 
@@ -17,6 +19,8 @@ RawAnswer done();
 /// An error with general messages and with messages by field name.
 RawAnswer refused(int status, const QStringList &messages,
                   const QMap<QString, QString> &errors = {});
+/// 429: the client should wait for this time.
+RawAnswer tooManyRequests(std::chrono::seconds wait);
 RawAnswer noSuchIssue();
 /// The error for a body that the operation does not accept.
 RawAnswer badBody();

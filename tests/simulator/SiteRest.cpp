@@ -27,6 +27,36 @@ RawAnswer notSignedIn()
                             {"WWW-Authenticate", "OAuth realm=\"simulateur\""}});
 }
 
+/// What anybody gets; nothing if Jira does not document the operation as one for anybody.
+std::optional<RawAnswer> answerForAnybody(const Site &site, const RawRequest &request)
+{
+    const auto route = routeOf(request);
+    if (!route)
+        return {};
+    QByteArray body;
+    switch (route->operation) {
+    case SiteOperation::Search:
+        body = R"({"issues":[],"isLast":true})";
+        break;
+    case SiteOperation::Projects:
+        body = R"({"startAt":0,"maxResults":50,"total":0,"isLast":true,"values":[]})";
+        break;
+    default:
+        return {};
+    }
+    RawAnswer::Headers headers{{"Content-Type", "application/json;charset=UTF-8"}};
+    if (site.anybody == Site::Anybody::AnsweredAndNamed)
+        headers.emplaceBack("X-Seraph-LoginReason", "AUTHENTICATED_FAILED");
+    return RawAnswer::http(200, body, headers);
+}
+
+RawAnswer answerWithoutAccount(const Site &site, const RawRequest &request)
+{
+    if (site.anybody == Site::Anybody::Refused)
+        return notSignedIn();
+    return answerForAnybody(site, request).value_or(notSignedIn());
+}
+
 /// The pictures of projects are on the site's own origin and need its credentials, unlike those of people.
 bool isProjectPicture(const RawRequest &request)
 {
@@ -112,8 +142,10 @@ RawAnswer answerOf(Site &site, const RawRequest &request)
 {
     if (!request.target.startsWith("/rest/"))
         return page(request);
+    if (site.requestsLeft && (*site.requestsLeft)-- <= 0)
+        return SiteReply::tooManyRequests(site.retryAfter);
     if (!isSignedIn(site, request))
-        return notSignedIn();
+        return answerWithoutAccount(site, request);
     if (isProjectPicture(request))
         return picture(request);
     const auto route = routeOf(request);

@@ -19,6 +19,9 @@ QString failureOf(QCoro::Task<T> task)
     return {};
 }
 
+const auto refusedCredentials =
+    u"Jira a refusé les identifiants (401). Vérifie l'e-mail et le token API."_s;
+
 ADFNode longDocument(qsizetype length)
 {
     ADFNode text;
@@ -35,6 +38,15 @@ ADFNode longDocument(qsizetype length)
 }
 
 } // namespace
+
+TEST_P(SiteClientTest, BeyondTheLimitOfRequestsTheSitesWordsAreShown)
+{
+    simulated.site().requestsLeft = 0;
+    EXPECT_EQ(failureOf(client.currentUser()), u"Rate limit exceeded."_s);
+    EXPECT_EQ(failureOf(client.assign(simulated.site().issues().first().key, std::nullopt)),
+              u"Rate limit exceeded."_s);
+    EXPECT_EQ(simulated.journal().size(), 2);
+}
 
 TEST_P(SiteClientTest, ReadsAnswersInEveryForm)
 {
@@ -69,6 +81,20 @@ TEST_P(SiteClientTest, FindsAMovedIssueByItsFormerKey)
     EXPECT_EQ(keysOf(resultOf(client.search(former.toLower()))), QStringList{issue.key});
 }
 
+TEST_P(SiteClientTest, AnExpiredTokenIsNoEmptyList)
+{
+    JiraCredentials expired = client.credentials();
+    expired.token = u"expired"_s;
+    JiraClient other{expired, clock, calendar, folder.filePath(u"cache"_s)};
+    for (const auto anybody :
+         {Site::Anybody::Refused, Site::Anybody::Answered, Site::Anybody::AnsweredAndNamed}) {
+        simulated.site().anybody = anybody;
+        EXPECT_EQ(failureOf(other.issues(IssueScope::myIssues())), refusedCredentials);
+    }
+    EXPECT_EQ(failureOf(other.projects()), refusedCredentials);
+    EXPECT_EQ(failureOf(other.search(u"portail"_s)), refusedCredentials);
+}
+
 TEST_P(SiteClientTest, ATextThatIsTooLongIsRefusedInTheSitesWords)
 {
     const QString key = simulated.site().issues().first().key;
@@ -78,4 +104,29 @@ TEST_P(SiteClientTest, ATextThatIsTooLongIsRefusedInTheSitesWords)
         u"comment : Le texte saisi est trop long. Il dépasse la limite autorisée de 32 767 caractères."_s);
     EXPECT_NE(failureOf(client.update(key, {IssueFieldUpdate::Description{longDocument(32768)}})),
               QString());
+}
+
+TEST_P(SiteClientTest, TwoSitesWithTheSameNumbersKeepTheirOwnFiles)
+{
+    SimulatedSite second{SiteSeed::company(300, clock.now()), GetParam().certificate};
+    JiraCredentials credentials = client.credentials();
+    credentials.site = second.url();
+    JiraClient other{credentials, clock, calendar, folder.filePath(u"cache"_s)};
+    const auto attached = [](SimulatedSite &simulated, const QByteArray &content) {
+        Site &site = simulated.site();
+        SiteIssue &issue = *site.issue(site.issues().first().key);
+        site.attach(issue,
+                    {.filename = u"a.txt"_s, .mimeType = u"text/plain"_s, .content = content});
+        return issue.key;
+    };
+    const auto contentOf = [](JiraClient &client, const QString &key) {
+        const Attachment attachment = resultOf(client.issue(key)).attachments.last();
+        QFile file(resultOf(client.download(attachment)).toLocalFile());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    };
+    const QString key = attached(simulated, "here");
+    EXPECT_EQ(attached(second, "over"), key);
+    EXPECT_EQ(contentOf(client, key), "here");
+    EXPECT_EQ(contentOf(other, key), "over");
 }
