@@ -31,6 +31,8 @@ public:
     /// The maximum number of issues on a page of a search, and the maximum size of an upload in bytes.
     qsizetype largestPage = 100;
     qsizetype largestUpload = 20 << 20;
+    /// Cloud has version 3 of the interface, Data Center has version 2 only.
+    enum class Edition { Cloud, DataCenter } edition = Edition::Cloud;
     /// The number of requests that are still answered, and the wait that all others are told; absent for no limit.
     std::optional<int> requestsLeft;
     std::chrono::seconds retryAfter{30};

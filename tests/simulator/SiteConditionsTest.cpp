@@ -123,6 +123,31 @@ TEST_F(SiteConditionsTest, TwoSitesGiveTheSameNumbers)
     EXPECT_EQ(attached(site), attached(other));
 }
 
+TEST_F(SiteConditionsTest, DataCenterHasVersion2Only)
+{
+    site.edition = Site::Edition::DataCenter;
+    const QByteArray refused = ask("GET", "/rest/api/3/myself");
+    EXPECT_EQ(statusOf(refused), 404);
+    EXPECT_TRUE(jsonOf(refused).value("message"_L1).toString().startsWith("null for uri: "_L1));
+
+    const QJsonObject myself = jsonOf(ask("GET", "/rest/api/2/myself"));
+    EXPECT_EQ(myself.value("name"_L1), u"camille.rousseau"_s);
+    EXPECT_FALSE(myself.contains("accountId"_L1));
+    EXPECT_EQ(jsonOf(ask("GET", "/rest/api/2/serverInfo")).value("deploymentType"_L1), u"Server"_s);
+
+    const QByteArray query = R"({"jql":"created >= -300d","startAt":50,"maxResults":20})";
+    const QJsonObject page = jsonOf(ask("POST", "/rest/api/2/search", query));
+    EXPECT_EQ(page.value("total"_L1), 60);
+    EXPECT_EQ(page.value("issues"_L1).toArray().size(), 10);
+
+    const QByteArray key = site.issues().first().key.toLatin1();
+    const QJsonObject issue = jsonOf(ask("GET", "/rest/api/2/issue/" + key));
+    EXPECT_TRUE(issue["fields"_L1]["description"_L1].isString());
+
+    authorization = "Bearer expired";
+    EXPECT_EQ(statusOf(ask("GET", "/rest/api/2/myself")), 401);
+}
+
 TEST_F(SiteConditionsTest, AnAnswerInAnotherFormSaysSo)
 {
     RawRequest accepting = request("GET", "/rest/api/3/myself");

@@ -1,6 +1,7 @@
 #include "simulator/SiteRest.h"
 
 #include "simulator/PlainPicture.h"
+#include "simulator/SiteDataCenter.h"
 #include "simulator/SiteReads.h"
 #include "simulator/SiteReply.h"
 #include "simulator/SiteWrites.h"
@@ -144,6 +145,8 @@ RawAnswer answerOf(Site &site, const RawRequest &request)
         return page(request);
     if (site.requestsLeft && (*site.requestsLeft)-- <= 0)
         return SiteReply::tooManyRequests(site.retryAfter);
+    if (site.edition == Site::Edition::DataCenter)
+        return dataCenterAnswerOf(site, request);
     if (!isSignedIn(site, request))
         return answerWithoutAccount(site, request);
     if (isProjectPicture(request))

@@ -130,3 +130,11 @@ TEST_P(SiteClientTest, TwoSitesWithTheSameNumbersKeepTheirOwnFiles)
     EXPECT_EQ(contentOf(client, key), "here");
     EXPECT_EQ(contentOf(other, key), "over");
 }
+
+TEST_P(SiteClientTest, DataCenterWithVersion2OnlyIsNotUsable)
+{
+    simulated.site().edition = Site::Edition::DataCenter;
+    EXPECT_EQ(failureOf(client.currentUser()),
+              u"null for uri: "_s + simulated.url().toString() + u"/rest/api/3/myself"_s);
+    EXPECT_EQ(simulated.journal().size(), 1);
+}
