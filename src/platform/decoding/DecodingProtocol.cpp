@@ -15,6 +15,7 @@ constexpr qint64 BytesPerPage = 2 * sizeof(double);
 /// The maximum of all dimensions that are only told, and of delays in milliseconds.
 constexpr int MaximumDimension = 1'000'000;
 constexpr int MaximumDelay = 600'000;
+constexpr qint64 MaximumPixels = qint64(MaximumDecodedSide) * MaximumDecodedSide;
 /// The maximum size of a page, in points.
 constexpr double MaximumPoints = 1e6;
 
@@ -42,7 +43,8 @@ bool isPossible(const DecodingRequest &request)
 {
     const bool fits = !hasBound(request.kind) || isPossible(request.bound, MaximumDecodedSide);
     return isKnown(request.kind) && fits && request.inputBytes > 0 && request.index >= 0 &&
-           request.mostPixels >= 0 && outputBytesOf(request) > 0;
+           request.mostPixels >= 0 && request.mostPixels <= MaximumPixels &&
+           outputBytesOf(request) > 0;
 }
 
 /// Whether the pixels of an answer may be the result of a request.
@@ -59,14 +61,15 @@ bool pixelsFit(const DecodingAnswer &answer, const DecodingRequest &request)
     case DecodingKind::Page:
         return size == request.bound;
     case DecodingKind::Pages:
-        return answer.pageCount > 0 && answer.pageCount <= MaximumDimension;
+        return answer.pageCount > 0;
     }
     return false;
 }
 
 bool fits(const DecodingAnswer &answer, const DecodingRequest &request)
 {
-    if (answer.delay < 0 || answer.delay > MaximumDelay)
+    if (answer.delay < 0 || answer.delay > MaximumDelay || answer.pageCount < 0 ||
+        answer.pageCount > MaximumDimension)
         return false;
     switch (answer.status) {
     case DecodingStatus::Done:

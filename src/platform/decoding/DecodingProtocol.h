@@ -48,7 +48,7 @@ struct DecodingRequest
     /// For a picture the box that it is scaled down to, for a page its size, in pixels. Unused otherwise.
     QSize bound;
     /// The maximum number of pixels that a picture may declare. A JPEG frame may declare three times as many, because it
-    /// can be decoded at a fraction of its size.
+    /// can be decoded at a fraction of its size. At most the square of `MaximumDecodedSide`.
     qint64 mostPixels = 0;
 
     bool operator==(const DecodingRequest &) const = default;
@@ -68,7 +68,7 @@ struct DecodingAnswer
     QSize whole;
     /// How long the frame is shown, in milliseconds.
     int delay = 0;
-    /// The number of pages in the file.
+    /// The number of pages in the file, 0 if it is not known.
     int pageCount = 0;
 
     bool operator==(const DecodingAnswer &) const = default;

@@ -73,6 +73,8 @@ TEST(DecodingProtocol, ARequestForNothingPossibleIsNotRead)
     request = Frame;
     request.mostPixels = 0;
     EXPECT_FALSE(requestIn(encoded(request)));
+    request.mostPixels = (1LL << 62) + 1;
+    EXPECT_FALSE(requestIn(encoded(request))) << "the size of its result is 4 in 64 bits";
 }
 
 TEST(DecodingProtocol, PixelsThatDoNotFitTheRequestAreRefused)
@@ -102,6 +104,9 @@ TEST(DecodingProtocol, DelaysAndNumbersOfPagesAreBounded)
     EXPECT_FALSE(isTaken({.status = DecodingStatus::Done, .pageCount = 0}, Pages));
     EXPECT_TRUE(isTaken({.status = DecodingStatus::Done, .pageCount = 5000}, Pages));
     EXPECT_FALSE(isTaken({.status = DecodingStatus::Done, .pageCount = -1}, Pages));
+    answer = done({10, 10});
+    answer.pageCount = -1;
+    EXPECT_FALSE(isTaken(answer, Picture)) << "nobody asked for it";
 }
 
 TEST(DecodingProtocol, AFailureNeedsNoPixels)
