@@ -169,18 +169,35 @@ Decoded HelperProcess::decode(const DecodingInput &input, DecodingRequest reques
     request.source = input.id();
     request.inputBytes = input.size();
     const int source = input.descriptor();
-    const qint64 outputBytes = outputBytesOf(request);
     // A helper that was killed while it was idle is no fault of this picture.
     if (m_process > 0 && isOutOfStep())
         stop();
-    if (source < 0 || outputBytes <= 0 || !start())
+    const bool wasRunning = m_process > 0;
+    if (source < 0 || outputBytesOf(request) <= 0 || !start())
         return {};
+    auto result = tried(request, source);
+    // Nor is one that is killed just after that. A new helper that ends was ended by this picture.
+    if (!result && wasRunning) {
+        stop();
+        result = start() ? tried(request, source) : std::nullopt;
+    }
+    return result.value_or(Decoded());
+}
+
+std::optional<Decoded> HelperProcess::tried(const DecodingRequest &request, int input) const
+{
+    const qint64 outputBytes = outputBytesOf(request);
     const ScopedFile output(DecodingSystem::anonymousFile(outputBytes));
-    if (output.descriptor() < 0 || !send(encoded(request), source, output.descriptor()))
-        return {};
-    const auto answer = answerIn(receive(AnswerBytes), request);
+    if (output.descriptor() < 0)
+        return Decoded();
+    if (!send(encoded(request), input, output.descriptor()))
+        return std::nullopt;
+    const QByteArray bytes = receive(AnswerBytes);
+    if (bytes.isEmpty())
+        return std::nullopt;
+    const auto answer = answerIn(bytes, request);
     if (!answer)
-        return {};
+        return Decoded();
     // The file has the size with which it was made, whatever the helper did.
     const Mapping result(output.descriptor(), outputBytes, Mapping::Access::Read);
     return result.data() ? resultOf(result, *answer, request) : Decoded();
@@ -221,7 +238,7 @@ QByteArray HelperProcess::receive(qsizetype size) const
         if (read < 0 && errno == EINTR)
             continue;
         if (read <= 0)
-            return {};
+            break;
         bytes.append(part.data(), read);
     }
     return bytes;

@@ -53,6 +53,7 @@ public:
     /// Starts the process if it is not running. False if that is not possible.
     bool start();
     /// Sends a request and waits for the result. Starts the process if it is not running or does not wait for a request.
+    /// If a process that ran already ends before its answer begins, the request is sent once more, to a new one.
     Decoded decode(const DecodingInput &input, DecodingRequest request);
     /// Kills the process and waits until it is gone. It cannot be started again.
     void end();
@@ -65,7 +66,10 @@ private:
     /// Kills the process and waits until it is gone.
     void stop();
     bool spawn(int helperEnd);
+    /// The result of one try; nothing if the process ended before its answer began.
+    std::optional<Decoded> tried(const DecodingRequest &request, int input) const;
     bool send(const QByteArray &bytes, int input, int output) const;
+    /// Fewer bytes if the connection ends before.
     QByteArray receive(qsizetype size) const;
     /// Whether the process has sent something that nobody asked for, or has ended.
     bool isOutOfStep() const;

@@ -15,9 +15,13 @@ protected:
     /// A helper that fails in one way the first time it is started, and then is a proper one.
     DecodingProgram failingOnce(const QByteArray &how) const
     {
+        return replaced(how, QCoreApplication::applicationFilePath().toUtf8());
+    }
+    /// A helper that fails in one way the first time it is started, and then is another program.
+    DecodingProgram replaced(const QByteArray &how, const QByteArray &program) const
+    {
         return {.path = VELMORA_HOSTILE_HELPER,
-                .arguments = {how, folder.filePath(u"failed"_s).toUtf8(),
-                              QCoreApplication::applicationFilePath().toUtf8()}};
+                .arguments = {how, folder.filePath(u"failed"_s).toUtf8(), program}};
     }
     static DecodingProgram failing(const QByteArray &how)
     {
@@ -76,6 +80,31 @@ TEST_F(HelperFailures, BytesAfterAnAnswerAreNotTakenForTheNextOne)
     Decoders decoders(failingOnce("more"), clock, {.helpers = 1});
     EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(10, 10));
     EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(40, 30));
+    EXPECT_TRUE(readsPictures(decoders));
+}
+
+TEST_F(HelperFailures, APictureIsTriedAgainIfARunningHelperEndsBeforeItsAnswer)
+{
+    Decoders decoders(failingOnce("second"), clock, {.helpers = 1});
+    EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(10, 10));
+    EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(40, 30));
+}
+
+TEST_F(HelperFailures, APictureIsTriedAgainOnlyOnce)
+{
+    Decoders decoders(replaced("second", "/bin/false"), clock, {.helpers = 1});
+    EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(10, 10));
+    const Decoded result = resultOf(decoders, picture, pictureIn({100, 100}));
+    EXPECT_EQ(result.status, DecodingStatus::Unreadable);
+    EXPECT_TRUE(children().isEmpty());
+}
+
+TEST_F(HelperFailures, APictureWhoseAnswerHasBegunIsNotTriedAgain)
+{
+    Decoders decoders(failingOnce("half-of-second"), clock, {.helpers = 1});
+    EXPECT_EQ(resultOf(decoders, picture, pictureIn({100, 100})).image.size(), QSize(10, 10));
+    const Decoded result = resultOf(decoders, picture, pictureIn({100, 100}));
+    EXPECT_EQ(result.status, DecodingStatus::Unreadable);
     EXPECT_TRUE(readsPictures(decoders));
 }
 

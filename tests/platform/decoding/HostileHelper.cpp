@@ -36,6 +36,12 @@ void tell(const QByteArray &bytes)
         ::pause();
 }
 
+bool takesRequest()
+{
+    std::array<char, RequestBytes> request{};
+    return ::recv(Connection, request.data(), request.size(), MSG_WAITALL) == RequestBytes;
+}
+
 /// An answer that fits a request for a picture within 100 pixels.
 DecodingAnswer fitting()
 {
@@ -68,6 +74,12 @@ void misbehave(std::string_view how)
     } else if (how == "more") {
         tell(encoded(answer) + "and something that nobody asked for");
         hang();
+    } else if (how == "second" || how == "half-of-second") {
+        tell(encoded(answer));
+        takesRequest();
+        if (how == "half-of-second")
+            tell(encoded(answer).first(AnswerBytes / 2));
+        std::raise(SIGKILL);
     } else if (how == "environment") {
         answer.pixels = {std::getenv("VELMORA_SECRET") ? 99 : 1, 1};
         tell(encoded(answer));
@@ -86,8 +98,7 @@ int main(int argc, char **argv)
         ::close(::open(argv[2], O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
     if (argc < 2 || std::string_view(argv[1]) == "exit")
         return 1;
-    std::array<char, RequestBytes> request{};
-    if (::recv(Connection, request.data(), request.size(), MSG_WAITALL) != RequestBytes)
+    if (!takesRequest())
         return 2;
     misbehave(argv[1]);
     return 0;
