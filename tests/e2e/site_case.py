@@ -15,6 +15,7 @@ class Simulator:
         self._app.wait_log("Ctrl\\+C")
         said = self._app.log()
         self.address = re.search(r"\b300 issues\s+(\S+)", said).group(1)
+        self.data_center = re.search(r"Data Center\s+(\S+)", said).group(1)
         self.email = re.search(r"E-mail\s+(\S+)", said).group(1)
         self.token = re.search(r"Token\s+(\S+)", said).group(1)
 

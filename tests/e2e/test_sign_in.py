@@ -58,6 +58,11 @@ class SignIn(SiteCase):
         self.sign_in(velmora, self.site.email, site="http://jira.nulle-part.invalid")
         self.wait_sentence(velmora, "Serveur introuvable. Vérifie l'adresse du site et ta connexion à Internet.")
 
+    def test_data_center_with_an_older_interface_says_so(self):
+        velmora = self.open_card()
+        self.sign_in(velmora, "", site=self.site.data_center)
+        self.wait_sentence(velmora, "null for uri: %s/rest/api/3/myself" % self.site.data_center)
+
     def test_a_cut_cable_says_so(self):
         velmora = self.open_card()
         self.site.cut()

@@ -1,5 +1,5 @@
-/// Runs a Jira site with 300 issues and one with 5,000, to which a user can sign in without an account. Runs until it
-/// is interrupted.
+/// Runs a Jira site with 300 issues and one with 5,000, to which a user can sign in without an account, and one of Data
+/// Center. Runs until it is interrupted.
 #include "simulator/SimulatedSite.h"
 #include "simulator/SiteSeed.h"
 
@@ -14,6 +14,7 @@ namespace {
 /// The preferred port. With the same port in every run, a saved session finds its site again.
 constexpr quint16 smallPort = 8300;
 constexpr quint16 largePort = 8500;
+constexpr quint16 dataCenterPort = 8700;
 
 /// A site with the current time.
 Site presentCompany(int issues)
@@ -48,9 +49,12 @@ int main(int argc, char **argv)
     const bool anywhere = QCoreApplication::arguments().contains(u"--any-port"_s);
     SimulatedSite small(presentCompany(300), {}, anywhere ? 0 : smallPort);
     SimulatedSite large(presentCompany(5000), {}, anywhere ? 0 : largePort);
+    SimulatedSite dataCenter(presentCompany(300), {}, anywhere ? 0 : dataCenterPort);
+    dataCenter.site().edition = Site::Edition::DataCenter;
     small.site().searchLag = large.site().searchLag = searchLag();
     tell(small);
     tell(large);
+    std::printf("Data Center           %s\n", qPrintable(dataCenter.url().toString()));
     std::printf("E-mail                %s (none: the token is taken as a personal access token)\n"
                 "Token                 %s\n"
                 "Ctrl+C ends it.\n",
