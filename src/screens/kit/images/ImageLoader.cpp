@@ -98,3 +98,8 @@ void ImageLoader::finish(const QUrl &url, const QImage &image)
     if (const auto promise = m_pending.take(url))
         settle(*promise, image);
 }
+
+void ImageLoader::forget()
+{
+    m_cache.clear();
+}

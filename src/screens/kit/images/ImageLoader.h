@@ -48,6 +48,9 @@ public:
     /// The number of running requests.
     int pendingCount() const { return int(m_pending.size()); }
 
+    /// Removes all pictures. For tests only.
+    void forget();
+
 private:
     using Promise = std::shared_ptr<QPromise<QImage>>;
 
