@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <iostream>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -36,6 +38,9 @@ void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &mes
 {
     if (type != QtDebugMsg && type != QtInfoMsg && !isAboutThePlatform(message))
         warnings() += message;
+    // The process ends before the test could tell it.
+    if (type == QtFatalMsg)
+        std::cerr << message.toStdString() << '\n';
 }
 
 } // namespace
