@@ -4,11 +4,21 @@
 #include "state/edits/DocumentComposing.h"
 #include "state/edits/MentionCandidates.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const auto LastProjectKey = u"lastProject"_s;
+
+/// A refresh may have brought the posted comment before its response arrived.
+QList<Comment> withPosted(const QList<Comment> &comments, const Comment &posted)
+{
+    const bool isThere =
+        std::ranges::any_of(comments, [&](const Comment &one) { return one.id == posted.id; });
+    return isThere ? comments : comments + QList{posted};
+}
 
 } // namespace
 
@@ -35,7 +45,7 @@ QCoro::Task<bool> AppStore::postComment(QString markdown, QString key, CommentAu
         co_return false;
     }
     session->edits.noteComment(key, *comment);
-    m_comments.insert(key, m_comments->value(key) + QList{*comment});
+    m_comments.insert(key, withPosted(m_comments->value(key), *comment));
     co_return true;
 }
 
