@@ -44,7 +44,12 @@ void CommentDraft::follow()
 
 void CommentDraft::refresh()
 {
+    const QString chosen = m_suggestions.value(highlighted()).id;
     updateSuggestions();
+    // Whom the user has highlighted may have another place now. The first one is highlighted without a choice.
+    const auto moved = std::ranges::find(m_suggestions, chosen, &JiraUser::id);
+    if (m_highlighted > 0 && moved != m_suggestions.end())
+        m_highlighted = int(moved - m_suggestions.begin());
     Q_EMIT changed();
 }
 
