@@ -15,7 +15,7 @@ FlowLayout {
     required property OpenIssue issue
     readonly property bool hasLabels: issue.issue.labels.length > 0
 
-    // Another issue is shown: no list or calendar stays open that would change it.
+    // Another issue is shown, or that of another session: no list or calendar stays open that would change it.
     function begin() {
         status.dismiss();
         priority.dismiss();
@@ -27,6 +27,14 @@ FlowLayout {
     height: implicitHeight
     spacing: Metrics.gap
     lineSpacing: Metrics.gap
+
+    Connections {
+        target: root.store
+
+        function onSessionChanged() {
+            root.begin();
+        }
+    }
 
     PropertyChip {
         id: status
