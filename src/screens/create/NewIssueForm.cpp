@@ -4,11 +4,15 @@
 #include "async/WhileAlive.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The types may never arrive. The site then says what it makes of an issue without a type.
+constexpr std::chrono::seconds LongestWaitForTypes{10};
 
 /// Creates the issue even if the form goes in the meantime, and then forgets the text that was kept when it went.
 QCoro::Task<bool> created(QPointer<AppStore> store, IssueDraft draft, AbandonedPlace place,
@@ -39,6 +43,7 @@ void NewIssueForm::setStore(AppStore *store)
               &AppStoreFields::issuesChanged, &AppStoreFields::meChanged})
             connect(m_store, change, this, &NewIssueForm::choicesChanged);
         connect(m_store, &AppStore::calendarChanged, this, &NewIssueForm::choicesChanged);
+        connect(m_store, &AppStoreFields::projectDetailsChanged, this, &NewIssueForm::followTypes);
         auto &texts = AbandonedTexts::of(*m_store);
         m_place = texts.place(AbandonedTexts::Kind::NewIssue);
         connect(&texts, &AbandonedTexts::changed, this, &NewIssueForm::canResumeChanged);
@@ -240,6 +245,31 @@ void NewIssueForm::submit()
     if (!canSubmit())
         return;
     setSubmitting(true);
+    if (areTypesKnown()) {
+        spawn(create());
+        return;
+    }
+    m_isSubmittedEarly = true;
+    m_typesLimit = m_store->clock().after(LongestWaitForTypes, [this] {
+        if (m_isSubmittedEarly)
+            createSubmitted();
+    });
+}
+
+bool NewIssueForm::areTypesKnown() const
+{
+    return !types().isEmpty() || m_store->projectDetails().contains(m_issue.projectKey);
+}
+
+void NewIssueForm::followTypes()
+{
+    if (m_isSubmittedEarly && m_store && areTypesKnown())
+        createSubmitted();
+}
+
+void NewIssueForm::createSubmitted()
+{
+    m_isSubmittedEarly = false;
     spawn(create());
 }
 

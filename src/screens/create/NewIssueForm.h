@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Clock.h"
 #include "state/AppStore.h"
 #include "state/composing/NewIssue.h"
 #include "state/drafts/AbandonedTexts.h"
@@ -74,7 +75,8 @@ public:
     void choosePriority(const IssuePriority &priority);
     void chooseAssignee(const std::optional<JiraUser> &user);
     void toggleLabel(const QString &label);
-    /// Creates the issue. Has no effect without a title or while a creation is under way.
+    /// Creates the issue, once the types of the project are known: a site refuses an issue without a type. Has no effect
+    /// without a title or while a creation is under way.
     Q_INVOKABLE void submit();
     /// The sheet is closed. A text that was not sent is kept.
     Q_INVOKABLE void abandon();
@@ -113,6 +115,10 @@ private:
     void setTexts(const QString &summary, const QString &details);
     void setSubmitting(bool submitting);
     IssueDraft draft() const;
+    bool areTypesKnown() const;
+    /// Creates the issue that waits for the types of its project.
+    void followTypes();
+    void createSubmitted();
     QCoro::Task<> create();
     void takeCreated();
 
@@ -122,5 +128,8 @@ private:
     NewIssue m_issue;
     bool m_createsMore = false;
     bool m_isSubmitting = false;
+    /// Whether the creation waits for the types of the project.
+    bool m_isSubmittedEarly = false;
+    Clock::TimerHandle m_typesLimit;
     bool m_isCreated = false;
 };
