@@ -73,9 +73,12 @@ SiteWindow::~SiteWindow()
     site.server().release();
     movePointerAway();
     app.reset();
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return std::ranges::all_of(m_clients, [](const auto &client) { return client.expired(); });
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] {
+            return std::ranges::all_of(m_clients,
+                                       [](const auto &client) { return client.expired(); });
+        },
+        patience));
     qInstallMessageHandler(nullptr);
     EXPECT_TRUE(warnings().isEmpty()) << warnings().join(u'\n').toStdString();
 }
@@ -123,25 +126,28 @@ void SiteWindow::open()
     ASSERT_TRUE(app->open());
     use(mainWindow());
     desktop->setPrefersReducedMotion(true);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() != AppStore::Phase::Launching; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() != AppStore::Phase::Launching; },
+                                patience));
     if (store().phase() == AppStore::Phase::SignedOut)
         signIn();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !store().issues().isEmpty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !store().issues().isEmpty(); }, patience));
 }
 
 void SiteWindow::signIn()
 {
     const TaskResult<void> done(
         store().connect(site.url().toString(), site.site().email, site.site().token));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return done.isDone(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return done.isDone(); }, patience));
     ASSERT_FALSE(done.hasFailed());
-    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() == AppStore::Phase::Ready; }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return store().phase() == AppStore::Phase::Ready; }, patience));
 }
 
 void SiteWindow::signOut()
 {
     store().signOut();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() == AppStore::Phase::SignedOut; }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() == AppStore::Phase::SignedOut; },
+                                patience));
 }
 
 void SiteWindow::use(QQuickWindow &window)
@@ -184,8 +190,8 @@ bool SiteWindow::click(QAccessible::Role role, const QString &nameContains)
 
 Spoken SiteWindow::await(QAccessible::Role role, const QString &nameContains)
 {
-    const bool came =
-        QTest::qWaitFor([&] { return spokenIn(window(), role, nameContains).size() == 1; });
+    const bool came = QTest::qWaitFor(
+        [&] { return spokenIn(window(), role, nameContains).size() == 1; }, patience);
     EXPECT_TRUE(came) << "waited for " << nameContains.toStdString();
     settle();
     return find(role, nameContains);
@@ -193,7 +199,7 @@ Spoken SiteWindow::await(QAccessible::Role role, const QString &nameContains)
 
 bool SiteWindow::isGone(QAccessible::Role role, const QString &nameContains)
 {
-    return QTest::qWaitFor([&] { return !has(role, nameContains); });
+    return QTest::qWaitFor([&] { return !has(role, nameContains); }, patience);
 }
 
 void SiteWindow::movePointerAway()
@@ -213,7 +219,7 @@ void SiteWindow::settle()
 
 bool SiteWindow::areWritesOver()
 {
-    return QTest::qWaitFor([this] { return store().writes().count() == 0; });
+    return QTest::qWaitFor([this] { return store().writes().count() == 0; }, patience);
 }
 
 QList<PostedComment> SiteWindow::postedComments() const

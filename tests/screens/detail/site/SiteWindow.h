@@ -30,6 +30,9 @@ struct PostedComment
 class SiteWindow : public testing::Test
 {
 protected:
+    /// How long a test waits for what should happen, in milliseconds: enough on a machine that is busy.
+    static constexpr int patience = 30'000;
+
     SiteWindow();
     ~SiteWindow() override;
 
