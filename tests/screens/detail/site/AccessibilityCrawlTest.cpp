@@ -17,11 +17,15 @@ protected:
         issue.comments.clear();
         site.site().comment(issue, {.body = paragraph(u"Bonjour"_s)});
         open();
-        const QString key = issue.key;
-        Q_EMIT store().openWindowRequested(key);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return ownWindow(key) != nullptr; }));
-        use(*ownWindow(key));
+        openWindow(issue.key);
         await(QAccessible::EditableText, u"Commentaire"_s);
+    }
+
+    void openWindow(const QString &key)
+    {
+        Q_EMIT store().openWindowRequested(key);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return ownWindow(key) != nullptr; }, patience));
+        use(*ownWindow(key));
     }
 
     static QJsonObject paragraph(const QString &text)
@@ -36,12 +40,51 @@ protected:
     {
         expectInOrder(state, QAccessible::queryAccessibleInterface(&window()));
     }
-    void expectInOrder(const char *state, QAccessibleInterface *part)
+    void expectInOrder(const char *state, QAccessibleInterface *part, int atLeast = 6)
     {
         settle();
         int focusable = 0;
         visit(part, state, focusable);
-        EXPECT_GT(focusable, 5) << state;
+        EXPECT_GE(focusable, atLeast) << state;
+    }
+
+    /// One round of Tab through the present window: what has the focus after each press.
+    QList<QQuickItem *> tabRound()
+    {
+        QList<QQuickItem *> round;
+        for (int i = 0; i < 100; ++i) {
+            press(Qt::Key_Tab);
+            QQuickItem *const item = window().activeFocusItem();
+            if (round.contains(item))
+                break;
+            round += item;
+        }
+        return round;
+    }
+
+    static std::string nameOf(QQuickItem *item)
+    {
+        auto *const known = QAccessible::queryAccessibleInterface(item);
+        return known ? known->text(QAccessible::Name).toStdString() : "nameless";
+    }
+
+    /// From top to bottom, and from left to right within a line. The round begins anywhere.
+    static void expectAsRead(const QList<QQuickItem *> &round)
+    {
+        std::string returns;
+        int count = 0;
+        for (qsizetype i = 0; i < round.size(); ++i) {
+            QQuickItem *const from = round[i];
+            QQuickItem *const to = round[(i + 1) % round.size()];
+            const QRectF before = from->mapRectToScene(from->boundingRect());
+            const QRectF after = to->mapRectToScene(to->boundingRect());
+            const bool isSameLine = after.top() < before.bottom() && after.bottom() > before.top();
+            if (after.bottom() <= before.top() || (isSameLine && after.right() <= before.left())) {
+                ++count;
+                returns += nameOf(from) + " before " + nameOf(to) + "; ";
+            }
+        }
+        EXPECT_LE(count, 1) << returns;
     }
 
     void visit(QAccessibleInterface *node, const char *state, int &focusable)
@@ -104,6 +147,27 @@ TEST_F(IssueCrawl, EachElementOfAnIssueHasANameAndARoleInEveryState)
     type(u"@"_s);
     await(QAccessible::Dialog, u"Mentions"_s);
     expectInOrder("mentions");
+}
+
+TEST_F(IssueCrawl, TabFollowsTheEyeThroughAnIssue)
+{
+    window().resize(760, 1400);
+    settle();
+    const auto round = tabRound();
+    EXPECT_GT(round.size(), 12);
+    expectAsRead(round);
+}
+
+TEST_F(IssueCrawl, AnIssueThatIsLoadingOrUnavailableSaysSoAndOffersToTryAgain)
+{
+    site.server().holdBack(
+        [](const RawRequest &request) { return request.target.contains("/AIDE-999"); });
+    openWindow(u"AIDE-999"_s);
+    await(QAccessible::Animation, u"Chargement"_s);
+    site.server().release();
+    await(QAccessible::Button, u"Réessayer"_s);
+    EXPECT_TRUE(has(QAccessible::Grouping, u"Ticket indisponible"_s));
+    expectInOrder("unavailable", QAccessible::queryAccessibleInterface(&window()), 1);
 }
 
 TEST_F(IssueCrawl, TheSendButtonIsToldAsDisabledUntilThereAreWordsAndWhileItSends)
