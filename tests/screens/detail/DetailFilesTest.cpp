@@ -1,5 +1,7 @@
 #include "app/WindowFixture.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 /// The files of an issue beside the list of the main window.
@@ -32,6 +34,12 @@ protected:
         tiles.removeIf([](const Spoken &tile) { return !tile.state.focused; });
         return tiles.value(0);
     }
+    bool isFocused(QAccessible::Role role, const QString &name)
+    {
+        return std::ranges::any_of(spokenIn(window(), role, name), [&](const Spoken &thing) {
+            return thing.name == name && thing.state.focused;
+        });
+    }
     int topOf(QAccessible::Role role, const QString &name) { return find(role, name).box.top(); }
 };
 
@@ -48,4 +56,13 @@ TEST_F(DetailFiles, TheTileThatTheKeysReachIsInSight)
     settle();
     EXPECT_EQ(focusedTile().name, u"fichier-0.log"_s);
     EXPECT_GE(focusedTile().box.top(), 0);
+}
+
+TEST_F(DetailFiles, TheDownKeyOfTheButtonThatAttachesOpensItsMenu)
+{
+    openIssueWith(1);
+    for (int i = 0; i < 30 && !isFocused(QAccessible::Button, u"Joindre"_s); ++i)
+        press(Qt::Key_Tab);
+    press(Qt::Key_Down);
+    await(QAccessible::MenuItem, u"Coller depuis le presse-papiers"_s);
 }

@@ -21,6 +21,8 @@ FocusableItem {
     hint: "Joindre des fichiers (ou glisse-les sur le ticket)"
     Accessible.description: "Flèche vers le bas pour les autres façons de joindre"
     ContextMenuKey.onPressed: menuOpen = true
+    // In the main window, the down key would otherwise move through the issues.
+    Keys.onShortcutOverride: event => event.accepted = visualFocus && event.key === Qt.Key_Down
     Keys.onDownPressed: menuOpen = true
     onClicked: filesRequested()
     onPressAndHold: menuOpen = true
