@@ -1,6 +1,9 @@
 """A simulated Jira site, and the steps of signing in to it."""
+import base64
+import json
 import os
 import re
+import urllib.request
 
 from support import ISSUE, RUN, WindowCase
 
@@ -18,6 +21,14 @@ class Simulator:
         self.data_center = re.search(r"Data Center\s+(\S+)", said).group(1)
         self.email = re.search(r"E-mail\s+(\S+)", said).group(1)
         self.token = re.search(r"Token\s+(\S+)", said).group(1)
+
+    def files_of(self, key):
+        """The names of the files that the site has of an issue."""
+        signature = base64.b64encode(("%s:%s" % (self.email, self.token)).encode()).decode()
+        request = urllib.request.Request("%s/rest/api/3/issue/%s?fields=attachment" % (self.address, key),
+                                         headers={"Authorization": "Basic " + signature})
+        with urllib.request.urlopen(request, timeout=10) as answer:
+            return [file["filename"] for file in json.load(answer)["fields"]["attachment"]]
 
     def pause(self):
         """Answers nothing from now on."""

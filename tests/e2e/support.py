@@ -89,14 +89,14 @@ class Velmora:
         return self.app.find(role="text", name="Filtrer")
 
     # actions of the user
-    def tab_to(self, name):
-        """Presses Tab until an object of that name has the focus."""
+    def tab_to(self, name, key="Tab"):
+        """Presses Tab, or another key, until an object of that name has the focus."""
         seen = [self._focused_names()]
         for _ in range(30):
             # Both the control with the keyboard focus and the focused issue have the state "focused".
             if any(re.search(name, each) for each in seen[-1]):
                 return
-            self.session.key("Tab")
+            self.session.key(key)
             seen.append(self._focus_after(seen[-1]))
         raise AssertionError("Tab reaches only %s" % seen)
 

@@ -1,5 +1,8 @@
-"""The files of an issue are previewed by keyboard alone."""
+"""The files of an issue are previewed and attached by keyboard alone."""
+import os
+
 from driver import wait_until
+from site_case import SiteCase
 from support import WindowCase
 
 PICTURE, LOG = "facture-septembre-erreur.png", "worker-facturation.log"
@@ -57,3 +60,58 @@ class FilesByKeyboard(WindowCase):
         self.wait_preview(PICTURE)
         self.session.key("space")
         self.wait_no_preview()
+
+
+class UploadByKeyboard(SiteCase):
+    """An upload to a site that does not read on, cancelled by keyboard alone."""
+    renderers = ("software",)
+
+    screen = (1500, 1000)
+    # More than the system keeps of what the site does not read.
+    LARGE = 24 << 20
+
+    def setUp(self):
+        super().setUp()
+        self.velmora = self.open_card()
+        self.app = self.velmora.app
+        self.sign_in(self.velmora, self.site.email)
+        self.wait_issues(self.velmora)
+        self.session.key("j", "Return")
+        self.app.find(role="heading", name="^Pièces jointes$", timeout=15)
+        self.app.gone(role="indicator", name="^Chargement", timeout=15)
+        self.session.settle()
+        self.key = self.velmora.focused_key()
+        self.before = self.site.files_of(self.key)
+
+    def copy_file(self, name, size):
+        """Copies a new file in the file manager."""
+        path = os.path.join(self.session.dir, name)
+        with open(path, "wb") as file:
+            file.write(b"x" * size)
+        self.session.set_clipboard("file://%s\r\n" % path, "text/uri-list")
+
+    def attach_copied(self, key):
+        """Pastes the file with the menu of the button, to which the key leads from where the focus is."""
+        self.velmora.tab_to("^Joindre$", key)
+        self.session.key("Down")
+        self.app.find(role="menu item", name="^Coller depuis le presse-papiers$")
+        self.session.key("End", "Return")
+
+    def test_a_cancelled_upload_leaves_no_file_and_the_next_one_works(self):
+        self.copy_file("lent.bin", self.LARGE)
+        self.site.pause()
+        self.attach_copied("Tab")
+        self.app.find(role="list item", name="^Envoi", description="^Envoyé à ", timeout=15)
+        self.velmora.tab_to("^Annuler l'envoi$")
+        self.session.key("space")
+        self.app.gone(role="list item", name="^Envoi")
+        self.site.go_on()
+        self.session.settle()
+        self.assertEqual(self.site.files_of(self.key), self.before)
+        self.assertFalse(self.app.all(name="(joint à|impossible|perdue)"), "nothing is said about it")
+
+        self.copy_file("bref.txt", 100)
+        self.attach_copied("shift+Tab")
+        self.app.find(role="list item", name="^bref.txt$", timeout=15)
+        self.assertEqual(self.site.files_of(self.key), self.before + ["bref.txt"])
+        self.assertFalse(self.app.all(role="list item", name="^lent.bin$"))
