@@ -1,5 +1,6 @@
 #include "SessionTest.h"
 #include "simulator/server/Packed.h"
+#include "support/SmallDisk.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -128,6 +129,17 @@ TEST_F(DownloadTest, AFolderThatCannotBeMadeIsAFailure)
     ASSERT_TRUE(blocking.open(QIODevice::WriteOnly));
     server.answer(RawAnswer::http(200, "content"));
     EXPECT_EQ(failureOf(download(u"file/below"_s)), Kind::NotStored);
+}
+
+TEST_F(DownloadTest, AFullDiskIsAFailureAndLeavesNothing)
+{
+    // The first body is written as it arrives, the second when it is complete.
+    for (const qsizetype bytes : {200'000, 2'000}) {
+        server.answer(RawAnswer::http(200, QByteArray(bytes, 'x')));
+        const SmallDisk disk(1'000);
+        EXPECT_EQ(failureOf(download()), Kind::NotStored) << bytes;
+        EXPECT_EQ(files(), QStringList()) << bytes;
+    }
 }
 
 TEST_F(DownloadTest, OnlyTheLastAnswerOfARedirectIsStored)
