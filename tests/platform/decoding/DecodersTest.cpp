@@ -1,6 +1,7 @@
 #include "platform/decoding/Decoders.h"
 
 #include "platform/decoding/DecodersFixture.h"
+#include "platform/decoding/EndlessPdf.h"
 #include "screens/kit/images/SamplePictures.h"
 #include "support/RunUntil.h"
 
@@ -10,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -43,6 +45,19 @@ bool isDead(qint64 process)
     const QDir threads(u"/proc/%1/task"_s.arg(process));
     return file.open(QFile::ReadOnly) && file.readAll().contains(") Z ") &&
            threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() <= 1;
+}
+
+/// The processor time that a child has used.
+std::chrono::milliseconds processorTimeOf(qint64 process)
+{
+    QFile file(u"/proc/%1/stat"_s.arg(process));
+    if (!file.open(QFile::ReadOnly))
+        return {};
+    // After the name of the program, which may contain spaces.
+    const QList<QByteArray> fields = file.readAll().split(')').constLast().split(' ');
+    constexpr int userTime = 12;
+    return std::chrono::milliseconds(fields.value(userTime).toLongLong() * 1000 /
+                                     sysconf(_SC_CLK_TCK));
 }
 
 class DecodersTest : public DecodersFixture
@@ -177,6 +192,25 @@ TEST_F(DecodersTest, APictureThatDeclaresSixtyThousandSquaredIsRefusedByItsDecla
     const QByteArray wall =
         "<svg xmlns='http://www.w3.org/2000/svg' width='60000' height='60000'><path/></svg>";
     EXPECT_EQ(resultOf(decoders, wall, pictureIn({100, 100})).status, DecodingStatus::TooLarge);
+}
+
+TEST_F(DecodersTest, APdfThatNeverEndsIsEndedAfterItsTime)
+{
+    const TaskResult result(
+        decoders.decode(DecodingInput::bytes(endlessPdf()), pageAt(0, {200, 200})));
+    const auto isAtWork = [] {
+        const QList<qint64> helpers = children();
+        return !helpers.isEmpty() &&
+               processorTimeOf(helpers.first()) > std::chrono::milliseconds(500);
+    };
+    ASSERT_TRUE(runUntil([&] { return result.isDone() || isAtWork(); }));
+    ASSERT_FALSE(result.isDone());
+    const QList<qint64> endless = children();
+    clock.advance(DecodingLimits().perPicture);
+    ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
+    EXPECT_EQ(result.value().status, DecodingStatus::Unreadable);
+    EXPECT_FALSE(children().contains(endless.first()));
+    EXPECT_TRUE(readsPictures(decoders));
 }
 
 TEST_F(DecodersTest, AThousandMalformedFilesLeaveItReading)
