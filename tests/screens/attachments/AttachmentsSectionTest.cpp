@@ -1,4 +1,6 @@
 #include "screens/attachments/AttachmentStage.h"
+#include "screens/attachments/Samples.h"
+#include "screens/attachments/section/FileTileModel.h"
 
 #include <QTest>
 
@@ -16,6 +18,18 @@ protected:
         for (const auto &name : {u"a.txt"_s, u"b.txt"_s, u"c.txt"_s, u"d.txt"_s})
             files += cached(name.first(1), name, u"text/plain"_s, "contenu de " + name.toUtf8());
         open(files);
+    }
+    /// The issue gets this number of other files. The tiles that have to wait do not exist yet.
+    void receive(int count)
+    {
+        Issue issue = sampleIssue(u"WEB-1"_s);
+        for (int i = 0; i < count; ++i)
+            issue.attachments += AttachmentSamples::file(u"neuf %1"_s.arg(i), u"neuf-%1"_s.arg(i));
+        reloadWith({issue});
+    }
+    int gridHeight()
+    {
+        return spokenIn(window(), QAccessible::List, u"Fichiers joints"_s).value(0).box.height();
     }
     QRect tileBox(const QString &name)
     {
@@ -85,6 +99,40 @@ TEST_F(AttachmentsSectionTest, TheTileThatTheKeysReachAsksToBeSeen)
     EXPECT_EQ(revealed(), tileBox(u"a.txt"_s));
     press(Qt::Key_Down);
     EXPECT_EQ(revealed(), tileBox(u"d.txt"_s));
+}
+
+TEST_F(AttachmentsSectionTest, ManyTilesAreMadeInStepsInAGridOfTheFinalHeight)
+{
+    openFour();
+    receive(60);
+    EXPECT_EQ(namesOf(QAccessible::ListItem).size(), FileTileModel::firstStep);
+    EXPECT_EQ(gridHeight(), 20 * 149 - 10);
+    ASSERT_TRUE(awaits(QAccessible::ListItem, u"neuf-59"_s));
+    EXPECT_EQ(namesOf(QAccessible::ListItem).size(), 60);
+    EXPECT_EQ(gridHeight(), 20 * 149 - 10);
+}
+
+TEST_F(AttachmentsSectionTest, TheEndKeyReachesATileThatHadToWait)
+{
+    openFour();
+    goToTiles();
+    receive(60);
+    ASSERT_TRUE(spokenIn(window(), QAccessible::ListItem, u"neuf-59"_s).isEmpty());
+    press(Qt::Key_End);
+    EXPECT_EQ(focusedTile(), u"neuf-59"_s);
+}
+
+TEST_F(AttachmentsSectionTest, DeletingWhileTilesWaitLeavesTheOthers)
+{
+    openFour();
+    goToTiles();
+    receive(60);
+    receive(59);
+    press(Qt::Key_Home);
+    EXPECT_EQ(focusedTile(), u"neuf-0"_s);
+    receive(30);
+    ASSERT_TRUE(awaits(QAccessible::ListItem, u"neuf-29"_s));
+    EXPECT_EQ(namesOf(QAccessible::ListItem).size(), 30);
 }
 
 TEST_F(AttachmentsSectionTest, ReturnOpensTheFile)

@@ -13,7 +13,7 @@ void FileTileModel::setTiles(const QList<Attachment> &attachments,
         for (int i = 0; i < upload.fileCount; ++i)
             rows.append({key + QString::number(i), std::nullopt, UploadFacts{upload}});
     }
-    update(rows);
+    setRows(rows);
 }
 
 QVariant FileTileModel::data(const QModelIndex &index, int role) const

@@ -47,8 +47,6 @@ FocusScope {
         previewer.click(file);
     }
 
-    implicitHeight: 139
-
     When {
         shown: !root.isUpload
 

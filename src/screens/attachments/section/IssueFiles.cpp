@@ -56,13 +56,13 @@ void IssueFiles::update()
     const auto uploads = m_store ? m_store->uploads().ofIssue(m_key) : QList<RunningUpload>();
     if (m_attachments == attachments && m_uploads == uploads)
         return;
-    const qsizetype tilesBefore = m_tiles.rowCount();
+    const int tilesBefore = tileCount();
     const bool hasOtherFiles = m_attachments != attachments;
     m_attachments = attachments;
     m_uploads = uploads;
     m_tiles.setTiles(attachments, uploads);
     // The progress of an upload concerns its tiles only.
-    if (hasOtherFiles || m_tiles.rowCount() != tilesBefore)
+    if (hasOtherFiles || tileCount() != tilesBefore)
         Q_EMIT changed();
 }
 

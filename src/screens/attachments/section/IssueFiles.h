@@ -17,6 +17,7 @@ class IssueFiles : public QObject
     Q_PROPERTY(QList<AttachmentFile> files READ files NOTIFY changed FINAL)
     Q_PROPERTY(int count READ count NOTIFY changed FINAL)
     Q_PROPERTY(FileTileModel *tiles READ tiles CONSTANT FINAL)
+    /// The number of all tiles, of which the model may not yet contain the last.
     Q_PROPERTY(int tileCount READ tileCount NOTIFY changed FINAL)
     /// The text of the area on which files are dropped.
     Q_PROPERTY(QString dropText READ dropText NOTIFY keyChanged FINAL)
@@ -31,7 +32,7 @@ public:
     QList<AttachmentFile> files() const;
     int count() const { return int(m_attachments.size()); }
     FileTileModel *tiles() { return &m_tiles; }
-    int tileCount() const { return m_tiles.rowCount(); }
+    int tileCount() const { return int(m_tiles.allRows().size()); }
     QString dropText() const;
 
     const QList<Attachment> &attachments() const { return m_attachments; }

@@ -14,6 +14,7 @@ Item {
     required property IssueFiles files
     required property AttachmentPreviewer previewer
     property int currentIndex: 0
+    readonly property real tileHeight: 139
     readonly property int columns: Math.max(1, Math.floor((width + flow.spacing) / (140 + flow.spacing)))
     /// The window's key map leaves the keys of a control that shows the focus to it.
     readonly property bool visualFocus: activeFocus
@@ -21,12 +22,13 @@ Item {
     signal revealRequested(box: rect)
 
     function move(by: int) {
-        currentIndex = Math.max(0, Math.min(slots.count - 1, currentIndex + by));
+        currentIndex = Math.max(0, Math.min(files.tileCount - 1, currentIndex + by));
     }
 
-    // From the button of a tile, the keys go back to the tiles.
+    // From the button of a tile, the keys go back to the tiles. The wanted tile may not exist yet.
     function walk(by: int) {
         forceActiveFocus(Qt.TabFocusReason);
+        files.tiles.addAll();
         move(by);
     }
 
@@ -58,7 +60,8 @@ Item {
         menu.open(slot.file, slot.mapToItem(root, x, y));
     }
 
-    implicitHeight: flow.height
+    // Includes the tiles that do not exist yet, so that what follows the grid stays in its place.
+    implicitHeight: Math.max(0, Math.ceil(files.tileCount / columns) * (tileHeight + flow.spacing) - flow.spacing)
     height: implicitHeight
     activeFocusOnTab: true
     OwnKeys.walksRows: true
@@ -78,7 +81,7 @@ Item {
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
         if (event.accepted)
-            walk(event.key === Qt.Key_Home ? -slots.count : slots.count);
+            walk(event.key === Qt.Key_Home ? -root.files.tileCount : root.files.tileCount);
     }
     ContextMenuKey.onPressed: current()?.openMenu()
 
@@ -109,6 +112,7 @@ Item {
                 id: slot
 
                 width: Math.min(141, (root.width - (root.columns - 1) * flow.spacing) / root.columns)
+                height: root.tileHeight
                 isCurrent: root.activeFocus && index === root.currentIndex
                 previewer: root.previewer
                 onPressed: root.currentIndex = index

@@ -2,9 +2,8 @@
 
 #include "model/Shared.h"
 #include "screens/detail/activity/ShownComment.h"
-#include "state/models/KeyedListModel.h"
+#include "state/models/SteppedListModel.h"
 
-#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 /// A comment in a list. Rows that hold the same object are equal without a comparison of their contents.
@@ -16,10 +15,8 @@ struct CommentRow
     bool operator==(const CommentRow &) const = default;
 };
 
-/// The comments that are shown, oldest first. Creating a bubble takes one or two milliseconds, so the bubbles of many
-/// comments are created in steps: the model contains the first comments at once, and the others follow while nothing
-/// else happens.
-class CommentList : public KeyedListModel<CommentRow>
+/// The comments that are shown, oldest first. The bubbles of many comments are created in steps.
+class CommentList : public SteppedListModel<CommentRow>
 {
     Q_OBJECT
     QML_ELEMENT
@@ -32,20 +29,11 @@ public:
     /// The number of comments that are added at once, which fills most windows.
     static constexpr qsizetype firstStep = 12;
 
-    explicit CommentList(QObject *parent = nullptr);
+    explicit CommentList(QObject *parent = nullptr) : SteppedListModel(firstStep, parent) {}
 
-    /// Replaces the comments. Up to the first one that has to wait, the model contains them when this returns.
+    /// Replaces the comments.
     void setComments(const QList<ShownComment> &comments);
-    /// The model contains all comments.
-    bool isComplete() const { return rows().size() == m_comments.size(); }
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
-
-private:
-    void addMore();
-    void showUpTo(qsizetype count);
-
-    QList<CommentRow> m_comments;
-    QTimer m_idle;
 };
