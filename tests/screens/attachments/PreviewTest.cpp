@@ -1,3 +1,5 @@
+#include "platform/decoding/Decoders.h"
+#include "platform/decoding/EndlessPdf.h"
 #include "screens/attachments/AttachmentStage.h"
 #include "screens/attachments/preview/PdfPage.h"
 #include "screens/attachments/preview/PictureCanvas.h"
@@ -202,6 +204,20 @@ TEST_F(PreviewTest, ADamagedPdfSaysSo)
 {
     previewFirst({cached(u"doc"_s, u"doc.pdf"_s, u"application/pdf"_s, "%PDF-1.4 rien")});
     EXPECT_TRUE(says(QAccessible::StaticText, u"Ce PDF est endommagé."_s));
+}
+
+TEST_F(PreviewTest, APageThatCannotBeDrawnSaysSo)
+{
+    previewFirst({cached(u"doc"_s, u"doc.pdf"_s, u"application/pdf"_s, endlessPdf())});
+    auto *page = shownItem<PdfPage>();
+    ASSERT_NE(page, nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([] { return Decoders::shared().pendingCount() > 0; }));
+    Decoders::shared().endHelpers();
+    EXPECT_TRUE(says(QAccessible::StaticText, u"Cette page ne peut pas être affichée."_s));
+    EXPECT_TRUE(spokenIn(*preview, QAccessible::Animation, u"Chargement"_s).isEmpty());
+    preview->resize(preview->width() - 100, preview->height());
+    preview->grabWindow();
+    EXPECT_EQ(Decoders::shared().pendingCount(), 0) << "it is not drawn again";
 }
 
 TEST_F(PreviewTest, AnotherFileShowsItsFactsAndOpens)

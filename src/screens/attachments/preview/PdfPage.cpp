@@ -37,6 +37,7 @@ void PdfPage::setPage(int page)
     m_page = page;
     m_ordered = {};
     m_image = {};
+    m_hasFailed = false;
     Q_EMIT pageChanged();
     Q_EMIT drawnChanged();
     polish();
@@ -70,7 +71,8 @@ void PdfPage::updatePolish()
 {
     const QSize wanted = wantedPixels();
     PdfWork *const work = m_preview ? m_preview->work() : nullptr;
-    if (!work || wanted.isEmpty() || wanted == m_ordered || m_page >= work->pages().size())
+    if (!work || m_hasFailed || wanted.isEmpty() || wanted == m_ordered ||
+        m_page >= work->pages().size())
         return;
     m_ordered = wanted;
     m_order = work->draw(m_page, wanted);
@@ -80,7 +82,10 @@ void PdfPage::take(quint64 order, const QImage &image)
 {
     if (order != m_order)
         return;
-    m_image = image;
+    m_hasFailed = image.isNull();
+    // A page that was drawn at another size remains.
+    if (!m_hasFailed)
+        m_image = image;
     Q_EMIT drawnChanged();
     update();
 }

@@ -74,9 +74,21 @@ FocusScope {
 
             Spinner {
                 anchors.centerIn: page
-                visible: !page.isDrawn
+                visible: !page.isDrawn && !page.hasFailed
                 color: "#808080"
                 size: 20
+            }
+
+            // On the white of the page in both appearances.
+            AppText {
+                anchors.centerIn: page
+                visible: page.hasFailed && !page.isDrawn
+                width: Math.min(implicitWidth, page.width - 2 * Metrics.gapSection)
+                role: TypeScale.Small
+                color: "#6b6b6b"
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+                text: "Cette page ne peut pas être affichée."
             }
         }
     }
