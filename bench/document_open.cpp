@@ -1,7 +1,9 @@
 // Measures how long documents take to open: from the creation of a window to the swap of its first frame, compared with
 // the same window with one paragraph, and the memory that the blocks use. All windows are in one process, and the
-// subjects alternate.
+// subjects alternate. At the end, the documents are scrolled and compared with rows of text.
 
+#include "FrameTable.h"
+#include "FrameTimer.h"
 #include "ProcessMemory.h"
 #include "SwapWatch.h"
 #include "richtext/ADFNodes.h"
@@ -31,6 +33,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Rounds = 15;
+constexpr int Steps = 180;
 
 ADFNode paragraph(int sentences)
 {
@@ -108,6 +111,27 @@ Window {
                     mediaDelegate: Component { Rectangle { required property mediaBlock block; implicitHeight: 200; color: "gainsboro" } }
                 }
             }
+        }
+    }
+}
+)";
+
+/// The same window with rows of text, of which every other one is shaded.
+const char *const rows = R"(import QtQuick
+import Velmora.Kit
+import Velmora.Theme
+Window {
+    width: 560; height: 840; visible: true; color: Theme.content
+    ListView {
+        id: list
+        anchors.fill: parent
+        model: 10000
+        delegate: Item {
+            id: row
+            required property int index
+            width: list.width; height: 38
+            Rectangle { anchors.fill: parent; visible: row.index % 2 === 0; color: Theme.hoverFill }
+            AppText { text: "Le rafraîchissement du jeton échoue après une journée complète. " + row.index }
         }
     }
 }
@@ -200,6 +224,48 @@ void printMemory(QQmlComponent &component, const std::vector<Subject> &subjects)
     }
 }
 
+void addScroll(FrameTable &table, QObject &window, const QString &what)
+{
+    FrameTimer timer(*qobject_cast<QQuickWindow *>(&window));
+    const auto scroll = timer.scroll(Steps);
+    table.add(u"%1, %2 dropped"_s.arg(what).arg(scroll.dropped), scroll.times);
+}
+
+/// The rows are scrolled before and after the documents, which shows how much the speed of the machine has changed.
+void printScrolls(QQmlEngine &engine, QQmlComponent &component,
+                  const std::vector<Subject> &subjects)
+{
+    std::printf("\n");
+    FrameTable table(u"scrolling"_s);
+    QQmlComponent list(&engine);
+    list.setData(rows, QUrl(u"qrc:/rows.qml"_s));
+    const std::unique_ptr<QObject> plain(list.create());
+    if (!plain)
+        qFatal("%s", qPrintable(list.errorString()));
+    addScroll(table, *plain, u"rows of text"_s);
+    for (size_t i = 1; i < subjects.size(); ++i)
+        addScroll(table, *opened(component, subjects[i]), QString::fromLatin1(subjects[i].name));
+    addScroll(table, *plain, u"rows of text"_s);
+}
+
+void printOpening(QQmlComponent &component, std::vector<Subject> &subjects)
+{
+    openTime(component, subjects.front());
+    for (int round = 0; round < Rounds; ++round) {
+        for (auto &subject : subjects)
+            subject.times.push_back(openTime(component, subject));
+    }
+    std::printf("\ndocuments, from the creation of a window to its first frame\n");
+    std::printf("%-28s %10s %8s\n", "", "median ms", "ratio");
+    double base = 0;
+    for (auto &subject : subjects) {
+        std::ranges::sort(subject.times);
+        const double median = double(subject.times[subject.times.size() / 2]) / 1e6;
+        base = base > 0 ? base : median;
+        std::printf("%-28s %10.1f %8.2f\n", subject.name, median, median / base);
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -218,19 +284,7 @@ int main(int argc, char **argv)
                                   {"2,000 blocks", document(2000)},
                                   {"100 comments", document(1), 100}};
     printMemory(component, subjects);
-    openTime(component, subjects.front());
-    for (int round = 0; round < Rounds; ++round) {
-        for (auto &subject : subjects)
-            subject.times.push_back(openTime(component, subject));
-    }
-    std::printf("\ndocuments, from the creation of a window to its first frame\n");
-    std::printf("%-28s %10s %8s\n", "", "median ms", "ratio");
-    double base = 0;
-    for (auto &subject : subjects) {
-        std::ranges::sort(subject.times);
-        const double median = double(subject.times[subject.times.size() / 2]) / 1e6;
-        base = base > 0 ? base : median;
-        std::printf("%-28s %10.1f %8.2f\n", subject.name, median, median / base);
-    }
+    printOpening(component, subjects);
+    printScrolls(engine, component, subjects);
     return 0;
 }
