@@ -1,5 +1,22 @@
 #include "state/models/ToastModel.h"
 
+#include "model/text/VisibleText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Messages contain names of files and texts of sites, in which characters can hide. Line breaks stay.
+QString shownMessage(const QString &message)
+{
+    QStringList lines = message.split(u'\n');
+    for (QString &line : lines)
+        line = visibleText(line);
+    return lines.join(u'\n');
+}
+
+} // namespace
+
 void ToastModel::setToasts(const QList<Toast> &toasts)
 {
     QList<ToastRow> rows;
@@ -17,7 +34,7 @@ QVariant ToastModel::data(const QModelIndex &index, int role) const
         return toast.id;
     case MessageRole:
     case Qt::DisplayRole:
-        return toast.message;
+        return shownMessage(toast.message);
     case SymbolRole:
         return toast.symbol;
     case IsErrorRole:

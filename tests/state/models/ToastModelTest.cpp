@@ -31,6 +31,13 @@ TEST(ToastModel, ShowsWhatAToastSays)
     EXPECT_EQ(model.index(1).data(ToastModel::IdRole).toUuid(), toast(u"Refusé"_s).id);
 }
 
+TEST(ToastModel, ATrickInANameIsVisibleAndLineBreaksStay)
+{
+    ToastModel model;
+    model.setToasts({toast(u"« facture\u202Egpj.exe »\njoint"_s)});
+    EXPECT_EQ(model.index(0).data(ToastModel::MessageRole), u"« facture[U+202E]gpj.exe »\njoint"_s);
+}
+
 TEST(ToastModel, AToastThatGoesLeavesTheOthersAlone)
 {
     ToastModel model;
