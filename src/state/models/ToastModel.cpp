@@ -6,10 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Messages contain names of files and texts of sites, in which characters can hide. Line breaks stay.
+/// Messages contain names of files and texts of sites, in which characters can hide. Line breaks stay, and tabs become
+/// spaces.
 QString shownMessage(const QString &message)
 {
-    QStringList lines = message.split(u'\n');
+    QString plain = message;
+    plain.replace(u"\r\n"_s, u"\n"_s).replace(u'\t', u' ');
+    QStringList lines = plain.split(u'\n');
     for (QString &line : lines)
         line = visibleText(line);
     return lines.join(u'\n');

@@ -38,6 +38,13 @@ TEST(ToastModel, ATrickInANameIsVisibleAndLineBreaksStay)
     EXPECT_EQ(model.index(0).data(ToastModel::MessageRole), u"« facture[U+202E]gpj.exe »\njoint"_s);
 }
 
+TEST(ToastModel, TheLinesOfASiteStayLines)
+{
+    ToastModel model;
+    model.setToasts({toast(u"Refusé\tpar le site\r\n"_s)});
+    EXPECT_EQ(model.index(0).data(ToastModel::MessageRole), u"Refusé par le site\n"_s);
+}
+
 TEST(ToastModel, AToastThatGoesLeavesTheOthersAlone)
 {
     ToastModel model;
