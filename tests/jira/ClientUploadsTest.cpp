@@ -182,7 +182,7 @@ TEST_F(ClientUploads, AConnectionLostInTheMiddleIsNotTriedAgain)
     server.dropConnections(Ending::Reset);
     ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
     EXPECT_THROW(result.value(), TransportError);
-    EXPECT_EQ(server.connections(), 1);
+    EXPECT_EQ(server.usedConnections(), 1);
 }
 
 TEST_F(ClientUploads, AFileThatShrinksWhileItIsSentIsSentAsItWas)

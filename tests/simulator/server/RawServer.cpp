@@ -209,6 +209,8 @@ void RawServer::read(const std::shared_ptr<Connection> &connection)
         const qint64 most = m_mostRead ? std::max<qint64>(0, *m_mostRead - connection->bytesRead)
                                        : connection->socket->bytesAvailable();
         const QByteArray bytes = connection->socket->read(most);
+        if (connection->bytesRead == 0 && !bytes.isEmpty())
+            ++m_usedConnections;
         connection->bytesRead += bytes.size();
         connection->arrived += bytes;
     }

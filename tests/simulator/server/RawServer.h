@@ -69,6 +69,9 @@ public:
     void clearJournal() { m_journal.clear(); }
     /// The number of connections opened so far; over TLS, only those that completed the handshake.
     int connections() const { return m_connections; }
+    /// The number of connections over which anything was received. The network stack may open a further one after a
+    /// connection broke, without a request for it.
+    int usedConnections() const { return m_usedConnections; }
     /// The number of connections that are currently open.
     int openConnections() const;
 
@@ -96,5 +99,6 @@ private:
     QList<std::pair<std::weak_ptr<Connection>, RawRequest>> m_heldBack;
     QList<RawRequest> m_journal;
     int m_connections = 0;
+    int m_usedConnections = 0;
     QList<std::shared_ptr<Connection>> m_open;
 };
