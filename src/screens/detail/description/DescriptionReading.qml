@@ -41,6 +41,17 @@ FocusScope {
         id: pointer
     }
 
+    // Declared before the document, because Tab follows this order and the button is at the top.
+    EditButton {
+        id: edit
+
+        anchors.right: parent.right
+        z: 1
+        visible: root.hasDocument
+        isSeen: pointer.hovered
+        onClicked: root.editing.begin()
+    }
+
     ADFContentView {
         id: document
 
@@ -59,15 +70,6 @@ FocusScope {
         onLinkActivated: address => root.linkActivated(address)
         onRevealRequested: box => root.revealRequested(box)
         onShifted: distance => root.shifted(distance)
-    }
-
-    EditButton {
-        id: edit
-
-        anchors.right: parent.right
-        visible: root.hasDocument
-        isSeen: pointer.hovered
-        onClicked: root.editing.begin()
     }
 
     FocusableItem {

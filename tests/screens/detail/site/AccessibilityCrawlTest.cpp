@@ -170,6 +170,24 @@ TEST_F(IssueCrawl, AnIssueThatIsLoadingOrUnavailableSaysSoAndOffersToTryAgain)
     expectInOrder("unavailable", QAccessible::queryAccessibleInterface(&window()), 1);
 }
 
+TEST_F(IssueCrawl, FilesAndSubIssuesAreNamedAndTabFollowsTheEye)
+{
+    const auto issues = site.site().issues();
+    const auto child = std::ranges::find_if(
+        issues, [](const SiteIssue &each) { return !each.parentKey.isEmpty(); });
+    ASSERT_NE(child, issues.end());
+    SiteIssue &parent = *site.site().issue(child->parentKey);
+    site.site().attach(parent, {.filename = u"notes.txt"_s, .mimeType = u"text/plain"_s});
+    openWindow(parent.key);
+    await(QAccessible::EditableText, u"Commentaire"_s);
+    EXPECT_TRUE(has(QAccessible::ListItem, u"notes.txt"_s));
+    EXPECT_TRUE(has(QAccessible::Button, child->key));
+    expectInOrder("files and sub-issues");
+    window().resize(760, 1800);
+    settle();
+    expectAsRead(tabRound());
+}
+
 TEST_F(IssueCrawl, TheSendButtonIsToldAsDisabledUntilThereAreWordsAndWhileItSends)
 {
     EXPECT_TRUE(find(QAccessible::Button, u"Envoyer"_s).state.disabled);
