@@ -22,7 +22,7 @@ QString AbruptBus::address() const
 /// after that is its answer to the client's greeting, which opens the connection.
 void AbruptBus::relay(QLocalSocket *client)
 {
-    auto *const bus = new QLocalSocket(client);
+    auto *const bus = std::make_unique<QLocalSocket>(client).release();
     const auto isOpening = std::make_shared<bool>(false);
     QObject::connect(client, &QLocalSocket::readyRead, bus, [=] {
         const QByteArray bytes = client->readAll();
