@@ -60,12 +60,13 @@ void RowPlaces::followRows()
 void RowPlaces::measure()
 {
     const qreal contentBefore = contentHeight();
+    m_rows = m_palette->rows();
     m_geometry = RowGeometry({.row = m_rowHeight,
                               .title = m_titleHeight,
                               .above = m_above,
                               .below = m_below,
                               .fade = m_fade},
-                             m_palette->rows());
+                             m_rows);
     const qreal viewHeight = std::clamp(contentHeight(), 0.0, std::max(0.0, m_highest));
     const bool isOtherView = std::exchange(m_viewHeight, viewHeight) != viewHeight;
     if (contentHeight() != contentBefore)
@@ -92,7 +93,7 @@ void RowPlaces::fill()
         if (now.isShown) {
             now.row = row;
             now.top = m_geometry.top(row);
-            now.content = m_palette->rows()[row];
+            now.content = m_rows[row];
         }
         put(place, now);
     }

@@ -97,6 +97,8 @@ private:
     qreal m_below = 0;
     qreal m_fade = 0;
     qreal m_highest = 0;
+    /// The rows that `m_geometry` places. The palette may have others until it says so.
+    QList<PaletteRow> m_rows;
     RowGeometry m_geometry;
     qreal m_viewHeight = 0;
     qreal m_top = 0;

@@ -82,6 +82,23 @@ TEST_F(RowPlacesTest, EachRowInSightHasAPlaceWithItsTextsAndItsPosition)
     EXPECT_EQ(places.contentHeight(), 4 + 2 * 29 + 13 * 32 + 8);
 }
 
+TEST_F(RowPlacesTest, AScrollBetweenTheNewRowsAndTheirPlacesIsHarmless)
+{
+    knowProjects(100);
+    // Parts of the view that the palette tells of its new rows first may change the scroll position.
+    places.setPalette(nullptr);
+    QObject::connect(&palette, &CommandPalette::updated, &places,
+                     [this] { places.setTop(places.top() - 1); });
+    places.setPalette(&palette);
+    openRoot();
+    palette.setQuery(u"p"_s);
+    places.setTop(places.contentHeight() - places.viewHeight());
+
+    palette.setQuery(u"mob-2"_s);
+
+    EXPECT_EQ(shown(), expected(0, palette.rowCount() - 1));
+}
+
 TEST_F(RowPlacesTest, ALetterGivesThePlacesOtherRowsAndMakesNone)
 {
     openRoot();
