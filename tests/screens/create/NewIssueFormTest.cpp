@@ -239,3 +239,51 @@ TEST_F(NewIssueFormTest, AnAnswerAfterTheEndOfTheSessionIsNoCreation)
     EXPECT_FALSE(form->isSubmitting());
     EXPECT_EQ(finished.count(), 0);
 }
+
+/// A form that is sent before the types of its project are known.
+class EarlyFormTest : public OpenForm
+{
+protected:
+    EarlyFormTest()
+    {
+        form->setSummary(u"Panne"_s);
+        form->submit();
+    }
+};
+
+TEST_F(EarlyFormTest, WaitsForTheTypesAndIsSentOnce)
+{
+    EXPECT_TRUE(form->isSubmitting());
+    EXPECT_EQ(service->createCalls.count(), 0);
+    answerProject();
+    EXPECT_EQ(service->createCalls.count(), 1);
+    clock.advance(std::chrono::seconds(10));
+    EXPECT_EQ(service->createCalls.count(), 1);
+}
+
+TEST_F(EarlyFormTest, IsSentWithoutATypeIfTheTypesDoNotArriveInTenSeconds)
+{
+    clock.advance(std::chrono::seconds(9));
+    EXPECT_EQ(service->createCalls.count(), 0);
+    clock.advance(std::chrono::seconds(1));
+    EXPECT_EQ(service->createCalls.count(), 1);
+    answerProject();
+    EXPECT_EQ(service->createCalls.count(), 1);
+}
+
+TEST_F(EarlyFormTest, CreatesNothingOnceItIsClosedAndLeavesItsText)
+{
+    form->abandon();
+    form.reset();
+    clock.advance(std::chrono::seconds(10));
+    EXPECT_EQ(service->createCalls.count(), 0);
+    EXPECT_EQ(abandonedTitle(), u"Panne"_s);
+}
+
+TEST_F(EarlyFormTest, CreatesNothingAfterItsSession)
+{
+    store->signOut();
+    clock.advance(std::chrono::seconds(10));
+    EXPECT_EQ(service->createCalls.count(), 0);
+    EXPECT_FALSE(form->isSubmitting());
+}
