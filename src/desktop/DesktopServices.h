@@ -7,8 +7,8 @@
 
 #include <memory>
 
-/// What the program offers to the user's desktop: its search finds open issues, its menus start actions, and its shortcuts
-/// work in every program. A desktop without one of them simply does not use it. UI thread only.
+/// What the program offers to the user's desktop: its search finds open issues, and its launcher starts
+/// actions. A desktop without one of them simply does not use it. UI thread only.
 class DesktopServices : public QObject
 {
     Q_OBJECT
