@@ -249,7 +249,10 @@ TEST(MenuWalk, TheHighlightStaysOnAnEntryInViewAndOnlyThatOneOrThePointedOneRuns
 {
     Bench bench;
     bench.window().resize(300, 220);
-    for (unsigned seed = 0; seed < 50 && !testing::Test::HasFailure(); ++seed) {
+    // More walks than each run of the tests can afford.
+    const int more = qEnvironmentVariableIntValue("VELMORA_MENU_SEEDS");
+    const unsigned seeds = more > 0 ? unsigned(more) : 10;
+    for (unsigned seed = 0; seed < seeds && !testing::Test::HasFailure(); ++seed) {
         Walk walk(bench, seed);
         for (int step = 0; step < 300 && !testing::Test::HasFailure(); ++step) {
             SCOPED_TRACE(u"seed %1, step %2"_s.arg(seed).arg(step).toStdString());
