@@ -79,7 +79,7 @@ QString shortcutText(const ShortcutKey &key)
         text += u'⌥';
     if (key.shift == ShortcutKey::Shift::Held)
         text += u'⇧';
-    return text + QChar(key.character).toUpper();
+    return text + printedCharacter(key, ownCharactersAt);
 }
 
 std::optional<PickerKind> pickerOf(Command command)

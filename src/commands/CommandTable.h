@@ -22,7 +22,7 @@ enum class InspectorState { Closed, Open };
 QString commandTitle(Command command, InspectorState inspector = InspectorState::Closed);
 /// The shortcut as text, such as "⌘⇧O"; empty for a command without a shortcut.
 QString commandShortcut(Command command);
-/// A key of the table of shortcuts as text, such as "⌘⌥1".
+/// A key of the table of shortcuts as text, such as "⌘⌥1", with the character that the user's keyboard layout requires.
 QString shortcutText(const ShortcutKey &key);
 
 /// The picker that the command opens; nothing for other commands.

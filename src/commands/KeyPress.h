@@ -47,5 +47,9 @@ struct KeyPress
     bool operator==(const KeyPress &) const = default;
 };
 
+/// The text that a key types without modifiers in the user's current keyboard layout; empty if the platform does not
+/// report it. Requires a QGuiApplication; without one it is empty. UI thread only.
+QString ownCharactersAt(quint32 scanCode);
+
 /// Whether a text begins with a letter that is not in the Latin alphabet.
 bool isOtherScript(const QString &text);

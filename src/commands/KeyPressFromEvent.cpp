@@ -21,6 +21,11 @@ QString ownCharactersOf(const QKeyEvent &event)
 
 } // namespace
 
+QString ownCharactersAt(quint32 scanCode)
+{
+    return ownCharactersOf(QKeyEvent(QEvent::KeyPress, 0, Qt::NoModifier, scanCode, 0, 0));
+}
+
 KeyPress KeyPress::from(const QKeyEvent &event)
 {
     return make(Qt::Key(event.key()), event.nativeScanCode(), event.text(), event.modifiers(),

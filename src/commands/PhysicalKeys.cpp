@@ -34,6 +34,15 @@ std::optional<QChar> characterAtPlace(quint32 scanCode)
     return std::nullopt;
 }
 
+quint32 scanCodeAtPlace(QChar character)
+{
+    for (const KeyRow &row : keyRows) {
+        if (const auto index = row.characters.indexOf(character); index >= 0)
+            return row.firstScanCode + quint32(index);
+    }
+    return 0;
+}
+
 std::optional<int> digitAtPlace(quint32 scanCode)
 {
     if (scanCode < firstDigitScanCode || scanCode > firstDigitScanCode + 8)

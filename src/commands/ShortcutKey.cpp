@@ -60,6 +60,20 @@ Reading byShiftedCharacter(const KeyPress &press)
     return {isUsedUp ? typed : QString(), Shift::NotHeld};
 }
 
+/// The scan codes of the keys that type characters, without the keypad: from the digit 1 to the last key before the
+/// right Shift.
+constexpr quint32 firstTypingKey = 10;
+constexpr quint32 lastTypingKey = 61;
+
+bool isTypedWithoutShift(QChar character, const OwnCharacters &layout)
+{
+    for (quint32 key = firstTypingKey; key <= lastTypingKey; ++key) {
+        if (layout(key).toLower() == character)
+            return true;
+    }
+    return false;
+}
+
 bool isLatinLetter(const QString &text)
 {
     return !text.isEmpty() && text.front().isLetter() && !isOtherScript(text);
@@ -101,4 +115,15 @@ std::optional<Command> shortcutCommand(const KeyPress &press)
             return command;
     }
     return std::nullopt;
+}
+
+QString printedCharacter(const ShortcutKey &key, const OwnCharacters &layout)
+{
+    const QChar character(key.character);
+    const QString own = character.toUpper();
+    if (key.shift == Shift::NotHeld || character.isLetterOrNumber())
+        return own;
+    const QString atPlace = layout(scanCodeAtPlace(character));
+    const bool isPlaceInUse = !atPlace.isEmpty() && !isLatinLetter(atPlace);
+    return isPlaceInUse && !isTypedWithoutShift(character, layout) ? atPlace.toUpper() : own;
 }

@@ -3,6 +3,7 @@
 #include "commands/Command.h"
 #include "commands/KeyPress.h"
 
+#include <functional>
 #include <optional>
 #include <span>
 
@@ -34,3 +35,11 @@ std::span<const ShortcutKey> shortcutKeys();
 ///    the positions of digits, even then): the key ":" of AZERTY for ".", the digits of AZERTY and BÉPO, and all
 ///    letters in layouts of other scripts.
 std::optional<Command> shortcutCommand(const KeyPress &press);
+
+/// The text that a key types without modifiers, by its scan code; empty if it is not known.
+using OwnCharacters = std::function<QString(quint32 scanCode)>;
+
+/// The character of the key that a user of this layout has to press for a shortcut, in upper case. That is the
+/// shortcut's own, except for a sign with Shift that no key of the layout types without Shift: then it is that of the
+/// key at the sign's position. For example, "." with Shift is ":" on AZERTY, where the key of "." requires Shift itself.
+QString printedCharacter(const ShortcutKey &key, const OwnCharacters &layout);

@@ -158,6 +158,19 @@ TEST_P(KeyMapUnderLayout, EveryShortcutIsOnOneOfItsKeysAlone)
     EXPECT_EQ(peek, std::set{int(GetParam().letters[7])});
 }
 
+TEST_P(KeyMapUnderLayout, APrintedSignWithShiftIsOnAKeyThatWorks)
+{
+    const auto ownCharacters = [this](quint32 code) { return layout.press(code).ownCharacters; };
+    for (const Command command : {Command::CopyBranch, Command::CopyLink}) {
+        const auto key = std::ranges::find(shortcutKeys(), command, &ShortcutKey::command);
+        const QString printed = printedCharacter(*key, ownCharacters);
+        const quint32 code = layout.keyOf(printed.toLower());
+        EXPECT_NE(code, 0) << printed.toStdString();
+        EXPECT_EQ(shortcutCommand(layout.press(code, key->flags | Qt::ShiftModifier)), command)
+            << printed.toStdString();
+    }
+}
+
 TEST_P(KeyMapUnderLayout, TheLayoutShortcutsAreOnTheDigitsWithoutShift)
 {
     const auto controlAlt = Qt::ControlModifier | Qt::AltModifier;
@@ -171,6 +184,20 @@ INSTANTIATE_TEST_SUITE_P(Layouts, KeyMapUnderLayout, testing::ValuesIn(layouts),
                              std::erase(name, '-');
                              return name;
                          });
+
+TEST(PrintedCharacter, IsTheShortcutsOwnWhereTheLayoutIsNotKnownOrTypesIt)
+{
+    const auto unknown = [](quint32) { return QString(); };
+    const auto azerty = [layout = KeyboardLayout::load(u"fr"_s)](quint32 code) {
+        return layout.scanCodes().contains(code) ? layout.press(code).ownCharacters : QString();
+    };
+    for (const ShortcutKey &key : shortcutKeys()) {
+        const QString own = QChar(key.character).toUpper();
+        EXPECT_EQ(printedCharacter(key, unknown), own);
+        const bool isBranch = key.command == Command::CopyBranch;
+        EXPECT_EQ(printedCharacter(key, azerty), isBranch ? u":"_s : own);
+    }
+}
 
 // Without a keyboard map, only the typed characters and the scan codes are known. The two copy commands must remain
 // distinct on every layout that has the full stop at its QWERTY position.

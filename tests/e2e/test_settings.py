@@ -1,4 +1,6 @@
 """The settings in their own window, beside the main one."""
+import subprocess
+
 from support import WindowCase
 
 TABS = ["Compte", "Apparence", "Raccourcis", "Mises à jour"]
@@ -35,6 +37,16 @@ class Settings(WindowCase):
         for title in TABS[1:]:
             self.session.key("Right")
             velmora.app.find(role="page tab", name=title, states=("focused",))
+
+    def test_the_reference_names_the_keys_of_the_layout_that_is_in_use(self):
+        app = self.open_settings().app
+        for layout, keys in (("us", r"Ctrl\+Maj\+\."), ("fr", r"Ctrl\+Maj\+:")):
+            with self.subTest(layout=layout):
+                subprocess.run(["setxkbmap", layout], env=self.session.env, check=True)
+                app.find(role="page tab", name="Apparence").click()
+                app.find(role="radio button", name="Sombre")
+                app.find(role="page tab", name="Raccourcis").click()
+                app.find(role="list item", name="^Copier le nom de branche git.*%s$" % keys, showing=None)
 
     def test_the_board_is_shown_as_soon_as_it_is_chosen(self):
         app = self.open_settings().app
