@@ -179,8 +179,7 @@ TEST_F(ClientUploads, AConnectionLostInTheMiddleIsNotTriedAgain)
         client->uploadAttachments(u"ABC-1"_s, {localFile(u"a"_s, QByteArray(Long, 'a'))}, {},
                                   [&](const UploadProgress &progress) { told = progress; }));
     // The system takes bytes before the server has read any.
-    ASSERT_TRUE(
-        runUntil([&] { return told.sent >= 1 << 16 && server.usedConnections() == 1; }));
+    ASSERT_TRUE(runUntil([&] { return told.sent >= 1 << 16 && server.usedConnections() == 1; }));
     server.dropConnections(Ending::Reset);
     ASSERT_TRUE(runUntil([&] { return result.isDone(); }));
     EXPECT_THROW(result.value(), TransportError);
