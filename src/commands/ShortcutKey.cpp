@@ -120,10 +120,10 @@ std::optional<Command> shortcutCommand(const KeyPress &press)
 QString printedCharacter(const ShortcutKey &key, const OwnCharacters &layout)
 {
     const QChar character(key.character);
-    const QString own = character.toUpper();
     if (key.shift == Shift::NotHeld || character.isLetterOrNumber())
-        return own;
+        return character.toUpper();
     const QString atPlace = layout(scanCodeAtPlace(character));
     const bool isPlaceInUse = !atPlace.isEmpty() && !isLatinLetter(atPlace);
-    return isPlaceInUse && !isTypedWithoutShift(character, layout) ? atPlace.toUpper() : own;
+    return isPlaceInUse && !isTypedWithoutShift(character, layout) ? atPlace.toUpper()
+                                                                   : QString(character);
 }
