@@ -15,7 +15,9 @@ namespace {
 QString pageOfKeys()
 {
     QString page =
-        u"# Les touches de Velmora\n\nLa même liste s'affiche dans le programme avec « ? ».\n"_s;
+        u"# Les touches de Velmora\n\nLa même liste s'affiche dans le programme avec « ? », avec les "
+        "signes de ton clavier\u00A0: en AZERTY, Ctrl+Maj+. s'y\nécrit Ctrl+Maj+:, parce que le "
+        "point demande déjà Maj.\n"_s;
     for (const auto &group : shortcutReference()) {
         page += u"\n## %1\n\n| touches | effet |\n|---|---|\n"_s.arg(group.title);
         for (const auto &row : group.rows)
