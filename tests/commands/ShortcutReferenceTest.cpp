@@ -15,7 +15,8 @@ namespace {
 QString pageOfKeys()
 {
     QString page =
-        u"# Les touches de Velmora\n\nLa même liste s'affiche dans le programme avec « ? », avec les "
+        u"# Les touches de Velmora\n\nLa même liste s'affiche dans le programme avec « ? », avec "
+        u"les "
         "signes de ton clavier\u00A0: en AZERTY, Ctrl+Maj+. s'y\nécrit Ctrl+Maj+:, parce que le "
         "point demande déjà Maj.\n"_s;
     for (const auto &group : shortcutReference()) {
