@@ -46,6 +46,8 @@ Item {
 
     function reveal() {
         const slot = current();
+        // A tile that has just been created has no place yet.
+        flow.forceLayout();
         if (slot)
             revealRequested(Qt.rect(slot.x, slot.y, slot.width, slot.height));
     }
