@@ -136,6 +136,14 @@ QStringList namesOf(const QList<JiraUser> &users)
     return names;
 }
 
+TEST_F(ClientReads, CharactersThatHideInANameAreVisible)
+{
+    server.answer(RawAnswer::json(
+        u"[{\"accountId\":\"1\",\"displayName\":\"Elsa\u202EiK\\nZ\"}]"_s.toUtf8()));
+    EXPECT_EQ(namesOf(resultOf(client->searchUsers(u""_s))),
+              QStringList{u"Elsa[U+202E]iK[U+000A]Z"_s});
+}
+
 TEST_F(ClientReads, WhoCanTakeAnIssueByName)
 {
     server.answer(RawAnswer::json(Users));

@@ -1,6 +1,7 @@
 #include "jira/wire/UserDTO.h"
 
 #include "jira/WebAddress.h"
+#include "model/text/VisibleText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +18,7 @@ std::optional<QUrl> pictureOf(const AvatarUrlsDTO &addresses)
 JiraUser UserDTO::model() const
 {
     return {.id = accountId,
-            .name = displayName.value_or(u"Utilisateur inconnu"_s),
+            .name = visibleText(displayName.value_or(u"Utilisateur inconnu"_s)),
             .email = emailAddress,
             .avatarURL = avatarUrls ? pictureOf(*avatarUrls) : std::nullopt};
 }

@@ -19,7 +19,8 @@ struct UserDTO
     std::optional<AvatarUrlsDTO> avatarUrls;
     std::optional<bool> active;
 
-    /// Converts to a domain record. "Utilisateur inconnu" replaces a missing name. The picture is the one of 48 pixels,
+    /// Converts to a domain record. "Utilisateur inconnu" replaces a missing name, and characters that hide in a name are
+    /// made visible, so that nobody passes for another. The picture is the one of 48 pixels,
     /// or the one of 32 pixels if the site names no larger one.
     JiraUser model() const;
 

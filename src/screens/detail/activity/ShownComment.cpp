@@ -2,7 +2,6 @@
 
 #include "model/dates/DateLabels.h"
 #include "model/dates/DateParts.h"
-#include "model/text/VisibleText.h"
 #include "richtext/ADFQueries.h"
 
 #include <algorithm>
@@ -64,7 +63,7 @@ ShownComment ShownComment::of(const Comment &comment, ProjectKind project, const
 JiraUser withShownName(const JiraUser &user, const QString &fallback)
 {
     JiraUser shown = user;
-    shown.name = user.name.trimmed().isEmpty() ? fallback : visibleText(user.name);
+    shown.name = user.name.trimmed().isEmpty() ? fallback : user.name;
     return shown;
 }
 

@@ -55,8 +55,7 @@ public:
     bool operator==(const ShownComment &) const = default;
 };
 
-/// The user with the name that is shown: its invisible characters are made visible. A name without any visible letter
-/// becomes `fallback`.
+/// The user with the name that is shown: a name of blanks becomes `fallback`.
 JiraUser withShownName(const JiraUser &user, const QString &fallback);
 
 /// "31 octobre 2026 à 14:32". Empty for an invalid date.

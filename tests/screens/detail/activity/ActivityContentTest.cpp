@@ -51,16 +51,6 @@ TEST_F(ActivityContentTest, WithoutAReporterSomebodyCreatedTheIssue)
     EXPECT_EQ(facts().creationSentence, u"Quelqu'un a créé le ticket il y a 4 j"_s);
 }
 
-TEST_F(ActivityContentTest, TheInvisibleCharactersOfAHostileReporterAreShown)
-{
-    startSession();
-    reporter = sampleUser(u"u1"_s, u"Basile\u202E"_s);
-    serve({});
-    show();
-    EXPECT_EQ(facts().reporterName, u"Basile[U+202E]"_s);
-    EXPECT_EQ(facts().reporter.name, u"Basile[U+202E]"_s);
-}
-
 TEST_F(ActivityContentTest, OutsideAServiceProjectWithoutNotesTheHeadCounts)
 {
     startSession();
