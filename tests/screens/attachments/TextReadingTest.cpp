@@ -90,7 +90,7 @@ TEST_F(TextReading, ALogOfTwoGigabytesShowsItsBeginningAndTellsWhatIsLeftOut)
 TEST_F(TextReading, ControlCharactersAreSeenAndTabsBecomeSpaces)
 {
     EXPECT_EQ(extractOf("a\tb\x1B[31m\xE2\x80\xAE").lines,
-              QStringList{u"a    b\uFFFD[31m\uFFFD"_s});
+              QStringList{u"a    b[U+001B][31m[U+202E]"_s});
 }
 
 TEST_F(TextReading, AFileWithZeroBytesIsNoText)

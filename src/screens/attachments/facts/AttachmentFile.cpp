@@ -1,13 +1,13 @@
 #include "screens/attachments/facts/AttachmentFile.h"
 
+#include "model/text/VisibleText.h"
 #include "screens/attachments/facts/ByteCount.h"
-#include "screens/attachments/facts/ShownName.h"
 
 using namespace Qt::StringLiterals;
 
 QString AttachmentFile::name() const
 {
-    return shownName(attachment.filename);
+    return visibleText(attachment.filename);
 }
 
 QString AttachmentFile::sizeText() const
@@ -34,7 +34,7 @@ QString AttachmentFile::symbol() const
 
 QString AttachmentFile::tileHint() const
 {
-    const QString author = attachment.author ? shownName(attachment.author->name) : u"?"_s;
+    const QString author = attachment.author ? attachment.author->name : u"?"_s;
     return name() + u'\n' + author + u" · clic : aperçu, double-clic : ouvrir"_s;
 }
 

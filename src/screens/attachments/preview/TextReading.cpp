@@ -1,7 +1,7 @@
 #include "screens/attachments/preview/TextReading.h"
 
+#include "model/text/VisibleText.h"
 #include "screens/attachments/facts/ByteCount.h"
-#include "screens/attachments/facts/ShownName.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -38,7 +38,7 @@ QString shownLine(QString line, qsizetype most)
     const bool isCut = line.size() > most;
     line.truncate(most);
     line.replace(u'\t', QString(TabWidth, u' '));
-    line = shownName(line);
+    line = visibleText(line);
     return isCut ? line + u'…' : line;
 }
 

@@ -3,9 +3,9 @@
 #include "async/Settled.h"
 #include "async/Spawn.h"
 #include "async/WhileAlive.h"
+#include "model/text/VisibleText.h"
 #include "platform/Wording.h"
 #include "platform/files/StoredCopy.h"
-#include "screens/attachments/facts/ShownName.h"
 #include "screens/attachments/preview/PreviewPlace.h"
 #include "screens/attachments/section/FileFetches.h"
 
@@ -44,7 +44,7 @@ QString shortened(QString name)
 /// another folder.
 QString proposedName(const QString &filename)
 {
-    const QString name = shortened(shownName(filename.section(u'/', -1)));
+    const QString name = shortened(withoutInvisible(filename.section(u'/', -1)));
     return name.isEmpty() || name == "."_L1 || name == ".."_L1 ? u"fichier"_s : name;
 }
 
