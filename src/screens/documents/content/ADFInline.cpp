@@ -1,6 +1,7 @@
 #include "screens/documents/content/ADFInline.h"
 
 #include "model/dates/DateParts.h"
+#include "model/text/VisibleText.h"
 #include "richtext/ADFQueries.h"
 #include "screens/documents/content/HexColor.h"
 
@@ -57,6 +58,8 @@ InlineRun textRun(const ADFNode &node)
     InlineRun run{.text = node.text.value_or(QString())};
     for (const auto &mark : node.marks.value_or(QList<ADFMark>()))
         apply(mark, run);
+    if (!run.link.isEmpty())
+        run.text = visibleText(run.text);
     return run;
 }
 
@@ -64,7 +67,7 @@ InlineRun mention(const ADFNode &node, const InlineContext &context)
 {
     const auto id = ADF::attribute(node, u"id"_s);
     const bool isOwn = context.meID && id == context.meID;
-    return {.text = ADF::attribute(node, u"text"_s).value_or(u"@"_s),
+    return {.text = visibleText(ADF::attribute(node, u"text"_s).value_or(u"@"_s)),
             .kind = isOwn ? InlineRun::Kind::OwnMention : InlineRun::Kind::Mention,
             .isAccented = true};
 }
@@ -72,7 +75,9 @@ InlineRun mention(const ADFNode &node, const InlineContext &context)
 InlineRun card(const ADFNode &node)
 {
     const auto address = ADF::attribute(node, u"url"_s).value_or(QString());
-    return {.text = address, .isAccented = true, .link = isAddress(address) ? address : QString()};
+    return {.text = visibleText(address),
+            .isAccented = true,
+            .link = isAddress(address) ? address : QString()};
 }
 
 QString date(const ADFNode &node, const UserCalendar &calendar)

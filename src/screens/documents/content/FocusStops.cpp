@@ -1,7 +1,5 @@
 #include "screens/documents/content/FocusStops.h"
 
-#include <QUrl>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -12,10 +10,12 @@ void addLinks(const TextBlock &text, int number, std::vector<FocusStop> &stops)
     bool continues = false;
     for (const auto &run : text.runs) {
         const int end = offset + int(run.text.size());
-        if (!run.link.isEmpty() && continues && stops.back().link == run.link)
+        if (!run.link.isEmpty() && (!continues || stops.back().link != run.link))
+            stops.push_back({.text = number, .start = offset, .link = run.link});
+        if (!run.link.isEmpty()) {
             stops.back().end = end;
-        else if (!run.link.isEmpty())
-            stops.push_back({.text = number, .start = offset, .end = end, .link = run.link});
+            stops.back().label += run.text;
+        }
         continues = !run.link.isEmpty();
         offset = end;
     }
@@ -60,10 +60,4 @@ std::vector<FocusStop> focusStops(const DocumentBlocks &blocks)
         addLinks(text, i, stops);
     }
     return stops;
-}
-
-bool isOpenable(const QString &address)
-{
-    const QString scheme = QUrl(address).scheme();
-    return scheme == u"http" || scheme == u"https" || scheme == u"mailto";
 }

@@ -18,14 +18,12 @@ struct FocusStop
     int end = 0;
     /// The number of the expand or the scroller.
     int index = -1;
-    /// The address of a link.
+    /// The address of a link, and the text that has it.
     QString link;
+    QString label;
 
     bool operator==(const FocusStop &) const = default;
 };
 
 /// All stops in the order of the document. Adjacent runs with the same address are one link.
 std::vector<FocusStop> focusStops(const DocumentBlocks &blocks);
-
-/// Whether the program opens an address: only http, https and mailto.
-bool isOpenable(const QString &address);

@@ -1,5 +1,6 @@
 #include "screens/documents/speech/DocumentInterface.h"
 
+#include "model/text/LinkAddress.h"
 #include "screens/documents/speech/DocumentSpeech.h"
 #include "screens/documents/view/DocumentReader.h"
 
@@ -158,7 +159,7 @@ QString PartInterface::text(QAccessible::Text text) const
     case Kind::Expand:
         return node().isOn ? u"Déplié"_s : u"Replié"_s;
     case Kind::Link:
-        return m_speech.reader().stops()[size_t(node().stop)].link;
+        return linkToolTip(node().name, m_speech.reader().stops()[size_t(node().stop)].link);
     default:
         return {};
     }

@@ -153,7 +153,7 @@ private:
              stop = nextStop(text, FocusStop::Kind::Link, stop + 1)) {
             const auto &link = m_stops[size_t(stop)];
             add({.kind = Kind::Link,
-                 .name = textOf(m_blocks, text).sliced(link.start, link.end - link.start),
+                 .name = link.label,
                  .flow = block.flow,
                  .piece = block.piece,
                  .stop = stop},

@@ -14,7 +14,7 @@ DocumentReader {
     Accessible.name: name
 
     When {
-        shown: root.hoveredLink.length > 0
+        shown: root.linkHint.length > 0
 
         Item {
             x: root.hoveredBox.x
@@ -24,7 +24,7 @@ DocumentReader {
 
             HintTip {
                 shown: true
-                text: root.hoveredLink
+                text: root.linkHint
             }
         }
     }

@@ -1,4 +1,5 @@
 // The pointer on a document: selecting, clicking, hovering, and scrolling sideways.
+#include "model/text/LinkAddress.h"
 #include "screens/documents/view/DocumentReader.h"
 
 #include <QCursor>
@@ -147,20 +148,20 @@ void DocumentReader::setHover(const QPointF &position)
     const int scroller = shape()->scrollerAt(position);
     if (std::exchange(m_hoveredScroller, scroller) != scroller)
         redraw();
-    QString link;
+    QString hint;
     QRectF box;
     if (stop && stop->kind == FocusStop::Kind::Link) {
-        link = stop->link;
+        hint = linkToolTip(stop->label, stop->link);
         for (const auto &line : boxes(*stop)) {
             if (box.isNull() || line.contains(position))
                 box = line;
         }
     }
-    if (m_hoveredLink == link && m_hoveredBox == box)
+    if (m_linkHint == hint && m_hoveredBox == box)
         return;
-    m_hoveredLink = link;
+    m_linkHint = hint;
     m_hoveredBox = box;
-    Q_EMIT hoveredLinkChanged();
+    Q_EMIT linkHintChanged();
 }
 
 void DocumentReader::hoverLeaveEvent(QHoverEvent *event)
@@ -175,9 +176,9 @@ void DocumentReader::leaveHover()
     if (std::exchange(m_hoveredScroller, -1) >= 0)
         redraw();
     m_hoveredBox = {};
-    if (std::exchange(m_hoveredLink, QString()).isEmpty())
+    if (std::exchange(m_linkHint, QString()).isEmpty())
         return;
-    Q_EMIT hoveredLinkChanged();
+    Q_EMIT linkHintChanged();
 }
 
 /// Takes turns of the wheel that go sideways: those of a touchpad, and others with Shift.

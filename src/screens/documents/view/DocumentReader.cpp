@@ -1,5 +1,6 @@
 #include "screens/documents/view/DocumentReader.h"
 
+#include "model/text/LinkAddress.h"
 #include "screens/documents/content/CopiedText.h"
 
 #include <QClipboard>
@@ -77,7 +78,7 @@ void DocumentReader::activate(const FocusStop &stop)
 {
     if (stop.kind == FocusStop::Kind::Expand)
         toggleExpand(stop.index);
-    else if (stop.kind == FocusStop::Kind::Link && isOpenable(stop.link))
+    else if (stop.kind == FocusStop::Kind::Link && openableAddress(stop.link))
         Q_EMIT linkActivated(stop.link);
 }
 

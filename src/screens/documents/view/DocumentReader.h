@@ -17,17 +17,18 @@ class DocumentReader : public DocumentCanvas
     QML_ELEMENT
     /// What a screen reader says of the document.
     Q_PROPERTY(QString name MEMBER m_name NOTIFY nameChanged FINAL)
-    /// The address of the link under the pointer, as it would be opened; empty if there is none.
-    Q_PROPERTY(QString hoveredLink READ hoveredLink NOTIFY hoveredLinkChanged FINAL)
+    /// The true address of the link under the pointer, after a warning if its text names another host, in French; empty
+    /// if there is none.
+    Q_PROPERTY(QString linkHint READ linkHint NOTIFY linkHintChanged FINAL)
     /// The line of the link under the pointer.
-    Q_PROPERTY(QRectF hoveredBox READ hoveredBox NOTIFY hoveredLinkChanged FINAL)
+    Q_PROPERTY(QRectF hoveredBox READ hoveredBox NOTIFY linkHintChanged FINAL)
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged FINAL)
 
 public:
     explicit DocumentReader(QQuickItem *parent = nullptr);
 
     const QString &name() const { return m_name; }
-    const QString &hoveredLink() const { return m_hoveredLink; }
+    const QString &linkHint() const { return m_linkHint; }
     QRectF hoveredBox() const { return m_hoveredBox; }
     QString selectedText() const;
     TextRange selection() const { return TextRange::between(m_anchor, m_caret); }
@@ -49,9 +50,9 @@ public:
 
 Q_SIGNALS:
     void nameChanged();
-    void hoveredLinkChanged();
+    void linkHintChanged();
     void selectionChanged();
-    /// The user opens a link. Only addresses of http, https and mailto are reported.
+    /// The user opens a link. Only addresses that may be opened are reported: see `openableAddress`.
     void linkActivated(const QString &address);
     /// A part of the document has the focus and should be in sight, in the coordinates of the item.
     void revealRequested(const QRectF &box);
@@ -115,7 +116,7 @@ private:
     TextRange m_pressedUnit;
     quint64 m_doubleClick = 0;
     // The pointer
-    QString m_hoveredLink;
+    QString m_linkHint;
     QRectF m_hoveredBox;
     int m_hoveredScroller = -1;
 };

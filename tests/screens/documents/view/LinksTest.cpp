@@ -60,11 +60,31 @@ TEST_F(DocumentLinks, ThePointerIsAHandOverALinkAndTheAddressIsShown)
     EXPECT_EQ(reader->cursor().shape(), Qt::IBeamCursor);
     QTest::mouseMove(&bench.window(), middleOf(0, 5, 12));
     EXPECT_EQ(reader->cursor().shape(), Qt::PointingHandCursor);
-    EXPECT_EQ(reader->hoveredLink(), u"https://exemple.fr/vrai"_s);
+    EXPECT_EQ(reader->linkHint(), u"https://exemple.fr/vrai"_s);
     QTest::mouseMove(&bench.window(), reader->mapToScene({450, 8}).toPoint());
     EXPECT_EQ(reader->cursor().shape(), Qt::ArrowCursor);
-    EXPECT_EQ(reader->hoveredLink(), QString());
+    EXPECT_EQ(reader->linkHint(), QString());
     expectNoWarnings();
+}
+
+TEST_F(DocumentLinks, ALinkWhoseTextNamesAnotherHostSaysSo)
+{
+    const QString address = u"https://pirate.example/a"_s;
+    show({ADF::container(u"paragraph",
+                         {link(u"https://ma"_s, address), link(u"banque.fr"_s, address)})});
+    QTest::mouseMove(&bench.window(), middleOf(0, 2, 8));
+    EXPECT_EQ(reader->linkHint(),
+              u"Attention : le texte nomme « mabanque.fr », mais le lien mène à « pirate.example »."
+              "\nhttps://pirate.example/a"_s);
+}
+
+TEST_F(DocumentLinks, CharactersThatHideInALinkOrAMentionAreVisible)
+{
+    show({ADF::container(u"paragraph", {link(u"a\u202Eb"_s, u"https://exemple.fr"_s)}),
+          ADF::container(u"paragraph", {with(ADF::plain(u"mention"), u"text"_s, u"@c\u202Ed"_s)}),
+          paragraph(u"e\u202Ef"_s)});
+    reader->selectAll();
+    EXPECT_EQ(reader->selectedText(), u"a[U+202E]b\n@c[U+202E]d\ne\u202Ef"_s);
 }
 
 TEST_F(DocumentLinks, TabVisitsThemInOrderAndReturnOpensThem)
