@@ -195,9 +195,9 @@ QString linkToolTip(const QString &text, const QString &address)
     if (!url)
         return u"Velmora n'ouvre pas cette adresse : "_s + shown;
     if (const auto named = otherHostNamed(text, *url))
-        return u"Attention : le texte nomme « "_s + visibleText(*named) +
-               u" », mais le lien mène à « "_s + hostOf(*url) + u" ».\n"_s + shown;
+        return u"Attention : le texte nomme «\u00A0"_s + visibleText(*named) +
+               u"\u00A0», mais le lien mène à «\u00A0"_s + hostOf(*url) + u"\u00A0».\n"_s + shown;
     if (!url->userInfo().isEmpty())
-        return u"Attention : le lien mène à « "_s + hostOf(*url) + u" ».\n"_s + shown;
+        return u"Attention : le lien mène à «\u00A0"_s + hostOf(*url) + u"\u00A0».\n"_s + shown;
     return shown;
 }

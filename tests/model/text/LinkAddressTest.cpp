@@ -68,9 +68,10 @@ TEST(OtherHostNamed, AnotherHostIsNamed)
 {
     for (const QString &text :
          {u"banque.fr"_s, u"https://banque.fr"_s, u"http://banque.fr/compte?a=b"_s,
-          u"www.banque.fr"_s, u"Va sur banque.fr !"_s, u"(banque.fr)"_s, u"« banque.fr »"_s,
-          u"BANQUE.FR"_s, u"banque.fr:443"_s, u"lea@banque.fr"_s, u"banque.fr,"_s,
-          u"https://moi@banque.fr/"_s, u"banque.fr\\compte"_s, u"evil.example ou banque.fr"_s})
+          u"www.banque.fr"_s, u"Va sur banque.fr !"_s, u"(banque.fr)"_s,
+          u"«\u00A0banque.fr\u00A0»"_s, u"BANQUE.FR"_s, u"banque.fr:443"_s, u"lea@banque.fr"_s,
+          u"banque.fr,"_s, u"https://moi@banque.fr/"_s, u"banque.fr\\compte"_s,
+          u"evil.example ou banque.fr"_s})
         EXPECT_TRUE(named(text, evil).endsWith(u"banque.fr"_s))
             << qPrintable(text) << qPrintable(named(text, evil));
 }
@@ -192,14 +193,16 @@ TEST(LinkToolTip, IsTheAddressOfAnHonestLink)
 TEST(LinkToolTip, WarnsOfAnotherHost)
 {
     EXPECT_EQ(linkToolTip(u"https://banque.fr"_s, evil),
-              u"Attention : le texte nomme « banque.fr », mais le lien mène à « evil.example ».\n"
+              u"Attention : le texte nomme «\u00A0banque.fr\u00A0», mais le lien mène à "
+              u"«\u00A0evil.example\u00A0».\n"
               "https://evil.example/banque.fr"_s);
 }
 
 TEST(LinkToolTip, WarnsOfAUserNameThatCanPassForAHost)
 {
-    EXPECT_EQ(linkToolTip(u"ma banque"_s, u"https://banque.fr@evil.example/"_s),
-              u"Attention : le lien mène à « evil.example ».\nhttps://banque.fr@evil.example/"_s);
+    EXPECT_EQ(
+        linkToolTip(u"ma banque"_s, u"https://banque.fr@evil.example/"_s),
+        u"Attention : le lien mène à «\u00A0evil.example\u00A0».\nhttps://banque.fr@evil.example/"_s);
 }
 
 TEST(LinkToolTip, SaysThatAnAddressIsNotOpened)

@@ -73,9 +73,9 @@ TEST_F(DocumentLinks, ALinkWhoseTextNamesAnotherHostSaysSo)
     show({ADF::container(u"paragraph",
                          {link(u"https://ma"_s, address), link(u"banque.fr"_s, address)})});
     QTest::mouseMove(&bench.window(), middleOf(0, 2, 8));
-    EXPECT_EQ(reader->linkHint(),
-              u"Attention : le texte nomme « mabanque.fr », mais le lien mène à « pirate.example »."
-              "\nhttps://pirate.example/a"_s);
+    EXPECT_EQ(reader->linkHint(), u"Attention : le texte nomme «\u00A0mabanque.fr\u00A0», mais le "
+                                  u"lien mène à «\u00A0pirate.example\u00A0»."
+                                  "\nhttps://pirate.example/a"_s);
 }
 
 TEST_F(DocumentLinks, CharactersThatHideInALinkOrAMentionAreVisible)
