@@ -1,13 +1,18 @@
-// Measures the time to write a document as Markdown, compared in the same run with the time to read that text as a
-// document. Times are processor time.
+// Measures the conversions of documents from and to Markdown and JSON, each compared in the same run with the work of a
+// library that only parses the same bytes, or with reading the same text. Times are processor time.
 
+#include "DocumentCorpus.h"
+#include "richtext/ADFCoding.h"
 #include "richtext/ADFMarkdown.h"
 #include "richtext/losses/MarkdownLosses.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <functional>
+#include <md4c.h>
+#include <simdjson.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +45,93 @@ public:
 private:
     std::vector<double> m_runs;
 };
+
+/// Parses the text with md4c, in the dialect nearest to ours, and does nothing with what it finds.
+void parseOnly(const QByteArray &utf8)
+{
+    MD_PARSER parser{};
+    parser.flags = MD_FLAG_STRIKETHROUGH | MD_FLAG_TASKLISTS | MD_FLAG_NOHTMLBLOCKS |
+                   MD_FLAG_NOINDENTEDCODEBLOCKS;
+    parser.enter_block = parser.leave_block = [](MD_BLOCKTYPE, void *, void *) { return 0; };
+    parser.enter_span = parser.leave_span = [](MD_SPANTYPE, void *, void *) { return 0; };
+    parser.text = [](MD_TEXTTYPE, const MD_CHAR *, MD_SIZE, void *) { return 0; };
+    if (md_parse(utf8.constData(), MD_SIZE(utf8.size()), &parser, nullptr) != 0)
+        qFatal("md4c fails");
+}
+
+/// Parses the JSON with simdjson, and does nothing with what it finds.
+void parseOnly(simdjson::dom::parser &parser, const QByteArray &json)
+{
+    if (parser.parse(json.constData(), size_t(json.size())).error())
+        qFatal("simdjson fails");
+}
+
+/// Documents in each of their forms.
+struct Corpus
+{
+    explicit Corpus(const QStringList &texts) : markdown(texts)
+    {
+        for (const QString &text : texts) {
+            utf8.append(text.toUtf8());
+            documents.append(ADFMarkdown::document(text));
+            json.append(ADFCoding::encode(documents.last()));
+        }
+    }
+
+    QStringList markdown;
+    QList<QByteArray> utf8;
+    QList<ADFNode> documents;
+    QList<QByteArray> json;
+};
+
+void printRow(const char *name, double microseconds, const char *baseline, double ofBaseline)
+{
+    std::printf("%-24s %10.2f %6.2f x %s\n", name, microseconds / 1000, microseconds / ofBaseline,
+                baseline);
+}
+
+void compareCorpus(const Corpus &corpus, int runs)
+{
+    const UserCalendar calendar = UserCalendar::system();
+    simdjson::dom::parser parser;
+    Times md4c;
+    Times reading;
+    Times writing;
+    Times counting;
+    Times simdjson;
+    Times decoding;
+    Times encoding;
+    const auto each = [](const auto &list, const auto &work) {
+        return [&list, work] {
+            for (const auto &item : list)
+                work(item);
+        };
+    };
+    for (int i = 0; i < runs; ++i) {
+        md4c.add(each(corpus.utf8, [](const QByteArray &text) { parseOnly(text); }));
+        reading.add(
+            each(corpus.markdown, [](const QString &text) { ADFMarkdown::document(text); }));
+        writing.add(each(corpus.documents, [&](const ADFNode &document) {
+            ADFMarkdown::markdown(document, calendar);
+        }));
+        counting.add(each(corpus.documents,
+                          [](const ADFNode &document) { ADFMarkdown::losses(document, {}); }));
+        simdjson.add(each(corpus.json, [&](const QByteArray &json) { parseOnly(parser, json); }));
+        decoding.add(each(corpus.json, [](const QByteArray &json) {
+            if (!ADFCoding::decodeNode(json))
+                qFatal("The JSON is not a document");
+        }));
+        encoding.add(
+            each(corpus.documents, [](const ADFNode &document) { ADFCoding::encode(document); }));
+    }
+    printRow("md4c alone", md4c.median(), "", md4c.median());
+    printRow("Markdown to document", reading.median(), "md4c alone", md4c.median());
+    printRow("document to Markdown", writing.median(), "Markdown to document", reading.median());
+    printRow("losses of a document", counting.median(), "Markdown to document", reading.median());
+    printRow("simdjson alone", simdjson.median(), "", simdjson.median());
+    printRow("JSON to document", decoding.median(), "simdjson alone", simdjson.median());
+    printRow("document to JSON", encoding.median(), "JSON to document", decoding.median());
+}
 
 struct Sample
 {
@@ -76,17 +168,31 @@ void compare(const Sample &sample)
                 counting.median() / read);
 }
 
-} // namespace
-
-int main()
+void compareShapes()
 {
     std::printf(
-        "Markdown: processor time in microseconds (median), as a multiple of reading the text\n");
+        "\nMarkdown: processor time in microseconds (median), as a multiple of reading the text\n");
     std::printf("%-24s %8s %10s %10s %6s %10s %6s\n", "", "letters", "read", "write", "x", "losses",
                 "x");
     compare({"a description", page, 2000});
     compare({"100 descriptions", page.repeated(100), 100});
     compare({"one line of 100,000", u"mot "_s.repeated(25'000), 100});
     compare({"10,000 items", u"- mot\n"_s.repeated(10'000), 50});
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const int runs = argc > 1 ? std::atoi(argv[1]) : 25;
+    const Corpus corpus(documentCorpus(2000));
+    qsizetype bytes = 0;
+    for (const QByteArray &text : corpus.utf8)
+        bytes += text.size();
+    std::printf("2,000 documents, %lld kB of Markdown: processor time in milliseconds (median)\n",
+                qlonglong(bytes / 1000));
+    compareCorpus(corpus, runs);
+    if (argc <= 1)
+        compareShapes();
     return 0;
 }
