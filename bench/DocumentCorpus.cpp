@@ -56,28 +56,41 @@ private:
         return chosen.join(u' ');
     }
 
-    /// A part of a sentence, two thirds of them without any markup.
+    /// Markup that is rare, or nested.
+    QString rarePart(const QString &text)
+    {
+        const std::array parts{u"**[%1](https://wiki.exemple.fr/a)**"_s,
+                               u"***%1***"_s,
+                               u"**%1 `code`**"_s,
+                               u"<https://exemple.fr/page> %1"_s,
+                               u"\\*%1 &amp; 2*3*4"_s,
+                               u"![%1](https://exemple.fr/a.png)"_s};
+        return parts[m_random() % parts.size()].arg(text);
+    }
+
+    /// A part of a sentence; six of ten have no markup.
     QString part()
     {
-        const int kind = between(1, 18);
+        const int percent = between(1, 100);
         const QString text = phrase(1, 4);
-        switch (kind) {
-        case 1:
+        if (percent <= 7)
             return u"**"_s + text + u"**"_s;
-        case 2:
+        if (percent <= 11)
             return u"*"_s + text + u"*"_s;
-        case 3:
+        if (percent <= 13)
+            return u"_"_s + text + u"_"_s;
+        if (percent <= 20)
             return u"`refresh_token`"_s;
-        case 4:
+        if (percent <= 27)
             return u"["_s + text + u"](https://wiki.exemple.fr/pages/"_s +
                    QString::number(between(1000, 9999)) + u"?vue=large)"_s;
-        case 5:
+        if (percent <= 30)
             return u"~~"_s + text + u"~~"_s;
-        case 6:
+        if (percent <= 36)
             return oneOf(people) + u',';
-        default:
-            return phrase(3, 8);
-        }
+        if (percent <= 38)
+            return rarePart(text);
+        return phrase(3, 8);
     }
 
     QString sentence()
