@@ -14,6 +14,8 @@ namespace {
 constexpr int PageSize = 100;
 constexpr int Pages = 3;
 constexpr int Issues = 5000;
+/// The largest page that the program accepts.
+constexpr int LargePageSize = 1000;
 
 QJsonArray listFields()
 {
@@ -90,5 +92,5 @@ RecordedSite::RecordedSite()
         const QJsonObject body = QJsonDocument::fromJson(request.body).object();
         return pages.at(body.value(u"nextPageToken"_s).toString().toInt());
     });
-    m_large.answer(pageOf(issues, 0, issues.size(), {}));
+    m_large.answer(pageOf(issues, 0, LargePageSize, {}));
 }

@@ -13,8 +13,7 @@ public:
 
     /// The port of a site with three pages of a hundred issues with their history.
     quint16 portOfPages() const { return m_pages.port(); }
-    /// The port of a site with one page of 5,000 issues with their history, which is more than the program ever
-    /// requests.
+    /// The port of a site with one page of 1,000 issues with their history, the longest that the program accepts.
     quint16 portOfLargePage() const { return m_large.port(); }
 
 private:
