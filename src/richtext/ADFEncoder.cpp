@@ -3,6 +3,7 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -100,21 +101,27 @@ private:
     void write(const QString &text)
     {
         m_json += '"';
-        for (const char byte : validUTF8(text))
-            escaped(byte);
+        const QByteArray utf8 = validUTF8(text);
+        for (auto at = utf8.cbegin(); at != utf8.cend();) {
+            const auto end = std::find_if(at, utf8.cend(), isEscaped);
+            m_json.append(at, end - at);
+            at = end;
+            if (at != utf8.cend())
+                escape(*at++);
+        }
         m_json += '"';
     }
 
-    void escaped(char byte)
+    static bool isEscaped(char byte) { return uchar(byte) < 0x20 || byte == '"' || byte == '\\'; }
+
+    void escape(char byte)
     {
         constexpr std::string_view named = "\"\\\b\f\n\r\t";
         constexpr std::string_view letters = "\"\\bfnrt";
         if (const auto found = named.find(byte); found != std::string_view::npos)
             m_json.append('\\').append(letters[found]);
-        else if (uchar(byte) < 0x20)
-            m_json.append("\\u00").append(QByteArray(1, byte).toHex());
         else
-            m_json += byte;
+            m_json.append("\\u00").append(QByteArray(1, byte).toHex());
     }
 
     void separate(char opening)
