@@ -5,8 +5,7 @@ bool Markdown::BlankLine::begins(const Line &line)
     return line.trimmed.isEmpty();
 }
 
-QList<ADFNode> Markdown::BlankLine::read(LineCursor &lines, const BlockContext &)
+void Markdown::BlankLine::read(LineCursor &lines, const BlockContext &, QList<ADFNode> &)
 {
     lines.take();
-    return {};
 }

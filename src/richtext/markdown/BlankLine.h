@@ -7,6 +7,6 @@
 namespace Markdown::BlankLine {
 
 bool begins(const Line &line);
-QList<ADFNode> read(LineCursor &lines, const BlockContext &context);
+void read(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks);
 
 } // namespace Markdown::BlankLine

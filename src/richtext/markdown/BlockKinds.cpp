@@ -19,7 +19,7 @@ namespace {
 struct BlockKind
 {
     bool (*begins)(const Line &line);
-    QList<ADFNode> (*read)(LineCursor &lines, const BlockContext &context);
+    void (*read)(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks);
 };
 
 /// In order of precedence, which is part of the grammar: "- - -" is a list, "---" is a rule.
@@ -43,8 +43,8 @@ QList<ADFNode> parseBlocks(std::span<const QStringView> lines, const BlockContex
     while (!cursor.atEnd()) {
         const auto kind = std::ranges::find_if(
             kinds, [&](const BlockKind &each) { return each.begins(cursor.line()); });
-        blocks +=
-            kind == kinds.end() ? Paragraph::read(cursor, context) : kind->read(cursor, context);
+        const auto read = kind == kinds.end() ? Paragraph::read : kind->read;
+        read(cursor, context, blocks);
     }
     return blocks;
 }

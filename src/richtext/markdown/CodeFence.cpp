@@ -32,14 +32,14 @@ bool Markdown::CodeFence::begins(const Line &line)
     return line.trimmed.startsWith(fence);
 }
 
-QList<ADFNode> Markdown::CodeFence::read(LineCursor &lines, const BlockContext &)
+void Markdown::CodeFence::read(LineCursor &lines, const BlockContext &, QList<ADFNode> &blocks)
 {
     const QString language = lines.take().trimmed.sliced(fence.size()).trimmed().toString();
     const QString code = verbatim(lines);
-    ADFNode block = ADF::container(u"codeBlock", {});
+    ADFNode block = ADF::container(u"codeBlock"_s, {});
     if (!code.isEmpty())
         block.content->append(ADF::text(code));
     if (!language.isEmpty())
         block.attrs = ADFAttributes{{u"language"_s, language}};
-    return {block};
+    blocks.append(std::move(block));
 }

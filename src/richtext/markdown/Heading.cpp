@@ -26,11 +26,11 @@ bool Markdown::Heading::begins(const Line &line)
     return level >= 1 && level <= deepestLevel && line.trimmed.sliced(level).startsWith(u' ');
 }
 
-QList<ADFNode> Markdown::Heading::read(LineCursor &lines, const BlockContext &)
+void Markdown::Heading::read(LineCursor &lines, const BlockContext &, QList<ADFNode> &blocks)
 {
     const QStringView line = lines.take().trimmed;
     const qsizetype level = leadingHashes(line);
-    ADFNode heading = ADF::container(u"heading", inlineNodes(line.sliced(level).trimmed()));
+    ADFNode heading = ADF::container(u"heading"_s, inlineNodes(line.sliced(level).trimmed()));
     heading.attrs = ADFAttributes{{u"level"_s, int(level)}};
-    return {heading};
+    blocks.append(std::move(heading));
 }

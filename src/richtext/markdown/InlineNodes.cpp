@@ -45,7 +45,7 @@ QList<ADFNode> inlineNodes(std::span<const QStringView> lines)
     bool first = true;
     for (const QStringView line : lines) {
         if (!first)
-            nodes.append(ADF::plain(u"hardBreak"));
+            nodes.append(ADF::plain(u"hardBreak"_s));
         appendLine(line, nodes);
         first = false;
     }

@@ -16,15 +16,17 @@ using ListLines = std::span<const ListLine>;
 /// List items have no check boxes, so the check box of a nested task is written as text.
 ADFNode listItem(const ListLine &line)
 {
-    QString text = line.text.toString();
-    if (line.isTask)
-        text.prepend(line.checked ? u"☑ "_s : u"☐ "_s);
-    return ADF::container(u"listItem", {ADF::container(u"paragraph", inlineNodes(text))});
+    const QString box = line.checked ? u"☑ "_s : u"☐ "_s;
+    QList<ADFNode> nodes =
+        line.isTask ? inlineNodes(box + line.text.toString()) : inlineNodes(line.text);
+    ADFNode item = ADF::container(u"listItem"_s, {});
+    item.content->append(ADF::container(u"paragraph"_s, std::move(nodes)));
+    return item;
 }
 
 ADFNode emptyList(const ListLine &first)
 {
-    ADFNode list = ADF::container(first.ordered ? u"orderedList" : u"bulletList", {});
+    ADFNode list = ADF::container(first.ordered ? u"orderedList"_s : u"bulletList"_s, {});
     if (first.ordered && first.number != 1)
         list.attrs = ADFAttributes{{u"order"_s, first.number}};
     return list;
@@ -57,7 +59,7 @@ bool List::begins(const Line &line)
     return parseListLine(line.whole).has_value();
 }
 
-QList<ADFNode> List::read(LineCursor &lines, const BlockContext &context)
+void List::read(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks)
 {
     std::vector<ListLine> taken;
     while (!lines.atEnd()) {
@@ -67,11 +69,9 @@ QList<ADFNode> List::read(LineCursor &lines, const BlockContext &context)
         taken.push_back(*line);
         lines.take();
     }
-    QList<ADFNode> lists;
     for (ListLines rest(taken); !rest.empty();)
-        lists.append(rest.front().beginsTaskList() ? TaskList::build(rest, context)
-                                                   : buildList(rest, 1));
-    return lists;
+        blocks.append(rest.front().beginsTaskList() ? TaskList::build(rest, context)
+                                                    : buildList(rest, 1));
 }
 
 } // namespace Markdown

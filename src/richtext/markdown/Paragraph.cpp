@@ -4,11 +4,13 @@
 #include "richtext/markdown/BlockKinds.h"
 #include "richtext/markdown/InlineNodes.h"
 
-QList<ADFNode> Markdown::Paragraph::read(LineCursor &lines, const BlockContext &)
+using namespace Qt::StringLiterals;
+
+void Markdown::Paragraph::read(LineCursor &lines, const BlockContext &, QList<ADFNode> &blocks)
 {
     std::vector<QStringView> taken;
     do
         taken.push_back(lines.take().whole);
     while (!lines.atEnd() && !beginsBlock(lines.line()));
-    return {ADF::container(u"paragraph", inlineNodes(taken))};
+    blocks.append(ADF::container(u"paragraph"_s, inlineNodes(taken)));
 }

@@ -6,6 +6,6 @@
 /// The lines up to the next one that starts a block of another kind.
 namespace Markdown::Paragraph {
 
-QList<ADFNode> read(LineCursor &lines, const BlockContext &context);
+void read(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks);
 
 } // namespace Markdown::Paragraph

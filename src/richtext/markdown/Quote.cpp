@@ -3,6 +3,8 @@
 #include "richtext/ADFNodes.h"
 #include "richtext/markdown/BlockKinds.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isAdmitted(const ADFNode &block)
@@ -25,16 +27,15 @@ bool Markdown::Quote::begins(const Line &line)
     return line.trimmed.startsWith(u'>');
 }
 
-QList<ADFNode> Markdown::Quote::read(LineCursor &lines, const BlockContext &context)
+void Markdown::Quote::read(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks)
 {
     std::vector<QStringView> inner;
     while (!lines.atEnd() && begins(lines.line()))
         inner.push_back(unquoted(lines.take().trimmed));
     if (context.insideQuote)
-        return {};
-    QList<ADFNode> blocks = parseBlocks(inner, BlockContext{context.localID, true});
-    blocks.removeIf([](const ADFNode &block) { return !isAdmitted(block); });
-    if (blocks.isEmpty())
-        return {};
-    return {ADF::container(u"blockquote", std::move(blocks))};
+        return;
+    QList<ADFNode> quoted = parseBlocks(inner, BlockContext{context.localID, true});
+    quoted.removeIf([](const ADFNode &block) { return !isAdmitted(block); });
+    if (!quoted.isEmpty())
+        blocks.append(ADF::container(u"blockquote"_s, std::move(quoted)));
 }

@@ -8,6 +8,6 @@
 namespace Markdown::Quote {
 
 bool begins(const Line &line);
-QList<ADFNode> read(LineCursor &lines, const BlockContext &context);
+void read(LineCursor &lines, const BlockContext &context, QList<ADFNode> &blocks);
 
 } // namespace Markdown::Quote

@@ -2,13 +2,15 @@
 
 #include "richtext/ADFNodes.h"
 
+using namespace Qt::StringLiterals;
+
 bool Markdown::Rule::begins(const Line &line)
 {
     return line.trimmed == u"---" || line.trimmed == u"***" || line.trimmed == u"___";
 }
 
-QList<ADFNode> Markdown::Rule::read(LineCursor &lines, const BlockContext &)
+void Markdown::Rule::read(LineCursor &lines, const BlockContext &, QList<ADFNode> &blocks)
 {
     lines.take();
-    return {ADF::plain(u"rule")};
+    blocks.append(ADF::plain(u"rule"_s));
 }
