@@ -65,9 +65,39 @@ QRectF DocumentShape::frameBox(int flow, int number)
 const std::vector<double> &DocumentShape::columns(int table)
 {
     auto &edges = m_columns[size_t(table)];
-    if (edges.empty())
+    if (edges.empty()) {
         edges = placedColumns(table);
+        keepFittingLines(table);
+    }
     return edges;
+}
+
+/// The lines of the measured texts stay if their columns are wide enough, because most cells are laid out next.
+void DocumentShape::keepFittingLines(int table)
+{
+    const auto &rows = m_blocks.tables[size_t(table)].rows;
+    for (size_t i = 0; i < std::min(measuredRows, rows.size()); ++i) {
+        for (const auto &cell : m_blocks.rows[size_t(rows[i])].cells) {
+            setCellWidth(cell.flow);
+            const auto &pieces = m_blocks.flows[size_t(cell.flow)].pieces;
+            for (size_t j = 0; j < pieces.size(); ++j) {
+                auto &text = m_flows[size_t(cell.flow)].pieces[j].text;
+                if (text && text->width() > pieceWidth(cell.flow, pieces[j]))
+                    text.reset();
+            }
+        }
+    }
+}
+
+/// Gives a flow the width of its column. The document itself has its width already.
+void DocumentShape::setCellWidth(int flow)
+{
+    const auto &cell = m_blocks.flows[size_t(flow)];
+    if (cell.row < 0)
+        return;
+    const auto &edges = columns(m_blocks.rows[size_t(cell.row)].table);
+    const auto column = size_t(cell.column);
+    m_flows[size_t(flow)].width = edges[column + 1] - edges[column] - 2 * cellSidePadding;
 }
 
 /// Each column is as wide as its widest text, within limits.
@@ -93,6 +123,7 @@ std::vector<double> DocumentShape::placedColumns(int number)
         widths = measuredColumns(number);
     const auto &row = m_blocks.rows[size_t(m_blocks.tables[size_t(number)].rows.front())];
     const auto &piece = m_blocks.flows[size_t(row.flow)].pieces[size_t(row.piece)];
+    setCellWidth(row.flow);
     double excess = -pieceWidth(row.flow, piece);
     double spare = 0;
     for (const double width : widths) {
@@ -112,12 +143,17 @@ std::vector<double> DocumentShape::placedColumns(int number)
 double DocumentShape::naturalWidth(int flow)
 {
     double widest = 0;
-    for (const auto &piece : m_blocks.flows[size_t(flow)].pieces) {
+    const auto &pieces = m_blocks.flows[size_t(flow)].pieces;
+    for (size_t i = 0; i < pieces.size(); ++i) {
+        const auto &piece = pieces[i];
         double width = 0;
         if (piece.kind == Piece::Kind::Text || piece.kind == Piece::Kind::ExpandHeader) {
-            TextShape shape(m_blocks.texts[size_t(piece.index)], m_style, m_bodySize);
-            shape.layOut(TextShape::Unwrapped);
-            width = std::ceil(shape.width()) + 1;
+            auto shape = std::make_unique<TextShape>(m_blocks.texts[size_t(piece.index)], m_style,
+                                                     m_bodySize);
+            shape->layOut(TextShape::Unwrapped);
+            width = std::ceil(shape->width()) + 1;
+            if (width <= widestColumn - 2 * cellSidePadding)
+                m_flows[size_t(flow)].pieces[i].text = std::move(shape);
         } else if (piece.kind != Piece::Kind::Rule) {
             width = widestColumn;
         }

@@ -151,8 +151,10 @@ void DocumentShape::shapeText(int number)
     const auto &text = m_blocks.texts[size_t(number)];
     auto &shape = m_flows[size_t(text.flow)].pieces[size_t(text.piece)];
     const auto &piece = m_blocks.flows[size_t(text.flow)].pieces[size_t(text.piece)];
-    shape.text = std::make_unique<TextShape>(text, m_style, m_bodySize);
-    shape.text->layOut(pieceWidth(text.flow, piece));
+    if (!shape.text) {
+        shape.text = std::make_unique<TextShape>(text, m_style, m_bodySize);
+        shape.text->layOut(pieceWidth(text.flow, piece));
+    }
     shape.height = shape.text->height();
     shape.isExact = true;
     if (text.role == TextBlock::Role::Code && piece.frame >= 0) {
@@ -185,12 +187,11 @@ void DocumentShape::shapePiece(int flow, int number)
 double DocumentShape::shapeRow(int number)
 {
     const auto &row = m_blocks.rows[size_t(number)];
-    const auto &edges = columns(row.table);
     double highest = 0;
-    for (size_t column = 0; column < row.cells.size(); ++column) {
-        const int flow = row.cells[column].flow;
+    for (const auto &cell : row.cells) {
+        const int flow = cell.flow;
         auto &shape = m_flows[size_t(flow)];
-        shape.width = edges[column + 1] - edges[column] - 2 * cellSidePadding;
+        setCellWidth(flow);
         for (size_t i = 0; i < shape.pieces.size(); ++i)
             shapePiece(flow, int(i));
         place(flow);
@@ -271,6 +272,7 @@ const TextShape &DocumentShape::text(int number)
     auto &shape = m_flows[size_t(text.flow)].pieces[size_t(text.piece)];
     if (!shape.text) {
         const double height = shape.height;
+        setCellWidth(text.flow);
         shapeText(number);
         // An exact height does not change. An estimate is replaced by `makeExact`, which places the pieces below, too.
         shape.isExact = shape.height == height;

@@ -42,7 +42,7 @@ public:
         double y = 0;
         double height = 0;
         bool isExact = false;
-        /// Present while the piece is in sight.
+        /// The lines at the present width. Present while the piece is in sight.
         std::unique_ptr<TextShape> text;
     };
     struct FlowShape
@@ -110,6 +110,8 @@ private:
     std::vector<double> measuredColumns(int table);
     std::vector<double> placedColumns(int table);
     double naturalWidth(int flow);
+    void keepFittingLines(int table);
+    void setCellWidth(int flow);
     DocumentHit hitInFlow(int flow, QPointF position);
     DocumentHit hitInRow(int row, QPointF position);
     TextPlace nearestText(int flow, int piece) const;

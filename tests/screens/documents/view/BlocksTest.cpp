@@ -67,6 +67,31 @@ TEST_F(DocumentBlocksInWindow, ANarrowerViewIsHigher)
     EXPECT_GT(reader->implicitHeight(), 2 * before);
 }
 
+TEST_F(DocumentBlocksInWindow, TheLinesOfACellAreNoWiderThanItsColumn)
+{
+    const auto text = u"Des mots qui remplissent plus d'une ligne."_s;
+    show({ADF::container(u"table", {row(u"tableCell", {text, text, text, text})})});
+    const auto &edges = shape().columns(0);
+    const auto boxes = shape().text(0).boxes(0, int(text.size()));
+    EXPECT_GT(boxes.size(), 1);
+    for (const auto &line : boxes)
+        EXPECT_LE(line.right(), edges[1] - edges[0] - 2 * BlockMetrics::cellSidePadding);
+}
+
+TEST_F(DocumentBlocksInWindow, AShortCellHasTheLinesThatItsColumnGivesIt)
+{
+    const QStringList texts{u"court"_s, u"שלום עולם"_s, u"deux\nlignes "_s, u"fin שלום"_s};
+    show({ADF::container(u"table", {row(u"tableCell", texts)})});
+    const auto &edges = shape().columns(0);
+    for (int i = 0; i < int(texts.size()); ++i) {
+        TextShape alone(shape().blocks().texts[size_t(i)], shape().style(), shape().bodySize());
+        alone.layOut(edges[size_t(i) + 1] - edges[size_t(i)] - 2 * BlockMetrics::cellSidePadding);
+        const int length = int(texts[i].size());
+        EXPECT_EQ(shape().text(i).boxes(0, length), alone.boxes(0, length)) << i;
+        EXPECT_EQ(shape().text(i).height(), alone.height()) << i;
+    }
+}
+
 TEST_F(DocumentBlocksInWindow, AnEmptyDocumentHasNoHeight)
 {
     show({});

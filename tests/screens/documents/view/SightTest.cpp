@@ -105,6 +105,18 @@ TEST_F(DocumentSight, ScrollingShowsWhatComesIntoSight)
     EXPECT_EQ(frame(), top);
 }
 
+TEST_F(DocumentSight, ACellOutOfSightHasLinesAsWideAsItsColumn)
+{
+    const auto cell = row(u"tableCell", {u"une cellule de plusieurs mots"_s});
+    const auto inner = ADF::container(u"table", {cell});
+    const auto outer = ADF::container(
+        u"table", {ADF::container(u"tableRow", {ADF::container(u"tableCell", {inner})}), cell});
+    open(many(100) << outer);
+    const auto count = int(shape().blocks().texts.size());
+    EXPECT_EQ(shape().text(count - 2).layout().lineCount(), 1) << "of a table in a cell";
+    EXPECT_EQ(shape().text(count - 1).layout().lineCount(), 1);
+}
+
 TEST_F(DocumentSight, AHiddenDocumentIsNotLaidOut)
 {
     show(many(20), u"visible: false"_s);
