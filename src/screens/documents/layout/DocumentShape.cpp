@@ -14,6 +14,15 @@ constexpr double unknownPicture = 180;
 /// Texts are never narrower, however deep they are nested.
 constexpr double narrowestText = 40;
 
+/// The number of line feeds. A search examines several characters at once, which `QString::count` does not.
+double lineFeeds(const QString &text)
+{
+    double count = 0;
+    for (auto at = text.indexOf(u'\n'); at >= 0; at = text.indexOf(u'\n', at + 1))
+        ++count;
+    return count;
+}
+
 } // namespace
 
 DocumentShape::DocumentShape(DocumentBlocks blocks, const DocumentStyle &style, double bodySize)
@@ -98,7 +107,7 @@ double DocumentShape::estimatedText(const TextBlock &text, double width) const
     double breaks = 0;
     for (const auto &run : text.runs) {
         letters += double(run.text.size());
-        breaks += double(run.text.count(u'\n'));
+        breaks += lineFeeds(run.text);
     }
     if (text.role == TextBlock::Role::Code)
         return (breaks + 1) * std::round(1.5 * size);
