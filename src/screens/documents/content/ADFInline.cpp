@@ -56,8 +56,10 @@ void apply(const ADFMark &mark, InlineRun &run)
 InlineRun textRun(const ADFNode &node)
 {
     InlineRun run{.text = node.text.value_or(QString())};
-    for (const auto &mark : node.marks.value_or(QList<ADFMark>()))
-        apply(mark, run);
+    if (node.marks) {
+        for (const auto &mark : *node.marks)
+            apply(mark, run);
+    }
     if (!run.link.isEmpty())
         run.text = visibleText(run.text);
     return run;
@@ -93,40 +95,35 @@ QString date(const ADFNode &node, const UserCalendar &calendar)
     return dayShortMonthAndYear(calendar.day(instant), calendar.locale);
 }
 
-InlineRun leaf(const ADFNode &node, const InlineContext &context)
+/// The run of an inline node, whose text may be empty. Nothing for a node of any other kind.
+std::optional<InlineRun> leaf(const ADFNode &node, const InlineContext &context)
 {
     if (node.type == u"text")
         return textRun(node);
     if (node.type == u"hardBreak")
-        return {.text = u"\n"_s};
+        return InlineRun{.text = u"\n"_s};
     if (node.type == u"mention")
         return mention(node, context);
     if (node.type == u"emoji")
-        return {.text = ADF::attribute(node, u"text"_s)
-                            .or_else([&] { return ADF::attribute(node, u"shortName"_s); })
-                            .value_or(QString())};
+        return InlineRun{.text = ADF::attribute(node, u"text"_s)
+                                     .or_else([&] { return ADF::attribute(node, u"shortName"_s); })
+                                     .value_or(QString())};
     if (node.type == u"inlineCard" || node.type == u"blockCard")
         return card(node);
     if (node.type == u"status")
-        return {.text = u' ' + ADF::attribute(node, u"text"_s).value_or(QString()).toUpper() + u' ',
-                .kind = InlineRun::Kind::Status};
+        return InlineRun{
+            .text = u' ' + ADF::attribute(node, u"text"_s).value_or(QString()).toUpper() + u' ',
+            .kind = InlineRun::Kind::Status};
     if (node.type == u"date")
-        return {.text = date(node, context.calendar)};
+        return InlineRun{.text = date(node, context.calendar)};
     return {};
-}
-
-bool isLeaf(const QString &type)
-{
-    static const QSet<QString> kinds{u"text"_s,       u"hardBreak"_s, u"mention"_s, u"emoji"_s,
-                                     u"inlineCard"_s, u"blockCard"_s, u"status"_s,  u"date"_s};
-    return kinds.contains(type);
 }
 
 void append(const ADFNode &node, const InlineContext &context, InlineRuns &runs)
 {
-    if (isLeaf(node.type)) {
-        if (auto run = leaf(node, context); !run.text.isEmpty())
-            runs.append(std::move(run));
+    if (auto run = leaf(node, context)) {
+        if (!run->text.isEmpty())
+            runs.append(std::move(*run));
     } else if (node.content) {
         for (const auto &child : *node.content)
             append(child, context, runs);
