@@ -1,3 +1,4 @@
+#include "platform/ProcessFigures.h"
 #include "screens/attachments/preview/PdfWork.h"
 #include "support/TaskResult.h"
 
@@ -70,6 +71,23 @@ TEST_F(PdfFileTest, ThatIsCutOffOrDamagedAnywhereIsReadOrTold)
         const PdfFile file = fileOf(whole.first(length));
         EXPECT_NE(file.problem.isEmpty(), file.pages.isEmpty()) << length;
     }
+}
+
+TEST_F(PdfFileTest, OfTwoGigabytesIsToldToBeDamagedWithLittleMemory)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(pdfWith("/Count 1/Kids[3 0 R]"));
+    // The rest takes no place on the disk.
+    ASSERT_TRUE(file.resize(2'000'000'000));
+    file.close();
+    const auto before = ProcessFigures::residentBytes();
+    const PdfFile read = PdfFileTest::read(path);
+    EXPECT_EQ(read.problem, u"Ce PDF est endommagé."_s);
+    EXPECT_TRUE(read.pages.isEmpty());
+    constexpr qint64 little = 64'000'000;
+    EXPECT_LT(ProcessFigures::residentBytes().value() - before.value(), little);
+    EXPECT_EQ(fileOf(pdfWith("/Count 1/Kids[3 0 R]")).pages.size(), 1) << "the next file is read";
 }
 
 TEST_F(PdfFileTest, ThatIsMissingIsToldAndAPipeIsNotWaitedFor)

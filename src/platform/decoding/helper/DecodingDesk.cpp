@@ -4,6 +4,10 @@
 
 namespace {
 
+/// The largest file that is read, in bytes. Not every system limits the memory of a helper, which on Linux cannot
+/// contain more.
+constexpr qint64 LargestInput = qint64(768) * 1024 * 1024;
+
 /// Writes the pixels of an image without gaps, and tells their form.
 void write(const QImage &image, char *output, DecodingAnswer &answer)
 {
@@ -36,7 +40,9 @@ void DecodingDesk::open(const DecodingRequest &request, int input)
     m_frames.reset();
     m_pdf.reset();
     m_source = request.source;
-    m_content = Mapping(input, request.inputBytes, Mapping::Access::Read);
+    m_content = request.inputBytes <= LargestInput
+                    ? Mapping(input, request.inputBytes, Mapping::Access::Read)
+                    : Mapping();
 }
 
 DecodingAnswer DecodingDesk::answer(const DecodingRequest &request, int input, int output)
