@@ -55,9 +55,15 @@ Item {
         delegate: OptionRow {
             width: rows.width
             isHighlighted: index === root.list.highlighted
+            onIndexChanged: order.restore()
             onPointed: where => root.list.point(index, where)
             onPicked: root.list.activate(index)
         }
+    }
+
+    RowOrder {
+        id: order
+        content: rows.contentItem
     }
 
     Scrolling {

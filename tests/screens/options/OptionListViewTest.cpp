@@ -60,6 +60,25 @@ QQuickItem *row(Bench &bench, QQuickItem *list, const QString &title)
     return rowCalled(list, title);
 }
 
+void readRowsIn(QAccessibleInterface *node, QStringList &titles)
+{
+    if (!node || node->state().invisible)
+        return;
+    if (node->role() == QAccessible::ListItem)
+        titles += node->text(QAccessible::Name);
+    for (int i = 0; i < node->childCount(); ++i)
+        readRowsIn(node->child(i), titles);
+}
+
+/// The titles of the rows in the order in which a screen reader finds them.
+QStringList readRows(Bench &bench)
+{
+    bench.window().grabWindow();
+    QStringList titles;
+    readRowsIn(QAccessible::queryAccessibleInterface(&bench.window()), titles);
+    return titles;
+}
+
 bool isHighlighted(Bench &bench, QQuickItem *list, const QString &title)
 {
     const auto *found = row(bench, list, title);
@@ -251,6 +270,23 @@ TEST(KeyMonitorModifier, WhileTheFocusIsElsewhereItTakesNothing)
     item("scope")->forceActiveFocus();
     QTest::keyClick(&bench.window(), Qt::Key_Down);
     EXPECT_EQ(highlighted(), 1);
+}
+
+TEST(OptionListView, ScreenReadersFindRowsThatMoveInTheOrderInWhichTheyAreShown)
+{
+    offer(4);
+    Bench bench;
+    bench.show(view);
+    EXPECT_EQ(readRows(bench),
+              QStringList({u"Option 1"_s, u"Option 2"_s, u"Option 3"_s, u"Option 4"_s}));
+    auto items = source().items();
+    items.move(3, 0);
+    items.removeAt(2);
+    items.insert(1, {.id = u"5"_s, .title = u"Option 5"_s});
+    source().set(items);
+    EXPECT_EQ(readRows(bench),
+              QStringList({u"Option 4"_s, u"Option 5"_s, u"Option 1"_s, u"Option 3"_s}));
+    EXPECT_EQ(bench.warnings(), "");
 }
 
 TEST(OptionRows, TheyFollowATextThatKeepsTheFocus)
