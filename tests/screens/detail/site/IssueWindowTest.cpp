@@ -13,7 +13,7 @@ protected:
         open();
         const QString key = keysOf(u"AIDE"_s).first();
         Q_EMIT store().openWindowRequested(key);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return ownWindow(key) != nullptr; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ownWindow(key) != nullptr; }, patience));
         use(*ownWindow(key));
         await(QAccessible::EditableText, u"Commentaire"_s);
     }
