@@ -128,6 +128,14 @@ TEST_F(SpokenDocument, KnowsWhichLinkHasTheFocus)
     EXPECT_EQ(document().focusChild(), document().child(0)->child(0));
 }
 
+TEST_F(SpokenDocument, ALinkSaysWhereItLeadsIfItsTextSaysOtherwise)
+{
+    show({ADF::container(u"paragraph", {link(u"banque.fr"_s, u"https://pirate.example"_s)})});
+    EXPECT_EQ(document().child(0)->child(0)->text(QAccessible::Description),
+              u"Attention : le texte nomme «\u00A0banque.fr\u00A0», mais le lien mène à "
+              u"«\u00A0pirate.example\u00A0».\nhttps://pirate.example"_s);
+}
+
 TEST_F(SpokenDocument, PartsKnowTheirParents)
 {
     show({bullets({u"a"_s})});

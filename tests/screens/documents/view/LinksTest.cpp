@@ -36,9 +36,10 @@ TEST_F(DocumentLinks, AClickBesideALinkReportsNothing)
 TEST_F(DocumentLinks, OnlyWebAndMailAddressesAreReported)
 {
     show({linked(u"file:///etc/passwd"_s), linked(u"javascript:alert(1)"_s), linked(u"/relatif"_s),
-          linked(u"mailto:a@exemple.fr"_s), linked(u"HTTP://exemple.fr"_s)});
+          linked(u"mailto:a@exemple.fr"_s), linked(u"HTTP://exemple.fr"_s),
+          linked(u"https:chemin"_s)});
     const QSignalSpy opened(reader, &DocumentReader::linkActivated);
-    for (int text = 0; text < 5; ++text)
+    for (int text = 0; text < 6; ++text)
         click(middleOf(text, 5, 12));
     ASSERT_EQ(opened.size(), 2);
     EXPECT_EQ(opened[0][0].toString(), u"mailto:a@exemple.fr"_s);
