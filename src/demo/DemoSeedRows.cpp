@@ -15,7 +15,7 @@ using enum Planning;
 using std::nullopt;
 
 // clang-format off
-constexpr auto table = std::to_array<Row>({
+constexpr auto rowTable = std::to_array<Row>({
     {u"MOB-101", u"Connexion avec Apple : le jeton expire après 24 h", InProgress, Highest, Me, u"auth ios", Bug, Sprint, 0.05, {}, 2},
     {u"MOB-102", u"Onboarding : nouvelle illustration et animation d'entrée", InReview, Medium, Nora, u"design", Story, Sprint, 0.3, {}, {}},
     {u"MOB-103", u"Notifications push : regrouper par conversation", Todo, High, Me, u"notifications", Story, Sprint, 1.2, {}, {}},
@@ -62,8 +62,9 @@ constexpr auto table = std::to_array<Row>({
 
 consteval bool hasUniqueKeys()
 {
-    return std::ranges::all_of(
-        table, [](const Row &row) { return std::ranges::count(table, row.key, &Row::key) == 1; });
+    return std::ranges::all_of(rowTable, [](const Row &row) {
+        return std::ranges::count(rowTable, row.key, &Row::key) == 1;
+    });
 }
 static_assert(hasUniqueKeys(), "two issues of the demo share a key");
 
@@ -71,7 +72,7 @@ static_assert(hasUniqueKeys(), "two issues of the demo share a key");
 
 std::span<const Row> rows()
 {
-    return table;
+    return rowTable;
 }
 
 } // namespace DemoSeed

@@ -1,14 +1,15 @@
 #include "http/AnnouncedLength.h"
 
+#include "http/HttpStatus.h"
+
 namespace {
 
 constexpr int NoContent = 204;
 constexpr int NotModified = 304;
-constexpr int FirstFinalStatus = 200;
 
 bool neverHasABody(int status)
 {
-    return status < FirstFinalStatus || status == NoContent || status == NotModified;
+    return HttpStatus::isInterim(status) || status == NoContent || status == NotModified;
 }
 
 bool isNumber(const QByteArray &text)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "http/HttpRequest.h"
+#include "http/HttpStatus.h"
 
 #include <QByteArray>
 #include <QTemporaryFile>
@@ -38,5 +39,5 @@ struct HttpAnswer
         });
         return found == headers.end() ? QByteArray() : found->value;
     }
-    bool isSuccess() const { return status >= 200 && status < 300; }
+    bool isSuccess() const { return HttpStatus::isSuccess(status); }
 };

@@ -1,6 +1,7 @@
 #include "http/HttpExchange.h"
 
 #include "http/AnnouncedLength.h"
+#include "http/HttpStatus.h"
 #include "http/NetworkRequest.h"
 #include "http/OneWayBody.h"
 #include "http/Redirects.h"
@@ -14,7 +15,6 @@ namespace {
 
 /// Parsers read slightly beyond the end of their input, and copy a body that has no reserved space after it.
 constexpr qsizetype RoomBehind = 64;
-constexpr int FirstFinalStatus = 200;
 
 } // namespace
 
@@ -114,7 +114,7 @@ bool HttpExchange::store(QByteArrayView piece)
     // The body of a redirect is not needed and may be long.
     if (Redirects::isRedirect(status(), location()))
         return true;
-    if (m_request.saveAs && status() >= 200 && status() < 300)
+    if (m_request.saveAs && HttpStatus::isSuccess(status()))
         return storeInFile(piece);
     if (!isWithinBounds(m_answer.body.size() + piece.size(), m_request.mostInMemory))
         return false;
@@ -160,7 +160,7 @@ void HttpExchange::completeReply()
         return finish(std::unexpected(*found));
     // Qt 6.4 ends a reply at an informational response other than 100. The final one may still arrive on the
     // connection, so no other request may use it.
-    if (status() < FirstFinalStatus) {
+    if (HttpStatus::isInterim(status())) {
         m_shared->clearConnectionCache();
         return finish(std::unexpected(TransportError::Kind::Broken));
     }

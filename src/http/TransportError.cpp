@@ -4,9 +4,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString certificateText(TransportError::Kind kind)
+using Kind = TransportError::Kind;
+
+QString certificateText(Kind kind)
 {
-    using Kind = TransportError::Kind;
     switch (kind) {
     case Kind::WrongHost:
         return u"Connexion non sécurisée : le certificat du serveur n'est pas établi pour ce site."_s;
@@ -23,9 +24,8 @@ QString certificateText(TransportError::Kind kind)
     }
 }
 
-QString textOf(TransportError::Kind kind)
+QString textOf(Kind kind)
 {
-    using Kind = TransportError::Kind;
     switch (kind) {
     case Kind::NoWebAddress:
         return u"Adresse non prise en charge : elle doit commencer par https:// ou http://."_s;

@@ -12,7 +12,7 @@ namespace {
 
 /// The maximum length of a file name in UTF-8. Common file systems allow 255 bytes, and 200 are enough to tell names
 /// apart.
-constexpr qsizetype MaximumBytes = 200;
+constexpr qsizetype MaximumNameBytes = 200;
 /// The maximum length of an extension, including its dot. Longer ones are not file types known to programs.
 constexpr qsizetype MaximumEnding = 20;
 
@@ -29,7 +29,7 @@ bool isPlainWord(const QString &id)
 bool isPlainHost(const QString &host)
 {
     static const QRegularExpression plain(u"\\A[a-z0-9-]+(\\.[a-z0-9-]+)+\\z"_s);
-    return host.size() <= MaximumBytes && plain.match(host).hasMatch();
+    return host.size() <= MaximumNameBytes && plain.match(host).hasMatch();
 }
 
 /// Starts with a character that no plain word contains, so that a hash never equals another identifier.
@@ -56,12 +56,13 @@ QString shortened(QString text, qsizetype bytes)
 
 QString withinLength(const QString &name)
 {
-    if (name.toUtf8().size() <= MaximumBytes)
+    if (name.toUtf8().size() <= MaximumNameBytes)
         return name;
     const qsizetype dot = name.lastIndexOf(u'.');
     const QString ending =
         dot > 0 && name.size() - dot <= MaximumEnding ? name.mid(dot) : QString();
-    return shortened(name.chopped(ending.size()), MaximumBytes - ending.toUtf8().size()) + ending;
+    return shortened(name.chopped(ending.size()), MaximumNameBytes - ending.toUtf8().size()) +
+           ending;
 }
 
 } // namespace

@@ -70,7 +70,7 @@ RawAnswer search(const Site &site, const QByteArray &body)
                                         {u"issues"_s, issues}});
 }
 
-RawAnswer notSignedIn()
+RawAnswer notSignedInToServer()
 {
     return RawAnswer::http(401, "<html><title>Unauthorized (401)</title></html>",
                            {{"Content-Type", "text/html;charset=UTF-8"},
@@ -109,7 +109,7 @@ RawAnswer dataCenterAnswerOf(const Site &site, const RawRequest &request)
     if (!path.startsWith(Root))
         return noSuchPath(site, request);
     if (request.header("Authorization") != "Bearer " + site.personalToken.toUtf8())
-        return notSignedIn();
+        return notSignedInToServer();
     const QString rest = path.sliced(Root.size());
     if (request.method == "POST")
         return rest == "search"_L1 ? search(site, request.body) : noSuchPath(site, request);

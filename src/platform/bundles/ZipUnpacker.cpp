@@ -21,17 +21,17 @@ constexpr size_t BlockSize = 0x10000;
 constexpr mode_t SpecialPermissions = S_ISUID | S_ISGID | S_ISVTX;
 constexpr mode_t FolderMode = 0755;
 
-UpdateError refused(const QString &reason)
+UpdateError archiveRefused(const QString &reason)
 {
     return UpdateError::tool(u"L'archive est refusée : "_s + reason);
 }
 
-UpdateError refused(const QString &reason, QByteArrayView path)
+UpdateError archiveRefused(const QString &reason, QByteArrayView path)
 {
-    return refused(reason + u" (« "_s + BundlePath::shown(path) + u" »)."_s);
+    return archiveRefused(reason + u" (« "_s + BundlePath::shown(path) + u" »)."_s);
 }
 
-UpdateError unreadable()
+UpdateError archiveUnreadable()
 {
     return UpdateError::tool(u"L'archive est illisible."_s);
 }
@@ -59,7 +59,7 @@ public:
         archive_read_support_format_zip_seekable(m_reader.get());
         if (archive_read_open_filename(m_reader.get(), QFile::encodeName(archive).constData(),
                                        BlockSize) != ARCHIVE_OK)
-            throw unreadable();
+            throw archiveUnreadable();
     }
 
     void run()
@@ -68,9 +68,9 @@ public:
         for (int result = next(entry); result != ARCHIVE_EOF; result = next(entry)) {
             // A warning says that something was not understood.
             if (result != ARCHIVE_OK)
-                throw unreadable();
+                throw archiveUnreadable();
             if (++m_entries > m_limits.entries)
-                throw refused(u"elle contient trop de fichiers."_s);
+                throw archiveRefused(u"elle contient trop de fichiers."_s);
             unpack(*entry);
         }
     }
@@ -99,26 +99,26 @@ private:
         case BundlePath::Fault::None:
             return path;
         case BundlePath::Fault::Absolute:
-            throw refused(u"elle contient un chemin absolu"_s, path);
+            throw archiveRefused(u"elle contient un chemin absolu"_s, path);
         case BundlePath::Fault::LeadsOut:
-            throw refused(u"elle contient un chemin qui sort du dossier"_s, path);
+            throw archiveRefused(u"elle contient un chemin qui sort du dossier"_s, path);
         case BundlePath::Fault::Invalid:
             break;
         }
-        throw refused(u"elle contient un nom de fichier non valide"_s, path);
+        throw archiveRefused(u"elle contient un nom de fichier non valide"_s, path);
     }
 
     static void checkKind(archive_entry &entry, const QByteArray &path)
     {
         if (archive_entry_is_encrypted(&entry))
-            throw refused(u"elle est chiffrée."_s);
+            throw archiveRefused(u"elle est chiffrée."_s);
         const auto type = archive_entry_filetype(&entry);
         if (type == AE_IFLNK || archive_entry_hardlink(&entry))
-            throw refused(u"elle contient un lien"_s, path);
+            throw archiveRefused(u"elle contient un lien"_s, path);
         if (type != AE_IFREG && type != AE_IFDIR)
-            throw refused(u"elle contient un fichier spécial"_s, path);
+            throw archiveRefused(u"elle contient un fichier spécial"_s, path);
         if (archive_entry_perm(&entry) & SpecialPermissions)
-            throw refused(u"elle contient un fichier aux droits spéciaux"_s, path);
+            throw archiveRefused(u"elle contient un fichier aux droits spéciaux"_s, path);
     }
 
     QByteArray below(const QByteArray &path) const { return m_folder + '/' + path; }
@@ -139,7 +139,7 @@ private:
             if (errno != EEXIST)
                 throw unwritable(path, errno);
             if (::lstat(full.constData(), &status) != 0 || !S_ISDIR(status.st_mode))
-                throw refused(u"elle contient deux fois le même nom"_s, path);
+                throw archiveRefused(u"elle contient deux fois le même nom"_s, path);
         } else if (::chmod(full.constData(), FolderMode) != 0) {
             throw unwritable(path, errno);
         }
@@ -153,7 +153,7 @@ private:
             ::open(below(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                    S_IRUSR | S_IWUSR);
         if (descriptor < 0 && (errno == EEXIST || errno == EISDIR))
-            throw refused(u"elle contient deux fois le même nom"_s, path);
+            throw archiveRefused(u"elle contient deux fois le même nom"_s, path);
         QFile file;
         if (descriptor < 0 ||
             !file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle))
@@ -175,22 +175,22 @@ private:
                ARCHIVE_OK) {
             checkSize(written + qint64(size), path);
             if (offset != written)
-                throw unreadable();
+                throw archiveUnreadable();
             if (file.write(static_cast<const char *>(block), qint64(size)) != qint64(size))
                 throw unwritable(path, errno);
             written += qint64(size);
         }
         if (result != ARCHIVE_EOF)
-            throw unreadable();
+            throw archiveUnreadable();
         m_written += written;
     }
 
     void checkSize(qint64 size, const QByteArray &path) const
     {
         if (size < 0)
-            throw unreadable();
+            throw archiveUnreadable();
         if (size > m_limits.fileSize || size > m_limits.wholeSize - m_written)
-            throw refused(u"elle contient trop de données"_s, path);
+            throw archiveRefused(u"elle contient trop de données"_s, path);
     }
 
     QByteArray m_folder;

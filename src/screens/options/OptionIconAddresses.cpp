@@ -3,7 +3,6 @@
 #include "screens/kit/drawn/IconAddresses.h"
 
 using namespace Qt::StringLiterals;
-using enum OptionIcons::Kind;
 
 namespace {
 
@@ -21,6 +20,7 @@ int withBorder(const IconAddresses &addresses, int side, int symbolSide)
 int sideOf(OptionIcons::Kind kind)
 {
     const IconAddresses addresses;
+    using enum OptionIcons::Kind;
     switch (kind) {
     case Status:
         return StatusSize;
@@ -52,6 +52,7 @@ QSize OptionIconAddresses::size(const OptionIconValue &icon) const
 QUrl OptionIconAddresses::source(const OptionIconValue &icon, const QColor &ink) const
 {
     const IconAddresses addresses;
+    using enum OptionIcons::Kind;
     switch (OptionIcons::Kind(icon.kind())) {
     case Status:
         return addresses.status(icon.status(), StatusSize, ink);
@@ -73,6 +74,7 @@ QUrl OptionIconAddresses::source(const OptionIconValue &icon, const QColor &ink)
 
 QString OptionIconAddresses::meaning(const OptionIconValue &icon) const
 {
+    using enum OptionIcons::Kind;
     switch (OptionIcons::Kind(icon.kind())) {
     case Status:
         return icon.status().displayName();

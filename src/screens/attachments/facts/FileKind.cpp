@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The formats that the decoder accepts.
-constexpr std::array Decoded{"image/png"_L1, "image/jpeg"_L1, "image/jpg"_L1, "image/gif"_L1,
-                             "image/webp"_L1};
+constexpr std::array DecodedPictures{"image/png"_L1, "image/jpeg"_L1, "image/jpg"_L1,
+                                     "image/gif"_L1, "image/webp"_L1};
 
 constexpr std::array Sheets{"text/csv"_L1, "text/tab-separated-values"_L1,
                             "application/vnd.ms-excel"_L1,
@@ -63,7 +63,7 @@ bool isProgramText(const QMimeType &type)
 
 FileKind kindOf(const QMimeType &type)
 {
-    if (isAmong(Decoded, type))
+    if (isAmong(DecodedPictures, type))
         return FileKind::Picture;
     if (type.inherits(u"application/pdf"_s))
         return FileKind::Pdf;
@@ -96,7 +96,7 @@ FileKind fileKind(const QString &mimeType, const QString &filename)
 PreviewKind previewKind(const QString &mimeType, const QString &filename)
 {
     const QMimeType type = typeOf(mimeType, filename);
-    if (isAmong(Decoded, type))
+    if (isAmong(DecodedPictures, type))
         return PreviewKind::Picture;
     switch (kindOf(type)) {
     case FileKind::Pdf:

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr double cellSide = IssueIcons::cellSide;
+using IssueIcons::cellSide;
 constexpr double checkOutset = (Metrics::rowPicker - Metrics::checkBox) / 2.0;
 constexpr double typeWidth = Metrics::rowType;
 
