@@ -235,7 +235,7 @@ TEST(IssueDerivationChanges, ARowThatIsShownBeforeAndAfterAnEditIsNeverTakenOut)
             QStringList keys;
             QList<int> places;
             for (const auto &row : rows) {
-                keys.append(models.list().keyAt(row.row()));
+                keys.append(row.data(IssueListModel::KeyRole).toString());
                 places.append(row.row());
             }
             source.edit();

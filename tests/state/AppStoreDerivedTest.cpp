@@ -80,7 +80,7 @@ TEST_F(AppStoreDerivedTest, aProjectsTitleTakesItsNameWhenItIsKnown)
 TEST_F(AppStoreDerivedTest, theListModelShowsTheGroups)
 {
     EXPECT_EQ(store->issueList()->rowCount(), 5) << "two headers and three issues";
-    EXPECT_EQ(store->issueList()->keyAt(1), u"WEB-1"_s);
+    EXPECT_EQ(store->issueList()->index(1).data(IssueListModel::KeyRole), u"WEB-1"_s);
 
     store->toggleGroup(store->groups()[1].id);
     EXPECT_EQ(store->issueList()->rowCount(), 3);

@@ -155,11 +155,6 @@ int IssueListModel::rowOfKey(const QString &key) const
     return row && rows()[*row].issue() ? *row : -1;
 }
 
-QString IssueListModel::keyAt(int row) const
-{
-    return row >= 0 && row < rowCount() && rows()[row].issue() ? rows()[row].key() : QString();
-}
-
 QVariant IssueListModel::data(const QModelIndex &index, int role) const
 {
     Q_ASSERT(checkIndex(index, CheckIndexOption::IndexIsValid));

@@ -82,8 +82,6 @@ public:
     Q_INVOKABLE IssueListHeader headerAt(int row) const;
     /// The row of an issue; -1 if it is not shown.
     Q_INVOKABLE int rowOfKey(const QString &key) const;
-    /// The key of the issue in a row; empty for a header and outside the list.
-    Q_INVOKABLE QString keyAt(int row) const;
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
