@@ -1,16 +1,25 @@
 # Functions that declare targets: a name, its files and its dependencies.
 include_guard()
 
+# The precompiled header of all targets that are compiled with the options of the preset.
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/precompiled.cpp CONTENT "")
+add_library(velmora_precompiled OBJECT ${CMAKE_BINARY_DIR}/precompiled.cpp)
+set_target_properties(velmora_precompiled PROPERTIES AUTOMOC OFF)
+target_link_libraries(velmora_precompiled PRIVATE velmora_options Qt6::Core QCoro6::Core)
+target_precompile_headers(velmora_precompiled PRIVATE <Precompiled.h>)
+
 # _velmora_common(<target> [PRECOMPILED <the target whose precompiled header it shares>]
-#                 [HEADERS <further headers of its own precompiled header>])
+#                 [HEADERS <further headers of a precompiled header of its own>])
 function(_velmora_common target)
     cmake_parse_arguments(ARG "" "PRECOMPILED" "HEADERS" ${ARGN})
     target_link_libraries(${target} PRIVATE velmora_options)
     target_link_libraries(${target} PRIVATE QCoro6::Core)
-    if(ARG_PRECOMPILED)
+    if(ARG_HEADERS)
+        target_precompile_headers(${target} PRIVATE <Precompiled.h> ${ARG_HEADERS})
+    elseif(ARG_PRECOMPILED)
         target_precompile_headers(${target} REUSE_FROM ${ARG_PRECOMPILED})
     else()
-        target_precompile_headers(${target} PRIVATE <Precompiled.h> ${ARG_HEADERS})
+        target_precompile_headers(${target} REUSE_FROM velmora_precompiled)
     endif()
 endfunction()
 
@@ -41,6 +50,13 @@ function(velmora_qml_module name)
     # With the full ahead-of-time compiler of Qt 6.4 a failed type lookup is an endless loop; with bytecode it is not.
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
     target_link_libraries(${name} PUBLIC Qt6::Qml ${ARG_DEPENDS} PRIVATE ${ARG_USES})
+    # Each QML file becomes a small source, and all of them include the same headers: several are compiled together. Ours
+    # are compiled together only where the preset asks for it.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON)
+    if(NOT CMAKE_UNITY_BUILD)
+        set_source_files_properties(${ARG_SOURCES} ${CMAKE_CURRENT_BINARY_DIR}/${name}_qmltyperegistrations.cpp
+            PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    endif()
     # The generated registration code includes headers without their folders.
     foreach(source ${ARG_SOURCES})
         cmake_path(GET source PARENT_PATH folder)
@@ -50,7 +66,19 @@ function(velmora_qml_module name)
     if(TARGET ${name}plugin)
         target_link_libraries(${name}plugin PRIVATE velmora_options)
         target_compile_options(${name}plugin PRIVATE -Wno-error)
+        # A generated source of a few lines would otherwise parse more of Qt than most of ours.
+        target_precompile_headers(${name}plugin REUSE_FROM velmora_precompiled)
     endif()
+    # What Qt generates beside the module contains no objects of ours.
+    get_property(targets DIRECTORY PROPERTY BUILDSYSTEM_TARGETS)
+    foreach(target ${targets})
+        if(target MATCHES "^${name}(plugin_init|_qmlcache|_resources_[0-9]+)$")
+            set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+        endif()
+        if(target MATCHES "^${name}plugin_init$")
+            target_precompile_headers(${target} REUSE_FROM velmora_precompiled)
+        endif()
+    endforeach()
 endfunction()
 
 # velmora_test(<name> [OPTIMISED] [FIXTURE <a header below tests/ that most of its sources include; it is precompiled>]
