@@ -16,6 +16,7 @@ Outside Outside::system()
     outside.statusHost = StatusHost::ofThisSystem();
     outside.keychain = Keychain::ofThisSystem(*outside.clock);
     outside.calendar = SystemCalendar::ofThisSystem();
+    outside.shortcuts = DesktopShortcuts::ofThisSystem(*outside.preferences);
     outside.makeDemo = [](Clock &clock, const SystemCalendar &calendar) {
         return std::make_shared<DemoService>(clock, calendar);
     };

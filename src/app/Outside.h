@@ -9,6 +9,7 @@
 #include "platform/StatusHost.h"
 #include "platform/SystemCalendar.h"
 #include "platform/bundles/AppBundles.h"
+#include "platform/shortcuts/DesktopShortcuts.h"
 #include "update/UpdateTransport.h"
 
 #include <functional>
@@ -22,6 +23,8 @@ struct Outside
     std::unique_ptr<Desktop> desktop;
     std::unique_ptr<StatusHost> statusHost;
     std::unique_ptr<SystemCalendar> calendar;
+    /// Null if the system has none.
+    std::unique_ptr<DesktopShortcuts> shortcuts;
     /// Declared after the members above, so that it is destroyed before them. Destroying it ends waiting operations,
     /// which may use those members.
     std::unique_ptr<Keychain> keychain;

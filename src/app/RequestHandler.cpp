@@ -37,6 +37,11 @@ void RequestHandler::carryOut(const Activation &activation, const QByteArray &re
     startWaiting();
 }
 
+void RequestHandler::carryOutShortcut(const QString &id, const QByteArray &activationToken)
+{
+    carryOut(Activation::of(activationToken, {}), Requests::ofAction(id));
+}
+
 void RequestHandler::startWaiting()
 {
     if (m_store.phase() != AppStore::Phase::Ready)

@@ -19,6 +19,8 @@ public:
 
     /// Shows the main window, and starts the action or opens the address. Texts that are neither have no effect.
     void carryOut(const Activation &activation, const QByteArray &request);
+    /// Carries out the action with the id of a shortcut of the desktop, see `DesktopShortcuts`.
+    void carryOutShortcut(const QString &id, const QByteArray &activationToken);
 
 private:
     void start(Command action);

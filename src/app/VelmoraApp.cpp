@@ -47,7 +47,8 @@ VelmoraApp::VelmoraApp(Outside outside)
       m_updateTransport(m_outside.makeUpdateTransport(*m_outside.clock)),
       m_updater(updaterContext()),
       m_updates(m_updater, *m_outside.calendar),
-      m_scenes(m_engine, m_store, *m_outside.preferences, m_farewell, m_updates),
+      m_scenes(m_engine, m_store, *m_outside.preferences, m_farewell, m_updates,
+               m_outside.shortcuts.get()),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)
 {
     Fonts::load();

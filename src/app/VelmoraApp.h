@@ -27,6 +27,8 @@ public:
     Updater &updater() { return m_updater; }
     Scenes &scenes() { return m_scenes; }
     AppDelegate &delegate() { return m_delegate; }
+    /// Null if the system has none.
+    DesktopShortcuts *shortcuts() { return m_outside.shortcuts.get(); }
     /// Null before `open`.
     QQuickWindow *mainWindow() const { return m_scenes.mainWindow(); }
 

@@ -46,6 +46,9 @@ int main(int argc, char **argv)
         if (services)
             QObject::connect(services.get(), &DesktopServices::asked, &*requests,
                              &RequestHandler::carryOut);
+        if (auto *shortcuts = velmora->shortcuts())
+            QObject::connect(shortcuts, &DesktopShortcuts::activated, &*requests,
+                             &RequestHandler::carryOutShortcut);
     });
     QObject::connect(&instance, &SingleInstance::asked, &application,
                      [&requests](const Activation &token, const QByteArray &asked) {

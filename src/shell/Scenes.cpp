@@ -24,11 +24,12 @@ void bringForward(QQuickWindow *window)
 } // namespace
 
 Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell,
-               UpdateScreens &updates)
+               UpdateScreens &updates, DesktopShortcuts *shortcuts)
     : m_engine(engine),
       m_store(store),
       m_farewell(farewell),
       m_updates(updates),
+      m_shortcuts(shortcuts),
       m_memory(preferences),
       m_tabs(preferences)
 {
@@ -37,6 +38,8 @@ Scenes::Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Fa
     QQmlEngine::setObjectOwnership(m_updates.updater(), QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_memory, QQmlEngine::CppOwnership);
     QQmlEngine::setObjectOwnership(&m_tabs, QQmlEngine::CppOwnership);
+    if (m_shortcuts)
+        QQmlEngine::setObjectOwnership(m_shortcuts, QQmlEngine::CppOwnership);
     connect(&m_farewell, &Farewell::windowWanted, this, &Scenes::showMain);
     connect(&m_store, &AppStore::openWindowRequested, this, &Scenes::showIssue);
     connect(&m_store, &AppStore::settingsRequested, this, &Scenes::showSettings);
@@ -95,6 +98,7 @@ void Scenes::showSettings()
     if (!m_settings) {
         m_settings =
             make(u"settings/SettingsView"_s, {{u"tabs"_s, QVariant::fromValue(&m_tabs)},
+                                              {u"shortcuts"_s, QVariant::fromValue(m_shortcuts)},
                                               {u"updates"_s, QVariant::fromValue(&m_updates)}});
         watch(m_settings);
     }

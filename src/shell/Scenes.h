@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/shortcuts/DesktopShortcuts.h"
 #include "shell/Farewell.h"
 #include "shell/WindowMemory.h"
 #include "shell/settings/SettingsTabs.h"
@@ -22,9 +23,9 @@ class Scenes : public QObject
     Q_OBJECT
 
 public:
-    /// All references must outlive the windows.
+    /// All references must outlive the windows, and so must the shortcuts, which may be null.
     Scenes(QQmlEngine &engine, AppStore &store, Preferences &preferences, Farewell &farewell,
-           UpdateScreens &updates);
+           UpdateScreens &updates, DesktopShortcuts *shortcuts);
     ~Scenes() override;
 
     /// The main window. Null before it was first shown.
@@ -57,6 +58,7 @@ private:
     AppStore &m_store;
     Farewell &m_farewell;
     UpdateScreens &m_updates;
+    DesktopShortcuts *m_shortcuts;
     WindowMemory m_memory;
     SettingsTabs m_tabs;
     std::unique_ptr<QQuickWindow> m_main;

@@ -65,6 +65,28 @@ TEST_F(RequestHandling, ThePaletteIsOpenedAndNeverClosed)
     EXPECT_TRUE(store().palette());
 }
 
+TEST_F(RequestHandling, AShortcutOfTheDesktopDoesWhatTheActionOfItsIdDoes)
+{
+    openOnDemo();
+    listen();
+    handler->carryOutShortcut(DesktopShortcuts::Palette.toString(), {});
+    EXPECT_TRUE(store().palette());
+    handler->carryOutShortcut(DesktopShortcuts::NewIssue.toString(), "jeton");
+    EXPECT_TRUE(store().isCreating());
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "jeton");
+    qunsetenv("XDG_ACTIVATION_TOKEN");
+}
+
+TEST_F(RequestHandling, ShortcutsOfTheDesktopWithOtherIdsDoNothing)
+{
+    openOnDemo();
+    listen();
+    for (const QString &id : {QString(), u"quit"_s, u"--palette"_s, QString(10'000, u'x')})
+        handler->carryOutShortcut(id, {});
+    EXPECT_FALSE(store().palette());
+    EXPECT_FALSE(store().isCreating());
+}
+
 TEST_F(RequestHandling, AnIssueThatIsBeingWrittenStaysInFront)
 {
     openOnDemo();

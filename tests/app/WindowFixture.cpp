@@ -83,6 +83,9 @@ void WindowFixture::open()
     auto ownStatusHost = std::make_unique<FakeStatusHost>();
     statusHost = ownStatusHost.get();
     outside.statusHost = std::move(ownStatusHost);
+    auto ownShortcuts = std::make_unique<FakeDesktopShortcuts>();
+    shortcuts = ownShortcuts.get();
+    outside.shortcuts = std::move(ownShortcuts);
     outside.preferences = std::make_unique<Preferences>(preferencesPath);
     auto ownCalendar = std::make_unique<ManualCalendar>();
     calendar = ownCalendar.get();

@@ -3,6 +3,7 @@
 #include "app/Spoken.h"
 #include "app/VelmoraApp.h"
 #include "support/FakeDesktop.h"
+#include "support/FakeDesktopShortcuts.h"
 #include "support/FakeKeychain.h"
 #include "support/FakeStatusHost.h"
 #include "support/ManualCalendar.h"
@@ -65,6 +66,7 @@ protected:
     ManualCalendar *calendar = nullptr;
     FakeDesktop *desktop = nullptr;
     FakeStatusHost *statusHost = nullptr;
+    FakeDesktopShortcuts *shortcuts = nullptr;
     FakeKeychain *keychain = nullptr;
     /// The program as it was installed. Without a feed, nothing looks for updates by itself.
     RunningApp runningApp{.path = QStringLiteral("/home/person/Applications/Velmora.app"),

@@ -14,6 +14,8 @@ Window {
     required property AppStore store
     required property SettingsTabs tabs
     required property UpdateScreens updates
+    // Null where the system has none.
+    required property DesktopShortcuts shortcuts
 
     // Gives a new page the keyboard, unless the user is walking along the tabs.
     function show(page: Item) {
@@ -99,6 +101,7 @@ Window {
             ShortcutsPane {
                 anchors.fill: parent
                 tabs: root.tabs
+                shortcuts: root.shortcuts
                 Component.onCompleted: root.show(this)
             }
         }

@@ -5,11 +5,13 @@ import Velmora.Kit
 import Velmora.Shell
 import Velmora.Theme
 
-// A reference of all keyboard shortcuts.
+// A reference of all keyboard shortcuts, below those of the whole desktop where it has such.
 FocusScope {
     id: root
 
     required property SettingsTabs tabs
+    // Null where the system has none.
+    required property DesktopShortcuts shortcuts
 
     Flickable {
         id: page
@@ -30,6 +32,17 @@ FocusScope {
             y: Metrics.gapMedium
             width: root.width - 2 * x
             spacing: Metrics.gapLarge
+
+            When {
+                shown: root.shortcuts?.isPresent ?? false
+                // The button may have the focus when the portal ends.
+                onShownChanged: page.focus = true
+
+                DesktopShortcutsCard {
+                    shortcuts: root.shortcuts
+                    onFocused: page.contentY = 0
+                }
+            }
 
             Repeater {
                 model: root.tabs.shortcuts
