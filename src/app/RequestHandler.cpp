@@ -1,6 +1,7 @@
 #include "app/RequestHandler.h"
 
 #include "desktop/Requests.h"
+#include "screens/kit/layers/WindowLayers.h"
 
 #include <utility>
 
@@ -15,6 +16,13 @@ std::optional<Command> actionOf(const QByteArray &request)
     if (request == Requests::Refresh)
         return Command::Reload;
     return std::nullopt;
+}
+
+/// The window shows a sheet that the user must complete before anything else.
+bool hasRequiredSheet(QQuickWindow *window)
+{
+    const auto *top = window ? WindowLayers::of(*window).top() : nullptr;
+    return top && top->kind() == Layer::Kind::Required;
 }
 
 } // namespace
@@ -50,10 +58,11 @@ void RequestHandler::startWaiting()
         start(*action);
 }
 
-/// An issue that is being written stays as it is, and the palette is opened, never closed.
+/// A sheet stays in front as it is, above all an issue that is being written. The palette is opened, never closed.
 void RequestHandler::start(Command action)
 {
-    if (m_store.isCreating() && action != Command::Reload)
+    const bool isHeld = m_store.isCreating() || hasRequiredSheet(m_scenes.mainWindow());
+    if (isHeld && action != Command::Reload)
         return;
     if (action == Command::TogglePalette)
         return m_store.setPalette(PaletteMode::root());

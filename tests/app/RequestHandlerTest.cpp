@@ -2,6 +2,7 @@
 
 #include "app/WindowFixture.h"
 #include "desktop/Requests.h"
+#include "shell/about/About.h"
 
 #include <QTest>
 
@@ -95,6 +96,35 @@ TEST_F(RequestHandling, AnIssueThatIsBeingWrittenStaysInFront)
     request(Requests::Palette);
     request(Requests::NewIssue);
     EXPECT_TRUE(store().isCreating());
+    EXPECT_FALSE(store().palette());
+}
+
+TEST_F(RequestHandling, ASheetThatMustBeCompletedStaysInFront)
+{
+    openOnDemo();
+    listen();
+    About::shared().show();
+    const Spoken close = await(QAccessible::Button, u"Fermer"_s);
+    request(Requests::Palette);
+    request(Requests::NewIssue);
+    EXPECT_FALSE(store().palette());
+    EXPECT_FALSE(store().isCreating());
+    click(close);
+    EXPECT_TRUE(isGone(QAccessible::Button, u"Fermer"_s));
+    request(Requests::Palette);
+    EXPECT_TRUE(store().palette());
+}
+
+TEST_F(RequestHandling, ThePaletteTakesThePlaceOfAMenu)
+{
+    openOnDemo();
+    listen();
+    rightClick(await(QAccessible::ListItem, u"MOB-1,"_s));
+    await(QAccessible::MenuItem, u"Copier la clé"_s);
+    request(Requests::Palette);
+    EXPECT_TRUE(isGone(QAccessible::MenuItem, u"Copier la clé"_s));
+    EXPECT_TRUE(store().palette());
+    press(Qt::Key_Escape);
     EXPECT_FALSE(store().palette());
 }
 
