@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
 
+#include "app/ExpectedWarnings.h"
 #include "async/Spawn.h"
 
 #include <QSignalSpy>
@@ -25,18 +26,9 @@ QStringList &warnings()
     return list;
 }
 
-/// Warnings of Qt's offscreen platform, which supports neither status items nor raising a window, and has no window
-/// manager that could be told the minimum size.
-bool isAboutThePlatform(const QString &message)
-{
-    return message.contains(u"systemTrayWindowChanged"_s) ||
-           message.contains(u"propagateSizeHints"_s) ||
-           message == u"This plugin does not support raise()"_s;
-}
-
 void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg && !isAboutThePlatform(message))
+    if (type != QtDebugMsg && type != QtInfoMsg && !isExpectedWarning(message))
         warnings() += message;
     // The process ends before the test could tell it.
     if (type == QtFatalMsg)

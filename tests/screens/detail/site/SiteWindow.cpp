@@ -1,5 +1,6 @@
 #include "screens/detail/site/SiteWindow.h"
 
+#include "app/ExpectedWarnings.h"
 #include "async/Spawn.h"
 #include "support/FakeStatusHost.h"
 #include "support/TaskResult.h"
@@ -22,17 +23,9 @@ QStringList &warnings()
     return list;
 }
 
-/// What the offscreen platform says of functions that it does not have.
-bool isAboutThePlatform(const QString &message)
-{
-    return message.contains(u"systemTrayWindowChanged"_s) ||
-           message.contains(u"propagateSizeHints"_s) ||
-           message == u"This plugin does not support raise()"_s;
-}
-
 void keepWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg && !isAboutThePlatform(message))
+    if (type != QtDebugMsg && type != QtInfoMsg && !isExpectedWarning(message))
         warnings() += message;
 }
 
