@@ -20,6 +20,8 @@ FocusScope {
     required property color ground
     readonly property int columnMaximum: 860
     readonly property bool isAtRest: view.activeFocus
+    // Where the item with the focus was when the page was last laid out. Empty without such an item.
+    property rect focusPlace
 
     // The pictures and files in the texts of the issue.
     readonly property Component media: ADFMediaView {
@@ -56,10 +58,29 @@ FocusScope {
         view.forceActiveFocus(Qt.OtherFocusReason);
     }
 
-    function revealFocus() {
+    function placeOfFocus(): rect {
         const item = Window.activeFocusItem;
-        if (root.activeFocus && item !== view && item !== root)
-            reveal(item, Qt.rect(0, 0, item.width, item.height));
+        const isPart = root.activeFocus && item !== view && item !== root;
+        return isPart ? item.mapToItem(view.contentItem, Qt.rect(0, 0, item.width, item.height)) : Qt.rect(0, 0, 0, 0);
+    }
+
+    function revealFocus() {
+        focusPlace = placeOfFocus();
+        if (focusPlace.height > 0)
+            reveal(view.contentItem, focusPlace);
+    }
+
+    function isInSight(place: rect): bool {
+        return place.height > 0 && place.top >= view.contentY && place.bottom <= view.contentY + view.height;
+    }
+
+    // Data that arrive can move the item with the focus. It stays in sight, unless the user has scrolled away from it.
+    function followFocus() {
+        const place = placeOfFocus();
+        const leaves = place.top !== focusPlace.top && isInSight(focusPlace);
+        focusPlace = place;
+        if (leaves && place.height > 0)
+            reveal(view.contentItem, place);
     }
 
     Window.onActiveFocusItemChanged: revealFocus()
@@ -80,6 +101,7 @@ FocusScope {
             y: Metrics.gapTiny
             width: Math.min(root.width - 2 * x, root.columnMaximum)
             spacing: Metrics.gapSection
+            onPositioningComplete: root.followFocus()
 
             TitleEditor {
                 id: title

@@ -8,6 +8,64 @@
 
 using namespace Qt::StringLiterals;
 
+/// An issue with sixty sub-issues, whose details have not arrived yet.
+class DetailTallPage : public DetailScreen
+{
+protected:
+    DetailTallPage()
+    {
+        tall = issueWithKey(u"MOB-2"_s);
+        for (int i = 0; i < 60; ++i)
+            tall.subtasks +=
+                IssueRef{{}, u"MOB-%1"_s.arg(100 + i), u"Sous-ticket %1"_s.arg(i), {}, {}};
+        serveIssues({tall, issueWithKey(u"MOB-1"_s)});
+        reload();
+        service->issueCalls.hold();
+        openIssue();
+    }
+    void focusSubIssue(const QString &key)
+    {
+        const auto isFocused = [&] {
+            auto *const item = window().activeFocusItem();
+            auto *const known = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+            return known && known->text(QAccessible::Name).startsWith(key);
+        };
+        for (int i = 0; i < 60 && !isFocused(); ++i)
+            press(Qt::Key_Tab);
+        ASSERT_TRUE(isFocused());
+        settle();
+    }
+    /// The details arrive, with a description that is higher than the window.
+    void describe()
+    {
+        QString text;
+        for (int i = 0; i < 60; ++i)
+            text += u"Paragraphe %1\n\n"_s.arg(i);
+        tall.description = ADFMarkdown::document(text);
+        service->issueCalls.last().finish(tall);
+        await(QAccessible::Paragraph, u"Paragraphe 59"_s);
+    }
+    int topOf(const QString &name) { return find(QAccessible::Button, name).box.top(); }
+    bool isInSight(const QString &name)
+    {
+        const auto row = find(QAccessible::Button, name).box;
+        const auto title = find(QAccessible::Button, u"Copier la clé MOB-2"_s).box;
+        const auto composer = find(QAccessible::Grouping, u"Nouveau commentaire"_s).box;
+        return row.top() >= title.bottom() && row.bottom() <= composer.top();
+    }
+    void turnWheel(int angle)
+    {
+        const QPoint place = find(QAccessible::Grouping, u"Nouveau commentaire"_s).box.center();
+        const QPoint above(place.x(), window().height() / 2);
+        QWheelEvent turn(above, window().mapToGlobal(above), {}, {0, angle}, {}, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window(), &turn);
+        settle();
+    }
+
+    Issue tall;
+};
+
 TEST_F(DetailScreen, TheKeyInTheBreadcrumbIsCopied)
 {
     openIssue();
@@ -164,6 +222,25 @@ TEST_F(DetailScreen, AnotherIssueIsShownFromItsBeginning)
     ASSERT_TRUE(QTest::qWaitFor([&] { return tops() < chip.top(); }));
     store().openInInspector(u"MOB-1"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return tops() == chip.top(); }));
+}
+
+TEST_F(DetailTallPage, AFocusedSubIssueStaysInSightWhenADescriptionArrivesAboveIt)
+{
+    focusSubIssue(u"MOB-103"_s);
+    EXPECT_TRUE(isInSight(u"MOB-103"_s));
+    describe();
+    EXPECT_TRUE(isInSight(u"MOB-103"_s)) << topOf(u"MOB-103"_s);
+}
+
+TEST_F(DetailTallPage, DataThatArriveDoNotBringTheUserBackToWhatHasTheFocus)
+{
+    focusSubIssue(u"MOB-103"_s);
+    for (int i = 0; i < 20; ++i)
+        turnWheel(-120);
+    ASSERT_FALSE(isInSight(u"MOB-103"_s));
+    const int before = topOf(u"Échéance"_s);
+    describe();
+    EXPECT_EQ(topOf(u"Échéance"_s), before);
 }
 
 TEST_F(DetailScreen, TheFilesOfACommentStandBelowIt)
