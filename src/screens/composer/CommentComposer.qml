@@ -138,6 +138,7 @@ FocusScope {
             highest: Math.ceil(8 * metrics.lineSpacing)
             name: root.composition.isInternal ? "Note interne" : "Commentaire"
             placeholderText: root.composition.placeholder
+            spoken: suggestions.spoken
             onTextChanged: root.report()
             onCursorPositionChanged: root.report()
             onFilesGiven: files => root.composition.attach(files)
@@ -183,6 +184,8 @@ FocusScope {
     }
 
     MentionSuggestions {
+        id: suggestions
+
         box: root
         editor: editor
         composition: root.composition

@@ -16,6 +16,8 @@ Popover {
     required property Composition composition
     required property DefaultAction sending
 
+    // The highlighted user and how many there are, for screen readers. Empty while nobody is suggested.
+    readonly property string spoken: isWanted ? list.spoken : ""
     readonly property bool isWanted: composition.hasSuggestions && editor.activeFocus
 
     function showOrHide() {

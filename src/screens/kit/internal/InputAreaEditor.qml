@@ -10,6 +10,8 @@ T.TextArea {
 
     required property string name
     required property string problem
+    /// The description for screen readers, in addition to the name.
+    property string spoken: problem
     property int role: TypeScale.Body
     /// Pasted files are reported, and not inserted as text.
     property bool takesFiles: false
@@ -22,8 +24,8 @@ T.TextArea {
     signal filesPasted(files: var)
 
     function speak() {
-        if (Accessible.description !== problem)
-            Accessible.description = Qt.binding(() => root.problem)
+        if (Accessible.description !== spoken)
+            Accessible.description = Qt.binding(() => root.spoken)
     }
 
     function leave(forwards: bool): bool {
@@ -64,7 +66,7 @@ T.TextArea {
     Accessible.multiLine: true
     Accessible.readOnly: readOnly
     Accessible.name: name
-    Accessible.description: problem
+    Accessible.description: spoken
     // The template overwrites the description with its placeholder when the item is complete and whenever a screen
     // reader starts.
     Accessible.onDescriptionChanged: speak()

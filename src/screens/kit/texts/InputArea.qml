@@ -5,8 +5,8 @@ import Velmora.Kit
 import Velmora.Theme
 
 /// A text field with several lines. It grows with its text from `lowest` to `highest`, and scrolls beyond that. Tab and
-/// Shift+Tab leave the field. `name`, `placeholderText` and `problem` have the same meaning as in an `InputField`. With
-/// `takesFiles`, local files that are pasted or dropped are reported by `filesGiven`.
+/// Shift+Tab leave the field. `name`, `placeholderText`, `problem` and `spoken` have the same meaning as in an
+/// `InputField`. With `takesFiles`, local files that are pasted or dropped are reported by `filesGiven`.
 FocusScope {
     id: root
 
@@ -14,6 +14,7 @@ FocusScope {
     property alias text: editor.text
     property alias placeholderText: editor.placeholderText
     property alias role: editor.role
+    property alias spoken: editor.spoken
     property alias cursorPosition: editor.cursorPosition
     property alias selectionStart: editor.selectionStart
     property alias selectionEnd: editor.selectionEnd

@@ -120,6 +120,27 @@ protected:
         EXPECT_NE(node.role(), QAccessible::Client) << place;
     }
 
+    /// The names of the items of the list with this name.
+    QStringList itemsOf(const QString &list)
+    {
+        return itemsOf(QAccessible::queryAccessibleInterface(&window()), list);
+    }
+    static QStringList itemsOf(QAccessibleInterface *node, const QString &list)
+    {
+        QStringList names;
+        const bool isList =
+            node->role() == QAccessible::List && node->text(QAccessible::Name) == list;
+        for (int i = 0; i < node->childCount(); ++i) {
+            auto *const child = node->child(i);
+            if (!child)
+                continue;
+            if (isList && child->role() == QAccessible::ListItem)
+                names += child->text(QAccessible::Name);
+            names += itemsOf(child, list);
+        }
+        return names;
+    }
+
     void press(QAccessible::Role role, const QString &name)
     {
         ASSERT_TRUE(pressAction(window(), role, name)) << name.toStdString();
@@ -213,6 +234,25 @@ TEST_F(IssueCrawl, ACommentIsOneSentenceWithItsAuthorAndItsTime)
     const QString author = site.site().user(site.site().me)->displayName;
     EXPECT_TRUE(comments.first().name.contains(author)) << comments.first().name.toStdString();
     EXPECT_FALSE(comments.first().description.isEmpty()) << "the date in full";
+}
+
+TEST_F(IssueCrawl, TheFieldTellsTheHighlightedSuggestionAndHowManyThereAre)
+{
+    const auto told = [this] {
+        return find(QAccessible::EditableText, u"Commentaire"_s).description;
+    };
+    ASSERT_TRUE(click(QAccessible::EditableText, u"Commentaire"_s));
+    EXPECT_EQ(told(), QString());
+    type(u"@"_s);
+    await(QAccessible::Dialog, u"Mentions"_s);
+    const auto count = itemsOf(u"Mentions"_s).size();
+    ASSERT_GT(count, 1);
+    EXPECT_EQ(told(), u"%1, 1 sur %2"_s.arg(itemsOf(u"Mentions"_s).first()).arg(count));
+    press(Qt::Key_Down);
+    EXPECT_EQ(told(), u"%1, 2 sur %2"_s.arg(itemsOf(u"Mentions"_s).at(1)).arg(count));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(isGone(QAccessible::Dialog, u"Mentions"_s));
+    EXPECT_EQ(told(), QString());
 }
 
 TEST_F(IssueCrawl, EachElementOfTheSheetForANewIssueHasANameAndARole)
