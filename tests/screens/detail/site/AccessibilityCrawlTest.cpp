@@ -1,5 +1,7 @@
 #include "screens/detail/site/SiteWindow.h"
+#include "support/TaskResult.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QQuickItem>
@@ -30,11 +32,15 @@ protected:
         use(*ownWindow(key));
     }
 
+    static QJsonObject document(const QJsonArray &blocks)
+    {
+        return {{u"type"_s, u"doc"_s}, {u"version"_s, 1}, {u"content"_s, blocks}};
+    }
     static QJsonObject paragraph(const QString &text)
     {
         const QJsonObject words{{u"type"_s, u"text"_s}, {u"text"_s, text}};
         const QJsonObject line{{u"type"_s, u"paragraph"_s}, {u"content"_s, QJsonArray{words}}};
-        return {{u"type"_s, u"doc"_s}, {u"version"_s, 1}, {u"content"_s, QJsonArray{line}}};
+        return document({line});
     }
 
     /// Each element that takes the focus has a name and a role, and none has the name of another beside it.
@@ -236,6 +242,25 @@ TEST_F(IssueCrawl, ACommentIsOneSentenceWithItsAuthorAndItsTime)
     EXPECT_FALSE(comments.first().description.isEmpty()) << "the date in full";
 }
 
+TEST_F(IssueCrawl, EachCommentIsAnItemOfTheListAndTellsWhoCanReadIt)
+{
+    const QString key = keysOf(u"AIDE"_s).at(1);
+    SiteIssue &issue = *site.site().issue(key);
+    issue.comments.clear();
+    site.site().comment(issue, {.body = paragraph(u"Une réponse"_s)});
+    site.site().comment(issue, {.body = paragraph(u"Entre nous"_s), .isInternal = true});
+    site.site().comment(issue, {.body = document({}), .isInternal = true});
+    site.site().comment(issue, {.body = paragraph(u"Pour eux"_s), .role = u"Administrators"_s});
+    openWindow(key);
+    await(QAccessible::ListItem, u", visible uniquement par « Administrators »"_s);
+    QStringList comments = itemsOf(u"Commentaires"_s);
+    for (QString &comment : comments)
+        comment = comment.section(u", "_s, 1);
+    const QStringList expected{u"visible par le client"_s, u"note interne"_s, u"note interne"_s,
+                               u"visible uniquement par « Administrators »"_s};
+    EXPECT_EQ(comments, expected) << comments.join(u'|').toStdString();
+}
+
 TEST_F(IssueCrawl, TheFieldTellsTheHighlightedSuggestionAndHowManyThereAre)
 {
     const auto told = [this] {
@@ -253,6 +278,24 @@ TEST_F(IssueCrawl, TheFieldTellsTheHighlightedSuggestionAndHowManyThereAre)
     press(Qt::Key_Escape);
     EXPECT_TRUE(isGone(QAccessible::Dialog, u"Mentions"_s));
     EXPECT_EQ(told(), QString());
+}
+
+TEST_F(IssueCrawl, AnUploadIsAnItemOfTheListOfFilesAndItsButtonCancelsIt)
+{
+    QFile file(folder.filePath(u"notes.txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Notes");
+    file.close();
+    site.server().holdBack(
+        [](const RawRequest &request) { return request.target.contains("/attachments"); });
+    const TaskResult<QList<Attachment>> upload(store().uploadAttachments(
+        keysOf(u"AIDE"_s).first(), {QUrl::fromLocalFile(file.fileName())}));
+    await(QAccessible::ListItem, u"Envoi…"_s);
+    EXPECT_TRUE(itemsOf(u"Fichiers joints"_s).contains(u"Envoi…"_s));
+    expectInOrder("upload");
+    press(QAccessible::Button, u"Annuler l'envoi"_s);
+    EXPECT_TRUE(isGone(QAccessible::ListItem, u"Envoi…"_s));
+    EXPECT_TRUE(upload.isDone());
 }
 
 TEST_F(IssueCrawl, EachElementOfTheSheetForANewIssueHasANameAndARole)
