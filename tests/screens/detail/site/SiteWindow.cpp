@@ -2,6 +2,7 @@
 
 #include "app/ExpectedWarnings.h"
 #include "async/Spawn.h"
+#include "demo/DemoService.h"
 #include "support/FakeStatusHost.h"
 #include "support/TaskResult.h"
 #include "update/FakeBundles.h"
@@ -109,16 +110,37 @@ Outside SiteWindow::outside()
         m_clients += client;
         return client;
     };
-    outside.makeDemo = [](Clock &, const SystemCalendar &) { return nullptr; };
+    outside.makeDemo = [this](Clock &time, const SystemCalendar &system) {
+        DemoSources sources = DemoSources::system();
+        sources.folder = folder.filePath(u"demo"_s);
+        return std::make_shared<DemoService>(time, system, sources);
+    };
     return outside;
 }
 
-void SiteWindow::open()
+void SiteWindow::start()
 {
     app = std::make_unique<VelmoraApp>(outside());
     ASSERT_TRUE(app->open());
     use(mainWindow());
     desktop->setPrefersReducedMotion(true);
+}
+
+void SiteWindow::openDemo()
+{
+    Preferences(folder.filePath(u"Velmora.ini"_s)).setFlag(u"demoMode"_s, true);
+    start();
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] {
+            clock->advance(std::chrono::milliseconds(50));
+            return !store().issues().isEmpty();
+        },
+        patience));
+}
+
+void SiteWindow::open()
+{
+    start();
     ASSERT_TRUE(QTest::qWaitFor([this] { return store().phase() != AppStore::Phase::Launching; },
                                 patience));
     if (store().phase() == AppStore::Phase::SignedOut)

@@ -38,6 +38,8 @@ protected:
 
     /// Opens the main window and waits for the issues.
     void open();
+    /// The same on the back end of the demo, whose waits end when the clock is advanced.
+    void openDemo();
     void signIn();
     void signOut();
 
@@ -84,6 +86,7 @@ protected:
 
 private:
     Outside outside();
+    void start();
 
     QQuickWindow *m_window = nullptr;
     /// The back ends, which stay until each of their requests has ended.
