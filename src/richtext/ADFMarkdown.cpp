@@ -26,7 +26,7 @@ QString ADFMarkdown::randomLocalID()
 
 ADFNode ADFMarkdown::document(const QString &text, const LocalIDSource &localIDs)
 {
-    const QString unified = QString(text).replace("\r\n"_L1, "\n"_L1);
+    const QString unified = text.contains(u'\r') ? QString(text).replace("\r\n"_L1, "\n"_L1) : text;
     std::vector<QStringView> lines;
     for (const QStringView line : QStringView(unified).tokenize(u'\n'))
         lines.push_back(line);

@@ -1,6 +1,7 @@
 #include "richtext/ValidText.h"
 
 #include <QString>
+#include <QStringConverter>
 
 namespace {
 
@@ -26,6 +27,8 @@ QString repaired(QStringView text)
 
 QByteArray validUTF8(QStringView text)
 {
-    // Qt would write a question mark for an unpaired surrogate, which could not be told from one that the user typed.
-    return text.isValidUtf16() ? text.toUtf8() : repaired(text).toUtf8();
+    // The encoder writes a question mark for an unpaired surrogate, which could not be told from one that the user typed.
+    QStringEncoder encoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    const QByteArray utf8 = encoder(text);
+    return encoder.hasError() ? repaired(text).toUtf8() : utf8;
 }

@@ -33,7 +33,11 @@ QList<ADFMark> marksOf(const InlineStyle &style)
 
 void appendLine(QStringView line, QList<ADFNode> &nodes)
 {
-    for (InlineRun &run : inlineRuns(line))
+    QList<InlineRun> runs = inlineRuns(line);
+    // Only for the first line: asking for the space of each line in turn would move the nodes each time.
+    if (nodes.isEmpty())
+        nodes.reserve(runs.size());
+    for (InlineRun &run : runs)
         nodes.append(ADF::text(std::move(run.text), marksOf(run.style)));
 }
 

@@ -6,6 +6,7 @@
 #include <QMutex>
 
 #include <algorithm>
+#include <array>
 #include <cmark-gfm-core-extensions.h>
 #include <cmark-gfm.h>
 #include <memory>
@@ -42,13 +43,22 @@ Document parsed(const QByteArray &text)
     return Document(cmark_parser_finish(parser.get()));
 }
 
+/// For each ASCII character, whether it begins markup or is replaced.
+constexpr std::array<bool, 128> beginnings = [] {
+    std::array<bool, 128> result{};
+    // The zero at the end of the text is one of them.
+    for (const char character : "*_~`[<&\\")
+        result[uchar(character)] = true;
+    return result;
+}();
+
 /// True if the result may differ from the line: it contains a character that begins markup or that is replaced. Most
 /// lines of a text contain none, and the parser takes several times as long as this.
 bool needsParser(QStringView line)
 {
-    constexpr QStringView beginnings = u"*_~`[<&\\";
-    return std::ranges::any_of(line, [beginnings](QChar character) {
-        return character.isNull() || character.isSurrogate() || beginnings.contains(character);
+    return std::ranges::any_of(line, [](QChar character) {
+        const char16_t unit = character.unicode();
+        return unit < beginnings.size() ? beginnings[unit] : character.isSurrogate();
     });
 }
 

@@ -16,9 +16,10 @@ constexpr qsizetype mostBeginnings = 1000;
 
 bool isSlow(QStringView line)
 {
-    return std::ranges::any_of(
-        std::array{"!["_L1, "<?"_L1, "<!"_L1},
-        [&](QLatin1StringView beginning) { return line.count(beginning) > mostBeginnings; });
+    return line.size() > mostBeginnings &&
+           std::ranges::any_of(
+               std::array{"!["_L1, "<?"_L1, "<!"_L1},
+               [&](QLatin1StringView beginning) { return line.count(beginning) > mostBeginnings; });
 }
 
 QChar absentSpace(QStringView line)
@@ -34,7 +35,9 @@ std::optional<Markdown::LineGuard> Markdown::LineGuard::of(QStringView line)
 {
     if (isSlow(line))
         return std::nullopt;
-    QString text = edge + line.toString() + edge;
+    QString text;
+    text.reserve(line.size() + 2);
+    text.append(edge).append(line).append(edge);
     LineGuard guard;
     if (text.contains(u'\r')) {
         guard.m_carriageReturn = absentSpace(line);

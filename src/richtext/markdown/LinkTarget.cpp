@@ -1,16 +1,21 @@
 #include "richtext/markdown/LinkTarget.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <string_view>
 
 namespace {
 
-/// True for the reserved and unreserved characters of RFC 3986.
-bool isURLCharacter(char byte)
-{
-    constexpr std::string_view punctuation = "-._~:/?#[]@!$&'()*+,;=";
-    return (uchar(byte) < 0x80 && std::isalnum(uchar(byte)) != 0) || punctuation.contains(byte);
-}
+/// For each byte, whether it is a reserved or unreserved character of RFC 3986.
+constexpr std::array<bool, 256> urlCharacters = [] {
+    std::array<bool, 256> result{};
+    for (const char character :
+         std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                          "0123456789-._~:/?#[]@!$&'()*+,;="))
+        result[uchar(character)] = true;
+    return result;
+}();
 
 bool isEscape(QByteArrayView text)
 {
@@ -22,9 +27,13 @@ bool isEscape(QByteArrayView text)
 
 QString LinkTarget::absoluteString(const QByteArray &utf8)
 {
+    const bool isURL =
+        std::ranges::all_of(utf8, [](char byte) { return urlCharacters[uchar(byte)]; });
+    if (isURL)
+        return QString::fromLatin1(utf8);
     QByteArray url;
     for (qsizetype i = 0; i < utf8.size(); ++i) {
-        if (isURLCharacter(utf8[i]) || isEscape(QByteArrayView(utf8).sliced(i)))
+        if (urlCharacters[uchar(utf8[i])] || isEscape(QByteArrayView(utf8).sliced(i)))
             url.append(utf8[i]);
         else
             url.append('%').append(utf8.sliced(i, 1).toHex().toUpper());

@@ -4,6 +4,8 @@
 
 #include <QByteArrayView>
 
+#include <utility>
+
 namespace {
 
 /// The type of an extension has no constant.
@@ -65,8 +67,7 @@ void Markdown::RunCollector::add(const char *text, bool isCode)
 void Markdown::RunCollector::flush()
 {
     if (!m_pending.isEmpty())
-        m_runs.append(InlineRun{m_pending, m_style});
-    m_pending.clear();
+        m_runs.append(InlineRun{std::exchange(m_pending, {}), m_style});
 }
 
 QList<Markdown::InlineRun> Markdown::RunCollector::runs() &&
