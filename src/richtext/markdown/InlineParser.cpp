@@ -1,5 +1,6 @@
 #include "richtext/markdown/InlineParser.h"
 
+#include "richtext/markdown/LineArena.h"
 #include "richtext/markdown/LineGuard.h"
 #include "richtext/markdown/RunCollector.h"
 
@@ -9,18 +10,10 @@
 #include <array>
 #include <cmark-gfm-core-extensions.h>
 #include <cmark-gfm.h>
-#include <memory>
 
 namespace {
 
-template <auto release>
-struct Release
-{
-    void operator()(auto *object) const { release(object); }
-};
-using Parser = std::unique_ptr<cmark_parser, Release<cmark_parser_free>>;
-using Document = std::unique_ptr<cmark_node, Release<cmark_node_free>>;
-using Iterator = std::unique_ptr<cmark_iter, Release<cmark_iter_free>>;
+using Markdown::LineArena;
 
 cmark_syntax_extension *strikethrough()
 {
@@ -31,16 +24,15 @@ cmark_syntax_extension *strikethrough()
     return extension;
 }
 
-Document parsed(const QByteArray &text)
+/// The document, which is freed with the arena.
+cmark_node *parsed(const LineArena &arena, const QByteArray &text)
 {
-    // While the library parses with an extension, the characters of the extension are global state.
-    static QMutex mutex;
-    const QMutexLocker locker(&mutex);
     // A single "~" is no markup.
-    const Parser parser(cmark_parser_new(CMARK_OPT_STRIKETHROUGH_DOUBLE_TILDE));
-    cmark_parser_attach_syntax_extension(parser.get(), strikethrough());
-    cmark_parser_feed(parser.get(), text.constData(), std::size_t(text.size()));
-    return Document(cmark_parser_finish(parser.get()));
+    cmark_parser *const parser =
+        cmark_parser_new_with_mem(CMARK_OPT_STRIKETHROUGH_DOUBLE_TILDE, arena.functions());
+    cmark_parser_attach_syntax_extension(parser, strikethrough());
+    cmark_parser_feed(parser, text.constData(), std::size_t(text.size()));
+    return cmark_parser_finish(parser);
 }
 
 /// For each ASCII character, whether it begins markup or is replaced.
@@ -73,12 +65,15 @@ QList<Markdown::InlineRun> Markdown::inlineRuns(QStringView line)
     const auto guard = LineGuard::of(line);
     if (!guard)
         return {InlineRun{line.toString(), {}}};
-    const Document document = parsed(guard->encoded());
-    const Iterator nodes(cmark_iter_new(document.get()));
+    // While the library parses with an extension, the characters of the extension are global state.
+    static QMutex mutex;
+    const QMutexLocker locker(&mutex);
+    const LineArena arena;
+    cmark_iter *const nodes = cmark_iter_new(parsed(arena, guard->encoded()));
     RunCollector runs(*guard);
-    for (auto event = cmark_iter_next(nodes.get()); event != CMARK_EVENT_DONE;
-         event = cmark_iter_next(nodes.get())) {
-        cmark_node *const node = cmark_iter_get_node(nodes.get());
+    for (auto event = cmark_iter_next(nodes); event != CMARK_EVENT_DONE;
+         event = cmark_iter_next(nodes)) {
+        cmark_node *const node = cmark_iter_get_node(nodes);
         if (event == CMARK_EVENT_ENTER)
             runs.enter(node);
         else
