@@ -84,6 +84,7 @@ TEST(InlineParser, LinesReadOnSeveralThreadsDoNotMix)
         expected.push_back(inlineRuns(lineOf(i)));
     std::array<int, 4> different{};
     std::vector<std::thread> threads;
+    threads.reserve(different.size());
     for (int &failed : different) {
         threads.emplace_back([&] {
             for (int i = 0; i < count; ++i)
