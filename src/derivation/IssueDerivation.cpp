@@ -197,32 +197,3 @@ const SearchTexts &IssueDerivation::searchTexts() const
     index();
     return m_index.texts();
 }
-
-int IssueDerivation::timesComputed(Step step) const
-{
-    switch (step) {
-    case Step::Index:
-        return m_indexMemo.computations;
-    case Step::Order:
-        return m_order.computations;
-    case Step::Filter:
-        return m_filter.computations;
-    case Step::Search:
-        return m_search.computations;
-    case Step::Visible:
-        return m_visible.computations;
-    case Step::VisibleIssues:
-        return m_visibleIssues.computations;
-    case Step::Groups:
-        return m_groups.computations;
-    case Step::Board:
-        return m_board.computations;
-    case Step::Keys:
-        return m_path.computations;
-    case Step::Menus:
-        return m_menus.computations;
-    case Step::Count:
-        break;
-    }
-    return 0;
-}

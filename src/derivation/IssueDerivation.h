@@ -18,20 +18,6 @@
 class IssueDerivation
 {
 public:
-    enum class Step {
-        Index,
-        Order,
-        Filter,
-        Search,
-        Visible,
-        VisibleIssues,
-        Groups,
-        Board,
-        Keys,
-        Menus,
-        Count
-    };
-
     /// Compares the inputs with the previous ones. The change takes effect at the next read.
     void setInputs(const IssueDerivationInputs &inputs);
     const IssueDerivationInputs &inputs() const { return m_inputs; }
@@ -61,11 +47,6 @@ public:
     quint64 menusVersion() const { return menusMemo().version; }
     /// The texts of all issues, in the order of the inputs.
     const SearchTexts &searchTexts() const;
-
-    /// How often the step was computed.
-    int timesComputed(Step step) const;
-    /// How many times the texts of an issue have been folded since this object was created.
-    qsizetype foldedIssues() const { return m_index.foldedIssues(); }
 
 private:
     /// The inputs that steps depend on. `m_versions` has a number for each, which grows when the input changes.
@@ -121,15 +102,15 @@ private:
         return first;
     }();
     mutable IssueIndex m_index;
-    mutable Memo<quint64> m_indexMemo;
-    mutable Memo<IssueRows> m_order;
-    mutable Memo<std::vector<quint8>> m_filter;
-    mutable Memo<Search> m_search;
-    mutable Memo<IssueRows> m_visible;
-    mutable Memo<IssueList> m_visibleIssues;
-    mutable Memo<QList<IssueGroup>> m_groups;
-    mutable Memo<QList<IssueGroup>> m_board;
-    mutable Memo<VisiblePath> m_path;
-    mutable Memo<KeyShapes> m_shapes;
-    mutable Memo<IssueDerivationMenus> m_menus;
+    mutable Memo<quint64> m_indexMemo{"index"};
+    mutable Memo<IssueRows> m_order{"order"};
+    mutable Memo<std::vector<quint8>> m_filter{"filter"};
+    mutable Memo<Search> m_search{"search"};
+    mutable Memo<IssueRows> m_visible{"visible rows"};
+    mutable Memo<IssueList> m_visibleIssues{"visible issues"};
+    mutable Memo<QList<IssueGroup>> m_groups{"groups"};
+    mutable Memo<QList<IssueGroup>> m_board{"board"};
+    mutable Memo<VisiblePath> m_path{"visible keys"};
+    mutable Memo<KeyShapes> m_shapes{"key shapes"};
+    mutable Memo<IssueDerivationMenus> m_menus{"menus"};
 };

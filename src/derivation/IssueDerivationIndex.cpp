@@ -1,5 +1,7 @@
 #include "derivation/IssueDerivationIndex.h"
 
+#include "derivation/Memo.h"
+
 #include <algorithm>
 #include <ranges>
 
@@ -114,10 +116,12 @@ void IssueIndex::updateTexts(const IssueList &issues, const TextRows &rows)
     SearchTexts texts;
     texts.reserve(issues.size(), m_texts.bytes());
     for (qsizetype row = 0; row < issues.size(); ++row) {
-        if (const auto old = rows[std::size_t(row)]; old != nowhere)
+        if (const auto old = rows[std::size_t(row)]; old != nowhere) {
             texts.append(m_texts, old);
-        else
-            texts.append(*issues[row]), ++m_foldedIssues;
+        } else {
+            qCDebug(computationLog, "texts");
+            texts.append(*issues[row]);
+        }
     }
     m_texts = std::move(texts);
     m_keys = keyIndexOf(issues);

@@ -54,8 +54,6 @@ public:
 
     /// The number of a status group, whether or not an issue is in it.
     quint32 statusNumber(const QString &groupKey) { return m_statuses.of(groupKey); }
-    /// How many times the texts of an issue have been folded since this object was created.
-    qsizetype foldedIssues() const { return m_foldedIssues; }
 
 private:
     /// For each issue the row that has the same texts in the list before; -1 if none has.
@@ -73,7 +71,6 @@ private:
     Ordinals m_statuses;
     Ordinals m_assignees;
     Ordinals m_projects;
-    qsizetype m_foldedIssues = 0;
     /// Refers to the memory of the records in `m_issues`.
     KeyIndex m_keys;
 };

@@ -227,8 +227,6 @@ public:
 
     // Recap: has no effect outside a recap ----------------------------------------------------------------------------
     const ActivitySummary &activitySummary() const;
-    /// The cached values; their computation counts show whether a read had to compute anything.
-    const RecapMemos &recapMemos() const { return m_recap; }
     /// Empty outside a recap.
     const ActivityHeaderData &activityHeader() const { return *m_activityHeader; }
     /// Copies a report in Markdown.

@@ -9,9 +9,9 @@
 struct RecapMemos
 {
     /// From the statuses of the projects and of the issues.
-    Memo<StatusLookup> statuses;
+    Memo<StatusLookup> statuses{"recap statuses"};
     /// From the visible issues and the statuses. Computing it iterates over all events.
-    Memo<ActivitySummary> summary;
+    Memo<ActivitySummary> summary{"recap summary"};
     /// From the known users: the users by name, for the badges of new assignees.
-    Memo<QHash<QString, JiraUser>> users;
+    Memo<QHash<QString, JiraUser>> users{"recap users"};
 };

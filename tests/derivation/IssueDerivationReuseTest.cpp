@@ -1,11 +1,11 @@
 #include "derivation/IssueDerivation.h"
 #include "derivation/IssueDerivationSamples.h"
+#include "support/ComputationLog.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using Step = IssueDerivation::Step;
 
 namespace {
 
@@ -27,15 +27,8 @@ protected:
         derivation.flatVisibleKeys();
     }
 
-    QList<int> counts() const
-    {
-        QList<int> counts;
-        for (int step = 0; step < int(Step::Count); ++step)
-            counts.append(derivation.timesComputed(Step(step)));
-        return counts;
-    }
-
     IssueDerivationInputs inputs = inputsOf({});
+    ComputationLog log;
     IssueDerivation derivation;
 };
 
@@ -43,22 +36,22 @@ protected:
 
 TEST_F(IssueDerivationReuse, SameInputsComputeNothing)
 {
-    const auto before = counts();
+    const auto before = log.counts();
     apply();
-    EXPECT_EQ(counts(), before);
+    EXPECT_EQ(log.counts(), before);
 }
 
 TEST_F(IssueDerivationReuse, AKeystrokeNeitherSortsNorFoldsNorFilters)
 {
     inputs.filterText = u"été"_s;
     apply();
-    EXPECT_EQ(derivation.timesComputed(Step::Search), 2);
-    EXPECT_EQ(derivation.timesComputed(Step::Visible), 2);
-    EXPECT_EQ(derivation.timesComputed(Step::Groups), 2);
-    EXPECT_EQ(derivation.timesComputed(Step::Index), 1);
-    EXPECT_EQ(derivation.timesComputed(Step::Order), 1);
-    EXPECT_EQ(derivation.timesComputed(Step::Filter), 1);
-    EXPECT_EQ(derivation.foldedIssues(), 200);
+    EXPECT_EQ(log.count(u"search"_s), 2);
+    EXPECT_EQ(log.count(u"visible rows"_s), 2);
+    EXPECT_EQ(log.count(u"groups"_s), 2);
+    EXPECT_EQ(log.count(u"index"_s), 1);
+    EXPECT_EQ(log.count(u"order"_s), 1);
+    EXPECT_EQ(log.count(u"filter"_s), 1);
+    EXPECT_EQ(log.count(u"texts"_s), 200);
 }
 
 TEST_F(IssueDerivationReuse, AKeystrokeThatHitsTheSameIssuesGroupsNothing)
@@ -67,26 +60,26 @@ TEST_F(IssueDerivationReuse, AKeystrokeThatHitsTheSameIssuesGroupsNothing)
     apply();
     inputs.filterText = u"ACCENTS "_s;
     apply();
-    EXPECT_EQ(derivation.timesComputed(Step::Search), 3);
-    EXPECT_EQ(derivation.timesComputed(Step::Groups), 2);
-    EXPECT_EQ(derivation.timesComputed(Step::Keys), 2);
+    EXPECT_EQ(log.count(u"search"_s), 3);
+    EXPECT_EQ(log.count(u"groups"_s), 2);
+    EXPECT_EQ(log.count(u"visible keys"_s), 2);
 }
 
 TEST_F(IssueDerivationReuse, CollapsingAGroupComputesTheKeysAlone)
 {
-    const auto groups = derivation.timesComputed(Step::Groups);
+    const auto groups = log.count(u"groups"_s);
     inputs.collapsedGroups = {derivation.groups().first().id};
     apply();
-    EXPECT_EQ(derivation.timesComputed(Step::Groups), groups);
-    EXPECT_EQ(derivation.timesComputed(Step::Keys), 2);
+    EXPECT_EQ(log.count(u"groups"_s), groups);
+    EXPECT_EQ(log.count(u"visible keys"_s), 2);
 }
 
 TEST_F(IssueDerivationReuse, AReloadOfEqualRecordsComputesNothing)
 {
-    const auto before = counts();
+    const auto before = log.counts();
     inputs.issues = randomIssues(1, 200);
     apply();
-    EXPECT_EQ(counts(), before);
+    EXPECT_EQ(log.counts(), before);
 }
 
 TEST_F(IssueDerivationReuse, AReloadFoldsOnlyWhatReadsDifferently)
@@ -101,7 +94,7 @@ TEST_F(IssueDerivationReuse, AReloadFoldsOnlyWhatReadsDifferently)
     fresh[11] = moved;
     inputs.issues = fresh;
     apply();
-    EXPECT_EQ(derivation.foldedIssues(), 201);
+    EXPECT_EQ(log.count(u"texts"_s), 201);
 }
 
 TEST_F(IssueDerivationReuse, AnEditComputesEachStepOnceAndFoldsOnlyItsOwnTexts)
@@ -112,9 +105,10 @@ TEST_F(IssueDerivationReuse, AnEditComputesEachStepOnceAndFoldsOnlyItsOwnTexts)
     inputs.issues[7] = renamed;
     apply();
     apply();
-    for (const auto step : {Step::Index, Step::Order, Step::Filter, Step::Groups, Step::Keys})
-        EXPECT_EQ(derivation.timesComputed(step), 2) << int(step);
-    EXPECT_EQ(derivation.foldedIssues(), 201);
+    for (const QString &name :
+         {u"index"_s, u"order"_s, u"filter"_s, u"groups"_s, u"visible keys"_s})
+        EXPECT_EQ(log.count(name), 2) << name.toStdString();
+    EXPECT_EQ(log.count(u"texts"_s), 201);
 }
 
 TEST_F(IssueDerivationReuse, AnEditedStatusLeavesTheListsOfOtherGroupsShared)
@@ -149,7 +143,7 @@ TEST_F(IssueDerivationReuse, AKeyIsFoundWhenItsFormerRecordIsGone)
         inputs.issues[7] = moved;
     }
     apply();
-    EXPECT_EQ(derivation.foldedIssues(), 200);
+    EXPECT_EQ(log.count(u"texts"_s), 200);
     EXPECT_EQ(derivation.rowOf(key), 7);
 }
 
@@ -186,8 +180,8 @@ TEST_F(IssueDerivationReuse, ANarrowerSearchFindsWhatAWholeOneFinds)
 
 TEST_F(IssueDerivationReuse, TheBoardIsNotComputedWhileTheListIsShown)
 {
-    EXPECT_EQ(derivation.timesComputed(Step::Board), 0);
-    EXPECT_EQ(derivation.timesComputed(Step::Menus), 0);
+    EXPECT_EQ(log.count(u"board"_s), 0);
+    EXPECT_EQ(log.count(u"menus"_s), 0);
 }
 
 TEST(ReusingRecords, EqualRecordsBecomeTheSameObject)

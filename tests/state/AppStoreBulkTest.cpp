@@ -1,5 +1,6 @@
 #include "model/JiraError.h"
 #include "state/AppStoreFixture.h"
+#include "support/ComputationLog.h"
 
 #include <ctime>
 #include <functional>
@@ -45,15 +46,13 @@ protected:
     /// Runs one step of the UI thread and updates the maximum duration and the maximum amount of work of a step.
     void step(const std::function<void()> &run)
     {
-        using Step = IssueDerivation::Step;
-        const int groupings = store->derivation().timesComputed(Step::Groups);
+        const ComputationLog log;
         const int updates = store->issueList()->revision();
         const std::clock_t start = std::clock();
         run();
         longest = std::max(longest, std::clock() - start);
         mostUpdates = std::max(mostUpdates, store->issueList()->revision() - updates);
-        mostGroupings =
-            std::max(mostGroupings, store->derivation().timesComputed(Step::Groups) - groupings);
+        mostGroupings = std::max(mostGroupings, log.count(u"groups"_s));
         mostUnderWay = std::max(mostUnderWay, pendingTransitions());
     }
 

@@ -1,5 +1,6 @@
 #include "model/JiraError.h"
 #include "state/AppStoreFixture.h"
+#include "support/ComputationLog.h"
 
 #include <QSignalSpy>
 
@@ -117,12 +118,12 @@ TEST_F(AppStoreEditsTest, anEditShowsAtOnceInEveryCopy)
 TEST_F(AppStoreEditsTest, anEditAndItsRejectionGroupOnceEachAndShareAllOtherRecords)
 {
     reloadWith(Issues);
-    const int groupings = store->derivation().timesComputed(IssueDerivation::Step::Groups);
+    const ComputationLog log;
     const IssueList before = store->issues();
     store->setStatus(Closed, {u"WEB-1"_s});
     service->transitionsCalls.last().fail(Refused);
 
-    EXPECT_EQ(store->derivation().timesComputed(IssueDerivation::Step::Groups), groupings + 2);
+    EXPECT_EQ(log.count(u"groups"_s), 2);
     EXPECT_TRUE(store->issues()[1].isSameObject(before[1]));
     EXPECT_TRUE(store->scopeCache().value(store->scope())[1].isSameObject(before[1]));
     expectEverywhere(u"WEB-1"_s, &Issue::status, Issues[0]->status);

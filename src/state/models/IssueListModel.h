@@ -111,6 +111,6 @@ private:
     QSet<QString> m_checkedKeys;
     QString m_openKey;
     BadgeMaker m_badges = [](const Issue &) { return std::nullopt; };
-    mutable Memo<std::vector<int>> m_headerRows;
+    mutable Memo<std::vector<int>> m_headerRows{"header rows"};
     int m_revision = 0;
 };

@@ -1,0 +1,3 @@
+#include "derivation/Memo.h"
+
+Q_LOGGING_CATEGORY(computationLog, "velmora.computation", QtWarningMsg)
