@@ -169,12 +169,6 @@ void Decoders::prepare()
     endWhenIdle();
 }
 
-int Decoders::helperCount() const
-{
-    return int(std::ranges::count_if(m_workers,
-                                     [](const auto &worker) { return worker->helper != nullptr; }));
-}
-
 int Decoders::pendingCount() const
 {
     const auto isBusy = [](const auto &worker) { return worker->promise != nullptr; };

@@ -45,8 +45,6 @@ public:
     QCoro::Task<Decoded> decode(DecodingInput input, DecodingRequest request);
     /// Starts a helper if none is there, because a picture is expected soon.
     void prepare();
-    /// The number of helpers that are started.
-    int helperCount() const;
     /// The number of requests that are not finished.
     int pendingCount() const;
     /// Ends all helpers. What is being decoded fails; later requests start new helpers.

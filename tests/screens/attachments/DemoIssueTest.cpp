@@ -58,7 +58,6 @@ class DemoIssue : public AppStoreFixture
 protected:
     DemoIssue()
     {
-        ImageLoader::shared().forget();
         ImageLoader::shared().setFetcher(&fetcher);
         fetcher.calls.answerBy([](const ImageRequest &request) {
             QFile file(request.url.toLocalFile());
@@ -78,7 +77,6 @@ protected:
     {
         EXPECT_EQ(bench.warnings(), "");
         ImageLoader::shared().setFetcher(nullptr);
-        ImageLoader::shared().forget();
     }
 
     void show(const Issue &issue, const QList<Comment> &comments)

@@ -18,7 +18,6 @@ class MediaViewsTest : public AppStoreFixture
 protected:
     MediaViewsTest()
     {
-        ImageLoader::shared().forget();
         ImageLoader::shared().setFetcher(&fetcher);
         fetcher.calls.answerWith({200, SamplePictures::picture("png", {1200, 600}, Qt::green)});
         startSession();
@@ -28,7 +27,6 @@ protected:
     {
         EXPECT_EQ(bench.warnings(), "");
         ImageLoader::shared().setFetcher(nullptr);
-        ImageLoader::shared().forget();
     }
 
     /// Shows a node of a document over these attachments, 700 wide.

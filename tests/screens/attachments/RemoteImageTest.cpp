@@ -14,16 +14,11 @@ namespace {
 class RemoteImageTest : public testing::Test
 {
 protected:
-    RemoteImageTest()
-    {
-        ImageLoader::shared().forget();
-        ImageLoader::shared().setFetcher(&fetcher);
-    }
+    RemoteImageTest() { ImageLoader::shared().setFetcher(&fetcher); }
     ~RemoteImageTest() override
     {
         EXPECT_EQ(bench.warnings(), "");
         ImageLoader::shared().setFetcher(nullptr);
-        ImageLoader::shared().forget();
     }
 
     /// Shows a picture of 100 by 60 with these further properties.

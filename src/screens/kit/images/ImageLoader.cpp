@@ -36,6 +36,12 @@ ImageLoader::~ImageLoader()
         settle(*promise, {});
 }
 
+void ImageLoader::setFetcher(ImageFetcher *fetcher)
+{
+    m_fetcher = fetcher;
+    m_cache.clear();
+}
+
 bool ImageLoader::isOnSite(const QUrl &url) const
 {
     return !m_siteHost.isEmpty() && url.host(QUrl::FullyEncoded) == m_siteHost;
@@ -97,9 +103,4 @@ void ImageLoader::finish(const QUrl &url, const QImage &image)
         m_cache.insert(url, image);
     if (const auto promise = m_pending.take(url))
         settle(*promise, image);
-}
-
-void ImageLoader::forget()
-{
-    m_cache.clear();
 }

@@ -32,8 +32,9 @@ public:
     /// The instance of the program.
     static ImageLoader &shared();
 
-    /// Sets the fetcher. With null nothing is fetched. The fetcher must outlive the loader or be reset to null.
-    void setFetcher(ImageFetcher *fetcher) { m_fetcher = fetcher; }
+    /// Sets the fetcher and removes the pictures that the one before fetched. With null nothing is fetched. The fetcher
+    /// must outlive the loader or be reset to null.
+    void setFetcher(ImageFetcher *fetcher);
     /// Sets the only host that receives the credentials, in its encoded form. Empty for none.
     void setSiteHost(const QString &host) { m_siteHost = host; }
 
@@ -47,9 +48,6 @@ public:
     QCoro::Task<QImage> image(QUrl url);
     /// The number of running requests.
     int pendingCount() const { return int(m_pending.size()); }
-
-    /// Removes all pictures. For tests only.
-    void forget();
 
 private:
     using Promise = std::shared_ptr<QPromise<QImage>>;

@@ -51,7 +51,6 @@ class MenuSectionTest : public testing::Test
 protected:
     MenuSectionTest()
     {
-        ImageLoader::shared().forget();
         ImageLoader::shared().setFetcher(&fetcher);
         holder = bench.show(host);
     }

@@ -30,11 +30,7 @@ JiraUser person(const QString &name, const std::optional<QUrl> &avatar)
 class AvatarTest : public testing::Test
 {
 protected:
-    AvatarTest()
-    {
-        ImageLoader::shared().forget();
-        ImageLoader::shared().setFetcher(&fetcher);
-    }
+    AvatarTest() { ImageLoader::shared().setFetcher(&fetcher); }
     ~AvatarTest() override { ImageLoader::shared().setFetcher(nullptr); }
 
     QQuickItem *show(const JiraUser &user)

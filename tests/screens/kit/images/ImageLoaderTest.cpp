@@ -47,6 +47,17 @@ TEST_F(ImageLoaderTest, TwoThatAskTogetherMakeOneRequest)
     EXPECT_EQ(loader.pendingCount(), 0);
 }
 
+TEST_F(ImageLoaderTest, AnotherFetcherDoesNotGetThePicturesOfTheOneBefore)
+{
+    fetcher.calls.answerWith(good);
+    TaskResult first(loader.image(address));
+    ASSERT_TRUE(ended(first));
+    ScriptedFetcher other;
+    loader.setFetcher(&other);
+    EXPECT_TRUE(loader.cached(address).isNull());
+    loader.setFetcher(nullptr);
+}
+
 TEST_F(ImageLoaderTest, APictureThatIsThereIsGivenAtOnceAndNotFetchedAgain)
 {
     fetcher.calls.answerWith(good);
