@@ -25,6 +25,15 @@ QString captureName(const QDateTime &now, const UserCalendar &calendar)
            u".png"_s;
 }
 
+QStringList namesOf(const QList<QUrl> &files)
+{
+    QStringList names;
+    names.reserve(files.size());
+    for (const QUrl &file : files)
+        names += file.fileName();
+    return names;
+}
+
 } // namespace
 
 QCoro::Task<QList<Attachment>> AppStore::uploadAttachments(QString key, QList<QUrl> files)
@@ -39,7 +48,7 @@ QCoro::Task<QList<Attachment>> AppStore::upload(QString key, QList<QUrl> files)
         co_return QList<Attachment>();
     const auto service = session->service();
     const PendingWrites::Token write = m_writes.begin();
-    Uploads::Running upload = m_uploads.begin(key, int(files.size()), m_context.clock);
+    Uploads::Running upload = m_uploads.begin(key, namesOf(files), m_context.clock);
     m_uploading.insert(key, m_uploads.fileCount(key));
     const auto stored = co_await whileAlive(
         session, settled(service, service->uploadAttachments(key, files, upload->stop(),

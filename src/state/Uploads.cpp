@@ -34,9 +34,9 @@ Uploads::~Uploads()
         entry->m_pause.reset();
 }
 
-Uploads::Running Uploads::begin(const QString &issueKey, int fileCount, Clock &clock)
+Uploads::Running Uploads::begin(const QString &issueKey, const QStringList &fileNames, Clock &clock)
 {
-    const RunningUpload upload{++m_lastId, issueKey, fileCount, {}};
+    const RunningUpload upload{++m_lastId, issueKey, fileNames, {}};
     auto entry = std::make_unique<Entry>(*this, upload, clock);
     m_entries[upload.id] = entry.get();
     Q_EMIT changed(issueKey);
@@ -57,7 +57,7 @@ int Uploads::fileCount(const QString &issueKey) const
 {
     int count = 0;
     for (const RunningUpload &upload : ofIssue(issueKey))
-        count += upload.fileCount;
+        count += int(upload.fileNames.size());
     return count;
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <memory>
@@ -19,7 +20,8 @@ struct RunningUpload
     /// Unique in its list.
     quint64 id = 0;
     QString issueKey;
-    int fileCount = 0;
+    /// One for each file, as the user's disk has them.
+    QStringList fileNames;
     UploadProgress progress;
 
     bool operator==(const RunningUpload &) const = default;
@@ -45,7 +47,8 @@ public:
     ~Uploads() override;
 
     /// The clock must outlive the upload.
-    [[nodiscard]] Running begin(const QString &issueKey, int fileCount, Clock &clock);
+    [[nodiscard]] Running begin(const QString &issueKey, const QStringList &fileNames,
+                                Clock &clock);
     QList<RunningUpload> ofIssue(const QString &issueKey) const;
     /// The number of files of an issue.
     int fileCount(const QString &issueKey) const;

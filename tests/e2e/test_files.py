@@ -102,7 +102,7 @@ class UploadByKeyboard(SiteCase):
         self.site.pause()
         self.attach_copied("Tab")
         self.app.find(role="list item", name="^Envoi", description="^Envoyé à ", timeout=15)
-        self.velmora.tab_to("^Annuler l'envoi$")
+        self.velmora.tab_to("^Annuler l'envoi de ")
         self.session.key("space")
         self.app.gone(role="list item", name="^Envoi")
         self.site.go_on()

@@ -141,7 +141,8 @@ TEST_F(AppStoreAttachmentsTest, anUploadTellsHowMuchWasSent)
     startWith({});
     const TaskResult<QList<Attachment>> result(store->uploadAttachments(Key, files(2)));
     ASSERT_EQ(store->uploads().ofIssue(Key).size(), 1);
-    EXPECT_EQ(store->uploads().ofIssue(Key)[0].fileCount, 2);
+    EXPECT_EQ(store->uploads().ofIssue(Key)[0].fileNames,
+              QStringList({u"fichier1"_s, u"fichier2"_s}));
     service->uploadObservers[0]({30, 120});
     EXPECT_EQ(store->uploads().ofIssue(Key)[0].fraction(), 0.25);
     service->uploadAttachmentsCalls[0].finish({attachment(u"a"_s), attachment(u"b"_s)});

@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto Key = u"WEB-1"_s;
+const QStringList One{u"a.txt"_s};
+const QStringList Two{u"b.txt"_s, u"c.txt"_s};
 
 class UploadsTest : public testing::Test
 {
@@ -26,9 +28,9 @@ protected:
 
 TEST_F(UploadsTest, AnUploadIsListedForAsLongAsItRuns)
 {
-    Uploads::Running first = uploads.begin(Key, 2, clock);
-    const Uploads::Running second = uploads.begin(Key, 1, clock);
-    const Uploads::Running other = uploads.begin(u"WEB-2"_s, 4, clock);
+    Uploads::Running first = uploads.begin(Key, Two, clock);
+    const Uploads::Running second = uploads.begin(Key, One, clock);
+    const Uploads::Running other = uploads.begin(u"WEB-2"_s, Two, clock);
     EXPECT_EQ(uploads.fileCount(Key), 3);
     EXPECT_EQ(uploads.ofIssue(Key).value(0), first->upload());
     EXPECT_EQ(uploads.ofIssue(Key).value(1), second->upload());
@@ -42,7 +44,7 @@ TEST_F(UploadsTest, AnUploadIsListedForAsLongAsItRuns)
 
 TEST_F(UploadsTest, NothingIsKnownOfTheProgressAtFirst)
 {
-    const Uploads::Running upload = uploads.begin(Key, 1, clock);
+    const Uploads::Running upload = uploads.begin(Key, One, clock);
     EXPECT_EQ(fraction(), std::nullopt);
     upload->observer()({0, 200});
     EXPECT_EQ(fraction(), 0.0);
@@ -51,7 +53,7 @@ TEST_F(UploadsTest, NothingIsKnownOfTheProgressAtFirst)
 
 TEST_F(UploadsTest, ProgressIsAnnouncedAtOnceAndThenAtItsPace)
 {
-    const Uploads::Running upload = uploads.begin(Key, 1, clock);
+    const Uploads::Running upload = uploads.begin(Key, One, clock);
     const UploadObserver observer = upload->observer();
     changes.clear();
     observer({20, 200});
@@ -67,7 +69,7 @@ TEST_F(UploadsTest, ProgressIsAnnouncedAtOnceAndThenAtItsPace)
 
 TEST_F(UploadsTest, TheLastProgressIsNotLost)
 {
-    const Uploads::Running upload = uploads.begin(Key, 1, clock);
+    const Uploads::Running upload = uploads.begin(Key, One, clock);
     upload->observer()({199, 200});
     upload->observer()({200, 200});
     clock.advance(Uploads::Pace);
@@ -79,8 +81,8 @@ TEST_F(UploadsTest, TheLastProgressIsNotLost)
 
 TEST_F(UploadsTest, CancellingStopsThisUploadOnly)
 {
-    const Uploads::Running first = uploads.begin(Key, 1, clock);
-    const Uploads::Running second = uploads.begin(Key, 1, clock);
+    const Uploads::Running first = uploads.begin(Key, One, clock);
+    const Uploads::Running second = uploads.begin(Key, One, clock);
     uploads.cancel(second->upload().id);
     EXPECT_FALSE(first->stop().stop_requested());
     EXPECT_TRUE(second->stop().stop_requested());
@@ -88,7 +90,7 @@ TEST_F(UploadsTest, CancellingStopsThisUploadOnly)
 
 TEST_F(UploadsTest, AnUploadMayEndWhileItIsBeingCancelled)
 {
-    Uploads::Running upload = uploads.begin(Key, 1, clock);
+    Uploads::Running upload = uploads.begin(Key, One, clock);
     const quint64 id = upload->upload().id;
     const std::stop_callback ending(upload->stop(), [&upload] { upload.reset(); });
     uploads.cancel(id);
@@ -99,7 +101,7 @@ TEST_F(UploadsTest, AnUploadMayEndWhileItIsBeingCancelled)
 
 TEST_F(UploadsTest, WhatRunsOnAfterItsSessionIsForgotten)
 {
-    const Uploads::Running upload = uploads.begin(Key, 1, clock);
+    const Uploads::Running upload = uploads.begin(Key, One, clock);
     upload->observer()({1, 200});
     upload->observer()({2, 200});
     uploads.forgetAll();
@@ -114,7 +116,7 @@ TEST_F(UploadsTest, WhatRunsOnAfterItsSessionIsForgotten)
 TEST_F(UploadsTest, AnUploadMayOutliveTheList)
 {
     auto list = std::make_unique<Uploads>();
-    const Uploads::Running upload = list->begin(Key, 1, clock);
+    const Uploads::Running upload = list->begin(Key, One, clock);
     upload->observer()({1, 200});
     upload->observer()({2, 200});
     list.reset();

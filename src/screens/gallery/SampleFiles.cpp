@@ -32,7 +32,7 @@ QList<AttachmentFile> SampleFiles::files() const
 
 UploadFacts SampleFiles::upload() const
 {
-    return {RunningUpload{1, u"SUP-41"_s, 1, {64, 100}}};
+    return {RunningUpload{1, u"SUP-41"_s, {u"notes.txt"_s}, {64, 100}}};
 }
 
 AttachmentFile SampleFiles::trick() const

@@ -1,3 +1,4 @@
+#include "model/text/VisibleText.h"
 #include "screens/attachments/AttachmentStage.h"
 #include "screens/attachments/Samples.h"
 #include "screens/attachments/section/FileTileModel.h"
@@ -65,10 +66,12 @@ TEST_F(AttachmentsSectionTest, TheTilesStandInRowsOfThreeInTheOrderOfTheIssue)
 TEST_F(AttachmentsSectionTest, UploadsFollowTheFilesAndReplaceTheEmptyText)
 {
     open({});
-    const TaskResult<QList<Attachment>> upload(
-        store->uploadAttachments(u"WEB-1"_s, {NewFile, NewFile}));
-    ASSERT_TRUE(awaits(QAccessible::ListItem, u"Envoi…"_s));
-    EXPECT_EQ(namesOf(QAccessible::ListItem), QStringList({u"Envoi…"_s, u"Envoi…"_s}));
+    const TaskResult<QList<Attachment>> upload(store->uploadAttachments(
+        u"WEB-1"_s, {NewFile, QUrl::fromLocalFile(u"/tmp/\u202Egpj.exe"_s)}));
+    ASSERT_TRUE(awaits(QAccessible::ListItem, u"Envoi de neuf.log"_s));
+    EXPECT_EQ(
+        namesOf(QAccessible::ListItem),
+        QStringList({u"Envoi de neuf.log"_s, u"Envoi de "_s + visibleText(u"\u202Egpj.exe"_s)}));
     EXPECT_TRUE(spokenIn(window(), QAccessible::StaticText, u"Aucune pièce"_s).isEmpty());
 }
 
@@ -284,7 +287,7 @@ TEST_F(AttachmentsSectionTest, AFileThatVanishesBeforeTheUploadIsToldAndLeavesNo
     service->uploadAttachmentsCalls[0].fail(
         Failure(u"Impossible de lire le fichier « neuf.log »."_s));
     EXPECT_EQ(lastToast().message, u"Impossible de lire le fichier « neuf.log »."_s);
-    EXPECT_TRUE(awaitsNo(QAccessible::ListItem, u"Envoi…"_s));
+    EXPECT_TRUE(awaitsNo(QAccessible::ListItem, u"Envoi de neuf.log"_s));
 }
 
 TEST_F(AttachmentsSectionTest, ATrickInANameIsSeenOnItsTile)

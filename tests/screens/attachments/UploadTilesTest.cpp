@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QUrl NewFile = QUrl::fromLocalFile(u"/tmp/neuf.log"_s);
-const auto Cancel = u"Annuler l'envoi"_s;
-const auto UploadName = u"Envoi…"_s;
+const auto Cancel = u"Annuler l'envoi de neuf.log"_s;
+const auto UploadName = u"Envoi de neuf.log"_s;
 
 class UploadTilesTest : public AttachmentStage
 {

@@ -1,5 +1,7 @@
 #include "screens/attachments/facts/UploadFacts.h"
 
+#include "model/text/VisibleText.h"
+
 using namespace Qt::StringLiterals;
 
 QString UploadFacts::progressText() const
@@ -10,9 +12,14 @@ QString UploadFacts::progressText() const
     return u"Envoyé à "_s + QString::number(int(*known * 10) * 10) + u"\u00A0%"_s;
 }
 
+QString UploadFacts::spokenName() const
+{
+    return u"Envoi de "_s + visibleText(upload.fileNames.value(index));
+}
+
 QString UploadFacts::cancelName() const
 {
-    if (upload.fileCount < 2)
-        return u"Annuler l'envoi"_s;
-    return u"Annuler l'envoi des "_s + QString::number(upload.fileCount) + u" fichiers"_s;
+    if (upload.fileNames.size() < 2)
+        return u"Annuler l'envoi de "_s + visibleText(upload.fileNames.value(index));
+    return u"Annuler l'envoi des "_s + QString::number(upload.fileNames.size()) + u" fichiers"_s;
 }

@@ -21,7 +21,7 @@ Rectangle {
     color: Theme.bubble
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: label.text
+    Accessible.name: upload.spokenName
     Accessible.description: upload.progressText
     Accessible.focusable: true
     Accessible.focused: root.current
@@ -38,8 +38,6 @@ Rectangle {
         }
 
         AppText {
-            id: label
-
             anchors.horizontalCenter: parent.horizontalCenter
             role: TypeScale.Caption
             color: Theme.text2
@@ -53,7 +51,7 @@ Rectangle {
         y: parent.height - 24
         width: parent.width - 40
         visible: root.upload.hasFraction
-        name: label.text
+        name: root.upload.spokenName
         value: root.upload.fraction
         // The tile tells it in larger steps.
         Accessible.ignored: true

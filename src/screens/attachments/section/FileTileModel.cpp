@@ -10,8 +10,8 @@ void FileTileModel::setTiles(const QList<Attachment> &attachments,
         rows.append({u"file "_s + attachment.id, AttachmentFile{attachment}, std::nullopt});
     for (const RunningUpload &upload : uploads) {
         const QString key = u"upload "_s + QString::number(upload.id) + u' ';
-        for (int i = 0; i < upload.fileCount; ++i)
-            rows.append({key + QString::number(i), std::nullopt, UploadFacts{upload}});
+        for (int i = 0; i < int(upload.fileNames.size()); ++i)
+            rows.append({key + QString::number(i), std::nullopt, UploadFacts{upload, i}});
     }
     setRows(rows);
 }

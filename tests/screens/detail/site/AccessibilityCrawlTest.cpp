@@ -290,11 +290,11 @@ TEST_F(IssueCrawl, AnUploadIsAnItemOfTheListOfFilesAndItsButtonCancelsIt)
         [](const RawRequest &request) { return request.target.contains("/attachments"); });
     const TaskResult<QList<Attachment>> upload(store().uploadAttachments(
         keysOf(u"AIDE"_s).first(), {QUrl::fromLocalFile(file.fileName())}));
-    await(QAccessible::ListItem, u"Envoi…"_s);
-    EXPECT_TRUE(itemsOf(u"Fichiers joints"_s).contains(u"Envoi…"_s));
+    await(QAccessible::ListItem, u"Envoi de notes.txt"_s);
+    EXPECT_TRUE(itemsOf(u"Fichiers joints"_s).contains(u"Envoi de notes.txt"_s));
     expectInOrder("upload");
-    press(QAccessible::Button, u"Annuler l'envoi"_s);
-    EXPECT_TRUE(isGone(QAccessible::ListItem, u"Envoi…"_s));
+    press(QAccessible::Button, u"Annuler l'envoi de notes.txt"_s);
+    EXPECT_TRUE(isGone(QAccessible::ListItem, u"Envoi de notes.txt"_s));
     EXPECT_TRUE(upload.isDone());
 }
 
