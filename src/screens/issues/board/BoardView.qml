@@ -109,6 +109,7 @@ FocusScope {
         view: board
         ground: Theme.content
         isHorizontal: true
+        isAnimating: glide.isRunning
         onScrolled: columnScroller.stop()
     }
 

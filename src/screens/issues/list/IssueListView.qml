@@ -135,6 +135,7 @@ FocusScope {
         view: list
         ground: Theme.content
         fadesAtTop: false
+        isAnimating: glide.isRunning
         onScrolled: scroller.stop()
     }
 

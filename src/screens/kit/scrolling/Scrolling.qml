@@ -13,6 +13,8 @@ Item {
     property alias isHorizontal: control.isHorizontal
     property alias passesOn: control.passesOn
     property alias thickness: bar.thickness
+    /// Items of the view move without a scroll, for instance after a change of their order.
+    property alias isAnimating: repainted.isAnimating
     property bool fadesAtTop: true
     property bool fadesAtBottom: true
 
@@ -41,6 +43,13 @@ Item {
             bar.flash();
             root.scrolled();
         }
+    }
+
+    RepaintArea {
+        id: repainted
+
+        anchors.fill: parent
+        view: root.view
     }
 
     ScrollFade {
