@@ -63,6 +63,11 @@ WindowFixture::~WindowFixture()
     EXPECT_TRUE(warnings().isEmpty()) << warnings().join(u'\n').toStdString();
 }
 
+bool WindowFixture::hasWarned()
+{
+    return !warnings().isEmpty();
+}
+
 void WindowFixture::open()
 {
     Outside outside;

@@ -44,6 +44,8 @@ protected:
     void type(const QString &text);
     void click(const Spoken &thing, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void rightClick(const Spoken &thing);
+    /// Whether the program has logged a warning, which fails the test at its end.
+    static bool hasWarned();
     /// Waits until two frames were shown, because new items have their final position only then.
     void settle();
     /// Waits for the only element of this role and name. The test fails if it does not appear.

@@ -315,6 +315,7 @@ TEST_F(LayerWalk, NeverReachesALayerBelowTheTopmostAndNeverEndsWithADeafWindow)
                 pressAKey();
             else
                 clickSomewhere();
+            ASSERT_FALSE(hasWarned()) << "seed " << seed << ", step " << step;
             ASSERT_FALSE(HasFailure()) << "seed " << seed << ", step " << step;
             comeBack();
         }

@@ -40,10 +40,13 @@ T.Popup {
         owner: root.layer
     }
 
-    // The items below get their new places after the size of the window has changed.
-    readonly property Timer resized: Timer {
-        interval: 0
-        onTriggered: root.follow()
+    // Follows its area, whatever moves it: a scroll, another layout, the size of the window.
+    readonly property Connections frames: Connections {
+        function onAfterAnimating() {
+            root.follow();
+        }
+
+        target: root.visible ? holder.Window.window : null
     }
 
     readonly property Item shield: LayerShield {
@@ -76,7 +79,7 @@ T.Popup {
         layer.isOpen = false
     }
 
-    /// Moves the panel to its area, for instance after the window was resized.
+    /// Moves the panel to its area.
     function follow() {
         if (parent)
             anchor = parent.mapToItem(null, spot.x, spot.y, spot.width, spot.height)
@@ -84,16 +87,16 @@ T.Popup {
 
     x: spot.x + place.x
     y: spot.y + place.y
-    implicitWidth: 290
-    implicitHeight: Math.min(holder.implicitHeight, roomSize.height - 16)
+    // Not the implicit size, which Qt changes for as long as a part of the panel is outside of the window: its place
+    // depends on its size.
+    width: 290
+    height: Math.min(holder.implicitHeight, roomSize.height - 16)
     padding: 0
     focus: !leavesFocus
     modal: !leavesFocus
     dim: modal
     closePolicy: T.Popup.CloseOnPressOutside
     transformOrigin: place.y < 0 ? T.Popup.Bottom : T.Popup.Top
-    onSpotChanged: if (visible) follow()
-    onRoomSizeChanged: if (visible) resized.restart()
     onAboutToShow: begin()
     onAboutToHide: leave()
 
