@@ -12,4 +12,6 @@ struct AvatarUrlsDTO
     std::optional<QString> large;
     /// The member "32x32".
     std::optional<QString> medium;
+
+    bool operator==(const AvatarUrlsDTO &) const = default;
 };

@@ -24,6 +24,8 @@ struct UserDTO
     /// or the one of 32 pixels if the site names no larger one.
     JiraUser model() const;
 
+    bool operator==(const UserDTO &) const = default;
+
     static constexpr auto wireMembers()
     {
         return std::tuple(WireMember{"accountId", &UserDTO::accountId},
