@@ -4,11 +4,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Reads a text from its start. After the first mismatch it reads nothing more.
+/// Reads a text in UTF-8 from its start. After the first mismatch it reads nothing more.
 class Scanner
 {
 public:
-    explicit Scanner(QStringView text) : m_rest(text) {}
+    explicit Scanner(std::string_view text) : m_rest(text) {}
 
     /// Reads a number of exactly the given count of digits.
     int number(qsizetype digits)
@@ -18,52 +18,52 @@ public:
             value = 10 * value + digit();
         return value;
     }
-    void sign(QChar expected) { m_isGood = take(expected) && m_isGood; }
-    bool take(QChar wanted)
+    void sign(char expected) { m_isGood = take(expected) && m_isGood; }
+    bool take(char wanted)
     {
-        const bool isThere = m_isGood && m_rest.startsWith(wanted);
+        const bool isThere = m_isGood && m_rest.starts_with(wanted);
         if (isThere)
-            m_rest = m_rest.sliced(1);
+            m_rest.remove_prefix(1);
         return isThere;
     }
     /// Reads a decimal point and one or more digits and returns them as milliseconds; returns 0 if there is no point.
     int fraction()
     {
-        if (!take(u'.'))
+        if (!take('.'))
             return 0;
         int milliseconds = 100 * digit();
         for (int unit = 10; m_isGood && startsWithDigit(); unit /= 10)
             milliseconds += unit * digit();
         return milliseconds;
     }
-    bool isAtEnd() const { return m_isGood && m_rest.isEmpty(); }
+    bool isAtEnd() const { return m_isGood && m_rest.empty(); }
     void fail() { m_isGood = false; }
 
 private:
     bool startsWithDigit() const
     {
-        return !m_rest.isEmpty() && m_rest.front() >= u'0' && m_rest.front() <= u'9';
+        return !m_rest.empty() && m_rest.front() >= '0' && m_rest.front() <= '9';
     }
     int digit()
     {
         m_isGood = m_isGood && startsWithDigit();
         if (!m_isGood)
             return 0;
-        const int value = m_rest.front().unicode() - u'0';
-        m_rest = m_rest.sliced(1);
+        const int value = m_rest.front() - '0';
+        m_rest.remove_prefix(1);
         return value;
     }
 
-    QStringView m_rest;
+    std::string_view m_rest;
     bool m_isGood = true;
 };
 
 QDate scanDay(Scanner &scanner)
 {
     const int year = scanner.number(4);
-    scanner.sign(u'-');
+    scanner.sign('-');
     const int month = scanner.number(2);
-    scanner.sign(u'-');
+    scanner.sign('-');
     const int day = scanner.number(2);
     return QDate(year, month, day);
 }
@@ -71,9 +71,9 @@ QDate scanDay(Scanner &scanner)
 QTime scanTime(Scanner &scanner)
 {
     const int hour = scanner.number(2);
-    scanner.sign(u':');
+    scanner.sign(':');
     const int minute = scanner.number(2);
-    scanner.sign(u':');
+    scanner.sign(':');
     const int second = scanner.number(2);
     return QTime(hour, minute, second, scanner.fraction());
 }
@@ -81,13 +81,13 @@ QTime scanTime(Scanner &scanner)
 /// Reads a time zone offset and returns it in seconds east of UTC.
 int scanOffset(Scanner &scanner)
 {
-    if (scanner.take(u'Z'))
+    if (scanner.take('Z'))
         return 0;
-    const int direction = scanner.take(u'-') ? -1 : 1;
+    const int direction = scanner.take('-') ? -1 : 1;
     if (direction > 0)
-        scanner.sign(u'+');
+        scanner.sign('+');
     const int hours = scanner.number(2);
-    scanner.take(u':');
+    scanner.take(':');
     const int minutes = scanner.number(2);
     if (hours > 23 || minutes > 59)
         scanner.fail();
@@ -96,13 +96,11 @@ int scanOffset(Scanner &scanner)
 
 } // namespace
 
-std::optional<QDateTime> JiraDate::parse(const std::optional<QString> &text)
+std::optional<QDateTime> JiraDate::parse(std::string_view text)
 {
-    if (!text)
-        return std::nullopt;
-    Scanner scanner(*text);
+    Scanner scanner(text);
     const QDate day = scanDay(scanner);
-    scanner.sign(u'T');
+    scanner.sign('T');
     const QTime time = scanTime(scanner);
     const int offset = scanOffset(scanner);
     if (!scanner.isAtEnd() || !day.isValid() || !time.isValid())
@@ -110,11 +108,9 @@ std::optional<QDateTime> JiraDate::parse(const std::optional<QString> &text)
     return QDateTime(day, time, Qt::UTC).addSecs(-offset);
 }
 
-std::optional<QDate> JiraDate::parseDay(const std::optional<QString> &text)
+std::optional<QDate> JiraDate::parseDay(std::string_view text)
 {
-    if (!text)
-        return std::nullopt;
-    Scanner scanner(*text);
+    Scanner scanner(text);
     const QDate day = scanDay(scanner);
     return scanner.isAtEnd() && day.isValid() ? std::optional(day) : std::nullopt;
 }

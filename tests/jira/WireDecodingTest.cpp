@@ -237,6 +237,25 @@ TEST(WireDecoding, AnErrorOfOneEndlessCharacterIsBounded)
     EXPECT_LT(user.error().detail.size(), 5000);
 }
 
+TEST(WireDecoding, ADateIsATextOrNull)
+{
+    EXPECT_EQ(failureOf(issueWith(R"("created":null,"updated":"hier","duedate":null)")), QString());
+    EXPECT_EQ(failureOf(issueWith(R"("created":7)")),
+              u"issues[0].fields.created : texte attendu"_s);
+    EXPECT_EQ(failureOf(issueWith(R"("duedate":{})")),
+              u"issues[0].fields.duedate : texte attendu"_s);
+}
+
+TEST(WireDecoding, TheSecondOfTwoDatesCounts)
+{
+    const auto page = decodeWire<SearchResponseDTO>(
+        issueWith(R"("duedate":"2026-10-02","duedate":null,"created":"2026-10-02T08:00:00Z",)"
+                  R"("created":"hier")"));
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->issues[0].fields.duedate, std::nullopt);
+    EXPECT_EQ(page->issues[0].fields.created, std::nullopt);
+}
+
 TEST(WireDecoding, APageOf100IssuesIsReadWhole)
 {
     QByteArrayList issues;

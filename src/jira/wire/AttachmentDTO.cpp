@@ -1,6 +1,5 @@
 #include "jira/wire/AttachmentDTO.h"
 
-#include "jira/JiraDate.h"
 #include "jira/WebAddress.h"
 #include "jira/wire/Models.h"
 
@@ -12,7 +11,7 @@ Attachment AttachmentDTO::model(const QDateTime &now) const
             .filename = filename,
             .mimeType = mimeType.value_or(u"application/octet-stream"_s),
             .size = size.value_or(0),
-            .created = JiraDate::parse(created).value_or(now),
+            .created = created.value_or(now),
             .author = modelOf(author),
             .contentURL = webAddress(content),
             .thumbnailURL = webAddress(thumbnail)};

@@ -4,6 +4,7 @@
 #include "jira/wire/WireMember.h"
 #include "model/Attachment.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <optional>
@@ -15,7 +16,7 @@ struct AttachmentDTO
     QString id;
     QString filename;
     std::optional<UserDTO> author;
-    std::optional<QString> created;
+    std::optional<QDateTime> created;
     std::optional<qint64> size;
     std::optional<QString> mimeType;
     /// The addresses of the content and of a preview image.

@@ -1,6 +1,5 @@
 #include "jira/wire/ChangelogDTO.h"
 
-#include "jira/JiraDate.h"
 #include "jira/wire/Models.h"
 
 namespace {
@@ -26,13 +25,12 @@ std::optional<ActivityEvent::Kind> kindOf(const History::Item &item)
 
 void append(QList<ActivityEvent> &events, const History &history)
 {
-    const auto date = JiraDate::parse(history.created);
-    if (!date || !history.items)
+    if (!history.created || !history.items)
         return;
     // Most history entries concern other fields, so the author is converted only when it is needed.
     for (const History::Item &item : *history.items) {
         if (auto kind = kindOf(item))
-            events.append({*date, modelOf(history.author), *std::move(kind)});
+            events.append({*history.created, modelOf(history.author), *std::move(kind)});
     }
 }
 

@@ -4,6 +4,7 @@
 #include "jira/wire/WireMember.h"
 #include "model/ActivityEvent.h"
 
+#include <QDateTime>
 #include <QList>
 #include <QString>
 
@@ -32,7 +33,7 @@ struct ChangelogDTO
         };
 
         std::optional<UserDTO> author;
-        std::optional<QString> created;
+        std::optional<QDateTime> created;
         std::optional<QList<Item>> items;
 
         static constexpr auto wireMembers()

@@ -1,6 +1,5 @@
 #include "jira/wire/CommentDTO.h"
 
-#include "jira/JiraDate.h"
 #include "jira/wire/Models.h"
 #include "richtext/AttachmentRefs.h"
 
@@ -10,7 +9,7 @@ Comment CommentDTO::model(const QDateTime &now) const
     return {.id = id,
             .author = modelOf(author),
             .body = AttachmentRefs::tied(body, attachments),
-            .created = JiraDate::parse(created).value_or(now),
+            .created = created.value_or(now),
             .isInternal = jsdPublic == false,
             .restrictedTo = visibility ? visibility->value : std::nullopt,
             .attachmentIDs = attachments};

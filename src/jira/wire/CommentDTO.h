@@ -5,6 +5,7 @@
 #include "model/ADFNode.h"
 #include "model/Comment.h"
 
+#include <QDateTime>
 #include <QList>
 #include <QString>
 
@@ -31,7 +32,7 @@ struct CommentDTO
     QString id;
     std::optional<UserDTO> author;
     std::optional<ADFNode> body;
-    std::optional<QString> created;
+    std::optional<QDateTime> created;
     /// False for a comment that only the agents of a service project can see.
     std::optional<bool> jsdPublic;
     std::optional<Visibility> visibility;

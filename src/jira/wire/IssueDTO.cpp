@@ -1,6 +1,5 @@
 #include "jira/wire/IssueDTO.h"
 
-#include "jira/JiraDate.h"
 #include "jira/wire/Models.h"
 #include "richtext/AttachmentRefs.h"
 
@@ -67,9 +66,9 @@ Issue IssueDTO::model(const QDateTime &now) const
     issue.labels = fields.labels.value_or(QStringList());
     issue.type = modelOf(fields.issuetype);
     issue.projectKey = projectKeyOf(*this);
-    issue.created = JiraDate::parse(fields.created).value_or(now);
-    issue.updated = JiraDate::parse(fields.updated).value_or(now);
-    issue.dueDate = JiraDate::parseDay(fields.duedate);
+    issue.created = fields.created.value_or(now);
+    issue.updated = fields.updated.value_or(now);
+    issue.dueDate = fields.duedate;
     issue.description = descriptionOf(*this);
     issue.parent = modelOf(fields.parent);
     issue.subtasks = modelsOf(fields.subtasks);

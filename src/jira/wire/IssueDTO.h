@@ -11,6 +11,8 @@
 #include "jira/wire/WireMember.h"
 #include "model/Issue.h"
 
+#include <QDate>
+#include <QDateTime>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -29,9 +31,9 @@ struct FieldsDTO
     std::optional<QStringList> labels;
     std::optional<IssueTypeDTO> issuetype;
     std::optional<ProjectDTO> project;
-    std::optional<QString> created;
-    std::optional<QString> updated;
-    std::optional<QString> duedate;
+    std::optional<QDateTime> created;
+    std::optional<QDateTime> updated;
+    std::optional<QDate> duedate;
     std::optional<ADFNode> description;
     std::optional<ParentDTO> parent;
     std::optional<QList<ParentDTO>> subtasks;

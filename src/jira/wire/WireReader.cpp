@@ -1,5 +1,6 @@
 #include "jira/wire/WireReader.h"
 
+#include "jira/JiraDate.h"
 #include "jira/wire/TextPool.h"
 #include "richtext/ADFCoding.h"
 
@@ -25,6 +26,21 @@ std::size_t partsOf(const WireReader::Element &element)
             count += 1 + partsOf(value);
     }
     return count;
+}
+
+/// Reads a text that `parse` converts to a date; null gives none.
+template <typename Date>
+WireReader::Result readDate(const WireReader::Element &element, std::optional<Date> &date,
+                            std::optional<Date> (*parse)(std::string_view))
+{
+    date.reset();
+    if (element.is_null())
+        return {};
+    std::string_view utf8;
+    if (element.get(utf8))
+        return WireReader::failure("texte attendu");
+    date = parse(utf8);
+    return {};
 }
 
 } // namespace
@@ -104,6 +120,16 @@ Result read(const Element &element, qint64 &number)
         return failure("nombre trop grand");
     number = qint64(real);
     return {};
+}
+
+Result read(const Element &element, std::optional<QDateTime> &instant)
+{
+    return readDate(element, instant, JiraDate::parse);
+}
+
+Result read(const Element &element, std::optional<QDate> &day)
+{
+    return readDate(element, day, JiraDate::parseDay);
 }
 
 Result read(const Element &element, ADFNode &document)

@@ -5,6 +5,8 @@
 #include "model/ADFNode.h"
 #include "richtext/DecodingError.h"
 
+#include <QDate>
+#include <QDateTime>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -29,6 +31,9 @@ Result read(const Element &element, QString &text);
 Result read(const Element &element, bool &value);
 /// Reads any integer that fits into 64 bits, in every notation (3, 3.0, 3e0).
 Result read(const Element &element, qint64 &number);
+/// Reads an instant or a day; absent for null and for a text that is none.
+Result read(const Element &element, std::optional<QDateTime> &instant);
+Result read(const Element &element, std::optional<QDate> &day);
 Result read(const Element &element, ADFNode &document);
 /// Every address must be a string, including those that are not kept.
 Result read(const Element &element, AvatarUrlsDTO &addresses);
