@@ -60,12 +60,6 @@ Result claim(std::size_t count, std::size_t itemSize)
     return {};
 }
 
-bool isWithin(const Element &element, qsizetype most)
-{
-    simdjson::dom::array items;
-    return element.get(items) || qsizetype(items.size()) <= most;
-}
-
 QString textOf(std::string_view utf8)
 {
     // Each thread that decodes has its own pool.

@@ -55,7 +55,11 @@ void beginResponse();
 /// Counts the memory of a list before it is created; fails beyond `MostMemory`.
 Result claim(std::size_t count, std::size_t itemSize);
 /// True unless the element is an array of more than `most` items.
-bool isWithin(const Element &element, qsizetype most);
+inline bool isWithin(const Element &element, qsizetype most)
+{
+    simdjson::dom::array items;
+    return element.get(items) || qsizetype(items.size()) <= most;
+}
 
 QString textOf(std::string_view utf8);
 /// An error with this message and no position yet.
@@ -113,21 +117,22 @@ Result read(const Element &element, QMap<QString, T> &map)
 }
 
 /// Reads one member into the field with the same name and records that it was present. Unknown names are ignored.
-template <typename DTO, typename... Members, size_t... Index>
+template <typename DTO, size_t... Index>
 Result readMember(DTO &record, std::string_view name, const Element &value,
-                  const std::tuple<Members...> &members,
-                  std::array<bool, sizeof...(Members)> &found, std::index_sequence<Index...>)
+                  std::array<bool, sizeof...(Index)> &found, std::index_sequence<Index...>)
 {
     Result done;
-    const auto readAs = [&](const auto &member, size_t index) {
-        if (member.name != name)
+    const auto readAs = [&]<size_t Place>() {
+        // A constant of the function, so that a name is compared without a call.
+        static constexpr auto Member = std::get<Place>(DTO::wireMembers());
+        if (Member.name != name)
             return false;
-        found[index] = true;
-        done = isWithin(value, member.most) ? read(value, record.*member.field)
+        found[Place] = true;
+        done = isWithin(value, Member.most) ? read(value, record.*Member.field)
                                             : failure("trop d'éléments");
         return true;
     };
-    (readAs(std::get<Index>(members), Index) || ...);
+    (readAs.template operator()<Index>() || ...);
     return done ? done : inMember(name, std::move(done));
 }
 
@@ -158,7 +163,7 @@ Result read(const Element &element, DTO &record)
         return failure("objet attendu");
     std::array<bool, Indexes.size()> found{};
     for (const auto &[name, value] : object) {
-        if (auto done = readMember(record, name, value, Members, found, Indexes); !done)
+        if (auto done = readMember(record, name, value, found, Indexes); !done)
             return done;
     }
     const auto missing = missingMember(Members, found, Indexes);
