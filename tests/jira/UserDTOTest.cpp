@@ -1,5 +1,7 @@
 #include "jira/wire/UserDTO.h"
 
+#include "jira/wire/WireDecoding.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -60,6 +62,29 @@ TEST(UserDTO, UsersThatDifferInOneFieldStayApart)
 TEST(UserDTO, AUserWithEmptyFieldsIsConverted)
 {
     EXPECT_EQ(UserDTO().model().name, u"Utilisateur inconnu"_s);
+}
+
+/// The address of the picture of a user with these members of "avatarUrls".
+std::optional<QUrl> pictureOf(const QByteArray &addresses)
+{
+    const auto user = decodeWire<UserDTO>(R"({"accountId":"u","avatarUrls":{)" + addresses + "}}");
+    return user.value().model().avatarURL;
+}
+
+TEST(UserDTO, ThePictureOf48PixelsComesFirstInAnyOrder)
+{
+    EXPECT_EQ(pictureOf(R"("32x32":"https://a/32","48x48":"https://a/48")"),
+              QUrl(u"https://a/48"_s));
+    EXPECT_EQ(pictureOf(R"("48x48":"https://a/48","32x32":"https://a/32")"),
+              QUrl(u"https://a/48"_s));
+    EXPECT_EQ(pictureOf(R"("16x16":"https://a/16","32x32":"https://a/32")"),
+              QUrl(u"https://a/32"_s));
+    EXPECT_EQ(pictureOf(R"("16x16":"https://a/16")"), std::nullopt);
+}
+
+TEST(UserDTO, AnInvalidPictureOf48PixelsIsNotReplaced)
+{
+    EXPECT_EQ(pictureOf(R"("48x48":"","32x32":"https://a/32")"), std::nullopt);
 }
 
 TEST(UserDTO, MoreUsersThanAreRememberedKeepTheirIdentifiers)

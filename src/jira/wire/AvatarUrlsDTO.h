@@ -10,7 +10,7 @@ struct AvatarUrlsDTO
 {
     /// The member "48x48".
     std::optional<QString> large;
-    /// The member "32x32".
+    /// The member "32x32"; absent if there is a larger one.
     std::optional<QString> medium;
 
     bool operator==(const AvatarUrlsDTO &) const = default;

@@ -142,15 +142,21 @@ Result read(const Element &element, AvatarUrlsDTO &addresses)
     simdjson::dom::object members;
     if (element.get(members))
         return failure("objet attendu");
+    std::optional<std::string_view> large;
+    std::optional<std::string_view> medium;
     for (const auto &[name, value] : members) {
         std::string_view address;
         if (value.get(address))
             return inMember(name, failure("texte attendu"));
         if (name == "48x48")
-            addresses.large = textOf(address);
+            large = address;
         else if (name == "32x32")
-            addresses.medium = textOf(address);
+            medium = address;
     }
+    if (large)
+        addresses.large = textOf(*large);
+    else if (medium)
+        addresses.medium = textOf(*medium);
     return {};
 }
 
