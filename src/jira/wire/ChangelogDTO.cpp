@@ -2,6 +2,9 @@
 
 #include "jira/wire/Models.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 using History = ChangelogDTO::History;
@@ -25,8 +28,6 @@ std::optional<ActivityEvent::Kind> kindOf(const History::Item &item)
 
 void append(QList<ActivityEvent> &events, const History &history)
 {
-    if (!history.created || !history.items)
-        return;
     // Most history entries concern other fields, so the author is converted only when it is needed.
     for (const History::Item &item : *history.items) {
         if (auto kind = kindOf(item))
@@ -34,14 +35,37 @@ void append(QList<ActivityEvent> &events, const History &history)
     }
 }
 
+/// Sorts before the entries of the same date.
+constexpr qsizetype Creation = -1;
+
+/// The usable entries as indexes with their dates, and the creation, sorted by date.
+std::vector<std::pair<qint64, qsizetype>> sortedByDate(const QList<History> &histories,
+                                                       const QDateTime &creation)
+{
+    std::vector<std::pair<qint64, qsizetype>> order;
+    order.reserve(size_t(histories.size()) + 1);
+    order.emplace_back(creation.toMSecsSinceEpoch(), Creation);
+    for (qsizetype i = 0; i < histories.size(); ++i) {
+        if (histories[i].created && histories[i].items)
+            order.emplace_back(histories[i].created->toMSecsSinceEpoch(), i);
+    }
+    std::ranges::sort(order);
+    return order;
+}
+
 } // namespace
 
-QList<ActivityEvent> ChangelogDTO::events() const
+QList<ActivityEvent> ChangelogDTO::events(const ActivityEvent &creation) const
 {
+    const QList<History> entries = histories.value_or(QList<History>());
+    const auto order = sortedByDate(entries, creation.date);
     QList<ActivityEvent> events;
-    if (!histories)
-        return events;
-    for (const History &history : *histories)
-        append(events, history);
+    events.reserve(qsizetype(order.size()));
+    for (const auto &[date, index] : order) {
+        if (index == Creation)
+            events.append(creation);
+        else
+            append(events, entries[index]);
+    }
     return events;
 }

@@ -46,9 +46,10 @@ struct ChangelogDTO
 
     std::optional<QList<History>> histories;
 
-    /// The changes of status and assignee, in the order of the entries and of their items. An entry with a missing or
-    /// invalid date is ignored.
-    QList<ActivityEvent> events() const;
+    /// The creation of the issue and the changes of status and assignee, sorted by date. Events with the same date are
+    /// in the order of the entries and of their items, after the creation. An entry with a missing or invalid date is
+    /// ignored.
+    QList<ActivityEvent> events(const ActivityEvent &creation) const;
 
     static constexpr auto wireMembers()
     {

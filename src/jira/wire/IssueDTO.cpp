@@ -28,29 +28,6 @@ std::optional<ADFNode> descriptionOf(const IssueDTO &issue)
     return AttachmentRefs::tied(issue.fields.description, AttachmentRefs::ids(html));
 }
 
-/// Sorted by date; events with the same date keep their order.
-QList<ActivityEvent> sortedByDate(QList<ActivityEvent> events)
-{
-    std::vector<std::pair<qint64, qsizetype>> order;
-    order.reserve(size_t(events.size()));
-    for (qsizetype i = 0; i < events.size(); ++i)
-        order.emplace_back(events[i].date.toMSecsSinceEpoch(), i);
-    std::ranges::sort(order);
-    QList<ActivityEvent> sorted;
-    sorted.reserve(events.size());
-    for (const auto &[date, index] : order)
-        sorted.append(std::move(events[index]));
-    return sorted;
-}
-
-/// The history including the creation of the issue; empty if the history was not requested.
-QList<ActivityEvent> activityOf(const ChangelogDTO &changelog, const Issue &issue)
-{
-    QList<ActivityEvent> events = changelog.events();
-    events.prepend({issue.created, issue.reporter, ActivityEvent::Created{}});
-    return sortedByDate(std::move(events));
-}
-
 } // namespace
 
 Issue IssueDTO::model(const QDateTime &now) const
@@ -74,6 +51,7 @@ Issue IssueDTO::model(const QDateTime &now) const
     issue.subtasks = modelsOf(fields.subtasks);
     issue.attachments = modelsOf(fields.attachment, now);
     if (changelog)
-        issue.activity = activityOf(*changelog, issue);
+        issue.activity =
+            changelog->events({issue.created, issue.reporter, ActivityEvent::Created{}});
     return issue;
 }
