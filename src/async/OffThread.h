@@ -1,5 +1,7 @@
 #pragma once
 
+#include "async/WorkThreads.h"
+
 #include <QCoro/QCoroTask>
 #include <QObject>
 #include <QThreadPool>
@@ -22,7 +24,7 @@ public:
     bool await_ready() const { return false; }
     void await_suspend(std::coroutine_handle<> waiting)
     {
-        QThreadPool::globalInstance()->start([this, waiting] {
+        workThreads().start([this, waiting] {
             run();
             QMetaObject::invokeMethod(
                 &m_home, [waiting] { waiting.resume(); }, Qt::QueuedConnection);

@@ -1,6 +1,7 @@
 #include "demo/DemoService.h"
 
 #include "async/WhileAlive.h"
+#include "async/WorkThreads.h"
 #include "demo/DemoEdits.h"
 #include "demo/DemoFiles.h"
 #include "demo/DemoQueries.h"
@@ -33,7 +34,7 @@ QFuture<void> startWriting(const QString &folder)
     const auto promise = std::make_shared<QPromise<void>>();
     QFuture<void> future = promise->future();
     promise->start();
-    QThreadPool::globalInstance()->start([promise, folder] {
+    workThreads().start([promise, folder] {
         DemoFiles::write(folder);
         promise->finish();
     });

@@ -1,3 +1,4 @@
+#include "async/WorkThreads.h"
 #include "demo/DemoFiles.h"
 #include "demo/DemoSamples.h"
 #include "support/RunUntil.h"
@@ -20,7 +21,7 @@ class DemoFirstRun : public testing::Test
 {
 protected:
     // The folder is removed after the last file was written.
-    void TearDown() override { QThreadPool::globalInstance()->waitForDone(); }
+    void TearDown() override { workThreads().waitForDone(); }
 
     QString pathOf(const QString &name) const { return m_caches + u'/' + name; }
     QByteArray contentOf(const QString &name) const
@@ -70,7 +71,7 @@ public:
     void release() { m_gate->release(); }
 
 private:
-    QThreadPool *const m_pool = QThreadPool::globalInstance();
+    QThreadPool *const m_pool = &workThreads();
     const int m_threads = m_pool->maxThreadCount();
     std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
 };

@@ -1,3 +1,4 @@
+#include "async/WorkThreads.h"
 #include "demo/DemoSamples.h"
 #include "model/Failure.h"
 #include "support/RunUntil.h"
@@ -31,7 +32,7 @@ class DemoUploads : public testing::Test
 {
 protected:
     // The folder is removed after the last file was written.
-    void TearDown() override { QThreadPool::globalInstance()->waitForDone(); }
+    void TearDown() override { workThreads().waitForDone(); }
 
     QUrl write(const QString &name)
     {

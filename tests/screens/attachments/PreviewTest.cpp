@@ -1,3 +1,4 @@
+#include "async/WorkThreads.h"
 #include "platform/decoding/Decoders.h"
 #include "platform/decoding/EndlessPdf.h"
 #include "screens/attachments/AttachmentStage.h"
@@ -309,7 +310,7 @@ TEST_F(PreviewTest, AnAnimationWhoseFileIsDeletedStopsAtItsLastFrame)
     ASSERT_TRUE(QTest::qWaitFor([] { return Decoders::shared().pendingCount() == 0; }));
     // The end of the file is told, and the file is opened again on another thread.
     QCoreApplication::processEvents();
-    ASSERT_TRUE(QThreadPool::globalInstance()->waitForDone());
+    ASSERT_TRUE(workThreads().waitForDone());
     QCoreApplication::processEvents();
     EXPECT_EQ(clock.pending(), timers - 1) << "no further frame is awaited";
     EXPECT_EQ(colourOf(*canvas), QColor(Qt::green));
