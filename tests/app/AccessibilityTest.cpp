@@ -190,6 +190,19 @@ TEST_F(Accessibility, AReaderThatStartsLaterHearsWhichLayoutIsChosen)
     EXPECT_TRUE(find(QAccessible::Button, u"Tableau"_s).state.checked);
 }
 
+TEST_F(Accessibility, TheCellsOfRowsAndCardsExistWhileAReaderIsPresent)
+{
+    for (const auto layout : {LayoutMode::List, LayoutMode::Board}) {
+        store().setLayout(layout);
+        for (const bool isPresent : {false, true}) {
+            QAccessible::setActive(isPresent);
+            settle();
+            const auto cells = spokenIn(window(), QAccessible::Button, u"Assigné : Noam Talvère"_s);
+            EXPECT_EQ(!cells.isEmpty(), isPresent);
+        }
+    }
+}
+
 TEST_F(Accessibility, TheFocusGoesFromLeftToRightAndFromTopToBottom)
 {
     // The order is the sidebar, the toolbar, the issues. Each stop is to the right of the previous one or below it.

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Velmora.Issues
 import Velmora.Kit
-import Velmora.State
 
 // One issue of the board.
 CardBody {
@@ -22,20 +21,11 @@ CardBody {
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
 
-    RowCell {
-        x: root.assigneeCell.x
-        y: root.assigneeCell.y
-        kind: Commands.PickerKind.Assignee
-        spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
-        onPressed: root.pickRequested(kind, root.assigneeCell)
-    }
+    When {
+        shown: AssistiveReader.isPresent
 
-    RowCell {
-        x: root.priorityCell.x
-        y: root.priorityCell.y
-        height: root.priorityCell.height
-        kind: Commands.PickerKind.Priority
-        spoken: "Priorité : " + IconAddresses.priorityName(root.issue.priorityLevel)
-        onPressed: root.pickRequested(kind, root.priorityCell)
+        CardCells {
+            card: root
+        }
     }
 }

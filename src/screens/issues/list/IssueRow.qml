@@ -23,8 +23,12 @@ RowLine {
     // The menu of the row is open. The row then looks as if it were under the pointer, which is above the menu.
     property bool hasMenu: false
     readonly property real cellTop: Math.ceil(height / 2) - Metrics.rowPicker / 2
+    // The check box can be clicked before it is visible. Its mark exists only while it is visible or fades out.
+    readonly property bool isCheckShown: isChecked || isSelecting || isHovered || hasMenu
+    property bool isCheckDrawn: false
 
     isDraggable: true
+    onIsCheckShownChanged: if (isCheckShown) isCheckDrawn = true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -55,23 +59,28 @@ RowLine {
         color: Theme.accent
     }
 
-    RowCheck {
-        row: root
-        x: root.plan.check - (width - Metrics.checkBox) / 2
-        y: root.cellTop
-        spoken: "Sélectionner " + root.issue.key
-        isChecked: root.isChecked
-        isShown: root.isChecked || root.isSelecting || root.isHovered || root.hasMenu
-        onPressed: root.checkToggled()
+    When {
+        shown: root.isCheckDrawn
+
+        RowCheckMark {
+            x: root.plan.check
+            y: root.cellTop + (Metrics.rowPicker - height) / 2
+            checked: root.isChecked
+            hovered: root.hotSpot.isCheck
+            pressed: hovered && root.isSpotPressed
+            isShown: root.isCheckShown
+            onGone: root.isCheckDrawn = false
+        }
     }
 
-    RowCell {
-        visible: x >= 0
-        x: root.plan.priority
-        y: root.cellTop
-        kind: Commands.PickerKind.Priority
-        spoken: "Priorité : " + IconAddresses.priorityName(root.issue.priorityLevel)
-        onPressed: root.pickRequested(kind, box)
+    When {
+        shown: AssistiveReader.isPresent
+
+        RowCells {
+            row: root
+            cellTop: root.cellTop
+            isChecked: root.isChecked
+        }
     }
 
     RowText {
@@ -85,14 +94,6 @@ RowLine {
         text: root.issue.key
     }
 
-    RowCell {
-        x: root.plan.status
-        y: root.cellTop
-        kind: Commands.PickerKind.Status
-        spoken: "Statut : " + root.issue.status.displayName
-        onPressed: root.pickRequested(kind, box)
-    }
-
     RowSummary {
         x: root.plan.summary
         width: root.plan.summaryWidth
@@ -102,15 +103,6 @@ RowLine {
         color: root.style.ink
         summary: root.issue.summary
         parentSummary: root.issue.parentSummary
-    }
-
-    RowCell {
-        visible: x >= 0
-        x: root.plan.assignee
-        y: root.cellTop
-        kind: Commands.PickerKind.Assignee
-        spoken: "Assigné : " + (root.issue.hasAssignee ? root.issue.assigneeOrEmpty.name : "personne")
-        onPressed: root.pickRequested(kind, box)
     }
 
     When {
