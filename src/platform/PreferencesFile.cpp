@@ -25,11 +25,14 @@ Writer &writer()
 
 /// Held by a process while it has `QSettings` for the file. `QSettings` itself locks the file for a write only. If another
 /// process replaces the file while it is read, `QSettings` takes the new file for read, and overwrites it later.
-class Turn
+class SettingsLock
 {
 public:
     // Without a lock, in a folder that is absent or cannot be written, it goes on.
-    explicit Turn(const QString &path) : m_lock(path + QStringLiteral(".turn")) { m_lock.lock(); }
+    explicit SettingsLock(const QString &path) : m_lock(path + QStringLiteral(".turn"))
+    {
+        m_lock.lock();
+    }
 
 private:
     QLockFile m_lock;
@@ -38,7 +41,7 @@ private:
 /// Returns false if the file cannot be written.
 bool replaceFile(const QString &path, const PreferencesFile::Values &values)
 {
-    const Turn turn(path);
+    const SettingsLock lock(path);
     QSettings settings(path, QSettings::IniFormat);
     for (auto value = values.begin(); value != values.end(); ++value)
         settings.setValue(value.key(), value.value());
@@ -127,7 +130,7 @@ PreferencesFile::~PreferencesFile()
 PreferencesFile::Values PreferencesFile::read() const
 {
     m_pending->store();
-    const Turn turn(m_pending->path());
+    const SettingsLock lock(m_pending->path());
     const QSettings settings(m_pending->path(), QSettings::IniFormat);
     Values values;
     for (const auto &key : settings.allKeys())
