@@ -89,10 +89,11 @@ protected:
     void send() { press(Qt::Key_Return, Qt::ControlModifier); }
     QQuickItem *composer() { return page->property("composer").value<QQuickItem *>(); }
     QQuickItem *named(const QString &name) { return namedIn(bench.window().contentItem(), name); }
+    /// The rows of the suggestions are made with the frame after their panel, hence the wait.
     void click(const QString &name)
     {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return named(name) != nullptr; })) << name.toStdString();
         auto *item = named(name);
-        ASSERT_NE(item, nullptr) << name.toStdString();
         bench.window().grabWindow();
         const QPointF centre(item->width() / 2, item->height() / 2);
         QTest::mouseClick(&bench.window(), Qt::LeftButton, {}, item->mapToScene(centre).toPoint());
