@@ -4,8 +4,8 @@ import QtQuick
 import Velmora.Issues
 import Velmora.Kit
 
-// One issue of the board.
-CardBody {
+// One issue of the board. The base class draws it.
+CardFace {
     id: root
 
     required property string accessibleName

@@ -151,7 +151,7 @@ FocusScope {
         view: board
         carrier: flight
         ghost: Component {
-            CardBody {
+            CardFace {
                 acceptedButtons: Qt.NoButton
             }
         }

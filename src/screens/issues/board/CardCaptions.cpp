@@ -37,6 +37,12 @@ QList<Caption> cardCaptions(const CardCaptionsInput &card)
         const QColor color = card.isOverdue ? card.style.late : card.style.quiet;
         captions += onFoot(plan.due + ChipLayout::dueText, plan, due(card.contents.dueText, color));
     }
+    for (qsizetype i = 0; i < card.contents.title.size(); ++i) {
+        Caption line =
+            caption(card.contents.title[i], TypeScale::Body, QFont::Medium, card.style.ink);
+        line.place = {CardPlan::margin, CardPlan::titleTop + double(i) * line.height};
+        captions += line;
+    }
     for (qsizetype i = 0; i < plan.labels.size(); ++i)
         captions += labelOn(plan.labels[i], card.contents.labels.value(i), card);
     return captions;

@@ -14,5 +14,5 @@ struct CardCaptionsInput
     bool isOverdue = false;
 };
 
-/// The captions of a card, which are all its texts except the summary.
+/// All texts of a card.
 QList<Caption> cardCaptions(const CardCaptionsInput &card);

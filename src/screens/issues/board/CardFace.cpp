@@ -3,6 +3,7 @@
 #include "screens/issues/board/CardCaptions.h"
 #include "screens/issues/board/CardIcons.h"
 #include "screens/issues/board/CardNode.h"
+#include "screens/issues/face/TextMeasure.h"
 #include "screens/theme/Springs.h"
 
 using namespace IssueIcons;
@@ -21,36 +22,19 @@ void CardFace::setStyle(CardStyle *style)
     follow(std::exchange(m_style, style), style);
 }
 
-void CardFace::setTitleHeight(double height)
-{
-    if (m_titleHeight == height)
-        return;
-    m_titleHeight = height;
-    Q_EMIT titleHeightChanged();
-    planNow();
-}
-
-QRectF CardFace::titleBox() const
-{
-    return {CardPlan::margin, CardPlan::titleTop, width() - 2 * CardPlan::margin, m_titleHeight};
-}
-
-void CardFace::geometryChange(const QRectF &now, const QRectF &before)
-{
-    IssueFace::geometryChange(now, before);
-    if (now.width() != before.width())
-        Q_EMIT sizeChanged();
-}
-
 void CardFace::makePlan()
 {
     if (!m_style)
         return;
-    const CardContents contents{issue().type.has_value(), issue().labels,
-                                issue().dueDate ? dueText() : QString(), m_titleHeight};
+    const CardContents contents{
+        .hasType = issue().type.has_value(),
+        .labels = issue().labels,
+        .dueText = issue().dueDate ? dueText() : QString(),
+        .title = TextMeasure::wrapped(issue().summary, CardStyle::titleFont(),
+                                      width() - 2 * CardPlan::margin, CardPlan::titleLines)};
     m_plan = cardPlan(contents, width());
     setImplicitHeight(m_plan.height);
-    showCaptions(cardCaptions({issue().key, contents, m_plan, *m_style, isOverdue()}), *m_style);
+    showCaptions(cardCaptions({issue().key, contents, m_plan, *m_style, isOverdue()}));
 }
 
 HotSpot CardFace::spotAt(double x, double y) const
@@ -101,14 +85,16 @@ QSGNode *CardFace::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     if (!m_style)
         return old;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item's node, which the scene graph owns
-    auto *node = old ? static_cast<CardNode *>(old) : new CardNode;
+    auto *node = old ? static_cast<CardNode *>(old) : new CardNode(*this);
     node->showGround(window(), size(), ground(), m_lift);
-    node->showPictures(window(), cardIcons({.issue = issue(),
-                                            .plan = m_plan,
-                                            .style = *m_style,
-                                            .isOverdue = isOverdue(),
-                                            .person = assigneeFace(),
-                                            .hotSpot = hotSpot(),
-                                            .isPressed = isSpotPressed()}));
+    node->showFace(window(),
+                   cardIcons({.issue = issue(),
+                              .plan = m_plan,
+                              .style = *m_style,
+                              .isOverdue = isOverdue(),
+                              .person = assigneeFace(),
+                              .hotSpot = hotSpot(),
+                              .isPressed = isSpotPressed()}),
+                   captions());
     return node;
 }

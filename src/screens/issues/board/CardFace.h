@@ -7,8 +7,8 @@
 
 #include <QVariantAnimation>
 
-/// The base class of a board card: its background, a line with type, key and assignee, the summary, which QML provides,
-/// and a line with priority, due date and labels.
+/// The base class of a board card: its background, a line with type, key and assignee, the summary, and a line with
+/// priority, due date and labels.
 class CardFace : public IssueFace
 {
     Q_OBJECT
@@ -19,10 +19,6 @@ class CardFace : public IssueFace
     Q_PROPERTY(bool isOpen MEMBER m_isOpen NOTIFY edgeChanged REQUIRED FINAL)
     /// The menu of the card is open. The card then looks as if it were under the pointer, which is above the menu.
     Q_PROPERTY(bool hasMenu MEMBER m_hasMenu NOTIFY menuChanged FINAL)
-    /// The height of the summary's lines, in logical pixels.
-    Q_PROPERTY(
-        double titleHeight READ titleHeight WRITE setTitleHeight NOTIFY titleHeightChanged FINAL)
-    Q_PROPERTY(QRectF titleBox READ titleBox NOTIFY sizeChanged FINAL)
     /// The cells whose values can be changed by a click.
     Q_PROPERTY(QRectF priorityCell READ priorityCell NOTIFY planned FINAL)
     Q_PROPERTY(QRectF assigneeCell READ assigneeCell NOTIFY planned FINAL)
@@ -32,9 +28,6 @@ public:
 
     CardStyle *style() const { return m_style; }
     void setStyle(CardStyle *style);
-    double titleHeight() const { return m_titleHeight; }
-    void setTitleHeight(double height);
-    QRectF titleBox() const;
     QRectF priorityCell() const { return m_plan.priority; }
     QRectF assigneeCell() const { return m_plan.assignee; }
 
@@ -43,12 +36,9 @@ public:
 Q_SIGNALS:
     void edgeChanged();
     void menuChanged();
-    void titleHeightChanged();
-    void sizeChanged();
 
 protected:
     void makePlan() override;
-    void geometryChange(const QRectF &now, const QRectF &before) override;
     QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override;
 
 private:
@@ -60,7 +50,6 @@ private:
     bool m_isChecked = false;
     bool m_isOpen = false;
     bool m_hasMenu = false;
-    double m_titleHeight = 0;
     CardPlan m_plan;
     /// The elevation of the card, from 0 (at rest) to 1 (raised).
     double m_lift = 0;

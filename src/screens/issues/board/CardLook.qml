@@ -15,9 +15,6 @@ CardStyle {
     lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
     cellFill: Theme.buttonHoverFill
     cellPressed: Theme.ink(0.12)
-    caption: Component {
-        RowText {}
-    }
     fill: Theme.card
     restEdge: Theme.ink(0.07)
     focusEdge: Theme.accentAt(0.4)

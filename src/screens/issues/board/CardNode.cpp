@@ -29,12 +29,12 @@ CardGround shadowAlone(CardGround::Shadow shadow)
 
 } // namespace
 
-CardNode::CardNode()
+CardNode::CardNode(QQuickItem &item)
     : m_ground(std::make_unique<NinePatchNode>().release()),
-      m_pictures(std::make_unique<PictureNode>().release())
+      m_face(std::make_unique<FaceNode>(item).release())
 {
     appendChildNode(m_ground);
-    appendChildNode(m_pictures);
+    appendChildNode(m_face);
 }
 
 void CardNode::showGround(QQuickWindow *window, QSizeF size, CardGround ground, double lift)
@@ -77,7 +77,8 @@ void CardNode::dropShadows()
     m_veils.clear();
 }
 
-void CardNode::showPictures(QQuickWindow *window, const std::vector<PlacedPicture> &pictures)
+void CardNode::showFace(QQuickWindow *window, const std::vector<PlacedPicture> &pictures,
+                        const CaptionLayouts &captions)
 {
-    m_pictures->show(window, pictures);
+    m_face->show(window, pictures, captions);
 }

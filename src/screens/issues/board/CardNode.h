@@ -1,19 +1,20 @@
 #pragma once
 
 #include "screens/issues/board/CardGround.h"
-#include "screens/kit/drawn/PictureNode.h"
+#include "screens/issues/face/FaceNode.h"
 
 class NinePatchNode;
 
-/// The scene graph node of a card: its background, and its pictures above it.
+/// The scene graph node of a card: its background, and its pictures and texts above it.
 class CardNode : public QSGTransformNode
 {
 public:
-    CardNode();
+    explicit CardNode(QQuickItem &item);
 
     /// `lift` is 0 at rest and 1 when raised under the pointer. In between, both shadows are shown.
     void showGround(QQuickWindow *window, QSizeF size, CardGround ground, double lift);
-    void showPictures(QQuickWindow *window, const std::vector<PlacedPicture> &pictures);
+    void showFace(QQuickWindow *window, const std::vector<PlacedPicture> &pictures,
+                  const CaptionLayouts &captions);
 
 private:
     /// A partly transparent shadow.
@@ -28,7 +29,7 @@ private:
     void dropShadows();
 
     NinePatchNode *m_ground;
-    PictureNode *m_pictures;
+    FaceNode *m_face;
     /// The shadows for the card at rest and raised, below the background. They exist only during the transition between
     /// the two.
     std::vector<Veil> m_veils;

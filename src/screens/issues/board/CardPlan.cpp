@@ -1,5 +1,6 @@
 #include "screens/issues/board/CardPlan.h"
 
+#include "screens/issues/board/CardStyle.h"
 #include "screens/issues/face/IssueIcons.h"
 #include "screens/issues/list/RowFit.h"
 
@@ -59,7 +60,8 @@ void placeFoot(CardPlan &plan, const CardContents &contents, double width)
 CardPlan cardPlan(const CardContents &contents, double width)
 {
     CardPlan plan;
-    plan.foot = CardPlan::titleTop + contents.titleHeight + Metrics::cardPartGap;
+    plan.foot = CardPlan::titleTop + double(contents.title.size()) * CardStyle::titleLine() +
+                Metrics::cardPartGap;
     plan.height = plan.foot + CardPlan::footHeight + CardPlan::margin;
     placeHead(plan, contents, width);
     placeFoot(plan, contents, width);

@@ -14,8 +14,8 @@ struct CardContents
     QStringList labels;
     /// Empty without a due date.
     QString dueText;
-    /// The height of the summary's lines, in logical pixels.
-    double titleHeight = 0;
+    /// The lines of the summary.
+    QStringList title;
 };
 
 /// The position of a label on the lower line of a card, in logical pixels.
@@ -39,8 +39,9 @@ struct CardPlan
     /// labels.
     static constexpr double headHeight = Metrics::cardHead;
     static constexpr double footHeight = Metrics::cardFoot;
-    /// The top of the summary's first line.
+    /// The top of the summary's first line, and the most lines of it.
     static constexpr double titleTop = margin + headHeight + Metrics::cardPartGap;
+    static constexpr int titleLines = 3;
 
     double type = absent;
     double key = 0;

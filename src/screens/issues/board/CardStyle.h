@@ -17,17 +17,12 @@ class CardStyle : public IssueStyle
     Q_PROPERTY(QColor cellEdge MEMBER cellEdge NOTIFY changed FINAL)
     /// The duration in which a card is raised under the pointer, in milliseconds. 0 raises it at once.
     Q_PROPERTY(int liftDuration MEMBER liftDuration NOTIFY changed FINAL)
-    /// The font of the summary, the space above and below the text within a line, and the line height in logical
-    /// pixels.
-    Q_PROPERTY(QFont titleFont READ titleFont CONSTANT FINAL)
-    Q_PROPERTY(double titleLeading READ titleLeading CONSTANT FINAL)
-    Q_PROPERTY(double titleLine READ titleLine CONSTANT FINAL)
 
 public:
     using IssueStyle::IssueStyle;
 
+    /// The font of the summary, and the height of its lines in logical pixels.
     static QFont titleFont() { return TypeScale().font(TypeScale::Body, QFont::Medium); }
-    static double titleLeading() { return TypeScale().halfLeading(TypeScale::Body); }
     static double titleLine() { return TypeScale().lineHeight(TypeScale::Body); }
 
     QColor fill;

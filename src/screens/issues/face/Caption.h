@@ -5,7 +5,7 @@
 #include <QPointF>
 #include <QString>
 
-/// A short text on a row or a card: a key, a label's name, the number of further labels, a due date.
+/// One line of text on a row or a card: a key, a title, a label's name, the number of further labels, a date.
 struct Caption
 {
     /// Stands for the natural width of the text.
@@ -15,7 +15,8 @@ struct Caption
     QPointF place;
     QString text;
     QFont font;
-    /// The space above and below the text within its line.
+    /// The height of the line, and the space above and below the text within it.
+    double height = 0;
     double leading = 0;
     QColor color;
     /// The width beyond which the text is elided with "…".

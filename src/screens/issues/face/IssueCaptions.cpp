@@ -4,24 +4,21 @@
 
 namespace IssueCaptions {
 
-namespace {
-
-Caption caption(const QString &text, TypeScale::Role role, int weight, const QColor &color)
+Caption caption(const QString &text, TypeScale::Role role, int weight, const QColor &color,
+                bool isTabular)
 {
     const TypeScale scale;
-    const bool isTabular = role == TypeScale::Badge;
-    return {{}, text, scale.font(role, weight, isTabular), scale.halfLeading(role), color};
+    return {.text = text,
+            .font = scale.font(role, weight, isTabular),
+            .height = scale.lineHeight(role),
+            .leading = scale.halfLeading(role),
+            .color = color};
 }
-
-/// The line height of the roles Badge and Caption.
-constexpr double lineHeight = 14;
-
-} // namespace
 
 Caption inMiddle(QPointF corner, double height, const Caption &caption)
 {
     Caption placed = caption;
-    placed.place = corner + QPointF(0, IssueIcons::centred(height, lineHeight));
+    placed.place = corner + QPointF(0, IssueIcons::centred(height, caption.height));
     return placed;
 }
 
@@ -37,12 +34,12 @@ Caption more(qsizetype count, const QColor &color)
 
 Caption due(const QString &text, const QColor &color)
 {
-    return caption(text, TypeScale::Badge, TypeScale::roleWeight, color);
+    return caption(text, TypeScale::Badge, TypeScale::roleWeight, color, true);
 }
 
 Caption key(const QString &text, const QColor &color)
 {
-    return caption(text, TypeScale::Badge, QFont::Normal, color);
+    return caption(text, TypeScale::Badge, QFont::Normal, color, true);
 }
 
 } // namespace IssueCaptions

@@ -63,11 +63,6 @@ void IssueFace::updatePolish()
     planNow();
 }
 
-void IssueFace::showCaptions(const QList<Caption> &captions, const IssueStyle &style)
-{
-    m_captions.show(captions, style.caption, *this);
-}
-
 QString IssueFace::assigneeHint() const
 {
     return m_issue.assignee ? m_issue.assignee->name : u"Non assigné"_s;

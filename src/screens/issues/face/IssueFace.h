@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Issue.h"
-#include "screens/issues/face/CaptionTexts.h"
+#include "screens/issues/face/CaptionLayouts.h"
 #include "screens/issues/face/HotSpot.h"
 #include "screens/issues/face/IssueStyle.h"
 #include "screens/kit/controls/PressArea.h"
@@ -9,10 +9,10 @@
 
 #include <QPointer>
 
-/// The base class of rows and cards: one item that computes its layout as a value, draws everything except text in
-/// nodes that share the textures of equal pictures, reports the hot spot under the pointer, and takes the presses itself.
-/// A press on a cell or a check box acts on it if it is also released there. An item for each icon would take several
-/// times as long to create.
+/// The base class of rows and cards: one item that computes its layout as a value, draws its texts and its pictures in
+/// nodes, reports the hot spot under the pointer, and takes the presses itself.
+/// A press on a cell or a check box acts on it if it is also released there. An item for each icon and text
+/// would take several times as long to create.
 class IssueFace : public PressArea
 {
     Q_OBJECT
@@ -33,6 +33,8 @@ public:
     void setIssue(const Issue &issue);
     const HotSpot &hotSpot() const { return m_hotSpot; }
     bool isSpotPressed() const { return m_isSpotPressed; }
+    /// The drawn texts.
+    const CaptionLayouts &captions() const { return m_captions; }
 
     /// The hot spot at a position.
     Q_INVOKABLE virtual HotSpot spotAt(double x, double y) const = 0;
@@ -59,7 +61,7 @@ protected:
     void planNow();
     /// Observes another style. Both may be null.
     void follow(IssueStyle *before, IssueStyle *now);
-    void showCaptions(const QList<Caption> &captions, const IssueStyle &style);
+    void showCaptions(const QList<Caption> &captions) { m_captions.set(captions); }
 
     const QString &dueText() const { return m_dueText; }
     const QString &dueTooltip() const { return m_dueTooltip; }
@@ -93,7 +95,7 @@ private:
     /// The position of the pointer while it is over this item or presses it.
     QPointF m_pointer;
     HotSpot m_hotSpot;
-    CaptionTexts m_captions;
+    CaptionLayouts m_captions;
     /// The assignee's photograph, created when an assignee first has one.
     RemotePicture *m_picture = nullptr;
 };

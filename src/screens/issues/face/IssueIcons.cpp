@@ -21,7 +21,7 @@ namespace IssueIcons {
 
 namespace {
 
-enum Kind { Priority, Status, Type, Dot, Nobody, Initials, Person, CellFill, CellEdge };
+enum Kind { Priority, Status, Type, Dot, Nobody, Initials, Person, CellFill, CellEdge, Chevron };
 
 constexpr double typeFont = 11;
 /// The radii of a cell's fill and of the outline of a card's cell.
@@ -108,6 +108,23 @@ PlacedPicture type(const IssueType &type)
         paintTypeIcon(painter, kind, typeFont);
     };
     return {{.kind = Type, .value = double(kind), .size = {side, side}}, paint, {}};
+}
+
+double chevronBorder(double fontSize)
+{
+    return symbolBorder(symbolSide(fontSize));
+}
+
+PlacedPicture chevron(double fontSize, const QColor &color)
+{
+    const double side = symbolSide(fontSize);
+    const double border = chevronBorder(fontSize);
+    const double whole = side + 2 * border;
+    const auto paint = [=](QPainter &painter) {
+        paintSymbol(painter, {u"chevron.right"_s, color, SymbolWeight::Bold},
+                    {border, border, side, side});
+    };
+    return {{.kind = Chevron, .color = color, .size = {whole, whole}}, paint, {}};
 }
 
 PlacedPicture chip(const QString &label, double width, const IssueStyle &style)

@@ -27,6 +27,10 @@ PlacedPicture status(const IssueStatus &status, const IssueStyle &style, double 
 inline constexpr double typeSide = Metrics::typeIcon;
 double typeBorder();
 PlacedPicture type(const IssueType &type);
+/// The mark before a parent's summary. `fontSize` is that of a text beside it. The picture is larger by `chevronBorder`
+/// on each side than the square of the symbol.
+PlacedPicture chevron(double fontSize, const QColor &color);
+double chevronBorder(double fontSize);
 /// The outline and the dot of a label, without its name.
 PlacedPicture chip(const QString &label, double width, const IssueStyle &style);
 PlacedPicture dot(const QString &label);

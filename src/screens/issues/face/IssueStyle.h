@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QObject>
-#include <QQmlComponent>
 #include <QtQml/qqmlregistration.h>
 
 /// The style that all rows of a list, or all cards of a board, share. It is one shared object, so that each row and
@@ -27,8 +26,6 @@ class IssueStyle : public QObject
     Q_PROPERTY(QColor cellFill MEMBER cellFill NOTIFY changed FINAL)
     /// The background of a cell that is pressed.
     Q_PROPERTY(QColor cellPressed MEMBER cellPressed NOTIFY changed FINAL)
-    /// The component for the text of a caption, a `RowText`.
-    Q_PROPERTY(QQmlComponent *caption MEMBER caption NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;
@@ -42,7 +39,6 @@ public:
     QColor lateOutline;
     QColor cellFill;
     QColor cellPressed;
-    QQmlComponent *caption = nullptr;
 
 Q_SIGNALS:
     void changed();

@@ -6,14 +6,13 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// One issue of the list. The base class draws its icons. Parts that few rows have are created on demand.
+// One issue of the list. The base class draws its texts and icons. Parts that few rows have are created on demand.
 RowLine {
     id: root
 
     required property bool isFocused
     required property bool isChecked
     required property bool isOpen
-    required property string updatedText
     required property string accessibleName
     required property issueListBadge badge
     // At least one issue is checked, so every check box is shown.
@@ -27,6 +26,7 @@ RowLine {
     readonly property bool isCheckShown: isChecked || isSelecting || isHovered || hasMenu
     property bool isCheckDrawn: false
 
+    showsEvent: badge.isShown
     isDraggable: true
     onIsCheckShownChanged: if (isCheckShown) isCheckDrawn = true
 
@@ -38,25 +38,16 @@ RowLine {
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
 
-    Rectangle {
-        z: -1
-        y: Metrics.rowFillInset
-        width: root.width
-        height: root.height - 2 * Metrics.rowFillInset
-        radius: Metrics.radiusRow
-        color: root.isChecked ? Theme.checkedFill
-            : root.isOpen ? Theme.openFill
-            : root.isFocused || root.isHovered || root.hasMenu ? Theme.hoverFill : "transparent"
-    }
+    When {
+        shown: root.isChecked || root.isOpen || root.isFocused || root.isHovered || root.hasMenu
 
-    Rectangle {
-        visible: root.isFocused
-        z: -1
-        y: Metrics.focusBarInset
-        width: Metrics.focusBarWidth
-        height: root.height - 2 * Metrics.focusBarInset
-        radius: width / 2
-        color: Theme.accent
+        RowHighlight {
+            z: -1
+            width: root.width
+            height: root.height
+            isFocused: root.isFocused
+            fill: root.isChecked ? Theme.checkedFill : root.isOpen ? Theme.openFill : Theme.hoverFill
+        }
     }
 
     When {
@@ -83,28 +74,6 @@ RowLine {
         }
     }
 
-    RowText {
-        visible: x >= 0
-        x: root.plan.key
-        anchors.verticalCenter: parent.verticalCenter
-        width: root.style.keyWidth
-        font: root.style.figuresFont
-        leading: root.style.smallLeading
-        color: root.style.quiet
-        text: root.issue.key
-    }
-
-    RowSummary {
-        x: root.plan.summary
-        width: root.plan.summaryWidth
-        anchors.verticalCenter: parent.verticalCenter
-        font: root.style.titleFont
-        leading: root.style.titleLeading
-        color: root.style.ink
-        summary: root.issue.summary
-        parentSummary: root.issue.parentSummary
-    }
-
     When {
         shown: root.badge.isShown && root.plan.updated >= 0
 
@@ -114,16 +83,5 @@ RowLine {
             width: root.plan.updatedWidth
             badge: root.badge
         }
-    }
-
-    // "à l'instant" is wider than the column and also uses part of the gap before it.
-    RowText {
-        visible: root.plan.updated >= 0 && !root.badge.isShown
-        x: root.plan.updated + root.plan.updatedWidth - width
-        anchors.verticalCenter: parent.verticalCenter
-        font: root.style.figuresFont
-        leading: root.style.smallLeading
-        color: root.style.quiet
-        text: root.updatedText
     }
 }

@@ -56,6 +56,9 @@ std::vector<PlacedPicture> rowIcons(const RowIconsInput &row)
         inCell(status(issue.status, style, Metrics::statusIcon), plan.status, height));
     if (plan.type != RowPlan::absent && issue.type)
         pictures.push_back(atX(type(*issue.type), plan.type - typeBorder(), height));
+    if (plan.parent != RowPlan::absent)
+        pictures.push_back(atX(chevron(RowPlan::parentMark, style.parentInk),
+                               plan.parent - chevronBorder(RowPlan::parentMark), height));
     if (plan.labels != RowPlan::absent)
         plan.showsLabelNames ? addNames(pictures, row) : addDots(pictures, row);
     if (plan.due != RowPlan::absent)

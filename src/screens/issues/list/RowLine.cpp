@@ -1,9 +1,9 @@
 #include "screens/issues/list/RowLine.h"
 
 #include "commands/ShortcutHints.h"
+#include "screens/issues/face/FaceNode.h"
 #include "screens/issues/list/RowCaptions.h"
 #include "screens/issues/list/RowIcons.h"
-#include "screens/kit/drawn/PictureNode.h"
 
 namespace {
 
@@ -24,11 +24,21 @@ void RowLine::makePlan()
 {
     if (!m_style)
         return;
-    const RowContents contents{m_style->display, double(m_style->keyWidth), issue().labels,
-                               issue().dueDate ? dueText() : QString(),
-                               double(m_style->updatedWidth)};
+    const RowContents contents{.display = m_style->display,
+                               .keyWidth = double(m_style->keyWidth),
+                               .summary = issue().summary,
+                               .parentSummary = issue().parentSummary(),
+                               .labels = issue().labels,
+                               .dueText = issue().dueDate ? dueText() : QString(),
+                               .updatedWidth = double(m_style->updatedWidth)};
     m_plan = rowPlan(contents, width());
-    showCaptions(rowCaptions({contents, m_plan, *m_style, isOverdue(), height()}), *m_style);
+    showCaptions(rowCaptions({.key = issue().key,
+                              .contents = contents,
+                              .plan = m_plan,
+                              .style = *m_style,
+                              .updatedText = m_showsEvent ? QString() : m_updatedText,
+                              .isOverdue = isOverdue(),
+                              .height = height()}));
 }
 
 HotSpot RowLine::spotAt(double x, double y) const
@@ -58,14 +68,16 @@ QSGNode *RowLine::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     if (!m_style)
         return old;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item's node, which the scene graph owns
-    auto *node = old ? static_cast<PictureNode *>(old) : new PictureNode;
-    node->show(window(), rowIcons({.issue = issue(),
-                                   .plan = m_plan,
-                                   .style = *m_style,
-                                   .isOverdue = isOverdue(),
-                                   .person = assigneeFace(),
-                                   .height = height(),
-                                   .hotSpot = hotSpot(),
-                                   .isPressed = isSpotPressed()}));
+    auto *node = old ? static_cast<FaceNode *>(old) : new FaceNode(*this);
+    node->show(window(),
+               rowIcons({.issue = issue(),
+                         .plan = m_plan,
+                         .style = *m_style,
+                         .isOverdue = isOverdue(),
+                         .person = assigneeFace(),
+                         .height = height(),
+                         .hotSpot = hotSpot(),
+                         .isPressed = isSpotPressed()}),
+               captions());
     return node;
 }

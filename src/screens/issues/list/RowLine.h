@@ -11,6 +11,10 @@ class RowLine : public IssueFace
     QML_ELEMENT
     Q_PROPERTY(RowStyle *style READ style WRITE setStyle NOTIFY styleChanged REQUIRED FINAL)
     Q_PROPERTY(RowPlan plan READ plan NOTIFY planned FINAL)
+    /// The relative date of the last change.
+    Q_PROPERTY(QString updatedText MEMBER m_updatedText NOTIFY contentChanged REQUIRED FINAL)
+    /// The latest event takes the place of the date. It is shown by an item of its own.
+    Q_PROPERTY(bool showsEvent MEMBER m_showsEvent NOTIFY contentChanged FINAL)
 
 public:
     explicit RowLine(QQuickItem *parent = nullptr) : IssueFace(parent) {}
@@ -27,5 +31,7 @@ protected:
 
 private:
     QPointer<RowStyle> m_style;
+    QString m_updatedText;
+    bool m_showsEvent = false;
     RowPlan m_plan;
 };

@@ -9,13 +9,11 @@ RowStyle {
     ink: Theme.text1
     faint: Theme.neutral
     quiet: Theme.text2
+    parentInk: Theme.text3
     done: Theme.done
     outline: Theme.chipOutline
     late: Theme.redText
     lateOutline: Qt.rgba(Theme.red.r, Theme.red.g, Theme.red.b, 0.4)
     cellFill: Theme.buttonHoverFill
     cellPressed: Theme.ink(0.12)
-    caption: Component {
-        RowText {}
-    }
 }

@@ -1,9 +1,13 @@
 #include "screens/issues/list/RowPlan.h"
 
+#include "screens/issues/face/TextMeasure.h"
 #include "screens/issues/list/RowFit.h"
+#include "screens/issues/list/RowStyle.h"
+#include "screens/kit/painters/SymbolPainter.h"
 #include "screens/theme/Metrics.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -89,7 +93,28 @@ void placeMiddle(RowPlan &plan, const RowContents &contents, double start, doubl
     plan.summaryWidth = std::max(0.0, right - start);
 }
 
+/// Places the parent after the summary, if the summary leaves enough width.
+void placeParent(RowPlan &plan, const RowContents &contents)
+{
+    if (contents.parentSummary.isEmpty())
+        return;
+    // The chevron is a picture, which is sharp only at a whole pixel.
+    const double start =
+        std::ceil(TextMeasure::width(contents.summary, RowStyle::titleFont())) + Metrics::gapSmall;
+    const double width =
+        RowPlan::parentText() + TextMeasure::width(contents.parentSummary, RowStyle::parentFont());
+    if (start + width <= plan.summaryWidth)
+        plan.parent = plan.summary + start;
+}
+
 } // namespace
+
+double RowPlan::parentText()
+{
+    // The space between the chevron and the summary.
+    constexpr double markGap = 3;
+    return symbolSide(parentMark) + markGap;
+}
 
 RowPlan rowPlan(const RowContents &contents, double width)
 {
@@ -99,5 +124,6 @@ RowPlan rowPlan(const RowContents &contents, double width)
     const double trailing = width - margin - trailingWidth(contents);
     placeTrailing(plan, trailing, contents);
     placeMiddle(plan, contents, leading.end() + gap, trailing - gap);
+    placeParent(plan, contents);
     return plan;
 }

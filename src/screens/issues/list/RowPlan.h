@@ -13,6 +13,9 @@ struct RowContents
     DisplayProperties display;
     /// The width of the key column. Like all lengths here it is in logical pixels.
     double keyWidth = 0;
+    QString summary;
+    /// Empty without a parent.
+    QString parentSummary;
     QStringList labels;
     /// Empty without a due date.
     QString dueText;
@@ -28,16 +31,17 @@ class RowPlan
     QML_VALUE_TYPE(rowPlan)
     Q_PROPERTY(double check MEMBER check CONSTANT FINAL)
     Q_PROPERTY(double priority MEMBER priority CONSTANT FINAL)
-    Q_PROPERTY(double key MEMBER key CONSTANT FINAL)
     Q_PROPERTY(double status MEMBER status CONSTANT FINAL)
-    Q_PROPERTY(double summary MEMBER summary CONSTANT FINAL)
-    Q_PROPERTY(double summaryWidth MEMBER summaryWidth CONSTANT FINAL)
     Q_PROPERTY(double assignee MEMBER assignee CONSTANT FINAL)
     Q_PROPERTY(double updated MEMBER updated CONSTANT FINAL)
     Q_PROPERTY(double updatedWidth MEMBER updatedWidth CONSTANT FINAL)
 
 public:
     static constexpr double absent = -1;
+    /// The font size of the text beside the chevron that precedes the parent's summary.
+    static constexpr double parentMark = 8;
+    /// The distance from the start of the parent to its summary.
+    static double parentText();
 
     /// The check box.
     double check = absent;
@@ -49,6 +53,8 @@ public:
     double type = absent;
     double summary = absent;
     double summaryWidth = 0;
+    /// The parent, beside the summary if both fit.
+    double parent = absent;
     double labels = absent;
     /// Shows the first two labels by name. Otherwise up to four labels are shown as dots.
     bool showsLabelNames = true;

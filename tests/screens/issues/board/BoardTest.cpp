@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/issues/DrawnText.h"
 #include "screens/issues/board/CardFace.h"
 
 #include <QQuickItem>
@@ -48,20 +49,11 @@ protected:
         const auto box = await(QAccessible::ListItem, key + u',').box;
         return window().grabWindow().pixelColor(box.left(), box.center().y());
     }
-    /// The box of the only visible text with these words.
     QRectF textBox(const QString &words)
     {
-        QList<QRectF> found;
-        QList<QQuickItem *> left{window().contentItem()};
-        while (!left.isEmpty()) {
-            auto *item = left.takeFirst();
-            left += item->childItems();
-            if (item->isVisible() && item->inherits("QQuickText") &&
-                item->property("text").toString() == words)
-                found += item->mapRectToScene(item->boundingRect());
-        }
-        EXPECT_EQ(found.size(), 1) << words.toStdString();
-        return found.value(0);
+        const auto text = drawnText(window().contentItem(), words);
+        EXPECT_TRUE(text) << words.toStdString();
+        return text ? text->box() : QRectF();
     }
     bool isInView(const QString &key)
     {

@@ -47,3 +47,14 @@ TEST(CardCaptions, ANameThatDoesNotFitEndsWithinItsChip)
     EXPECT_EQ(captions[1].width, Caption::anyWidth);
     EXPECT_EQ(captions[2].width, plan.labels[1].width - 26);
 }
+
+TEST(CardCaptions, EachLineOfTheSummaryIsACaptionBelowThePreviousOne)
+{
+    const auto captions = captionsOf({.title = {u"Première ligne"_s, u"seconde"_s}});
+
+    ASSERT_EQ(captions.size(), 3);
+    EXPECT_EQ(captions[1].text, u"Première ligne");
+    EXPECT_EQ(captions[1].place, QPointF(12, CardPlan::titleTop));
+    EXPECT_EQ(captions[2].text, u"seconde");
+    EXPECT_EQ(captions[2].place, QPointF(12, CardPlan::titleTop + 18));
+}

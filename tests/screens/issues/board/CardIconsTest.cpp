@@ -38,8 +38,10 @@ TEST(CardIcons, TypeDueDateAndTwoLabelsEachHaveOne)
     card.issue.type = IssueType{u"1"_s, u"Bug"_s};
     card.issue.labels = {u"a"_s, u"b"_s, u"c"_s};
 
-    const auto pictures = card.pictures(
-        {.hasType = true, .labels = card.issue.labels, .dueText = u"Demain"_s, .titleHeight = 18});
+    const auto pictures = card.pictures({.hasType = true,
+                                         .labels = card.issue.labels,
+                                         .dueText = u"Demain"_s,
+                                         .title = {u"Titre"_s}});
 
     EXPECT_EQ(pictures.size(), 3u + 1 + 1 + 2);
 }

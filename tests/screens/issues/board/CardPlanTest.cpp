@@ -15,7 +15,7 @@ constexpr double oneLine = 18;
 CardContents contents()
 {
     CardContents card;
-    card.titleHeight = oneLine;
+    card.title = {u"Titre"_s};
     return card;
 }
 
@@ -38,7 +38,7 @@ TEST(CardPlan, TheThreePartsStandEightApartWithTwelveAround)
 TEST(CardPlan, EachLineOfTheSummaryMakesTheCardHigher)
 {
     auto card = contents();
-    card.titleHeight = 3 * oneLine;
+    card.title = {u"Un"_s, u"deux"_s, u"trois"_s};
 
     EXPECT_EQ(cardPlan(card, width).height, cardPlan(contents(), width).height + 2 * oneLine);
 }

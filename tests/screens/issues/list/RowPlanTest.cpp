@@ -1,7 +1,10 @@
 #include "screens/issues/list/RowPlan.h"
 
+#include "screens/issues/face/TextMeasure.h"
 #include "screens/issues/list/RowFit.h"
+#include "screens/issues/list/RowStyle.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -99,4 +102,21 @@ TEST(RowPlan, ANarrowRowDropsTheLabelNamesThenTheDueTextBeforeTheSummaryIsCutBel
     const auto narrowest = rowPlan(row, withDots - 1);
     EXPECT_FALSE(narrowest.showsDueText);
     EXPECT_GE(narrowest.summaryWidth, 170);
+}
+
+TEST(RowPlan, TheParentFollowsTheSummaryIfBothFit)
+{
+    auto row = contents();
+    row.summary = u"Connexion avec Apple"_s;
+    EXPECT_EQ(rowPlan(row, width).parent, RowPlan::absent);
+
+    row.parentSummary = u"Refonte de la page"_s;
+    const auto wide = rowPlan(row, width);
+    const double title = std::ceil(TextMeasure::width(row.summary, RowStyle::titleFont()));
+    EXPECT_EQ(wide.parent, wide.summary + title + 6);
+
+    const double parent = wide.parent - wide.summary + RowPlan::parentText() +
+                          TextMeasure::width(row.parentSummary, RowStyle::parentFont());
+    EXPECT_NE(rowPlan(row, width - std::floor(wide.summaryWidth - parent)).parent, RowPlan::absent);
+    EXPECT_EQ(rowPlan(row, width - std::ceil(wide.summaryWidth - parent)).parent, RowPlan::absent);
 }

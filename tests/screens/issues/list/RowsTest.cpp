@@ -1,4 +1,5 @@
 #include "app/WindowFixture.h"
+#include "screens/issues/DrawnText.h"
 #include "screens/issues/list/RowLine.h"
 #include "screens/issues/motion/GlideOffset.h"
 
@@ -51,11 +52,8 @@ protected:
     /// The row that shows this text as its due date.
     RowLine *rowDue(const QString &text)
     {
-        auto *seen = itemIn(window().contentItem(), [&](QQuickItem *item) {
-            return item->inherits("QQuickText") && item->isVisible() &&
-                   item->property("text").toString() == text;
-        });
-        return seen ? qobject_cast<RowLine *>(seen->parentItem()) : nullptr;
+        const auto seen = drawnText(window().contentItem(), text);
+        return seen ? qobject_cast<RowLine *>(seen->face) : nullptr;
     }
     RowLine *anyRow()
     {
@@ -65,10 +63,7 @@ protected:
     }
     bool showsParent()
     {
-        return itemIn(window().contentItem(), [](QQuickItem *item) {
-                   return QByteArray(item->metaObject()->className()).startsWith("RowParent") &&
-                          item->isVisible();
-               }) != nullptr;
+        return drawnText(window().contentItem(), u"Refonte de la page"_s).has_value();
     }
     template <typename Test>
     static QQuickItem *itemIn(QQuickItem *root, Test test)
@@ -140,13 +135,10 @@ TEST_F(Rows, InARecapAnIssueWithoutAnEventShowsItsRelativeDateInTheColumnOf54)
     openOnDemo();
     store().select(IssueScope::activity({ActivityRange::Week, 0, false}));
     const auto box = row(u"MOB-1"_s);
-    const auto *text = itemIn(window().contentItem(), [&](QQuickItem *item) {
-        return item->isVisible() && item->inherits("QQuickText") &&
-               item->property("text").toString() == u"1 j"_s;
-    });
+    const auto text = drawnText(window().contentItem(), u"1 j"_s);
     ASSERT_TRUE(text);
 
-    EXPECT_EQ(text->mapRectToScene(text->boundingRect()).right(), box.right() + 1 - 12);
+    EXPECT_EQ(text->box().right(), box.right() + 1 - 12);
     const auto assignee = await(QAccessible::Button, u"Assigné : personne"_s).box;
     EXPECT_EQ(assignee.right(), box.right() - 12 - 54 - 10);
 }
