@@ -108,7 +108,7 @@ public:
     std::optional<SharedIssue> issue(const QString &key) const;
     std::optional<Project> project(const QString &key) const;
     /// The last known list of each scope shown in this session.
-    const QHash<IssueScope, IssueList> &scopeCache() const { return m_scopeCache; }
+    const QHash<IssueScope, IndexedIssues> &scopeCache() const { return m_scopeCache; }
     /// Every user received so far, by id; kept across sessions.
     const QHash<QString, JiraUser> &knownUsers() const { return m_knownUsers; }
 
@@ -376,7 +376,7 @@ private:
     /// Attempts to open a session. Only the newest one is valid, until a session begins or ends.
     Newest m_openings;
     PendingWrites m_writes;
-    QHash<IssueScope, IssueList> m_scopeCache;
+    QHash<IssueScope, IndexedIssues> m_scopeCache;
     QHash<QString, JiraUser> m_knownUsers;
     Clock::TimerHandle m_refreshTimer;
     Clock::TimerHandle m_minuteTimer;

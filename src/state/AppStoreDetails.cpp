@@ -77,7 +77,7 @@ void AppStore::showJustCreated(const SharedIssue &issue)
         !belongsTo(*issue, *m_scope, *m_me))
         return;
     m_issues.set(IssueList{issue} + *m_issues);
-    m_scopeCache.insert(*m_scope, *m_issues);
+    m_scopeCache.insert(*m_scope, IndexedIssues(*m_issues));
 }
 
 void AppStore::takeDetailsFailure(const QString &key, const TaskFailure &failure)

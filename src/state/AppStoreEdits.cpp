@@ -152,18 +152,22 @@ void AppStore::mutate(const IssueChanges &changes)
     const Batch batch(*this);
     const IssueList shown = *m_issues;
     const auto rowOf = [this](const QString &key) { return derivation().rowOf(key); };
-    if (auto issues = changedInList(shown, changes, rowOf))
-        m_issues.set(*std::move(issues));
+    IssueList issues = shown;
+    if (applyChanges(issues, changes, rowOf))
+        m_issues.set(std::move(issues));
     if (auto details = changedInDetails(*m_details, changes))
         m_details.set(*std::move(details));
-    if (auto mine = changedInList(*m_myOpenIssues, changes))
-        m_myOpenIssues.set(*std::move(mine));
-    for (IssueList &list : m_scopeCache) {
+    if (m_myOpenIssues->hasAnyOf(changes)) {
+        IndexedIssues mine = *m_myOpenIssues;
+        mine.apply(changes);
+        m_myOpenIssues.set(std::move(mine));
+    }
+    for (IndexedIssues &remembered : m_scopeCache) {
         // The list of the present scope is usually the shown one itself.
-        if (list.isSharedWith(shown))
-            list = *m_issues;
-        else if (auto cached = changedInList(list, changes))
-            list = *std::move(cached);
+        if (remembered.list().isSharedWith(shown))
+            remembered = IndexedIssues(*m_issues);
+        else
+            remembered.apply(changes);
     }
 }
 

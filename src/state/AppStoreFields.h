@@ -8,6 +8,7 @@
 #include "state/Session.h"
 #include "state/Toast.h"
 #include "state/Uploads.h"
+#include "state/edits/IndexedIssues.h"
 
 #include <QObject>
 #include <QSet>
@@ -119,8 +120,8 @@ public:
     const UserMap &assignables() const { return *m_assignables; }
     const ProjectMap &projectDetails() const { return *m_projectDetails; }
     /// The user's open issues, the most urgent first.
-    const IssueList &myOpenIssues() const { return *m_myOpenIssues; }
-    int myOpenCount() const { return int(m_myOpenIssues->size()); }
+    const IssueList &myOpenIssues() const { return m_myOpenIssues->list(); }
+    int myOpenCount() const { return int(m_myOpenIssues->list().size()); }
 
     /// The number of files that are being uploaded, by issue; 0 once they are uploaded.
     const CountMap &uploading() const { return *m_uploading; }
@@ -235,7 +236,7 @@ protected:
     Field<StatusMap> m_projectStatuses{this, &This::projectStatusesChanged, List};
     Field<UserMap> m_assignables{this, &This::assignablesChanged, People};
     Field<ProjectMap> m_projectDetails{this, &This::projectDetailsChanged, List};
-    Field<IssueList> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
+    Field<IndexedIssues> m_myOpenIssues{this, &This::myOpenIssuesChanged, Sidebar};
     Field<CountMap> m_uploading{this, &This::uploadingChanged};
     Uploads m_uploads;
     Field<std::optional<QString>> m_focusedKey{this, &This::focusedKeyChanged, Marks};

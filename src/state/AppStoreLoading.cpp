@@ -34,7 +34,7 @@ void AppStore::select(const IssueScope &scope)
         return;
     const Batch batch(*this);
     m_scope.set(scope);
-    m_issues.set(m_scopeCache.value(scope));
+    m_issues.set(m_scopeCache.value(scope).list());
     m_focusedKey.set(std::nullopt);
     m_checked.set({});
     m_loadError.set(std::nullopt);
@@ -110,7 +110,7 @@ void AppStore::takeReloaded(const IssueScope &scope, const IssueList &answer,
     // Unchanged records stay the same objects, so that comparisons of the derived lists are fast.
     const IssueList issues = reusingRecords(fresh, *m_issues);
     m_issues.set(issues);
-    m_scopeCache.insert(scope, issues);
+    m_scopeCache.insert(scope, IndexedIssues(issues));
     (*m_session)->fetchedAt.insert(scope, m_context.clock.now());
     mergeIntoDetails();
     uncheckUnlisted();
@@ -193,8 +193,8 @@ QCoro::Task<> AppStore::reloadMyIssues()
     session->hasMyIssues = true;
     session->fetchedAt.insert(scope, m_context.clock.now());
     const IssueList mine = withJustCreated(current(*answer, reading), scope, reading);
-    m_scopeCache.insert(scope, mine);
-    m_myOpenIssues.set(openIssues(mine));
+    m_scopeCache.insert(scope, IndexedIssues(mine));
+    m_myOpenIssues.set(IndexedIssues(openIssues(mine)));
 }
 
 QCoro::Task<IssueList> AppStore::searchRemote(QString text, std::stop_token stop)
@@ -220,9 +220,8 @@ std::optional<SharedIssue> AppStore::issue(const QString &key) const
         return *opened;
     if (const auto row = derivation().rowOf(key))
         return (*m_issues)[*row];
-    const auto mine = std::ranges::find_if(
-        *m_myOpenIssues, [&key](const SharedIssue &issue) { return issue->key == key; });
-    return mine == m_myOpenIssues->end() ? std::nullopt : std::optional(*mine);
+    const auto mine = m_myOpenIssues->rowOf(key);
+    return mine ? std::optional(m_myOpenIssues->list()[*mine]) : std::nullopt;
 }
 
 std::optional<Project> AppStore::project(const QString &key) const

@@ -23,7 +23,7 @@ OptionInputs AppStore::optionInputs(const QStringList &keys) const
     return {.keys = keys,
             .targets = knownIssues(keys),
             .issues = *m_issues,
-            .myOpenIssues = *m_myOpenIssues,
+            .myOpenIssues = myOpenIssues(),
             .transitions = *m_transitions,
             .projectStatuses = *m_projectStatuses,
             .assignables = *m_assignables,

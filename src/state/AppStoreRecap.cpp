@@ -13,7 +13,7 @@ const StatusLookup &AppStore::statusLookup() const
     const Memo<StatusLookup>::Sources sources{m_projectStatuses.version(), m_issues.version(),
                                               m_myOpenIssues.version()};
     const auto compute = [this] {
-        return StatusLookup({*m_projectStatuses, *m_issues, *m_myOpenIssues});
+        return StatusLookup({*m_projectStatuses, *m_issues, myOpenIssues()});
     };
     return m_recap.statuses.refreshed(sources, compute).value;
 }

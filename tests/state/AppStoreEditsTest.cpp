@@ -125,7 +125,7 @@ TEST_F(AppStoreEditsTest, anEditAndItsRejectionGroupOnceEachAndShareAllOtherReco
 
     EXPECT_EQ(log.count(u"groups"_s), 2);
     EXPECT_TRUE(store->issues()[1].isSameObject(before[1]));
-    EXPECT_TRUE(store->scopeCache().value(store->scope())[1].isSameObject(before[1]));
+    EXPECT_TRUE(store->scopeCache().value(store->scope()).list()[1].isSameObject(before[1]));
     expectEverywhere(u"WEB-1"_s, &Issue::status, Issues[0]->status);
 }
 

@@ -214,8 +214,8 @@ QList<SharedIssue> AppStoreInterleavingTest::copies() const
     result += store->myOpenIssues();
     result += store->details().values();
     const auto cached = store->scopeCache();
-    for (const IssueList &list : cached)
-        result += list;
+    for (const IndexedIssues &remembered : cached)
+        result += remembered.list();
     return result;
 }
 

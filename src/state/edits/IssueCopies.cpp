@@ -9,48 +9,19 @@ std::optional<SharedIssue> changed(const SharedIssue &issue, const IssueChange &
     return SharedIssue(std::move(copy));
 }
 
-namespace {
-
-/// Comparing with the key of a single change costs less than hashing the key of every issue.
-IssueChanges::const_iterator changeOf(const QString &key, const IssueChanges &changes)
+bool applyChanges(IssueList &issues, const IssueChanges &changes,
+                  const std::function<std::optional<int>(const QString &)> &rowOf)
 {
-    if (changes.size() == 1)
-        return changes.cbegin().key() == key ? changes.cbegin() : changes.cend();
-    return changes.constFind(key);
-}
-
-} // namespace
-
-std::optional<IssueList> changedInList(const IssueList &issues, const IssueChanges &changes)
-{
-    std::optional<IssueList> result;
-    for (qsizetype row = 0; row < issues.size(); ++row) {
-        const auto change = changeOf(issues[row]->key, changes);
-        auto replacement = change == changes.cend() ? std::nullopt : changed(issues[row], *change);
-        if (!replacement)
-            continue;
-        if (!result)
-            result = issues;
-        (*result)[row] = *std::move(replacement);
-    }
-    return result;
-}
-
-std::optional<IssueList>
-changedInList(const IssueList &issues, const IssueChanges &changes,
-              const std::function<std::optional<int>(const QString &)> &rowOf)
-{
-    std::optional<IssueList> result;
+    bool isChanged = false;
     for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
         const auto row = rowOf(change.key());
-        auto replacement = row ? changed(issues[*row], *change) : std::nullopt;
+        auto replacement = row ? changed(std::as_const(issues)[*row], *change) : std::nullopt;
         if (!replacement)
             continue;
-        if (!result)
-            result = issues;
-        (*result)[*row] = *std::move(replacement);
+        issues[*row] = *std::move(replacement);
+        isChanged = true;
     }
-    return result;
+    return isChanged;
 }
 
 std::optional<QHash<QString, SharedIssue>>

@@ -22,11 +22,12 @@ IssueList shown(const IssueList &issues)
     return result;
 }
 
-QHash<IssueScope, IssueList> shown(QHash<IssueScope, IssueList> scopes)
+QHash<IssueScope, IssueList> shown(const QHash<IssueScope, IndexedIssues> &scopes)
 {
-    for (IssueList &issues : scopes)
-        issues = shown(issues);
-    return scopes;
+    QHash<IssueScope, IssueList> result;
+    for (auto scope = scopes.cbegin(); scope != scopes.cend(); ++scope)
+        result.insert(scope.key(), shown(scope->list()));
+    return result;
 }
 
 /// All data of the site that a session holds.

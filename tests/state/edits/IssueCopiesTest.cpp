@@ -1,5 +1,4 @@
-#include "state/edits/IssueCopies.h"
-
+#include "state/edits/IndexedIssues.h"
 #include "state/recap/ActivitySamples.h"
 
 #include <gtest/gtest.h>
@@ -22,63 +21,73 @@ IssueList threeIssues()
 
 } // namespace
 
-TEST(IssueCopies, AListSharesAllRecordsButTheChangedOne)
+TEST(IndexedIssues, SharesAllRecordsButTheChangedOne)
 {
     const IssueList before = threeIssues();
-    const auto after = changedInList(before, {{u"A-2"_s, retitle}});
-    ASSERT_TRUE(after);
-    ASSERT_EQ(after->size(), 3);
-    EXPECT_EQ(after->at(1)->summary, u"Autre");
-    EXPECT_TRUE(after->at(0).isSameObject(before[0]));
-    EXPECT_TRUE(after->at(2).isSameObject(before[2]));
+    IndexedIssues issues(before);
+    issues.apply({{u"A-2"_s, retitle}});
+    const IssueList &after = issues.list();
+    ASSERT_EQ(after.size(), 3);
+    EXPECT_EQ(after[1]->summary, u"Autre");
+    EXPECT_TRUE(after[0].isSameObject(before[0]));
+    EXPECT_TRUE(after[2].isSameObject(before[2]));
     EXPECT_EQ(before[1]->summary, u"Titre 2");
 }
 
-TEST(IssueCopies, EveryCopyOfAnIssueThatAListHoldsTwiceIsChanged)
+TEST(IndexedIssues, FindsTheRowsOfItsIssuesAlsoAfterChanges)
 {
-    IssueList before = threeIssues();
-    before.append(before[1]);
-    const auto after = changedInList(before, {{u"A-2"_s, retitle}});
-    ASSERT_TRUE(after);
-    EXPECT_EQ(after->at(1)->summary, u"Autre");
-    EXPECT_EQ(after->at(3)->summary, u"Autre");
+    IndexedIssues issues(threeIssues());
+    EXPECT_EQ(issues.rowOf(u"A-3"_s), 2);
+    issues.apply({{u"A-3"_s, retitle}});
+    EXPECT_EQ(issues.rowOf(u"A-3"_s), 2);
+    EXPECT_EQ(issues.rowOf(u"B-1"_s), std::nullopt);
+    EXPECT_EQ(IndexedIssues().rowOf(u"A-1"_s), std::nullopt);
 }
 
-TEST(IssueCopies, AListWhoseRowsAreKnownIsChangedAtThese)
+TEST(IndexedIssues, KnowsWhetherChangesAreForItsIssues)
 {
-    const IssueList before = threeIssues();
-    const auto rowOf = [](const QString &key) {
-        return key == u"A-3"_s ? std::optional(2) : std::nullopt;
-    };
-    const auto after = changedInList(before, {{u"A-3"_s, retitle}, {u"B-1"_s, retitle}}, rowOf);
-    EXPECT_EQ(after, changedInList(before, {{u"A-3"_s, retitle}}));
-    EXPECT_NE(after, std::nullopt);
-    EXPECT_EQ(changedInList(before, {{u"A-3"_s, leave}}, rowOf), std::nullopt);
+    const IndexedIssues issues(threeIssues());
+    EXPECT_TRUE(issues.hasAnyOf({{u"B-1"_s, retitle}, {u"A-1"_s, retitle}}));
+    EXPECT_FALSE(issues.hasAnyOf({{u"B-1"_s, retitle}}));
+    EXPECT_FALSE(issues.hasAnyOf({}));
+}
+
+TEST(IndexedIssues, ACopyIsChangedAlone)
+{
+    IndexedIssues issues(threeIssues());
+    EXPECT_EQ(issues.rowOf(u"A-1"_s), 0);
+    const IndexedIssues copy = issues;
+    issues.apply({{u"A-1"_s, retitle}});
+    EXPECT_NE(issues, copy);
+    EXPECT_EQ(copy.list()[0]->summary, u"Titre 1");
 }
 
 TEST(IssueCopies, AKeyThatIsNowhereIsNoError)
 {
-    EXPECT_EQ(changedInList(threeIssues(), {{u"B-1"_s, retitle}}), std::nullopt);
-    EXPECT_EQ(changedInList({}, {{u"B-1"_s, retitle}}), std::nullopt);
+    IndexedIssues issues(threeIssues());
+    issues.apply({{u"B-1"_s, retitle}});
+    EXPECT_EQ(issues.list(), threeIssues());
     EXPECT_EQ(changedInDetails({}, {{u"B-1"_s, retitle}}), std::nullopt);
 }
 
 TEST(IssueCopies, AChangeThatChangesNothingGivesNothingToNotify)
 {
-    EXPECT_EQ(changedInList(threeIssues(), {{u"A-2"_s, leave}}), std::nullopt);
+    const IssueList before = threeIssues();
+    IndexedIssues issues(before);
+    issues.apply({{u"A-2"_s, leave}});
+    EXPECT_TRUE(issues.list().isSharedWith(before));
     EXPECT_EQ(changedInDetails({{u"A-2"_s, Sample::issue(u"A-2"_s)}}, {{u"A-2"_s, leave}}),
               std::nullopt);
 }
 
-TEST(IssueCopies, ChangesSeveralIssuesOfAList)
+TEST(IndexedIssues, ChangesSeveralIssues)
 {
     const IssueList before = threeIssues();
-    const auto after =
-        changedInList(before, {{u"A-1"_s, retitle}, {u"A-2"_s, leave}, {u"A-3"_s, retitle}});
-    ASSERT_TRUE(after);
-    EXPECT_EQ(after->at(0)->summary, u"Autre");
-    EXPECT_TRUE(after->at(1).isSameObject(before[1]));
-    EXPECT_EQ(after->at(2)->summary, u"Autre");
+    IndexedIssues issues(before);
+    issues.apply({{u"A-1"_s, retitle}, {u"A-2"_s, leave}, {u"A-3"_s, retitle}});
+    EXPECT_EQ(issues.list()[0]->summary, u"Autre");
+    EXPECT_TRUE(issues.list()[1].isSameObject(before[1]));
+    EXPECT_EQ(issues.list()[2]->summary, u"Autre");
 }
 
 TEST(IssueCopies, ChangesTheDetails)
