@@ -10,7 +10,6 @@ using namespace IssueIcons;
 
 CardFace::CardFace(QQuickItem *parent) : IssueFace(parent)
 {
-    connect(this, &CardFace::edgeChanged, this, &CardFace::update);
     connect(this, &CardFace::menuChanged, this, &CardFace::followLift);
     connect(this, &CardFace::hoverChanged, this, &CardFace::followLift);
 }
@@ -56,7 +55,7 @@ HotSpot CardFace::spotAt(double x, double y) const
 
 void CardFace::followLift()
 {
-    const double target = isHovered() || m_hasMenu ? 1 : 0;
+    const double target = isHovered() || hasMenu() ? 1 : 0;
     if (!m_rise) {
         // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): this owns it, as its parent
         m_rise = new QVariantAnimation(this);
@@ -75,9 +74,9 @@ void CardFace::followLift()
 
 CardGround CardFace::ground() const
 {
-    if (m_isChecked || m_isOpen)
+    if (isChecked() || isOpen())
         return {.fill = m_style->fill, .edge = m_style->strongEdge, .edgeWidth = 1.5};
-    return {.fill = m_style->fill, .edge = m_isFocused ? m_style->focusEdge : m_style->restEdge};
+    return {.fill = m_style->fill, .edge = isFocused() ? m_style->focusEdge : m_style->restEdge};
 }
 
 QSGNode *CardFace::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)

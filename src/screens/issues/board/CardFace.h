@@ -14,11 +14,6 @@ class CardFace : public IssueFace
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(CardStyle *style READ style WRITE setStyle NOTIFY styleChanged REQUIRED FINAL)
-    Q_PROPERTY(bool isFocused MEMBER m_isFocused NOTIFY edgeChanged REQUIRED FINAL)
-    Q_PROPERTY(bool isChecked MEMBER m_isChecked NOTIFY edgeChanged REQUIRED FINAL)
-    Q_PROPERTY(bool isOpen MEMBER m_isOpen NOTIFY edgeChanged REQUIRED FINAL)
-    /// The menu of the card is open. The card then looks as if it were under the pointer, which is above the menu.
-    Q_PROPERTY(bool hasMenu MEMBER m_hasMenu NOTIFY menuChanged FINAL)
     /// The cells whose values can be changed by a click.
     Q_PROPERTY(QRectF priorityCell READ priorityCell NOTIFY planned FINAL)
     Q_PROPERTY(QRectF assigneeCell READ assigneeCell NOTIFY planned FINAL)
@@ -33,10 +28,6 @@ public:
 
     Q_INVOKABLE HotSpot spotAt(double x, double y) const override;
 
-Q_SIGNALS:
-    void edgeChanged();
-    void menuChanged();
-
 protected:
     void makePlan() override;
     QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override;
@@ -46,10 +37,6 @@ private:
     CardGround ground() const;
 
     QPointer<CardStyle> m_style;
-    bool m_isFocused = false;
-    bool m_isChecked = false;
-    bool m_isOpen = false;
-    bool m_hasMenu = false;
     CardPlan m_plan;
     /// The elevation of the card, from 0 (at rest) to 1 (raised).
     double m_lift = 0;

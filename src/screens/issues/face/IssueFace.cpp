@@ -11,6 +11,7 @@ IssueFace::IssueFace(QQuickItem *parent) : PressArea(parent)
     setFlag(ItemHasContents);
     connect(this, &IssueFace::pressedChanged, this, &IssueFace::showPress);
     connect(this, &IssueFace::contentChanged, this, &IssueFace::planLater);
+    connect(this, &IssueFace::marksChanged, this, &IssueFace::update);
 }
 
 void IssueFace::setIssue(const Issue &issue)

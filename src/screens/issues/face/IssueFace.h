@@ -23,6 +23,11 @@ class IssueFace : public PressArea
     Q_PROPERTY(QString dueText MEMBER m_dueText NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(QString dueTooltip MEMBER m_dueTooltip NOTIFY contentChanged REQUIRED FINAL)
     Q_PROPERTY(bool isOverdue MEMBER m_isOverdue NOTIFY contentChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isFocused MEMBER m_isFocused NOTIFY marksChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isChecked MEMBER m_isChecked NOTIFY marksChanged REQUIRED FINAL)
+    Q_PROPERTY(bool isOpen MEMBER m_isOpen NOTIFY marksChanged REQUIRED FINAL)
+    /// The menu of the issue is open. The item then looks as if it were under the pointer, which is above the menu.
+    Q_PROPERTY(bool hasMenu MEMBER m_hasMenu NOTIFY menuChanged FINAL)
     /// The hot spot under the pointer.
     Q_PROPERTY(HotSpot hotSpot READ hotSpot NOTIFY hotSpotChanged FINAL)
     /// The hot spot takes clicks and is pressed.
@@ -43,6 +48,8 @@ Q_SIGNALS:
     void issueChanged();
     void styleChanged();
     void contentChanged();
+    void marksChanged();
+    void menuChanged();
     void planned();
     void hotSpotChanged();
     void spotPressedChanged();
@@ -66,6 +73,10 @@ protected:
     const QString &dueText() const { return m_dueText; }
     const QString &dueTooltip() const { return m_dueTooltip; }
     bool isOverdue() const { return m_isOverdue; }
+    bool isFocused() const { return m_isFocused; }
+    bool isChecked() const { return m_isChecked; }
+    bool isOpen() const { return m_isOpen; }
+    bool hasMenu() const { return m_hasMenu; }
     /// The assignee's name, or the text for no assignee.
     QString assigneeHint() const;
     /// The assignee's photograph, if it is available.
@@ -91,6 +102,10 @@ private:
     QString m_dueText;
     QString m_dueTooltip;
     bool m_isOverdue = false;
+    bool m_isFocused = false;
+    bool m_isChecked = false;
+    bool m_isOpen = false;
+    bool m_hasMenu = false;
     bool m_isSpotPressed = false;
     /// The position of the pointer while it is over this item or presses it.
     QPointF m_pointer;

@@ -21,7 +21,20 @@ namespace IssueIcons {
 
 namespace {
 
-enum Kind { Priority, Status, Type, Dot, Nobody, Initials, Person, CellFill, CellEdge, Chevron };
+enum Kind {
+    Priority,
+    Status,
+    Type,
+    Dot,
+    Nobody,
+    Initials,
+    Person,
+    CellFill,
+    CellEdge,
+    Chevron,
+    RowFill,
+    FocusBar
+};
 
 constexpr double typeFont = 11;
 /// The radii of a cell's fill and of the outline of a card's cell.
@@ -34,6 +47,16 @@ void strokeRounded(QPainter &painter, QSizeF size, double radius, const QColor &
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(QPointF(), size).adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5,
                             radius - 0.5);
+}
+
+PlacedPicture filled(Kind kind, QSizeF size, double radius, const QColor &color)
+{
+    const auto paint = [=](QPainter &painter) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRoundedRect(QRectF(QPointF(), size), radius, radius);
+    };
+    return {{.kind = kind, .color = color, .size = size}, paint, {}};
 }
 
 PlacedPicture initials(const JiraUser &user)
@@ -153,14 +176,20 @@ PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face)
     return face.isNull() ? initials(*user) : person(*user, face);
 }
 
+PlacedPicture rowFill(const QColor &color)
+{
+    constexpr double side = 2 * Metrics::radiusRow + 1;
+    return filled(RowFill, {side, side}, Metrics::radiusRow, color);
+}
+
+PlacedPicture focusBar(double height, const QColor &color)
+{
+    return filled(FocusBar, {Metrics::focusBarWidth, height}, Metrics::focusBarWidth / 2.0, color);
+}
+
 PlacedPicture cellFill(QSizeF size, const QColor &color)
 {
-    const auto paint = [=](QPainter &painter) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(color);
-        painter.drawRoundedRect(QRectF(QPointF(), size), fillRadius, fillRadius);
-    };
-    return {{.kind = CellFill, .color = color, .size = size}, paint, {}};
+    return filled(CellFill, size, fillRadius, color);
 }
 
 PlacedPicture cellEdge(QSizeF size, const QColor &color)

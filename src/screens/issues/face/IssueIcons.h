@@ -38,6 +38,10 @@ PlacedPicture dot(const QString &label);
 PlacedPicture due(double width, bool isOverdue, const IssueStyle &style);
 /// The person's photograph if `face` is not null, otherwise the initials, or the sign for no assignee without a person.
 PlacedPicture assignee(const std::optional<JiraUser> &user, const QImage &face);
+/// The smallest background of a row, which is stretched to the row.
+PlacedPicture rowFill(const QColor &color);
+/// The mark at the left edge of a focused row.
+PlacedPicture focusBar(double height, const QColor &color);
 /// The background of a cell under the pointer.
 PlacedPicture cellFill(QSizeF size, const QColor &color);
 PlacedPicture cellEdge(QSizeF size, const QColor &color);

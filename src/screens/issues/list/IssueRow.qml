@@ -6,21 +6,16 @@ import Velmora.Kit
 import Velmora.State
 import Velmora.Theme
 
-// One issue of the list. The base class draws its texts and icons. Parts that few rows have are created on demand.
+// One issue of the list. The base class draws it. Parts that few rows have are created on demand.
 RowLine {
     id: root
 
-    required property bool isFocused
-    required property bool isChecked
-    required property bool isOpen
     required property string accessibleName
     required property issueListBadge badge
     // At least one issue is checked, so every check box is shown.
     required property bool isSelecting
     // The list has the keyboard focus, so screen readers announce the focused row.
     property bool hasKeyboard: false
-    // The menu of the row is open. The row then looks as if it were under the pointer, which is above the menu.
-    property bool hasMenu: false
     readonly property real cellTop: Math.ceil(height / 2) - Metrics.rowPicker / 2
     // The check box can be clicked before it is visible. Its mark exists only while it is visible or fades out.
     readonly property bool isCheckShown: isChecked || isSelecting || isHovered || hasMenu
@@ -37,18 +32,6 @@ RowLine {
     Accessible.selectable: true
     Accessible.selected: root.isChecked
     Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
-
-    When {
-        shown: root.isChecked || root.isOpen || root.isFocused || root.isHovered || root.hasMenu
-
-        RowHighlight {
-            z: -1
-            width: root.width
-            height: root.height
-            isFocused: root.isFocused
-            fill: root.isChecked ? Theme.checkedFill : root.isOpen ? Theme.openFill : Theme.hoverFill
-        }
-    }
 
     When {
         shown: root.isCheckDrawn
@@ -70,7 +53,6 @@ RowLine {
         RowCells {
             row: root
             cellTop: root.cellTop
-            isChecked: root.isChecked
         }
     }
 

@@ -10,7 +10,6 @@ Item {
 
     required property RowLine row
     required property real cellTop
-    required property bool isChecked
 
     RowCell {
         x: root.row.plan.check - (width - Metrics.checkBox) / 2
@@ -19,7 +18,7 @@ Item {
         onPressed: root.row.checkToggled()
         Accessible.role: Accessible.CheckBox
         Accessible.checkable: true
-        Accessible.checked: root.isChecked
+        Accessible.checked: root.row.isChecked
         Accessible.onToggleAction: pressed()
     }
 

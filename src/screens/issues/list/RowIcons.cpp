@@ -43,8 +43,12 @@ void addDots(std::vector<PlacedPicture> &pictures, const RowIconsInput &row)
 
 std::vector<PlacedPicture> rowIcons(const RowIconsInput &row)
 {
-    const auto &[issue, plan, style, isOverdue, person, height, hotSpot, isPressed] = row;
+    const auto &[issue, plan, style, isOverdue, person, height, isFocused, hotSpot, isPressed] =
+        row;
     std::vector<PlacedPicture> pictures;
+    if (isFocused)
+        pictures.push_back(focusBar(height - 2 * Metrics::focusBarInset, style.focusBar)
+                               .at({0, Metrics::focusBarInset}));
     if (hotSpot.isCell())
         pictures.push_back(
             cellFill(hotSpot.box.size(), isPressed ? style.cellPressed : style.cellFill)

@@ -18,6 +18,7 @@ struct RowIconsInput
     QImage person;
     /// The height of the row, in logical pixels.
     double height = 0;
+    bool isFocused = false;
     /// The hot spot under the pointer.
     HotSpot hotSpot;
     /// The hot spot is pressed.

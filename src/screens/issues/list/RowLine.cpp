@@ -1,9 +1,9 @@
 #include "screens/issues/list/RowLine.h"
 
 #include "commands/ShortcutHints.h"
-#include "screens/issues/face/FaceNode.h"
 #include "screens/issues/list/RowCaptions.h"
 #include "screens/issues/list/RowIcons.h"
+#include "screens/issues/list/RowNode.h"
 
 namespace {
 
@@ -12,6 +12,12 @@ constexpr double checkOutset = (Metrics::rowPicker - Metrics::checkBox) / 2.0;
 constexpr double typeWidth = Metrics::rowType;
 
 } // namespace
+
+RowLine::RowLine(QQuickItem *parent) : IssueFace(parent)
+{
+    connect(this, &RowLine::menuChanged, this, &RowLine::update);
+    connect(this, &RowLine::hoverChanged, this, &RowLine::update);
+}
 
 void RowLine::setStyle(RowStyle *style)
 {
@@ -63,21 +69,32 @@ HotSpot RowLine::spotAt(double x, double y) const
     return {};
 }
 
+QColor RowLine::fill() const
+{
+    if (isChecked())
+        return m_style->checkedFill;
+    if (isOpen())
+        return m_style->openFill;
+    return isFocused() || isHovered() || hasMenu() ? m_style->hoverFill : QColor(Qt::transparent);
+}
+
 QSGNode *RowLine::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
     if (!m_style)
         return old;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the item's node, which the scene graph owns
-    auto *node = old ? static_cast<FaceNode *>(old) : new FaceNode(*this);
-    node->show(window(),
-               rowIcons({.issue = issue(),
-                         .plan = m_plan,
-                         .style = *m_style,
-                         .isOverdue = isOverdue(),
-                         .person = assigneeFace(),
-                         .height = height(),
-                         .hotSpot = hotSpot(),
-                         .isPressed = isSpotPressed()}),
-               captions());
+    auto *node = old ? static_cast<RowNode *>(old) : new RowNode(*this);
+    node->showFill(window(), size(), fill());
+    node->showFace(window(),
+                   rowIcons({.issue = issue(),
+                             .plan = m_plan,
+                             .style = *m_style,
+                             .isOverdue = isOverdue(),
+                             .person = assigneeFace(),
+                             .height = height(),
+                             .isFocused = isFocused(),
+                             .hotSpot = hotSpot(),
+                             .isPressed = isSpotPressed()}),
+                   captions());
     return node;
 }

@@ -17,7 +17,7 @@ class RowLine : public IssueFace
     Q_PROPERTY(bool showsEvent MEMBER m_showsEvent NOTIFY contentChanged FINAL)
 
 public:
-    explicit RowLine(QQuickItem *parent = nullptr) : IssueFace(parent) {}
+    explicit RowLine(QQuickItem *parent = nullptr);
 
     RowStyle *style() const { return m_style; }
     void setStyle(RowStyle *style);
@@ -30,6 +30,8 @@ protected:
     QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *data) override;
 
 private:
+    QColor fill() const;
+
     QPointer<RowStyle> m_style;
     QString m_updatedText;
     bool m_showsEvent = false;

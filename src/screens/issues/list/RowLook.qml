@@ -10,6 +10,10 @@ RowStyle {
     faint: Theme.neutral
     quiet: Theme.text2
     parentInk: Theme.text3
+    hoverFill: Theme.hoverFill
+    openFill: Theme.openFill
+    checkedFill: Theme.checkedFill
+    focusBar: Theme.accent
     done: Theme.done
     outline: Theme.chipOutline
     late: Theme.redText

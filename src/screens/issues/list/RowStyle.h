@@ -11,6 +11,12 @@ class RowStyle : public IssueStyle
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(DisplayProperties display MEMBER display NOTIFY changed FINAL)
+    /// The backgrounds of a row that is focused or under the pointer, of the open one, and of a checked one.
+    Q_PROPERTY(QColor hoverFill MEMBER hoverFill NOTIFY changed FINAL)
+    Q_PROPERTY(QColor openFill MEMBER openFill NOTIFY changed FINAL)
+    Q_PROPERTY(QColor checkedFill MEMBER checkedFill NOTIFY changed FINAL)
+    /// The mark at the left edge of the focused row.
+    Q_PROPERTY(QColor focusBar MEMBER focusBar NOTIFY changed FINAL)
     /// The width of the key column, in logical pixels.
     Q_PROPERTY(int keyWidth MEMBER keyWidth NOTIFY changed FINAL)
     /// The width of the last column, with the date or the latest event, in logical pixels.
@@ -26,6 +32,10 @@ public:
     static QFont parentFont() { return TypeScale().font(TypeScale::Small); }
 
     QColor parentInk;
+    QColor hoverFill;
+    QColor openFill;
+    QColor checkedFill;
+    QColor focusBar;
     DisplayProperties display;
     int keyWidth = 0;
     int updatedWidth = Metrics::rowDate;
