@@ -13,23 +13,46 @@ from support import Velmora, write_preferences  # noqa: E402
 
 # What follows the last key: animations, hints, preferences that are written with a delay.
 SETTLING = 3
-STATES = (("list", ()), ("issue beside the list", ("j", "Return")), ("board", ("2",)),
-          ("palette, with its text cursor", ("ctrl+k",)), ("list again", ("Escape", "1")))
+
+
+def press(*keys):
+    return lambda velmora: velmora.session.key(*keys)
+
+
+def minimise(velmora):
+    velmora.session.xdotool("windowminimize", "--sync", str(velmora.app.window("Velmora").id))
+    velmora.app.wait_no_window("Velmora")
+
+
+def restore(velmora):
+    velmora.session.tray().choose("^Ouvrir Velmora$")
+    velmora.app.wait_window("Velmora")
+
+
+def hide(velmora):
+    """Closes the window. The program stays, because it has a status item."""
+    restore(velmora)
+    velmora.app.close_window("Velmora")
+    velmora.app.wait_no_window("Velmora")
+
+
+STATES = (("list", press()), ("issue beside the list", press("j", "Return")), ("board", press("2")),
+          ("palette, with its text cursor", press("ctrl+k")), ("list again", press("Escape", "1")),
+          ("minimised", minimise), ("hidden, with a status item", hide))
 
 
 def main():
     program, seconds = os.path.abspath(sys.argv[1]), float(sys.argv[2]) if len(sys.argv) > 2 else 20
-    with Session(size=(1400, 900)) as session:
+    with Session(size=(1400, 900), tray=True) as session:
         write_preferences(session, demoMode="true", appearance="light")
         velmora = Velmora(session, program, (1320, 840))
         velmora.app.find(role="list item", name="^MOB-101, ", timeout=60)
         print("Nobody types, for %d s each: wake-ups per second of all threads, share of a processor" % seconds)
-        for name, keys in STATES:
-            for key in keys:
-                session.key(key)
+        for name, reach in STATES:
+            reach(velmora)
             time.sleep(SETTLING)
             idle = velmora.app.idle(seconds)
-            print("  %-30s %6.2f %6.2f %%" % (name, idle["wakeups_per_s"], idle["cpu_percent"]))
+            print("  %-30s %6.2f %6.2f %%" % (name, idle["wakeups_per_s"], idle["cpu_percent"]), flush=True)
 
 
 main()
