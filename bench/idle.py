@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Leaves Velmora alone on the demo, and prints how often its threads wake up and the processor time that they use.
 
     idle.py <the program velmora> [seconds]
