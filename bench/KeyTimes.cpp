@@ -8,6 +8,26 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Null if there is none at or below the item.
+QQuickItem *editorBelow(QQuickItem *root, const QString &name)
+{
+    if (!root->isVisible())
+        return nullptr;
+    if (root->property("name").toString() == name) {
+        if (auto *editor = itemOf(root, "QQuickTextEdit"))
+            return editor;
+    }
+    for (auto *child : root->childItems()) {
+        if (auto *found = editorBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 int presses()
 {
     const auto given = QCoreApplication::arguments().value(1).toInt();
@@ -50,4 +70,12 @@ QQuickItem *itemOf(QQuickItem *root, const char *kind)
             return found;
     }
     return nullptr;
+}
+
+QQuickItem *editor(QQuickWindow &window, const QString &name)
+{
+    auto *found = editorBelow(window.contentItem(), name);
+    if (found == nullptr)
+        qFatal("There is no editor named %s.", qPrintable(name));
+    return found;
 }

@@ -20,3 +20,6 @@ void measureEmptyWindow(std::optional<FrameTable> &table, int presses);
 
 /// The first item below another one that inherits a class; null if there is none.
 QQuickItem *itemOf(QQuickItem *root, const char *kind);
+
+/// The visible text editor of a window with an accessible name such as "Titre". Ends the program if there is none.
+QQuickItem *editor(QQuickWindow &window, const QString &name);

@@ -111,30 +111,6 @@ std::shared_ptr<ScriptedService> siteWithTexts(const QString &folder)
     return site;
 }
 
-/// The visible editor with an accessible name such as "Titre".
-QQuickItem *editorNamed(QQuickItem *root, const QString &name)
-{
-    if (!root->isVisible())
-        return nullptr;
-    if (root->property("name").toString() == name) {
-        if (auto *editor = itemOf(root, "QQuickTextEdit"))
-            return editor;
-    }
-    for (auto *child : root->childItems()) {
-        if (auto *found = editorNamed(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-QQuickItem *editor(QQuickWindow &window, const QString &name)
-{
-    auto *found = editorNamed(window.contentItem(), name);
-    if (found == nullptr)
-        qFatal("There is no editor named %s.", qPrintable(name));
-    return found;
-}
-
 /// The object of a class that belongs to an item at or below another one.
 QObject *partOf(QQuickItem *root, const char *kind)
 {

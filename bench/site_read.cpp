@@ -161,7 +161,8 @@ struct Side
     }
 };
 
-void compare(LongestStep &application, const char *what, const QUrl &site, int runs)
+void compare(LongestStep<QCoreApplication> &application, const char *what, const QUrl &site,
+             int runs)
 {
     SystemClock clock;
     const auto calendar = SystemCalendar::ofThisSystem();
@@ -203,7 +204,7 @@ int serve()
 
 int main(int argc, char **argv)
 {
-    LongestStep application(argc, argv);
+    LongestStep<QCoreApplication> application(argc, argv);
     if (application.arguments().contains(u"--site"_s))
         return serve();
     const SiteProcess site(QCoreApplication::applicationFilePath());

@@ -4,7 +4,7 @@ the same run.
 
     table.py <folder of the build> [part ...]
 
-The parts are texts, reads, starts, keys, idle and day; all of them without an argument. `bench/run build/bench table`
+The parts are texts, reads, starts, keys, recap, idle and day; all of them without an argument. `bench/run build/bench table`
 builds the programs first.
 """
 import datetime
@@ -109,6 +109,13 @@ def add_keys(table, build):
         add_frames(table, renderer, [*issue_screen, "typing"], "a letter in ", [("p99", "1.5")])
 
 
+def add_recap(table, build):
+    output = output_of([build + "/bench/recap_refresh"], "software", display=True)
+    middle, worst, ratio = figures(output, "a letter while 400 issues arrive", NUMBER * 4)[1:]
+    table.add("longest event: a letter while 400 issues arrive", "the letter alone",
+              "p50 %.1f ms, worst %.1f ms, %s" % (middle, worst, times(ratio)), "")
+
+
 def add_idle(table, build):
     output = output_of([HERE + "/idle.py", build + "/src/app/velmora"])
     for state in ("list", "minimised", "hidden, with a status item"):
@@ -124,8 +131,8 @@ def add_day(table, build):
               measured % (heap, resident, timers, descriptors), "< 2 %, none left")
 
 
-PARTS = {"texts": add_texts, "reads": add_reads, "starts": add_starts, "keys": add_keys, "idle": add_idle,
-         "day": add_day}
+PARTS = {"texts": add_texts, "reads": add_reads, "starts": add_starts, "keys": add_keys, "recap": add_recap,
+         "idle": add_idle, "day": add_day}
 
 
 def main():
