@@ -49,17 +49,17 @@ protected:
         WindowFixture::openOnDemo();
     }
 
-    /// Opens the sheet with its key and waits until its title has the focus.
     void openSheet()
     {
         press(Qt::Key_C);
         awaitSheet();
     }
+    /// Waits until the title has the focus and can be read: for a reader it is invisible until the fade has begun.
     void awaitSheet()
     {
         EXPECT_TRUE(QTest::qWaitFor([this] { return focusedName() == u"Titre du ticket"_s; }))
             << focusedName().toStdString();
-        settle();
+        await(QAccessible::EditableText, u"Titre du ticket"_s);
     }
     bool closes() { return isGone(QAccessible::EditableText, u"Titre du ticket"_s); }
     QString focusedName()
