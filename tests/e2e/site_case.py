@@ -3,9 +3,22 @@ import base64
 import json
 import os
 import re
+import socket
+import urllib.parse
 import urllib.request
 
 from support import ISSUE, RUN, WindowCase
+
+
+def held(port):
+    """A socket that keeps a port without listening on it. A site of another test that runs at the same time could
+    otherwise get the port, and answer in place of the one that was cut."""
+    taken = socket.socket()
+    # Connections of the site that are closing do not prevent it; afterwards nobody shares the port.
+    taken.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+    taken.bind(("127.0.0.1", port))
+    taken.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 0)
+    return taken
 
 
 class Simulator:
@@ -14,6 +27,7 @@ class Simulator:
     def __init__(self, session):
         build = os.path.dirname(os.path.dirname(os.path.dirname(RUN.program)))
         program = os.path.join(build, "tests", "simulator", "simulator")
+        self._held = []
         self._app = session.launch([program, "--any-port"], name="simulator")
         self._app.wait_log("Ctrl\\+C")
         said = self._app.log()
@@ -38,6 +52,16 @@ class Simulator:
         self._app.resume()
 
     def cut(self):
+        """Refuses every connection from now on."""
+        self._stop()
+        self._held = [held(urllib.parse.urlsplit(site).port) for site in (self.address, self.data_center)]
+
+    def end(self):
+        self._stop()
+        for port in self._held:
+            port.close()
+
+    def _stop(self):
         self._app.resume()
         self._app.stop()
 
@@ -49,7 +73,7 @@ class SiteCase(WindowCase):
         super().setUp()
         self.session.start_keyring()
         self.site = Simulator(self.session)
-        self.addCleanup(self.site.cut)
+        self.addCleanup(self.site.end)
 
     # actions of the user
     def open_card(self):

@@ -66,7 +66,7 @@ class Absent(WindowCase):
 
     def sign_in(self):
         site = Simulator(self.session)
-        self.addCleanup(site.cut)
+        self.addCleanup(site.end)
         velmora = self.open()
         velmora.app.find(role="push button", name="^Se connecter$", timeout=15)
         for number, text in enumerate((site.address, site.email, site.token)):
