@@ -32,7 +32,7 @@ QList<ADFMark> keptMarks(const ADFNode &text)
         const auto href = mark.attrs.value_or(ADFAttributes()).value(u"href"_s).string();
         if (mark.type != u"link" || !href)
             continue;
-        const QString target = LinkTarget::absoluteString(href->toUtf8());
+        const QString target = LinkTarget::absoluteString(*href);
         if (!target.isEmpty())
             kept.append({u"link"_s, ADFAttributes{{u"href"_s, target}}});
         break;

@@ -14,6 +14,7 @@
 namespace {
 
 using Markdown::LineArena;
+using Markdown::LineGuard;
 
 cmark_syntax_extension *strikethrough()
 {
@@ -25,13 +26,15 @@ cmark_syntax_extension *strikethrough()
 }
 
 /// The document, which is freed with the arena.
-cmark_node *parsed(const LineArena &arena, const QByteArray &text)
+cmark_node *parsed(const LineArena &arena, const LineGuard &line)
 {
     // A single "~" is no markup.
     cmark_parser *const parser =
         cmark_parser_new_with_mem(CMARK_OPT_STRIKETHROUGH_DOUBLE_TILDE, arena.functions());
     cmark_parser_attach_syntax_extension(parser, strikethrough());
-    cmark_parser_feed(parser, text.constData(), std::size_t(text.size()));
+    for (const QByteArrayView part :
+         {LineGuard::edgeUTF8, QByteArrayView(line.encoded()), LineGuard::edgeUTF8})
+        cmark_parser_feed(parser, part.constData(), std::size_t(part.size()));
     return cmark_parser_finish(parser);
 }
 
@@ -69,7 +72,7 @@ QList<Markdown::InlineRun> Markdown::inlineRuns(QStringView line)
     static QMutex mutex;
     const QMutexLocker locker(&mutex);
     const LineArena arena;
-    cmark_iter *const nodes = cmark_iter_new(parsed(arena, guard->encoded()));
+    cmark_iter *const nodes = cmark_iter_new(parsed(arena, *guard));
     RunCollector runs(*guard);
     for (auto event = cmark_iter_next(nodes); event != CMARK_EVENT_DONE;
          event = cmark_iter_next(nodes)) {

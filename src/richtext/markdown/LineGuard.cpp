@@ -35,18 +35,15 @@ std::optional<Markdown::LineGuard> Markdown::LineGuard::of(QStringView line)
 {
     if (isSlow(line))
         return std::nullopt;
-    QString text;
-    text.reserve(line.size() + 2);
-    text.append(edge).append(line).append(edge);
     LineGuard guard;
-    if (text.contains(u'\r')) {
-        guard.m_carriageReturn = absentSpace(line);
-        if (guard.m_carriageReturn.isNull())
-            return std::nullopt;
-        text.replace(u'\r', guard.m_carriageReturn);
+    if (!line.contains(u'\r')) {
+        guard.m_encoded = validUTF8(line);
+        return guard;
     }
-    text.replace(QChar(), QChar(QChar::ReplacementCharacter));
-    guard.m_encoded = validUTF8(text);
+    guard.m_carriageReturn = absentSpace(line);
+    if (guard.m_carriageReturn.isNull())
+        return std::nullopt;
+    guard.m_encoded = validUTF8(line.toString().replace(u'\r', guard.m_carriageReturn));
     return guard;
 }
 

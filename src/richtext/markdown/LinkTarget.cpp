@@ -25,12 +25,14 @@ bool isEscape(QByteArrayView text)
 
 } // namespace
 
-QString LinkTarget::absoluteString(const QByteArray &utf8)
+QString LinkTarget::absoluteString(const QString &target)
 {
-    const bool isURL =
-        std::ranges::all_of(utf8, [](char byte) { return urlCharacters[uchar(byte)]; });
+    const bool isURL = std::ranges::all_of(target, [](QChar character) {
+        return character.unicode() < urlCharacters.size() && urlCharacters[character.unicode()];
+    });
     if (isURL)
-        return QString::fromLatin1(utf8);
+        return target;
+    const QByteArray utf8 = target.toUtf8();
     QByteArray url;
     for (qsizetype i = 0; i < utf8.size(); ++i) {
         if (urlCharacters[uchar(utf8[i])] || isEscape(QByteArrayView(utf8).sliced(i)))

@@ -8,6 +8,6 @@ namespace LinkTarget {
 
 /// The target as typed, with characters that a URL must not contain percent-encoded; valid escapes such as "%20" are
 /// kept. Empty for an empty target.
-QString absoluteString(const QByteArray &utf8);
+QString absoluteString(const QString &target);
 
 } // namespace LinkTarget

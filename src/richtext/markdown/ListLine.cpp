@@ -7,6 +7,12 @@ namespace {
 constexpr qsizetype tabWidth = 4;
 constexpr int longestNumber = 3;
 
+bool isBullet(QStringView line)
+{
+    return line.size() >= 2 && line[1] == u' ' &&
+           (line[0] == u'-' || line[0] == u'*' || line[0] == u'+');
+}
+
 /// Parses the text after a bullet, including the check box if there is one.
 Markdown::ListLine bulletLine(QStringView text)
 {
@@ -53,9 +59,7 @@ std::optional<Markdown::ListLine> Markdown::parseListLine(QStringView line)
     qsizetype indent = 0;
     for (; line.startsWith(u' ') || line.startsWith(u'\t'); line = line.sliced(1))
         indent += line.front() == u'\t' ? tabWidth : 1;
-    const bool isBullet =
-        line.startsWith(u"- ") || line.startsWith(u"* ") || line.startsWith(u"+ ");
-    auto result = isBullet ? bulletLine(line.sliced(2)) : orderedLine(line);
+    auto result = isBullet(line) ? bulletLine(line.sliced(2)) : orderedLine(line);
     if (result)
         result->indent = indent;
     return result;

@@ -32,7 +32,7 @@ void Markdown::RunCollector::enter(cmark_node *node)
         return add(cmark_node_get_literal(node), type == CMARK_NODE_CODE);
     nest(node, 1);
     if (type == CMARK_NODE_LINK && m_images == 0)
-        m_link = LinkTarget::absoluteString(m_guard.decoded(cmark_node_get_url(node)).toUtf8());
+        m_link = LinkTarget::absoluteString(m_guard.decoded(cmark_node_get_url(node)));
 }
 
 void Markdown::RunCollector::leave(cmark_node *node)
