@@ -6,6 +6,9 @@
 #include "richtext/ADFMarkdown.h"
 #include "richtext/losses/MarkdownLosses.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +21,9 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The number of documents.
+constexpr int documentCount = 2000;
 
 double threadMicroseconds()
 {
@@ -180,12 +186,23 @@ void compareShapes()
     compare({"10,000 items", u"- mot\n"_s.repeated(10'000), 50});
 }
 
+/// Prints the texts of the corpus as an array in JSON, for other programs to convert.
+void printTexts()
+{
+    const QJsonArray texts = QJsonArray::fromStringList(documentCorpus(documentCount));
+    std::puts(QJsonDocument(texts).toJson(QJsonDocument::Compact).constData());
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (argc > 1 && QByteArrayView(argv[1]) == "texts") {
+        printTexts();
+        return 0;
+    }
     const int runs = argc > 1 ? std::atoi(argv[1]) : 25;
-    const Corpus corpus(documentCorpus(2000));
+    const Corpus corpus(documentCorpus(documentCount));
     qsizetype bytes = 0;
     for (const QByteArray &text : corpus.utf8)
         bytes += text.size();
