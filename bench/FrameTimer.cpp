@@ -19,6 +19,27 @@ qint64 intervals(qint64 nanoseconds)
                         double(std::chrono::nanoseconds(FrameTimer::Interval).count()));
 }
 
+/// Does something when a key is pressed in a window.
+class KeyHandler final : public QObject
+{
+public:
+    KeyHandler(QQuickWindow &window, const std::function<void()> &act) : m_act(act)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return QObject::eventFilter(watched, event);
+        m_act();
+        return true;
+    }
+
+private:
+    const std::function<void()> &m_act;
+};
+
 } // namespace
 
 FrameTimer::FrameTimer(QQuickWindow &window)
@@ -53,6 +74,12 @@ void FrameTimer::send(Qt::Key key, const QString &text)
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
     QCoreApplication::sendEvent(&m_window, &press);
     QCoreApplication::sendEvent(&m_window, &release);
+}
+
+qint64 FrameTimer::press(const std::function<void()> &act)
+{
+    const KeyHandler handler(m_window, act);
+    return press(Qt::Key_F35, {});
 }
 
 qint64 FrameTimer::answer(const std::function<void()> &act)

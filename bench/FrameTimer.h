@@ -28,7 +28,9 @@ public:
     qint64 press(Qt::Key key, const QString &text);
     /// Presses and releases a key, without waiting for anything.
     void send(Qt::Key key, const QString &text);
-    /// The same as `press` for any action that changes what the window displays.
+    /// Presses a key that does what is given.
+    qint64 press(const std::function<void()> &act);
+    /// The same as `press` for any action that changes what the window displays, without a key.
     qint64 answer(const std::function<void()> &act);
     /// The measurements of a scroll.
     struct Scroll

@@ -76,7 +76,7 @@ std::vector<qint64> scopes(FrameTimer &timer, AppStore &store)
     std::vector<qint64> times;
     for (int turn = 0; turn <= Turns; ++turn) {
         const auto scope = turn % 2 == 0 ? IssueScope::reported() : IssueScope::recent();
-        const auto time = timer.answer([&] { store.select(scope); });
+        const auto time = timer.press([&] { store.select(scope); });
         // The first two lists are displayed for the first time, so they are not measured.
         if (turn > 1)
             times.push_back(time);
@@ -103,7 +103,7 @@ std::vector<qint64> statusChanges(FrameTimer &timer, AppStore &store)
         const auto first = sample(1).status;
         const bool isFirst = (*store.issue(keys.first()))->status == first;
         const auto status = isFirst ? sample(2).status : first;
-        times.push_back(timer.answer([&] { store.setStatus(status, keys); }));
+        times.push_back(timer.press([&] { store.setStatus(status, keys); }));
     }
     return times;
 }

@@ -4,6 +4,7 @@
 #include "screens/kit/KitProviders.h"
 #include "screens/theme/Fonts.h"
 
+#include <QGuiApplication>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(Velmora_ModelPlugin)
@@ -51,6 +52,8 @@ VelmoraApp::VelmoraApp(Outside outside)
                m_outside.shortcuts.get()),
       m_delegate(m_scenes, m_store, *m_outside.statusHost)
 {
+    if (InputFrames::isUsefulOn(QGuiApplication::platformName()))
+        m_inputFrames.emplace();
     Fonts::load();
     m_engine.addImportPath(QStringLiteral(":/qt/qml"));
     registerKitProviders(m_engine);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/InputFrames.h"
 #include "app/JiraSessions.h"
 #include "app/Outside.h"
 #include "app/SiteImageFetcher.h"
@@ -10,6 +11,8 @@
 #include "update/ui/UpdateScreens.h"
 
 #include <QQmlEngine>
+
+#include <optional>
 
 /// The application object. Owns the store and its services for the lifetime of the process, and opens the windows.
 class VelmoraApp
@@ -50,5 +53,7 @@ private:
     QQmlEngine m_engine;
     Scenes m_scenes;
     AppDelegate m_delegate;
+    /// Not on platforms where it is of no use.
+    std::optional<InputFrames> m_inputFrames;
     Clock::TimerHandle m_lastMoment;
 };
