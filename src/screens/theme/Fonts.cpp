@@ -6,16 +6,25 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QResource>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The bytes of a font in the program itself, where they stay until its end. A font that is registered by its path is
+/// read twice instead, once to register it and once to draw with it, and both copies stay in memory.
+QByteArray bytesOf(const QString &path)
+{
+    const QResource font(path);
+    return QByteArray::fromRawData(reinterpret_cast<const char *>(font.data()), font.size());
+}
+
 bool registerFonts()
 {
     bool complete = false;
     for (QDirIterator files(u":/velmora/fonts"_s, QDir::Files); files.hasNext();) {
-        if (QFontDatabase::addApplicationFont(files.next()) < 0)
+        if (QFontDatabase::addApplicationFontFromData(bytesOf(files.next())) < 0)
             return false;
         complete = true;
     }
