@@ -6,12 +6,14 @@ import Velmora.Shell
 import Velmora.State
 import Velmora.Theme
 
-// The site, and the menu of the session.
+// The site, and the menu of the session, which exists only while it is open.
 Item {
     id: root
 
     required property AppStore store
     required property Workspace workspace
+
+    property bool isMenuOpen: false
 
     implicitHeight: 40
 
@@ -23,11 +25,11 @@ Item {
         height: 28
         padding: 4
         accessibleName: "Espace " + root.store.siteShortName
-        onClicked: menu.open()
+        onClicked: root.isMenuOpen = true
 
         background: HoverFill {
             radius: Metrics.radiusRow
-            shown: button.lit || menu.opened
+            shown: button.lit || root.isMenuOpen
         }
 
         contentItem: WorkspaceLabel {
@@ -62,47 +64,54 @@ Item {
         }
     }
 
-    PopupMenu {
-        id: menu
-        parent: button
-        y: root.height - button.y
-        title: "Espace"
+    When {
+        shown: root.isMenuOpen
 
-        PopupMenuItem {
-            enabled: false
-            text: root.workspace.userName
-            visible: text !== ""
-            height: visible ? implicitHeight : 0
-        }
+        Item {
+            PopupMenu {
+                parent: button
+                y: root.height - button.y
+                title: "Espace"
+                onClosed: root.isMenuOpen = false
+                Component.onCompleted: open()
 
-        PopupMenuItem {
-            enabled: false
-            text: root.workspace.userEmail
-            visible: text !== ""
-            height: visible ? implicitHeight : 0
-        }
+                PopupMenuItem {
+                    enabled: false
+                    text: root.workspace.userName
+                    visible: text !== ""
+                    height: visible ? implicitHeight : 0
+                }
 
-        PopupMenuSeparator {
-            visible: root.store.hasMe
-            height: visible ? implicitHeight : 0
-        }
+                PopupMenuItem {
+                    enabled: false
+                    text: root.workspace.userEmail
+                    visible: text !== ""
+                    height: visible ? implicitHeight : 0
+                }
 
-        PopupMenuItem {
-            text: "Réglages…"
-            symbol: "gear"
-            onTriggered: root.store.run(Commands.Command.OpenSettings)
-        }
+                PopupMenuSeparator {
+                    visible: root.store.hasMe
+                    height: visible ? implicitHeight : 0
+                }
 
-        PopupMenuItem {
-            text: "Ouvrir " + root.store.siteName
-            symbol: "safari"
-            onTriggered: root.store.openSite()
-        }
+                PopupMenuItem {
+                    text: "Réglages…"
+                    symbol: "gear"
+                    onTriggered: root.store.run(Commands.Command.OpenSettings)
+                }
 
-        PopupMenuItem {
-            text: root.store.isDemo ? "Quitter le mode démo" : "Se déconnecter"
-            symbol: "rectangle.portrait.and.arrow.right"
-            onTriggered: root.store.signOut()
+                PopupMenuItem {
+                    text: "Ouvrir " + root.store.siteName
+                    symbol: "safari"
+                    onTriggered: root.store.openSite()
+                }
+
+                PopupMenuItem {
+                    text: root.store.isDemo ? "Quitter le mode démo" : "Se déconnecter"
+                    symbol: "rectangle.portrait.and.arrow.right"
+                    onTriggered: root.store.signOut()
+                }
+            }
         }
     }
 }

@@ -34,6 +34,16 @@ protected:
         }
         return nullptr;
     }
+    /// The number of buttons with a text that the bar has, visible or not.
+    qsizetype actionCount()
+    {
+        const auto *bar = barIn(window().contentItem());
+        const auto isAction = [](const QObject *object) {
+            return QByteArray(object->metaObject()->className()).startsWith("SelectionAction");
+        };
+        const auto objects = bar ? bar->findChildren<QObject *>() : QObjectList();
+        return std::ranges::count_if(objects, isAction);
+    }
     static QStringList numbersIn(const QQuickItem &item)
     {
         static const QRegularExpression number(u"^\\d+"_s);
@@ -59,6 +69,20 @@ TEST_F(SelectionBar, ItComesWithTheFirstCheckedIssueAndGoesWithTheLast)
 
     EXPECT_TRUE(isGone(QAccessible::ToolBar, {}));
     EXPECT_EQ(store().focusedKey(), u"MOB-2"_s);
+}
+
+TEST_F(SelectionBar, ItsContentIsCreatedOnceAtTheFirstCheckedIssue)
+{
+    EXPECT_EQ(actionCount(), 0);
+    press(Qt::Key_Down);
+    press(Qt::Key_X);
+    await(QAccessible::ToolBar, u"1 sélectionné"_s);
+    EXPECT_EQ(actionCount(), 5);
+
+    press(Qt::Key_Escape);
+
+    EXPECT_TRUE(isGone(QAccessible::ToolBar, {}));
+    EXPECT_EQ(actionCount(), 5);
 }
 
 TEST_F(SelectionBar, ItsCrossChecksNothingAnyMore)
