@@ -1,11 +1,10 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Templates as T
 import Velmora.Theme
 import Velmora.Kit
 
 /// The text of an `InputArea` or a `TitleField`, with its caret and its placeholder.
-T.TextArea {
+LongTextArea {
     id: root
 
     required property string name
@@ -29,7 +28,7 @@ T.TextArea {
     }
 
     function leave(forwards: bool): bool {
-        nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+        root.nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
         return true
     }
 

@@ -85,12 +85,14 @@ FocusScope {
         // Without overflow the wheel events are left to the page.
         interactive: editor.wholeHeight > height
         boundsBehavior: Flickable.StopAtBounds
+        onHeightChanged: editor.followView()
 
         T.TextArea.flickable: InputAreaEditor {
             id: editor
 
             name: root.name
             problem: root.problem
+            onlyInView: true
             leftPadding: root.framed ? 9 : 0
             rightPadding: leftPadding
             topPadding: root.framed ? 6 : 0
