@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QQuickGraphicsConfiguration>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -140,6 +141,10 @@ QQuickWindow *Scenes::make(const QString &file, const QVariantMap &properties)
         return nullptr;
     }
     component.setInitialProperties(window, all);
+    // Nearly everything is translucent or has round corners, so it is drawn from back to front and depth is of no use.
+    auto graphics = window->graphicsConfiguration();
+    graphics.setDepthBufferFor2D(false);
+    window->setGraphicsConfiguration(graphics);
     // The frame is set before the window is shown. A remembered frame already fits.
     if (!all.contains(u"width"_s) && window->screen())
         window->resize(sizeOnScreen(window->size(), window->screen()->availableSize()));

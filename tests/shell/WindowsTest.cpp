@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
 
+#include <QQuickGraphicsConfiguration>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -34,6 +35,17 @@ TEST_F(Windows, ControlReturnOpensTheFocusedIssueInAWindowOfItsOwn)
     EXPECT_FALSE(spokenIn(*issue, QAccessible::Heading, u"Résumé de MOB-1"_s).isEmpty());
     EXPECT_FALSE(spokenIn(*issue, QAccessible::Button, u"Statut : À faire"_s).isEmpty());
     EXPECT_TRUE(spokenIn(*issue, QAccessible::Button, u"Fermer"_s).isEmpty());
+}
+
+TEST_F(Windows, NoWindowComparesDepths)
+{
+    openIssue(u"MOB-1"_s);
+    scenes().showSettings();
+    for (const auto *window :
+         {app->mainWindow(), scenes().issueWindow(u"MOB-1"_s), scenes().settingsWindow()}) {
+        ASSERT_TRUE(window);
+        EXPECT_FALSE(window->graphicsConfiguration().isDepthBufferEnabledFor2D());
+    }
 }
 
 TEST_F(Windows, AskingTwiceForTheWindowOfOneKeyShowsOneWindow)
