@@ -130,6 +130,12 @@ int IssueListModel::headerRowAfter(int row) const
     return after == headers.end() ? -1 : *after;
 }
 
+int IssueListModel::headersAbove(int row) const
+{
+    const auto &headers = headerRows();
+    return int(std::ranges::lower_bound(headers, row) - headers.begin());
+}
+
 const std::vector<int> &IssueListModel::headerRows() const
 {
     const auto compute = [this] {

@@ -78,6 +78,8 @@ public:
     Q_INVOKABLE int headerRowOf(int row) const;
     /// The row of the next header below the row; -1 if there is none.
     Q_INVOKABLE int headerRowAfter(int row) const;
+    /// The number of headers above a row, and so in all rows for the row after the last one.
+    Q_INVOKABLE int headersAbove(int row) const;
     /// The header in a row; an empty one if there is none.
     Q_INVOKABLE IssueListHeader headerAt(int row) const;
     /// The row of an issue; -1 if it is not shown.

@@ -161,6 +161,17 @@ TEST_F(IssueListModelTest, RowsKnowTheirHeaderAndTheNext)
     EXPECT_EQ(model.headerAt(99), IssueListHeader());
 }
 
+TEST_F(IssueListModelTest, TheHeadersAboveARowAreCounted)
+{
+    EXPECT_EQ(model.headersAbove(0), 0);
+    model.setGroups(twoGroups(), {});
+    EXPECT_EQ(model.headersAbove(0), 0);
+    EXPECT_EQ(model.headersAbove(1), 1);
+    EXPECT_EQ(model.headersAbove(3), 1);
+    EXPECT_EQ(model.headersAbove(4), 2);
+    EXPECT_EQ(model.headersAbove(5), 2);
+}
+
 TEST_F(IssueListModelTest, RowsAndKeysAreFoundFromEachOther)
 {
     model.setGroups(twoGroups(), {});

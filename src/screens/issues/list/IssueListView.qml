@@ -183,6 +183,7 @@ FocusScope {
         rows: root.store.issueList
         focusedKey: root.store.focusedKey
         headerHeight: root.headerHeight
+        rowHeight: root.rowHeight
         clearance: root.store.isSelecting ? Metrics.selectionBarRoom : 0
     }
 }

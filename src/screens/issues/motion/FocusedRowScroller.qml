@@ -12,6 +12,8 @@ Item {
     required property IssueListModel rows
     required property string focusedKey
     required property int headerHeight
+    // The height of every row that is no header; 0 if their heights differ.
+    property int rowHeight: 0
     // The height that a bar at the list's lower edge covers.
     property int clearance: 0
     // Before the change of the issues that is being made, the focused row was visible, on its way into view, or absent.
@@ -28,27 +30,44 @@ Item {
             scrollTo(targetFor(row));
     }
 
-    // The scroll position at which the row is in view. If the list has no item for the row, the position is found by
-    // scrolling there and back. A list that is not laid out yet creates no item even then.
+    // The scroll position at which the row is in view. A row for which the list has no item is not scrolled to and
+    // back if its place can be counted, because every row would be filled twice with another issue.
     function targetFor(row: int): real {
         const item = list.itemAtIndex(row);
-        return item ? targetForItem(item) : targetByGoing(row);
+        if (item)
+            return targetForItem(item);
+        return rowHeight > 0 ? targetByCounting(row) : targetByGoing(row);
     }
 
     function targetForItem(item: Item): real {
-        if (!item)
-            return list.contentY;
-        const lowest = Math.max(list.originY, item.y - headerHeight);
-        const highest = item.y + item.height + clearance - list.height;
+        return item ? targetAt(item.y, item.height) : list.contentY;
+    }
+
+    function targetAt(top: real, height: real): real {
+        const lowest = Math.max(list.originY, top - headerHeight);
+        const highest = top + height + clearance - list.height;
         return Math.max(highest, Math.min(list.contentY, lowest));
     }
 
+    // Counts from the topmost row in view. A list that is not laid out yet has no items.
+    function targetByCounting(row: int): real {
+        const from = list.indexAt(1, list.contentY + 1);
+        const item = list.itemAtIndex(from);
+        return item ? targetAt(item.y + heightAbove(row) - heightAbove(from), rowHeight) : list.contentY;
+    }
+
+    // A list that is not laid out yet creates no item even then.
     function targetByGoing(row: int): real {
         const from = list.contentY;
         list.positionViewAtIndex(row, ListView.Contain);
         const target = targetForItem(list.itemAtIndex(row));
         list.contentY = from;
         return target;
+    }
+
+    function heightAbove(row: int): real {
+        const headers = rows.headersAbove(row);
+        return headers * headerHeight + (row - headers) * rowHeight;
     }
 
     function scrollTo(to: real) {
@@ -70,6 +89,16 @@ Item {
     function revealAfterLayout() {
         list.forceLayout();
         reveal();
+    }
+
+    // A list that scrolls by more than its height in one step estimates which rows are in view, so the row can be
+    // elsewhere in the end.
+    function arrive() {
+        const row = rows.rowOfKey(focusedKey);
+        if (row >= 0 && !list.itemAtIndex(row))
+            list.positionViewAtIndex(row, ListView.Contain);
+        if (row >= 0)
+            list.contentY = targetFor(row);
     }
 
     // The user scrolls elsewhere.
@@ -121,5 +150,6 @@ Item {
         property: "contentY"
         duration: Motion.scrollDuration
         easing: Springs.even
+        onFinished: root.arrive()
     }
 }

@@ -1,8 +1,11 @@
 #include "app/WindowFixture.h"
 
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -12,12 +15,16 @@ class KeepingPlace : public WindowFixture
 protected:
     void openWith(const QString &layout)
     {
-        Preferences preferences(preferencesPath);
-        preferences.setText(u"ordering"_s, u"key"_s);
-        preferences.setText(u"layout"_s, layout);
         IssueList issues;
         for (int i = 1; i <= 120; ++i)
             issues += issueWithKey(u"MOB-%1"_s.arg(i), i <= 60 ? u"En cours"_s : u"À faire"_s);
+        openWith(layout, issues);
+    }
+    void openWith(const QString &layout, const IssueList &issues)
+    {
+        Preferences preferences(preferencesPath);
+        preferences.setText(u"ordering"_s, u"key"_s);
+        preferences.setText(u"layout"_s, layout);
         serveIssues(issues);
         openOnDemo();
         desktop->setPrefersReducedMotion(true);
@@ -67,6 +74,41 @@ TEST_F(KeepingPlace, TheListFollowsTheFocusedRowToItsNewGroup)
     store().setStatus(IssueStatus::guessed(u"À faire"_s), {u"MOB-2"_s});
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return y(listView()) > 1000 && isInView(u"MOB-2"_s); }));
+}
+
+/// The argument tells whether the desktop prefers reduced motion.
+class FarFocus : public KeepingPlace, public ::testing::WithParamInterface<bool>
+{
+};
+
+TEST_P(FarFocus, TheListShowsEachRowThatGetsTheFocus)
+{
+    IssueList issues;
+    for (int i = 1; i <= 900; ++i)
+        issues += issueWithKey(u"MOB-%1"_s.arg(i), u"État %1"_s.arg(i % 45));
+    openWith(u"list"_s, issues);
+    desktop->setPrefersReducedMotion(GetParam());
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> number(1, 900);
+    for (int turn = 0; turn < 20; ++turn) {
+        const auto key = u"MOB-%1"_s.arg(number(random));
+        store().setFocusedKey(key);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isInView(key); })) << qPrintable(key);
+        settle();
+        EXPECT_TRUE(isInView(key)) << qPrintable(key);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Motion, FarFocus, ::testing::Bool());
+
+TEST_F(KeepingPlace, TheListFindsTheWayToAFarRowWithoutScrollingThere)
+{
+    openWith(u"list"_s);
+    desktop->setPrefersReducedMotion(false);
+    const QSignalSpy scrolls(listView(), SIGNAL(contentYChanged()));
+    store().setFocusedKey(u"MOB-119"_s);
+    EXPECT_EQ(scrolls.count(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isInView(u"MOB-119"_s); }));
 }
 
 TEST_F(KeepingPlace, TheListStaysIfTheUserHasScrolledAwayFromTheFocusedRow)
