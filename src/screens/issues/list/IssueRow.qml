@@ -17,13 +17,13 @@ RowLine {
     // The list has the keyboard focus, so screen readers announce the focused row.
     property bool hasKeyboard: false
     readonly property real cellTop: Math.ceil(height / 2) - Metrics.rowPicker / 2
-    // The check box can be clicked before it is visible. Its mark exists only while it is visible or fades out.
+    // The check box can be clicked before it is visible. Its mark exists once it was visible.
     readonly property bool isCheckShown: isChecked || isSelecting || isHovered || hasMenu
-    property bool isCheckDrawn: false
+    property bool wasCheckShown: false
 
     showsEvent: badge.isShown
     isDraggable: true
-    onIsCheckShownChanged: if (isCheckShown) isCheckDrawn = true
+    onIsCheckShownChanged: if (isCheckShown) wasCheckShown = true
 
     Accessible.role: Accessible.ListItem
     Accessible.name: root.accessibleName
@@ -34,7 +34,7 @@ RowLine {
     Accessible.onPressAction: root.clicked(Qt.point(0, 0), 0)
 
     When {
-        shown: root.isCheckDrawn
+        shown: root.wasCheckShown
 
         RowCheckMark {
             x: root.plan.check
@@ -43,7 +43,6 @@ RowLine {
             hovered: root.hotSpot.isCheck
             pressed: hovered && root.isSpotPressed
             isShown: root.isCheckShown
-            onGone: root.isCheckDrawn = false
         }
     }
 

@@ -2,18 +2,18 @@ import QtQuick
 import Velmora.Kit
 import Velmora.Theme
 
-// The box of a row's check box, which fades out.
+// The box of a row's check box. It appears at once and fades out.
 CheckMark {
     id: root
 
     required property bool isShown
 
-    signal gone()
-
     opacity: root.isShown ? 1 : 0
-    onOpacityChanged: if (opacity === 0) gone()
+    visible: opacity > 0
 
     Behavior on opacity {
+        enabled: root.visible
+
         NumberAnimation {
             duration: Motion.fadeDuration
         }

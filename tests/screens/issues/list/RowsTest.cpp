@@ -76,6 +76,14 @@ protected:
         }
         return nullptr;
     }
+    static int shownCheckMarks(QQuickItem *root)
+    {
+        const auto kind = QByteArray(root->metaObject()->className());
+        int count = kind.startsWith("RowCheckMark") && root->isVisible() ? 1 : 0;
+        for (auto *child : root->childItems())
+            count += shownCheckMarks(child);
+        return count;
+    }
     static Issue due(const QString &key, const QString &status, const QDate &day)
     {
         Issue issue = issueWithKey(key, status);
@@ -196,6 +204,20 @@ TEST_F(Rows, ANarrowWindowDropsParentThenLabelNamesThenTheDueText)
     at(530);
     EXPECT_FALSE(anyRow()->plan().showsDueText);
     EXPECT_EQ(rowDue(u"24 déc."_s), nullptr);
+}
+
+TEST_F(Rows, TheCheckBoxesOfAllRowsAreShownWhileAnyIssueIsChecked)
+{
+    openWith({issueWithKey(u"MOB-1"_s, u"À faire"_s), issueWithKey(u"MOB-2"_s, u"À faire"_s),
+              issueWithKey(u"MOB-3"_s, u"À faire"_s)});
+    const auto shown = [&] { return shownCheckMarks(window().contentItem()); };
+    press(Qt::Key_J);
+    for (int turn = 0; turn < 3; ++turn) {
+        press(Qt::Key_X);
+        EXPECT_EQ(shown(), 3);
+        press(Qt::Key_X);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == 0; }));
+    }
 }
 
 TEST_F(Rows, ACompactListHasLowerRowsAndHeaders)
