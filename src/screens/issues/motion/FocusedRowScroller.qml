@@ -30,8 +30,9 @@ Item {
             scrollTo(targetFor(row));
     }
 
-    // The scroll position at which the row is in view. A row for which the list has no item is not scrolled to and
-    // back if its place can be counted, because every row would be filled twice with another issue.
+    // The scroll position at which the row is in view. If the list has no item for the row, its place is computed from
+    // the heights of the rows. Scrolling there and back would also tell the place, but it fills every item twice with
+    // another issue, so only lists whose rows differ in height do it.
     function targetFor(row: int): real {
         const item = list.itemAtIndex(row);
         if (item)
@@ -49,7 +50,8 @@ Item {
         return Math.max(highest, Math.min(list.contentY, lowest));
     }
 
-    // Counts from the topmost row in view. A list that is not laid out yet has no items.
+    // Adds the heights of the rows between the topmost row in view and this row. A list that is not laid out yet has no
+    // items.
     function targetByCounting(row: int): real {
         const from = list.indexAt(1, list.contentY + 1);
         const item = list.itemAtIndex(from);
@@ -92,7 +94,7 @@ Item {
     }
 
     // A list that scrolls by more than its height in one step estimates which rows are in view, so the row can be
-    // elsewhere in the end.
+    // elsewhere in the end. The final position is computed again.
     function arrive() {
         const row = rows.rowOfKey(focusedKey);
         if (row >= 0 && !list.itemAtIndex(row))

@@ -112,7 +112,7 @@ TEST_P(FarFocus, TheListShowsEachRowThatGetsTheFocus)
 
 INSTANTIATE_TEST_SUITE_P(Motion, FarFocus, ::testing::Bool());
 
-TEST_F(KeepingPlace, TheListFindsTheWayToAFarRowWithoutScrollingThere)
+TEST_F(KeepingPlace, ThePlaceOfAFarRowIsKnownWithoutScrollingThere)
 {
     openWith(u"list"_s);
     desktop->setPrefersReducedMotion(false);
