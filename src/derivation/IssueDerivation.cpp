@@ -182,7 +182,8 @@ const VisiblePath &IssueDerivation::visiblePath() const
 const KeyShapes &IssueDerivation::keyShapes() const
 {
     visible();
-    return m_shapes.refreshed(visibleSources(), [this] { return KeyShapes(visibleIssues()); })
+    return m_shapes
+        .refreshed(visibleSources(), [this] { return KeyShapes(m_visible.value, m_index); })
         .value;
 }
 

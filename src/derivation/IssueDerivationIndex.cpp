@@ -134,6 +134,7 @@ IndexedIssue IssueIndex::indexed(const Issue &issue)
             m_projects.of(issue.projectKey),
             quint32(issue.priorityLevel()),
             0,
+            quint32(issue.key.size()),
             ::isClosed(issue.status.category()),
             issue.updated.toMSecsSinceEpoch(),
             issue.created.toMSecsSinceEpoch()};

@@ -28,6 +28,8 @@ struct IndexedIssue
     quint32 level = 0;
     /// The same number for all issues.
     quint32 everything = 0;
+    /// The number of characters of the key.
+    quint32 keyLength = 0;
     bool isClosed = false;
     /// Milliseconds since 1970.
     qint64 updated = 0;

@@ -36,7 +36,9 @@ IssueRows sortedBy(const IssueIndex &index, const IssueRows &earlier, KeyOf keyO
         keys.push_back(keyOf(row));
         keys.back().row = row;
     }
-    std::sort(keys.begin(), keys.end());
+    // Most edits change no sort key, and then the earlier order still holds.
+    if (!std::ranges::is_sorted(keys))
+        std::ranges::sort(keys);
     std::ranges::transform(keys, rows.begin(), &SortKey::row);
     return rows;
 }

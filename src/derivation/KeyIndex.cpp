@@ -4,10 +4,20 @@
 
 #include <bit>
 
+namespace {
+
+/// How many keys ahead the characters of a key are requested. They lie anywhere in the memory, so that reading them
+/// only when they are needed takes most of the time of a long list.
+constexpr std::size_t prefetchDistance = 16;
+
+} // namespace
+
 KeyIndex::KeyIndex(std::vector<QStringView> keys)
     : m_keys(std::move(keys)), m_slots(std::bit_ceil(m_keys.size() * 2 + 2), 0)
 {
     for (std::size_t row = 0; row < m_keys.size(); ++row) {
+        if (row + prefetchDistance < m_keys.size())
+            __builtin_prefetch(m_keys[row + prefetchDistance].data());
         auto &slot = m_slots[slotOf(m_keys[row])];
         if (slot == 0)
             slot = quint32(row + 1);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "model/Issue.h"
+#include "derivation/IssueDerivationIndex.h"
+#include "derivation/IssueDerivationOrder.h"
 
 #include <vector>
 
@@ -21,7 +22,8 @@ public:
     };
 
     KeyShapes() = default;
-    explicit KeyShapes(const IssueList &issues);
+    /// The shapes in these rows of the index. Costs a pass over the rows that reads one record of each shape.
+    KeyShapes(const IssueRows &rows, const IssueIndex &index);
 
     /// The shapes that occur in the list.
     const std::vector<Shape> &shapes() const { return m_shapes; }

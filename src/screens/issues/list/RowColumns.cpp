@@ -15,14 +15,16 @@ QStringList examples(const KeyShapes &keys)
     return texts;
 }
 
-} // namespace
-
-int updatedColumnWidth(const IssueScope &scope, const IssueList &issues)
+/// A column of events is wider than one of relative dates.
+int updatedColumnWidth(const AppStore &store)
 {
     const auto hasEvent = [](const SharedIssue &issue) { return !issue->activity.isEmpty(); };
-    return scope.asActivity() && std::ranges::any_of(issues, hasEvent) ? Metrics::rowEvent
-                                                                       : Metrics::rowDate;
+    return store.scope().asActivity() && std::ranges::any_of(store.visibleIssues(), hasEvent)
+               ? Metrics::rowEvent
+               : Metrics::rowDate;
 }
+
+} // namespace
 
 void RowColumns::setStore(AppStore *store)
 {
@@ -45,9 +47,7 @@ void RowColumns::measure()
 {
     const int keyWidth = m_store ? keyColumnWidth(examples(m_store->derivation().keyShapes()))
                                  : Metrics::rowKeyMinimum;
-    const int updatedWidth =
-        m_store ? updatedColumnWidth(m_store->scope(), m_store->derivation().visibleIssues())
-                : Metrics::rowDate;
+    const int updatedWidth = m_store ? updatedColumnWidth(*m_store) : Metrics::rowDate;
     if (m_keyWidth == keyWidth && m_updatedWidth == updatedWidth)
         return;
     m_keyWidth = keyWidth;

@@ -39,6 +39,3 @@ private:
     int m_keyWidth = Metrics::rowKeyMinimum;
     int m_updatedWidth = Metrics::rowDate;
 };
-
-/// The width of the last column of a list with these issues: a column of events is wider than one of relative dates.
-int updatedColumnWidth(const IssueScope &scope, const IssueList &issues);
