@@ -33,8 +33,9 @@ QSGNode *GlassFrame::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     const auto frame = drawing();
     const qreal scale = window()->effectiveDevicePixelRatio();
     const qreal margin = frameMargin(frame.shadows);
-    node->show(window(), frameTexture(window(), frame, scale), scale,
-               boundingRect().adjusted(-margin, -margin, margin, margin));
+    // Inside the box, only the light line of its upper edge is drawn.
+    node->showFrame(window(), frameTexture(window(), frame, scale), scale,
+                    boundingRect().adjusted(-margin, -margin, margin, margin), margin + 1);
     return node.release();
 }
 

@@ -5,6 +5,9 @@
 #include <QSGRectangleNode>
 #include <QSGTexture>
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 /// The two positions that divide a side of the picture into three parts: from 0 to first, to second, to end.
@@ -37,38 +40,68 @@ QRectF part(const Cuts &across, const Cuts &down, int column, int row)
     return {QPointF(across.from(column), down.from(row)), QPointF(across.to(column), down.to(row))};
 }
 
+/// The outer part of a side, `thickness` thick. Corners and the middle are returned as they are.
+QRectF outerPart(QRectF part, int column, int row, qreal thickness)
+{
+    if (row == 1 && column == 0)
+        part.setRight(std::min(part.right(), part.left() + thickness));
+    if (row == 1 && column == 2)
+        part.setLeft(std::max(part.left(), part.right() - thickness));
+    if (column == 1 && row == 0)
+        part.setBottom(std::min(part.bottom(), part.top() + thickness));
+    if (column == 1 && row == 2)
+        part.setTop(std::max(part.top(), part.bottom() - thickness));
+    return part;
+}
+
 } // namespace
 
 void NinePatchNode::show(QQuickWindow *window, std::shared_ptr<QSGTexture> texture, qreal scale,
                          const QRectF &box, const QColor &middle)
 {
-    if (m_texture == texture && m_box == box && m_middle == middle)
+    show(window, std::move(texture), {scale, box, middle, std::numeric_limits<qreal>::max()});
+}
+
+void NinePatchNode::showFrame(QQuickWindow *window, std::shared_ptr<QSGTexture> texture,
+                              qreal scale, const QRectF &box, qreal sides)
+{
+    show(window, std::move(texture),
+         {scale, box, Qt::transparent, std::ceil(sides * scale) / scale});
+}
+
+void NinePatchNode::show(QQuickWindow *window, std::shared_ptr<QSGTexture> texture,
+                         const Shape &shape)
+{
+    if (m_texture == texture && m_shape == shape)
         return;
     // The nodes are removed before the texture that they use may be destroyed.
     clear();
     m_texture = std::move(texture);
-    m_box = box;
-    m_middle = middle;
-    layOut(window, scale);
+    m_shape = shape;
+    layOut(window);
 }
 
-void NinePatchNode::layOut(QQuickWindow *window, qreal scale)
+void NinePatchNode::layOut(QQuickWindow *window)
 {
     const QSize pixels = m_texture->textureSize();
+    const auto &[scale, box, middle, sides] = m_shape;
     const auto sourceAcross = sourceCuts(pixels.width());
     const auto sourceDown = sourceCuts(pixels.height());
-    const auto targetAcross = targetCuts(sourceAcross, m_box.width(), scale);
-    const auto targetDown = targetCuts(sourceDown, m_box.height(), scale);
-    constexpr int middle = 4;
+    const auto targetAcross = targetCuts(sourceAcross, box.width(), scale);
+    const auto targetDown = targetCuts(sourceDown, box.height(), scale);
     for (int i = 0; i < 9; ++i) {
+        const int column = i % 3;
+        const int row = i / 3;
         const auto target =
-            part(targetAcross, targetDown, i % 3, i / 3).translated(m_box.topLeft());
+            outerPart(part(targetAcross, targetDown, column, row), column, row, sides)
+                .translated(box.topLeft());
         if (target.isEmpty())
             continue;
-        if (i == middle)
+        if (column == 1 && row == 1)
             fill(window, target);
         else
-            add(window, target, part(sourceAcross, sourceDown, i % 3, i / 3));
+            add(window, target,
+                outerPart(part(sourceAcross, sourceDown, column, row), column, row, sides * scale));
     }
 }
 
@@ -88,11 +121,11 @@ void NinePatchNode::add(QQuickWindow *window, const QRectF &target, const QRectF
 
 void NinePatchNode::fill(QQuickWindow *window, const QRectF &target)
 {
-    if (m_middle.alpha() == 0)
+    if (m_shape.middle.alpha() == 0)
         return;
     auto *node = window->createRectangleNode();
     node->setRect(target);
-    node->setColor(m_middle);
+    node->setColor(m_shape.middle);
     appendChildNode(node);
 }
 

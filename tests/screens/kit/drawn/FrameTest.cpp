@@ -1,6 +1,8 @@
 #include "screens/Bench.h"
 #include "screens/kit/painters/FramePainter.h"
 
+#include <QPainter>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -157,4 +159,47 @@ TEST(Frame, StaysRoundItsPanelWhenThatShrinks)
     // If its position were ignored, it would be drawn in the corner of the window.
     for (int x = 2; x < 150; x += 4)
         EXPECT_EQ(after.pixelColor(x, 2), QColor(Qt::white)) << x;
+}
+
+TEST(Frame, LooksStretchedAsPaintedWhole)
+{
+    const QColor below(128, 128, 160);
+    Bench bench;
+    const QQuickItem *root = bench.show(uR"(
+        Rectangle {
+            width: 400
+            height: 300
+            color: "#8080A0"
+            GlassFrame {
+                x: 60
+                y: 60
+                width: 250
+                height: 160
+                radius: 12
+                shadow: "pane"
+                hairline: Qt.rgba(0, 0, 0, 28 / 255)
+                edgeLight: Qt.rgba(1, 1, 1, 230 / 255)
+            }
+        })"_s);
+    ASSERT_NE(root, nullptr) << bench.warnings();
+    const QImage shown = bench.window().grabWindow();
+
+    const FrameDrawing frame{.size = {250, 160},
+                             .radius = 12,
+                             .shadows = shadowsNamed(u"pane"_s, Appearance::Light, Qt::red),
+                             .hairline = line,
+                             .edgeLight = light};
+    const qreal scale = bench.window().effectiveDevicePixelRatio();
+    const qreal corner = 60 - frameMargin(frame.shadows);
+    QImage painted(shown.size(), QImage::Format_RGB32);
+    painted.fill(below);
+    QPainter(&painted).drawImage(QPointF(corner, corner) * scale, frameImage(frame, scale));
+    for (int y = 0; y < qRound(300 * scale); ++y) {
+        for (int x = 0; x < qRound(400 * scale); ++x) {
+            const auto is = shown.pixelColor(x, y);
+            const auto should = painted.pixelColor(x, y);
+            ASSERT_NEAR(is.red(), should.red(), 4) << x << ", " << y;
+            ASSERT_NEAR(is.blue(), should.blue(), 4) << x << ", " << y;
+        }
+    }
 }
