@@ -11,9 +11,12 @@
 #include "async/Spawn.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QQuickItem>
 #include <QTemporaryDir>
+#include <QTimer>
 
+using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -108,6 +111,36 @@ std::vector<qint64> statusChanges(FrameTimer &timer, AppStore &store)
     return times;
 }
 
+/// Waits until the program has created what it creates ahead of its first use.
+void passStart()
+{
+    QEventLoop loop;
+    QTimer::singleShot(2s, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// The first frame of each part of the main window that is created late, once in a program that has just started.
+void measureFirstUses(FrameTable &table)
+{
+    const QTemporaryDir folder;
+    VelmoraApp velmora(outsideWith(siteWith({.issues = 300}), folder.path()));
+    if (!velmora.open())
+        qFatal("The main window does not open.");
+    FrameTimer timer(*velmora.mainWindow());
+    passStart();
+    auto &store = velmora.store();
+    const auto measure = [&](const QString &what, Command command) {
+        table.add(u"the first time: "_s + what, {timer.press([&] { store.run(command); })});
+        timer.settle();
+        timer.send(Qt::Key_Escape, {});
+    };
+    timer.press(Qt::Key_J, u"j"_s);
+    measure(u"Space"_s, Command::Peek);
+    measure(u"the palette"_s, Command::TogglePalette);
+    measure(u"a new issue"_s, Command::NewIssue);
+    measure(u"the board"_s, Command::ShowBoard);
+}
+
 void measureList(FrameTable &table, int count)
 {
     const QTemporaryDir folder;
@@ -170,6 +203,8 @@ int main(int argc, char **argv)
     measureEmptyWindow(table, presses());
     if (isMeasured(u"palette"_s))
         measurePalette(*table, {.issues = 10000, .projects = 500});
+    if (isMeasured(u"first"_s))
+        measureFirstUses(*table);
     // The third argument selects one size.
     const int size = QApplication::arguments().value(3).toInt();
     for (const int count : {300, 10000}) {

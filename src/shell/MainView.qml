@@ -139,6 +139,7 @@ FocusScope {
         height: root.height - 2 * Metrics.paneMargin
         shown: root.store.showInspector || root.inspectorPresence > 0
         isKept: true
+        isAhead: AfterStart.hasPassed
         onWanted: setSource("InspectorPane.qml", { store: root.store })
 
         Connections {

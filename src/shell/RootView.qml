@@ -73,6 +73,7 @@ Window {
 
         anchors.fill: parent
         store: root.store
+        isAhead: AfterStart.hasPassed && root.store.phase === AppStore.Phase.Ready
     }
 
     CreateLayer {

@@ -1,6 +1,8 @@
 #include "app/WindowFixture.h"
 #include "screens/kit/layers/OwnKeys.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QTest>
 
@@ -33,6 +35,28 @@ protected:
         const auto *item = window().activeFocusItem();
         return item && OwnKeys::isInWalkedList(*item);
     }
+    /// Ends the second after the start in which only the first screen is created.
+    void passStart()
+    {
+        QQmlComponent component(qmlEngine(&window()));
+        component.setData("import QtQml\nimport Velmora.Kit\n"
+                          "QtObject { Component.onCompleted: AfterStart.hasPassed = true }",
+                          QUrl(u"qrc:/start.qml"_s));
+        const std::unique_ptr<QObject> holder(component.create());
+        ASSERT_NE(holder, nullptr) << component.errorString().toStdString();
+    }
+    /// How many items of the window, visible or not, are of the type in this QML file.
+    int countOf(const QByteArray &file)
+    {
+        int count = 0;
+        QList<QQuickItem *> items{window().contentItem()};
+        while (!items.isEmpty()) {
+            const auto *item = items.takeLast();
+            count += QByteArray(item->metaObject()->className()).startsWith(file + "_QML");
+            items.append(item->childItems());
+        }
+        return count;
+    }
     QRect row() { return await(QAccessible::ListItem, u"MOB-1,"_s).box; }
     QRect inspector() { return await(QAccessible::Pane, u"Inspecteur"_s).box; }
 };
@@ -52,6 +76,36 @@ TEST_F(MainWindow, TheInspectorShowsTitleAndPropertiesAndClosesByItsCross)
     EXPECT_TRUE(isGone(QAccessible::Pane, u"Inspecteur"_s));
     EXPECT_EQ(row().right() + 1, 1308);
     EXPECT_EQ(store().focusedKey(), u"MOB-1"_s);
+}
+
+TEST_F(MainWindow, TheInspectorAndThePaletteAreCreatedAheadAndStayHidden)
+{
+    passStart();
+    const auto areCreated = [this] {
+        return countOf("InspectorPane") == 1 && countOf("PalettePanel") == 1;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(areCreated));
+    EXPECT_TRUE(isGone(QAccessible::Pane, u"Inspecteur"_s));
+    EXPECT_TRUE(isGone(QAccessible::Dialog, u"Palette de commandes"_s));
+    EXPECT_FALSE(store().showInspector());
+
+    press(Qt::Key_J);
+    press(Qt::Key_Space);
+    EXPECT_EQ(inspector(), QRect(820, 8, 492, 824));
+    EXPECT_EQ(countOf("InspectorPane"), 1);
+    press(Qt::Key_K, Qt::ControlModifier);
+    await(QAccessible::Dialog, u"Palette de commandes"_s);
+    EXPECT_EQ(countOf("PalettePanel"), 1);
+}
+
+TEST_F(MainWindow, SpaceWhileTheInspectorIsCreatedAheadShowsTheIssue)
+{
+    press(Qt::Key_J);
+    passStart();
+    press(Qt::Key_Space);
+    await(QAccessible::Heading, u"Résumé de MOB-1"_s);
+    EXPECT_EQ(inspector(), QRect(820, 8, 492, 824));
+    EXPECT_EQ(countOf("InspectorPane"), 1);
 }
 
 TEST_F(MainWindow, LongLabelsStayInsideTheInspector)

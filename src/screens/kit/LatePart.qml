@@ -9,17 +9,29 @@ Loader {
     required property bool shown
     /// Showing the part again must not take the time of creating it. The part resets itself when it is hidden.
     property bool isKept: false
+    /// Create the part although it is not shown yet, a little at a time between events, so that showing it for the first
+    /// time does not take the time of creating it either. Only for a part that is kept.
+    property bool isAhead: false
 
     signal wanted()
 
     function follow() {
-        if (root.shown && root.status === Loader.Null)
-            root.wanted();
+        if ((root.shown || root.isAhead) && root.status !== Loader.Ready)
+            root.load(!root.shown);
         else if (!root.shown && !root.isKept)
             root.source = "";
     }
 
+    // A part that is shown while it is created in steps starts again at once: a loader that has to hurry forgets the
+    // properties of its source.
+    function load(inSteps: bool) {
+        root.source = "";
+        root.asynchronous = inSteps;
+        root.wanted();
+    }
+
     visible: shown
     onShownChanged: follow()
+    onIsAheadChanged: follow()
     Component.onCompleted: follow()
 }

@@ -7,13 +7,15 @@ import Velmora.State
 import Velmora.Theme
 
 // The palette above the content of a window, shown while the store requests it. The panel is created on the first
-// request.
+// request, or ahead of it, and kept.
 FocusScope {
     id: root
 
     required property AppStore store
     // The issue whose window this is; empty in the main window.
     property alias issueKey: logic.issueKey
+    // Create the panel before the first request.
+    property alias isAhead: panel.isAhead
 
     readonly property bool shown: logic.isOpen
     property bool wasShown: false
@@ -77,6 +79,7 @@ FocusScope {
         y: Metrics.paletteTop
         focus: true
         shown: root.wasShown
+        isKept: true
         onWanted: setSource("PalettePanel.qml", {
             commandPalette: logic,
             isDemo: Qt.binding(() => root.store.isDemo),
