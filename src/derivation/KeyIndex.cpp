@@ -6,8 +6,8 @@
 
 namespace {
 
-/// How many keys ahead the characters of a key are requested. They lie anywhere in the memory, so that reading them
-/// only when they are needed takes most of the time of a long list.
+/// How many keys in advance the characters of a key are loaded into the cache. The keys of a long list are scattered in
+/// memory, and without this, waiting for them takes most of the time.
 constexpr std::size_t prefetchDistance = 16;
 
 } // namespace

@@ -22,8 +22,8 @@ Loader {
             root.source = "";
     }
 
-    // A part that is shown while it is created in steps starts again at once: a loader that has to hurry forgets the
-    // properties of its source.
+    // A part that is shown while it is created in steps is created again, at once. A loader that is made synchronous
+    // while it still reads the file would create the part without the properties passed to `setSource`.
     function load(inSteps: bool) {
         root.source = "";
         root.asynchronous = inSteps;
